@@ -1,0 +1,22 @@
+# SPDX-License-Identifier: MIT
+# abissora_test_program(Models CLASSES tst_Equipment tst_Maintenance LINK Abissora::Models)
+# builds tests_models from one source per class and gives ctest one test per class.
+function(abissora_test_program name)
+  cmake_parse_arguments(TESTS "GUI" "" "CLASSES;SOURCES;LINK" ${ARGN})
+  string(TOLOWER "tests_${name}" target)
+  list(TRANSFORM TESTS_CLASSES APPEND ".cpp" OUTPUT_VARIABLE class_sources)
+  add_executable(${target} ${class_sources} ${TESTS_SOURCES})
+  if(TESTS_GUI)
+    set(main abissora_test_main_gui)
+  else()
+    set(main abissora_test_main_core)
+  endif()
+  target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+  target_link_libraries(${target} PRIVATE abissora_options ${main} ${TESTS_LINK} Qt6::Test)
+  target_precompile_headers(${target} PRIVATE <QTest> <QSignalSpy> <QList> <QString> <QTimeZone> <memory> <optional>)
+  foreach(class IN LISTS TESTS_CLASSES)
+    add_test(NAME ${name}/${class} COMMAND ${target} ${class})
+    set_tests_properties(${name}/${class} PROPERTIES ENVIRONMENT
+      "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=Europe/Rome;QT_LOGGING_RULES=;ABISSORA_DATA_DIR=")
+  endforeach()
+endfunction()

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Instant.h"
+
+#include <QDateTime>
+#include <QTimeZone>
+#include <optional>
+
+namespace abissora {
+
+/// The user's Gregorian calendar in one time zone. A local time that a clock change skips is moved forward by the
+/// length of the gap; one that happens twice is its first occurrence.
+class Calendar
+{
+public:
+    /// Follows the system's zone, also when it changes while the program runs.
+    Calendar() = default;
+    explicit Calendar(QTimeZone zone);
+
+    [[nodiscard]] QTimeZone zone() const;
+
+    /// The same instant as a local date and time, and back. An invalid QDateTime gives nothing.
+    [[nodiscard]] QDateTime local(Instant instant) const;
+    [[nodiscard]] std::optional<Instant> instant(QDate day, QTime time) const;
+
+    /// Nothing when the result lies outside what the calendar can form (years 1 to 9999).
+    [[nodiscard]] std::optional<Instant> addDays(Instant instant, std::int64_t days) const;
+    /// The day of the month is clipped to the month's length: 31 March plus one month is 30 April.
+    [[nodiscard]] std::optional<Instant> addMonths(Instant instant, int months) const;
+    [[nodiscard]] std::optional<Instant> addYears(Instant instant, int years) const;
+
+    /// Whole calendar days from one instant to another, truncated toward zero: for a later `to` the largest n with
+    /// `from` plus n days not after `to`, mirrored for an earlier one. A day is a calendar day, not 24 hours, so
+    /// clock changes do not shift the count. Nothing when the calendar cannot represent one of the two.
+    [[nodiscard]] std::optional<std::int64_t> daysBetween(Instant from, Instant to) const;
+
+private:
+    std::optional<QTimeZone> m_zone;
+};
+
+} // namespace abissora

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QUuid>
+
+namespace abissora {
+
+class IdGenerator
+{
+public:
+    virtual ~IdGenerator() = default;
+    [[nodiscard]] virtual QUuid next() = 0;
+};
+
+/// Version 4 UUIDs.
+class RandomIdGenerator final : public IdGenerator
+{
+public:
+    [[nodiscard]] QUuid next() override;
+};
+
+/// The canonical stored form: 36 characters, hyphenated, upper case.
+[[nodiscard]] QString uuidText(const QUuid& id);
+
+} // namespace abissora
