@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Clock.h"
+#include "Console.h"
+#include "FilePanel.h"
+#include "IdGenerator.h"
+#include "PackageInformation.h"
+#include "SymbolLibrary.h"
+
+#include <QHash>
+#include <QList>
+#include <QSet>
+#include <QStringList>
+#include <QVariant>
+#include <initializer_list>
+#include <optional>
+#include <utility>
+
+// Deterministic stand-ins for what the platform gives. They record what happened; nothing in them asserts.
+namespace abissora::test {
+
+/// Stands still until told otherwise. Starts at 2026-06-15T10:00:00Z.
+class FixedClock final : public Clock
+{
+public:
+    FixedClock() = default;
+    explicit FixedClock(Instant now)
+        : m_now(now)
+    {}
+
+    [[nodiscard]] Instant now() const override { return m_now; }
+    void set(Instant now) { m_now = now; }
+    void advance(std::chrono::milliseconds by) { m_now += by; }
+
+private:
+    Instant m_now = std::chrono::sys_days{std::chrono::year{2026} / 6 / 15} + std::chrono::hours{10};
+};
+
+/// 00000000-0000-4000-8000-000000000001, ...002 and so on; the counter is decimal.
+class SequentialIds final : public IdGenerator
+{
+public:
+    [[nodiscard]] QUuid next() override { return at(++m_count); }
+    [[nodiscard]] static QUuid at(int n)
+    {
+        return QUuid::fromString(QStringLiteral("00000000-0000-4000-8000-%1").arg(n, 12, 10, QLatin1Char('0')));
+    }
+    [[nodiscard]] int count() const { return m_count; }
+
+private:
+    int m_count = 0;
+};
+
+class RecordingConsole final : public Console
+{
+public:
+    void print(const QString& text) override { m_calls.append(text); }
+
+    /// One entry per print().
+    [[nodiscard]] const QStringList& calls() const { return m_calls; }
+    /// Everything printed, joined by line feeds, without the last one.
+    [[nodiscard]] QString text() const { return m_calls.join(QLatin1Char('\n')); }
+    [[nodiscard]] QStringList lines() const
+    {
+        return m_calls.isEmpty() ? QStringList() : text().split(QLatin1Char('\n'));
+    }
+    void clear() { m_calls.clear(); }
+
+private:
+    QStringList m_calls;
+};
+
+/// Answers from a queue; an empty queue means that the person dismissed the panel.
+class ScriptedFilePanel final : public FilePanel
+{
+public:
+    void answer(const std::optional<QString>& path) { m_answers.append(path); }
+    void grantAccess(bool granted) { m_grants = granted; }
+
+    [[nodiscard]] std::optional<QString> pickFile(const FilePanelRequest& request) override
+    {
+        m_requests.append(request);
+        return m_answers.isEmpty() ? std::nullopt : m_answers.takeFirst();
+    }
+    [[nodiscard]] bool beginAccess(const QString& path) override
+    {
+        m_begun.append(path);
+        return m_grants;
+    }
+    void endAccess(const QString& path) override { m_ended.append(path); }
+
+    [[nodiscard]] const QList<FilePanelRequest>& requests() const { return m_requests; }
+    /// The paths for which access was asked and given back, in order.
+    [[nodiscard]] const QStringList& begun() const { return m_begun; }
+    [[nodiscard]] const QStringList& ended() const { return m_ended; }
+    [[nodiscard]] qsizetype unusedAnswers() const { return m_answers.size(); }
+
+private:
+    QList<std::optional<QString>> m_answers;
+    QList<FilePanelRequest> m_requests;
+    QStringList m_begun;
+    QStringList m_ended;
+    bool m_grants = false;
+};
+
+class FakeSymbolLibrary final : public SymbolLibrary
+{
+public:
+    FakeSymbolLibrary() = default;
+    FakeSymbolLibrary(std::initializer_list<QString> names)
+        : m_names(names)
+    {}
+    explicit FakeSymbolLibrary(QSet<QString> names)
+        : m_names(std::move(names))
+    {}
+
+    [[nodiscard]] bool contains(const QString& name) const override { return m_names.contains(name); }
+    void add(const QString& name) { m_names.insert(name); }
+    void remove(const QString& name) { m_names.remove(name); }
+
+private:
+    QSet<QString> m_names;
+};
+
+/// Knows nothing until told.
+class FakePackageInformation final : public PackageInformation
+{
+public:
+    void set(const QString& key, const QVariant& value) { m_values.insert(key, value); }
+    void setExecutablePath(std::optional<QString> path) { m_executablePath = std::move(path); }
+
+    [[nodiscard]] QVariant value(const QString& key) const override { return m_values.value(key); }
+    [[nodiscard]] std::optional<QString> executablePath() const override { return m_executablePath; }
+
+private:
+    QHash<QString, QVariant> m_values;
+    std::optional<QString> m_executablePath;
+};
+
+} // namespace abissora::test
