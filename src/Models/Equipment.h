@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Calendar.h"
+#include "EquipmentType.h"
+#include "Maintenance.h"
+
+#include <QList>
+
+namespace abissora {
+
+/// One piece of diving gear. Two records are the same item when their ids are equal; operator== compares every field.
+struct Equipment
+{
+    QUuid id;
+    QString name;
+    EquipmentType type = EquipmentType::regulator;
+    QString brand;
+    QString model;
+    QString serialNumber;
+    Instant purchaseDate{};
+    Instant lastServiceDate{};
+    Instant nextServiceDate{};
+    QString notes;
+    bool isActive = true;
+    QList<Maintenance> maintenanceHistory; ///< in the order in which they were added
+    std::optional<QString> customTypeName; ///< the user's own type; absent for a built-in kind
+
+    /// The type's name as shown: customTypeName unless absent or empty, else the raw value of type.
+    [[nodiscard]] QString displayTypeName() const;
+
+    /// The name that links the item to its type record: customTypeName whenever present, even when empty.
+    [[nodiscard]] QString typeName() const;
+
+    /// Whole calendar days from `now` to nextServiceDate, truncated toward zero; negative when past; 0 when the
+    /// calendar cannot give a count.
+    [[nodiscard]] std::int64_t daysUntilNextService(Instant now, const Calendar& calendar) const;
+
+    friend bool operator==(const Equipment&, const Equipment&) = default;
+};
+
+/// An item with this many days left, or fewer, is due.
+inline constexpr std::int64_t dueThresholdDays = 30;
+
+} // namespace abissora

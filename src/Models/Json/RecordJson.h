@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Equipment.h"
+#include "EquipmentTypeModel.h"
+#include "JsonError.h"
+
+#include <QByteArray>
+#include <tl/expected.hpp>
+
+namespace abissora {
+
+/// The stored form: a JSON array of objects, UTF-8, members in declaration order, absent optional members left out.
+/// Identifiers are canonical UUIDs (upper case when written), dates ISO 8601 in UTC with whole seconds and "Z" (the
+/// milliseconds are cut off), years 1 to 9999.
+///
+/// Reading is strict: every member that is not optional is required and no default is substituted. Unknown members are
+/// ignored, the last of several equal members counts, an integer may be written 57.0. A byte order mark or a NUL byte
+/// is an error.
+[[nodiscard]] tl::expected<QByteArray, JsonError> encode(const QList<Equipment>& equipment);
+[[nodiscard]] tl::expected<QByteArray, JsonError> encode(const QList<EquipmentTypeModel>& types);
+
+[[nodiscard]] tl::expected<QList<Equipment>, JsonError> decodeEquipment(const QByteArray& json);
+[[nodiscard]] tl::expected<QList<EquipmentTypeModel>, JsonError> decodeTypes(const QByteArray& json);
+
+} // namespace abissora
