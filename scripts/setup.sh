@@ -1,0 +1,93 @@
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+# What run and test have in common: packages, icon sets, configuring and building. Sourced with $root set.
+
+say() {
+  printf '%s\n' "$*" >&2
+}
+
+die() {
+  say "$@"
+  exit 1
+}
+
+# Prints the packages of the given lists that are not installed.
+missing_packages() {
+  local list package command installed wanted=()
+  for list in "$@"; do
+    while read -r package command; do
+      [[ -z $package || $package == '#'* ]] && continue
+      [[ -n $command ]] && command -v "$command" >/dev/null && continue
+      wanted+=("$package")
+    done <"$root/scripts/packages/$list"
+  done
+  # dpkg-query also fails where it knows only some of the names.
+  installed=$'\n'$(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "${wanted[@]}" 2>/dev/null || true)$'\n'
+  for package in "${wanted[@]}"; do
+    [[ $installed == *$'\n'"$package installed"$'\n'* ]] || printf '%s\n' "$package"
+  done
+}
+
+# install_packages LIST...
+install_packages() {
+  if ! command -v dpkg-query >/dev/null; then
+    say "Questo sistema non usa i pacchetti Debian: i programmi e le librerie elencati in scripts/packages vanno installati a mano."
+    return
+  fi
+  local packages as_root=()
+  mapfile -t packages < <(missing_packages "$@")
+  ((${#packages[@]})) || return 0
+
+  local by_hand="apt-get install --no-install-recommends ${packages[*]}"
+  if ((EUID != 0)); then
+    command -v sudo >/dev/null ||
+      die "Mancano dei pacchetti e sudo non c'è. Eseguire come amministratore:" $'\n'"  $by_hand"
+    as_root=(sudo)
+  fi
+  say "Installo i pacchetti mancanti: ${packages[*]}"
+  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=120)
+  "${apt[@]}" update >&2 || say "L'elenco dei pacchetti non si aggiorna: provo con quello che c'è."
+  "${apt[@]}" install --no-install-recommends "${packages[@]}" >&2 </dev/null ||
+    die "L'installazione non è riuscita. Eseguire come amministratore:" $'\n'"  $by_hand"
+}
+
+# The icon sets in exactly the versions of package-lock.json. A copy of the lock file says what is installed;
+# npm ci starts by removing node_modules, so an interrupted installation leaves none.
+install_icon_sets() {
+  local lock=$root/package-lock.json installed=$root/node_modules/.installed-lock.json
+  cmp -s "$lock" "$installed" && return
+  say "Scarico le icone…"
+  (cd "$root" && npm ci --ignore-scripts --no-audit --no-fund --loglevel=error >&2 </dev/null) ||
+    die "Le icone non si scaricano: serve la rete, una volta sola."
+  cp "$lock" "$installed"
+}
+
+# configure PRESET [options for the first time]
+configure() {
+  local preset=$1 generated=$root/build/$1/build.ninja
+  shift
+  if [[ ! -e $generated ]]; then
+    say "Preparo la compilazione ($preset)…"
+    (cd "$root" && cmake --preset "$preset" --log-level=WARNING "$@" >&2)
+  elif [[ $root/CMakePresets.json -nt $generated || $root/node_modules/.installed-lock.json -nt $generated ]]; then
+    (cd "$root" && cmake --preset "$preset" --log-level=WARNING >&2)
+  fi
+}
+
+# build PRESET [target]; says nothing when everything is up to date.
+build() {
+  local folder=$root/build/$1 target=${2:-all}
+  [[ $(ninja -C "$folder" -n "$target" 2>&1) == *'no work to do'* ]] && return
+  say "Compilo ($1)…"
+  cmake --build "$folder" --target "$target" --parallel "$(nproc)" >&2
+}
+
+# Qt wants UTF-8; a bare container has no locale at all.
+use_utf8() {
+  [[ $(locale charmap 2>/dev/null) == UTF-8 ]] && return
+  if [[ -n ${LC_ALL:-} ]]; then
+    export LC_ALL=C.UTF-8
+  else
+    export LC_CTYPE=C.UTF-8
+  fi
+}
