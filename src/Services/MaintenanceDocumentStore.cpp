@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "MaintenanceDocumentStore.h"
+
+#include "AtomicFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace abissora {
+
+namespace {
+
+/// As the file system reports it: what follows the last dot, which does not begin the name.
+QString extensionOf(const QString& path)
+{
+    const QString name = QFileInfo(path).fileName();
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    const QString extension = dot > 0 ? name.mid(dot + 1) : QString();
+    return extension.isEmpty() ? QStringLiteral("pdf") : extension;
+}
+
+bool isPlainName(const QString& name)
+{
+    return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..")
+        && !name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char('\\')) && !name.contains(QChar(0));
+}
+
+class ScopedAccess
+{
+public:
+    ScopedAccess(FilePanel& panel, const QString& path)
+        : m_panel(panel)
+        , m_path(path)
+        , m_granted(panel.beginAccess(path))
+    {
+    }
+    ~ScopedAccess()
+    {
+        if (m_granted)
+            m_panel.endAccess(m_path);
+    }
+    ScopedAccess(const ScopedAccess&) = delete;
+    ScopedAccess& operator=(const ScopedAccess&) = delete;
+
+private:
+    FilePanel& m_panel;
+    const QString& m_path;
+    bool m_granted;
+};
+
+} // namespace
+
+MaintenanceDocumentStore::MaintenanceDocumentStore(QString folder, FilePanel& panel, IdGenerator& ids, Console& console)
+    : m_folder(std::move(folder))
+    , m_panel(panel)
+    , m_ids(ids)
+    , m_console(console)
+{
+}
+
+IoResult<QString> MaintenanceDocumentStore::documentsDirectory() const
+{
+    return AtomicFile::makeFolder(m_folder).map([this] { return m_folder; });
+}
+
+std::optional<QString> MaintenanceDocumentStore::pickPDFAndStore(const std::optional<QString>& current)
+{
+    const auto source = m_panel.pickFile({
+        .title = QStringLiteral("Seleziona il documento PDF"),
+        .message = QStringLiteral("Scegli il PDF (scontrino o certificato) da allegare"),
+        .confirmLabel = QStringLiteral("Allega"),
+        .contentTypes = {QStringLiteral("application/pdf")},
+    });
+    if (!source)
+        return std::nullopt;
+    auto stored = store(*source);
+    if (stored && current && *current != *stored)
+        deleteDocument(*current);
+    return stored;
+}
+
+std::optional<QString> MaintenanceDocumentStore::store(const QString& source)
+{
+    const ScopedAccess access(m_panel, source);
+    const QString name = uuidText(m_ids.next()) + QLatin1Char('.') + extensionOf(source);
+    const auto copied = documentsDirectory().and_then(
+        [&](const QString& folder) { return AtomicFile::copy(source, folder + QLatin1Char('/') + name); });
+    if (!copied) {
+        m_console.print(QStringLiteral("Errore salvataggio documento: ") + copied.error().reason);
+        return std::nullopt;
+    }
+    return name;
+}
+
+std::optional<QString> MaintenanceDocumentStore::url(const QString& name) const
+{
+    const auto folder = documentsDirectory();
+    if (!folder || !isPlainName(name))
+        return std::nullopt;
+    const QFileInfo file(*folder + QLatin1Char('/') + name);
+    if (!file.isFile() || QFileInfo(file.canonicalFilePath()).path() != QDir(*folder).canonicalPath())
+        return std::nullopt;
+    return file.filePath();
+}
+
+void MaintenanceDocumentStore::deleteDocument(const QString& name) const
+{
+    if (const auto path = url(name))
+        QFile::remove(*path);
+}
+
+} // namespace abissora

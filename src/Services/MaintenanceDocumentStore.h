@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Console.h"
+#include "FilePanel.h"
+#include "IdGenerator.h"
+#include "IoError.h"
+
+#include <optional>
+
+namespace abissora {
+
+/// The PDF files attached to maintenance records, each under a fresh name in one folder. Records keep the bare name.
+/// Keeps no state: every operation works on the file system.
+class MaintenanceDocumentStore
+{
+public:
+    /// `folder` need not exist. Everything passed by reference must outlive the store.
+    MaintenanceDocumentStore(QString folder, FilePanel& panel, IdGenerator& ids, Console& console);
+
+    /// The documents folder, created when missing.
+    [[nodiscard]] IoResult<QString> documentsDirectory() const;
+
+    /// Lets the person pick a PDF and stores a copy. Nothing when the panel was cancelled or the copy failed; the file
+    /// called `current` then stays, otherwise it is deleted.
+    [[nodiscard]] std::optional<QString> pickPDFAndStore(const std::optional<QString>& current);
+
+    /// Copies the file under a fresh name, keeping its extension ("pdf" when it has none), and gives that name.
+    [[nodiscard]] std::optional<QString> store(const QString& source);
+
+    /// The path of a stored file. Nothing when there is none of that name, and for anything that is not a plain name of
+    /// a regular file inside the folder, links leading out of it included.
+    [[nodiscard]] std::optional<QString> url(const QString& name) const;
+
+    /// Does nothing when url finds no such file; a failure is ignored.
+    void deleteDocument(const QString& name) const;
+
+private:
+    QString m_folder;
+    FilePanel& m_panel;
+    IdGenerator& m_ids;
+    Console& m_console;
+};
+
+} // namespace abissora

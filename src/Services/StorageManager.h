@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Calendar.h"
+#include "Clock.h"
+#include "Console.h"
+#include "Equipment.h"
+#include "IdGenerator.h"
+#include "PreferencesStore.h"
+
+namespace abissora {
+
+/// Keeps the whole register under one key of the preferences store. Failures go to the console only.
+class StorageManager
+{
+public:
+    static inline const QString equipmentKey = QStringLiteral("savedEquipment");
+
+    /// Everything passed by reference must outlive it.
+    StorageManager(PreferencesStore& userDefaults, Console& console, const Clock& clock, Calendar calendar,
+                   IdGenerator& ids);
+
+    /// Replaces the stored list. After a failure the stored list is what it was.
+    void saveEquipment(const QList<Equipment>& equipment);
+
+    /// The stored list; the sample list, which is not written back, when nothing is stored or it cannot be read. A copy
+    /// of stored bytes that cannot be decoded is kept before anything overwrites them.
+    [[nodiscard]] QList<Equipment> loadEquipment();
+
+private:
+    [[nodiscard]] QList<Equipment> loadSampleEquipment();
+    [[nodiscard]] QList<Equipment> giveUpLoading(const QString& reason);
+
+    PreferencesStore& m_userDefaults;
+    Console& m_console;
+    const Clock& m_clock;
+    Calendar m_calendar;
+    IdGenerator& m_ids;
+};
+
+} // namespace abissora
