@@ -15,8 +15,7 @@ AppInfo::AppInfo(const PackageInformation& package, const Clock& clock, Calendar
     : m_package(package)
     , m_clock(clock)
     , m_format(QLocale(QLocale::Italian, QLocale::Italy), std::move(calendar))
-{
-}
+{}
 
 QString AppInfo::version() const
 {

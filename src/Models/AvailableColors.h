@@ -14,11 +14,11 @@ struct RawValues<AvailableColors>
 {
     using Entry = RawValueEntry<AvailableColors>;
     static constexpr std::array entries{
-        Entry{AvailableColors::blue, u"Blu"},       Entry{AvailableColors::red, u"Rosso"},
-        Entry{AvailableColors::green, u"Verde"},    Entry{AvailableColors::orange, u"Arancione"},
-        Entry{AvailableColors::purple, u"Viola"},   Entry{AvailableColors::gray, u"Grigio"},
-        Entry{AvailableColors::cyan, u"Ciano"},     Entry{AvailableColors::indigo, u"Indaco"},
-        Entry{AvailableColors::pink, u"Rosa"},      Entry{AvailableColors::yellow, u"Giallo"},
+        Entry{AvailableColors::blue, u"Blu"},         Entry{AvailableColors::red, u"Rosso"},
+        Entry{AvailableColors::green, u"Verde"},      Entry{AvailableColors::orange, u"Arancione"},
+        Entry{AvailableColors::purple, u"Viola"},     Entry{AvailableColors::gray, u"Grigio"},
+        Entry{AvailableColors::cyan, u"Ciano"},       Entry{AvailableColors::indigo, u"Indaco"},
+        Entry{AvailableColors::pink, u"Rosa"},        Entry{AvailableColors::yellow, u"Giallo"},
         Entry{AvailableColors::teal, u"Verde Acqua"}, Entry{AvailableColors::mint, u"Menta"},
         Entry{AvailableColors::brown, u"Marrone"},
     };

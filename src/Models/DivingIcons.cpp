@@ -85,7 +85,8 @@ QString displayName(DivingIcons icon)
 
 QString category(DivingIcons icon)
 {
-    const auto section = std::find_if(sections.begin(), sections.end(), [icon](const Section& s) { return icon <= s.last; });
+    const auto section =
+        std::find_if(sections.begin(), sections.end(), [icon](const Section& s) { return icon <= s.last; });
     return section->title.toString();
 }
 

@@ -20,8 +20,8 @@ struct Maintenance
     QString performedBy;
     double cost = 0; ///< in the user's currency
     QString notes;
-    Instant nextServiceDate{}; ///< due according to this intervention
-    std::optional<bool> isCompleted; ///< absent in records older than the field
+    Instant nextServiceDate{};              ///< due according to this intervention
+    std::optional<bool> isCompleted;        ///< absent in records older than the field
     std::optional<QString> receiptFileName; ///< a name inside the documents folder, never a path
     std::optional<QString> certificateFileName;
 

@@ -20,7 +20,10 @@ template <typename Case>
 struct RawValues;
 
 template <typename Case>
-concept HasRawValues = requires { RawValues<Case>::entries; };
+concept HasRawValues = requires
+{
+    RawValues<Case>::entries;
+};
 
 template <HasRawValues Case>
 [[nodiscard]] QString rawValue(Case value)

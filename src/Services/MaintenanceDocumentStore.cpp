@@ -22,8 +22,8 @@ QString extensionOf(const QString& path)
 
 bool isPlainName(const QString& name)
 {
-    return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..")
-        && !name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char('\\')) && !name.contains(QChar(0));
+    return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
+           !name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char('\\')) && !name.contains(QChar(0));
 }
 
 class ScopedAccess
@@ -33,8 +33,7 @@ public:
         : m_panel(panel)
         , m_path(path)
         , m_granted(panel.beginAccess(path))
-    {
-    }
+    {}
     ~ScopedAccess()
     {
         if (m_granted)
@@ -56,8 +55,7 @@ MaintenanceDocumentStore::MaintenanceDocumentStore(QString folder, FilePanel& pa
     , m_panel(panel)
     , m_ids(ids)
     , m_console(console)
-{
-}
+{}
 
 IoResult<QString> MaintenanceDocumentStore::documentsDirectory() const
 {

@@ -13,8 +13,7 @@ StorageManager::StorageManager(PreferencesStore& userDefaults, Console& console,
     , m_clock(clock)
     , m_calendar(std::move(calendar))
     , m_ids(ids)
-{
-}
+{}
 
 void StorageManager::saveEquipment(const QList<Equipment>& equipment)
 {

@@ -25,7 +25,10 @@ template <typename Record>
 struct Fields;
 
 template <typename Record>
-concept Described = requires { Fields<Record>::all; };
+concept Described = requires
+{
+    Fields<Record>::all;
+};
 
 template <>
 struct Fields<Maintenance>

@@ -17,8 +17,7 @@ class Receiver
 public:
     Receiver(void* target, const Slot& slot)
         : m_root{&slot, target}
-    {
-    }
+    {}
 
     [[nodiscard]] std::optional<JsonError> takeError() { return std::move(m_error); }
 
@@ -63,7 +62,10 @@ public:
 
     bool binary(const Parser::binary_t& /*value*/) { return false; }
 
-    bool start_object(std::size_t /*size*/) { return open("an object", [](const Slot& s) { return !s.members.empty(); }); }
+    bool start_object(std::size_t /*size*/)
+    {
+        return open("an object", [](const Slot& s) { return !s.members.empty(); });
+    }
 
     bool key(const std::string& name)
     {
@@ -102,7 +104,10 @@ public:
         return close();
     }
 
-    bool start_array(std::size_t /*size*/) { return open("an array", [](const Slot& s) { return s.element != nullptr; }); }
+    bool start_array(std::size_t /*size*/)
+    {
+        return open("an array", [](const Slot& s) { return s.element != nullptr; });
+    }
 
     bool end_array() { return close(); }
 
@@ -144,8 +149,9 @@ private:
 
     bool real(double value)
     {
-        return scalar("a number",
-                      [value](const Place& place) { return place.slot->real && place.slot->real(place.target, value); });
+        return scalar("a number", [value](const Place& place) {
+            return place.slot->real && place.slot->real(place.target, value);
+        });
     }
 
     Place next()
@@ -225,7 +231,8 @@ private:
     JsonError mismatch(const Slot& slot, const char* found, std::string_view text) const
     {
         constexpr std::size_t longest = 60;
-        QString message = QStringLiteral("expected %1, found %2").arg(QLatin1String(slot.expected), QLatin1String(found));
+        QString message =
+            QStringLiteral("expected %1, found %2").arg(QLatin1String(slot.expected), QLatin1String(found));
         // A text of the right kind was refused for what it says.
         if (slot.string && !text.empty() && text.size() <= longest)
             message = QStringLiteral("expected %1, found \"%2\"")

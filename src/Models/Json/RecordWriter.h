@@ -17,8 +17,7 @@ struct EncodingFailure : std::exception
 {
     explicit EncodingFailure(JsonError failure)
         : error(std::move(failure))
-    {
-    }
+    {}
     JsonError error;
 };
 

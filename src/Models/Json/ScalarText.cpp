@@ -55,11 +55,10 @@ std::optional<std::string> dateText(Instant instant)
     const year_month_day date(day);
     const hh_mm_ss time(seconds - day);
     std::array<char, 40> buffer{};
-    const int length =
-        std::snprintf(buffer.data(), buffer.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ", static_cast<int>(date.year()),
-                      static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                      static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),
-                      static_cast<int>(time.seconds().count()));
+    const int length = std::snprintf(
+        buffer.data(), buffer.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ", static_cast<int>(date.year()),
+        static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()), static_cast<int>(time.hours().count()),
+        static_cast<int>(time.minutes().count()), static_cast<int>(time.seconds().count()));
     return std::string(buffer.data(), static_cast<std::size_t>(length));
 }
 

@@ -126,7 +126,8 @@ struct SlotOf<QUuid>
 template <HasRawValues Case>
 struct SlotOf<Case>
 {
-    static constexpr Slot slot{.expected = "one of the known names", .string = [](void* target, const std::string& text) {
+    static constexpr Slot slot{.expected = "one of the known names",
+                               .string = [](void* target, const std::string& text) {
                                    const auto value = fromRawValue<Case>(QString::fromStdString(text));
                                    if (value)
                                        as<Case>(target) = *value;

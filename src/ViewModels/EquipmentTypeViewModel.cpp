@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: MIT
+#include "EquipmentTypeViewModel.h"
+
+#include "DefaultTypes.h"
+#include "IconMigration.h"
+#include "RecordJson.h"
+#include "TextSearch.h"
+
+namespace abissora {
+
+namespace {
+
+const QString loadingFailed = QStringLiteral("Error loading types: ");
+const QString savingFailed = QStringLiteral("Error saving types: ");
+
+} // namespace
+
+EquipmentTypeViewModel::EquipmentTypeViewModel(PreferencesStore& preferences, const SymbolLibrary& symbols,
+                                               Console& console, IdGenerator& ids, QObject* parent)
+    : QObject(parent)
+    , m_preferences(preferences)
+    , m_symbols(symbols)
+    , m_console(console)
+    , m_ids(ids)
+{
+    for (const auto signal : {&EquipmentTypeViewModel::typesChanged, &EquipmentTypeViewModel::selectedTypeChanged,
+                              &EquipmentTypeViewModel::searchTextChanged, &EquipmentTypeViewModel::isAddingTypeChanged})
+        connect(this, signal, this, &EquipmentTypeViewModel::changed);
+    loadTypes();
+}
+
+void EquipmentTypeViewModel::loadTypes()
+{
+    if (loadStoredTypes()) {
+        migrateIconsIfNeeded();
+        return;
+    }
+    setTypes(getDefaultTypes());
+    saveTypes();
+    storeIconVersion();
+}
+
+bool EquipmentTypeViewModel::loadStoredTypes()
+{
+    const auto giveUp = [this](const QString& reason) {
+        report(loadingFailed, reason);
+        if (const auto kept = m_preferences.preserveUnreadable(typesKey); !kept)
+            report(savingFailed, kept.error().reason);
+        return false;
+    };
+    const auto stored = m_preferences.data(typesKey);
+    if (!stored)
+        return giveUp(stored.error().reason);
+    if (!*stored)
+        return false;
+    const auto decoded = decodeTypes(**stored);
+    if (!decoded)
+        return giveUp(decoded.error().description());
+    setTypes(*decoded);
+    return true;
+}
+
+void EquipmentTypeViewModel::saveTypes()
+{
+    const auto json = encode(m_types);
+    if (!json)
+        report(savingFailed, json.error().description());
+    else if (const auto stored = m_preferences.setData(typesKey, *json); !stored)
+        report(savingFailed, stored.error().reason);
+}
+
+void EquipmentTypeViewModel::setTypes(const QList<EquipmentTypeModel>& types)
+{
+    m_types = types;
+    Q_EMIT typesChanged();
+}
+
+void EquipmentTypeViewModel::setSelectedType(const std::optional<EquipmentTypeModel>& type)
+{
+    m_selectedType = type;
+    Q_EMIT selectedTypeChanged();
+}
+
+void EquipmentTypeViewModel::setSearchText(const QString& text)
+{
+    m_searchText = text;
+    Q_EMIT searchTextChanged();
+}
+
+void EquipmentTypeViewModel::setAddingType(bool adding)
+{
+    m_isAddingType = adding;
+    Q_EMIT isAddingTypeChanged();
+}
+
+QList<EquipmentTypeModel> EquipmentTypeViewModel::filteredTypes() const
+{
+    const TextSearch search(m_searchText);
+    QList<EquipmentTypeModel> filtered;
+    std::copy_if(m_types.begin(), m_types.end(), std::back_inserter(filtered),
+                 [&search](const EquipmentTypeModel& type) { return type.isActive && search.foundIn(type.name); });
+    const auto byCodePoint = [](const EquipmentTypeModel& a, const EquipmentTypeModel& b) {
+        const auto left = a.name.toUcs4();
+        const auto right = b.name.toUcs4();
+        return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end());
+    };
+    std::stable_sort(filtered.begin(), filtered.end(), byCodePoint);
+    return filtered;
+}
+
+std::optional<EquipmentTypeModel> EquipmentTypeViewModel::getTypeByName(const QString& name) const
+{
+    const auto found = std::find_if(m_types.begin(), m_types.end(), [&name](const EquipmentTypeModel& type) {
+        return type.isActive && type.name == name;
+    });
+    return found == m_types.end() ? std::nullopt : std::optional(*found);
+}
+
+std::optional<EquipmentType> EquipmentTypeViewModel::getEquipmentType(const QString& from)
+{
+    return fromRawValue<EquipmentType>(from);
+}
+
+void EquipmentTypeViewModel::updateType(const EquipmentTypeModel& type)
+{
+    const qsizetype index = indexOf(type.id);
+    if (index < 0)
+        return;
+    m_types[index] = type;
+    saveTypes();
+    Q_EMIT typesChanged();
+}
+
+void EquipmentTypeViewModel::deleteType(const EquipmentTypeModel& type)
+{
+    const qsizetype index = indexOf(type.id);
+    if (index < 0)
+        return;
+    m_types.removeAt(index);
+    saveTypes();
+    Q_EMIT typesChanged();
+}
+
+QList<EquipmentTypeModel> EquipmentTypeViewModel::getDefaultTypes() const
+{
+    return defaultTypes(m_ids);
+}
+
+void EquipmentTypeViewModel::migrateIconsIfNeeded()
+{
+    if (m_preferences.integer(iconVersionKey).value_or(0) >= currentIconVersion)
+        return;
+    if (migrateIcons(m_types, getDefaultTypes(), m_symbols)) {
+        saveTypes();
+        Q_EMIT typesChanged();
+    }
+    storeIconVersion();
+}
+
+void EquipmentTypeViewModel::storeIconVersion()
+{
+    if (const auto stored = m_preferences.setInteger(iconVersionKey, currentIconVersion); !stored)
+        report(savingFailed, stored.error().reason);
+}
+
+qsizetype EquipmentTypeViewModel::indexOf(const QUuid& id) const
+{
+    const auto found =
+        std::find_if(m_types.begin(), m_types.end(), [&id](const EquipmentTypeModel& type) { return type.id == id; });
+    return found == m_types.end() ? -1 : found - m_types.begin();
+}
+
+void EquipmentTypeViewModel::report(const QString& prefix, const QString& reason) const
+{
+    m_console.print(prefix + reason);
+}
+
+} // namespace abissora

@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+#include "EquipmentViewModel.h"
+
+namespace abissora {
+
+EquipmentViewModel::EquipmentViewModel(StorageManager storageManager, MaintenanceDocumentStore& documents,
+                                       Console& console, const Clock& clock, Calendar calendar, QObject* parent)
+    : QObject(parent)
+    , m_storageManager(std::move(storageManager))
+    , m_documents(documents)
+    , m_console(console)
+    , m_clock(clock)
+    , m_calendar(std::move(calendar))
+{
+    for (const auto signal : {&EquipmentViewModel::equipmentChanged, &EquipmentViewModel::selectedEquipmentChanged,
+                              &EquipmentViewModel::isAddingEquipmentChanged, &EquipmentViewModel::searchTextChanged,
+                              &EquipmentViewModel::selectedTypeChanged, &EquipmentViewModel::filterTypeNameChanged})
+        connect(this, signal, this, &EquipmentViewModel::changed);
+    loadEquipment();
+}
+
+void EquipmentViewModel::loadEquipment()
+{
+    m_equipment = m_storageManager.loadEquipment();
+    QString log = QStringLiteral("📦 Caricati %1 equipaggiamenti").arg(m_equipment.size());
+    for (const Equipment& item : std::as_const(m_equipment)) {
+        log += QStringLiteral("\n   📌 ") + item.name + QStringLiteral(": type='") + rawValue(item.type) +
+               QStringLiteral("', customType='") + orNil(item.customTypeName) + QLatin1Char('\'');
+    }
+    m_console.print(log);
+    Q_EMIT equipmentChanged();
+}
+
+void EquipmentViewModel::setSelectedEquipment(const std::optional<Equipment>& equipment)
+{
+    m_selectedEquipment = equipment;
+    Q_EMIT selectedEquipmentChanged();
+}
+
+void EquipmentViewModel::setAddingEquipment(bool adding)
+{
+    m_isAddingEquipment = adding;
+    Q_EMIT isAddingEquipmentChanged();
+}
+
+void EquipmentViewModel::addEquipment(const Equipment& equipment)
+{
+    m_equipment.append(equipment);
+    saveAndNotify();
+    m_console.print(QStringLiteral("➕ Aggiunto equipaggiamento: ") + equipment.name);
+}
+
+void EquipmentViewModel::updateEquipment(const Equipment& equipment)
+{
+    Equipment* item = find(equipment.id);
+    if (!item)
+        return;
+    *item = equipment;
+    saveAndNotify();
+    m_console.print(QStringLiteral("✏️ Aggiornato equipaggiamento: ") + equipment.name);
+}
+
+void EquipmentViewModel::deleteEquipment(const Equipment& equipment)
+{
+    const Equipment* item = find(equipment.id);
+    if (!item)
+        return;
+    const QString name = item->name;
+    for (const Maintenance& maintenance : item->maintenanceHistory)
+        deleteDocuments(maintenance);
+    m_equipment.removeAt(item - m_equipment.constData());
+    saveAndNotify();
+    m_console.print(QStringLiteral("🗑️ Eliminato equipaggiamento: ") + name);
+}
+
+void EquipmentViewModel::addMaintenance(const QUuid& to, const Maintenance& maintenance)
+{
+    Equipment* item = find(to);
+    if (!item)
+        return;
+    item->maintenanceHistory.append(maintenance);
+    item->lastServiceDate = maintenance.date;
+    item->nextServiceDate = maintenance.nextServiceDate;
+    saveAndNotify();
+}
+
+void EquipmentViewModel::updateMaintenance(const QUuid& to, const Maintenance& maintenance)
+{
+    Equipment* item = find(to);
+    if (!item)
+        return;
+    auto& history = item->maintenanceHistory;
+    const auto record =
+        std::find_if(history.begin(), history.end(), [&](const Maintenance& m) { return m.id == maintenance.id; });
+    if (record == history.end())
+        return;
+    *record = maintenance;
+    recomputeServiceDates(*item);
+    saveAndNotify();
+}
+
+void EquipmentViewModel::deleteMaintenance(const QUuid& from, const QUuid& maintenanceId)
+{
+    Equipment* item = find(from);
+    if (!item)
+        return;
+    auto& history = item->maintenanceHistory;
+    const auto hasId = [&](const Maintenance& m) { return m.id == maintenanceId; };
+    if (const auto record = std::find_if(history.cbegin(), history.cend(), hasId); record != history.cend())
+        deleteDocuments(*record);
+    history.removeIf(hasId);
+    recomputeServiceDates(*item);
+    saveAndNotify();
+}
+
+void EquipmentViewModel::setSearchText(const QString& text)
+{
+    m_filter.searchText = text;
+    Q_EMIT searchTextChanged();
+}
+
+void EquipmentViewModel::setSelectedType(std::optional<EquipmentType> type)
+{
+    m_filter.selectedType = type;
+    Q_EMIT selectedTypeChanged();
+}
+
+void EquipmentViewModel::setFilterTypeName(const std::optional<QString>& name)
+{
+    const auto old = std::exchange(m_filter.filterTypeName, name);
+    m_console.print(QStringLiteral("📌 filterTypeName cambiato da ") + orNil(old) + QStringLiteral(" a ") +
+                    orNil(m_filter.filterTypeName));
+    Q_EMIT filterTypeNameChanged();
+}
+
+void EquipmentViewModel::resetFilters()
+{
+    m_console.print(QStringLiteral("🔄 Reset filtri"));
+    setSearchText({});
+    setSelectedType(std::nullopt);
+    setFilterTypeName(std::nullopt);
+    Q_EMIT changed();
+}
+
+void EquipmentViewModel::filterByTypeName(const QString& name)
+{
+    m_console.print(QStringLiteral("🎯 FILTRO PER NOME: '") + name + QLatin1Char('\''));
+    setSearchText({});
+    setSelectedType(std::nullopt);
+    setFilterTypeName(name);
+    m_console.print(QStringLiteral("   ✅ filterTypeName impostato a: '") + orNil(filterTypeName()) + QLatin1Char('\''));
+}
+
+QList<Equipment> EquipmentViewModel::filteredEquipment() const
+{
+    const auto [equipment, log] = apply(m_filter, m_equipment);
+    m_console.print(log);
+    return equipment;
+}
+
+QList<Equipment> EquipmentViewModel::overdueEquipment() const
+{
+    // At most 30 whole days are left exactly when 31 whole days do not fit: one comparison in place of a count.
+    const Instant now = m_clock.now();
+    const auto firstNotDue = m_calendar.addDays(now, dueThresholdDays + 1);
+    QList<Equipment> overdue;
+    for (const Equipment& item : m_equipment) {
+        if (item.isActive && (!firstNotDue || item.nextServiceDate < *firstNotDue))
+            overdue.append(item);
+    }
+    return overdue;
+}
+
+Equipment* EquipmentViewModel::find(const QUuid& id)
+{
+    const auto found =
+        std::find_if(m_equipment.cbegin(), m_equipment.cend(), [&id](const Equipment& item) { return item.id == id; });
+    return found == m_equipment.cend() ? nullptr : &m_equipment[found - m_equipment.cbegin()];
+}
+
+void EquipmentViewModel::recomputeServiceDates(Equipment& item)
+{
+    const auto& history = item.maintenanceHistory;
+    const auto latest = std::max_element(history.cbegin(), history.cend(),
+                                         [](const Maintenance& a, const Maintenance& b) { return a.date < b.date; });
+    if (latest == history.cend())
+        return;
+    item.lastServiceDate = latest->date;
+    item.nextServiceDate = latest->nextServiceDate;
+}
+
+void EquipmentViewModel::deleteDocuments(const Maintenance& maintenance) const
+{
+    for (const auto& name : {maintenance.receiptFileName, maintenance.certificateFileName}) {
+        if (name)
+            m_documents.deleteDocument(*name);
+    }
+}
+
+void EquipmentViewModel::saveAndNotify()
+{
+    m_storageManager.saveEquipment(m_equipment);
+    Q_EMIT equipmentChanged();
+}
+
+} // namespace abissora

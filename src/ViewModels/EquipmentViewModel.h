@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "EquipmentFilter.h"
+#include "MaintenanceDocumentStore.h"
+#include "StorageManager.h"
+
+#include <QObject>
+
+namespace abissora {
+
+/// The one owner of the register. Every verb changes the list, saves it whole, notifies and logs, in this order; an
+/// unknown id makes it do nothing. One signal per property, and `changed` after each of them, on the caller's thread.
+class EquipmentViewModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Loads the register at once. Everything passed by reference must outlive it.
+    EquipmentViewModel(StorageManager storageManager, MaintenanceDocumentStore& documents, Console& console,
+                       const Clock& clock, Calendar calendar, QObject* parent = nullptr);
+
+    void loadEquipment();
+
+    /// In the order in which the items were added.
+    [[nodiscard]] const QList<Equipment>& equipment() const { return m_equipment; }
+    [[nodiscard]] const std::optional<Equipment>& selectedEquipment() const { return m_selectedEquipment; }
+    void setSelectedEquipment(const std::optional<Equipment>& equipment);
+    [[nodiscard]] bool isAddingEquipment() const { return m_isAddingEquipment; }
+    void setAddingEquipment(bool adding);
+
+    void addEquipment(const Equipment& equipment);
+    void updateEquipment(const Equipment& equipment);
+    /// Deletes the item's attached documents too. The selection is the screens' business.
+    void deleteEquipment(const Equipment& equipment);
+
+    /// The item takes the new record's dates, whatever its history holds.
+    void addMaintenance(const QUuid& to, const Maintenance& maintenance);
+    /// The item takes the dates of the latest record of its history.
+    void updateMaintenance(const QUuid& to, const Maintenance& maintenance);
+    /// As updateMaintenance; an item whose last record goes keeps its dates. Deletes the record's documents.
+    void deleteMaintenance(const QUuid& from, const QUuid& maintenanceId);
+
+    [[nodiscard]] const QString& searchText() const { return m_filter.searchText; }
+    void setSearchText(const QString& text);
+    [[nodiscard]] std::optional<EquipmentType> selectedType() const { return m_filter.selectedType; }
+    void setSelectedType(std::optional<EquipmentType> type);
+    [[nodiscard]] const std::optional<QString>& filterTypeName() const { return m_filter.filterTypeName; }
+    /// Logs and notifies at every assignment, of an equal value too.
+    void setFilterTypeName(const std::optional<QString>& name);
+
+    void resetFilters();
+    void filterByTypeName(const QString& name);
+
+    /// What the filters leave, soonest due first. Computed and logged at every call: read it once per redraw.
+    [[nodiscard]] QList<Equipment> filteredEquipment() const;
+    /// The active items due within dueThresholdDays, past ones included, in catalogue order.
+    [[nodiscard]] QList<Equipment> overdueEquipment() const;
+
+Q_SIGNALS:
+    void equipmentChanged();
+    void selectedEquipmentChanged();
+    void isAddingEquipmentChanged();
+    void searchTextChanged();
+    void selectedTypeChanged();
+    void filterTypeNameChanged();
+    void changed();
+
+private:
+    [[nodiscard]] Equipment* find(const QUuid& id);
+    static void recomputeServiceDates(Equipment& item);
+    void deleteDocuments(const Maintenance& maintenance) const;
+    void saveAndNotify();
+
+    StorageManager m_storageManager;
+    MaintenanceDocumentStore& m_documents;
+    Console& m_console;
+    const Clock& m_clock;
+    Calendar m_calendar;
+
+    QList<Equipment> m_equipment;
+    std::optional<Equipment> m_selectedEquipment;
+    bool m_isAddingEquipment = false;
+    EquipmentFilter m_filter;
+};
+
+} // namespace abissora
