@@ -58,7 +58,7 @@ install_icon_sets() {
   cmp -s "$lock" "$installed" && return
   say "Scarico le icone…"
   (cd "$root" && npm ci --ignore-scripts --no-audit --no-fund --loglevel=error >&2 </dev/null) ||
-    die "Le icone non si scaricano: serve la rete, una volta sola."
+    die "Le icone non sono state installate; la ragione è scritta qui sopra."
   cp "$lock" "$installed"
 }
 
