@@ -46,7 +46,7 @@ the upper one implements and MarevoloApp hands in.
 def check_layers(sources):
     headers = {}
     for source in sources:
-        if source.path.suffix != ".h":
+        if source.suffix != ".h":
             continue
         first = headers.setdefault(source.path.name, source)
         if first is not source:

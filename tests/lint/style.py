@@ -39,7 +39,7 @@ def is_not_lint(source):
     return not source.is_under("tests/lint")
 
 
-pattern_rule("leftovers", lambda source: is_not_lint(source) and (source.is_code or source.path.suffix in PACKAGING), """
+pattern_rule("leftovers", lambda source: is_not_lint(source) and (source.is_code or source.suffix in PACKAGING), """
 What is merged is finished: no notes about work to be done, no test that is skipped. Fix: do it now, or write down what
 is known to be missing where a reader looks for it, in ARCHITECTURE.md.
 """, [
@@ -58,7 +58,7 @@ QTRY_VERIFY, QSignalSpy::wait or QTest::qWaitFor with the condition; a fixed clo
 ])
 
 
-@rule("licence", lambda source: source.is_code or source.path.suffix in PACKAGING, """
+@rule("licence", lambda source: source.is_code or source.suffix in PACKAGING, """
 Every file says under which terms it may be used, for people and for the tools that collect licences. Fix: write
 "SPDX-License-Identifier: MIT" in a comment in the first line (the second after #! or <?xml).
 """)

@@ -47,21 +47,26 @@ class Source:
         """The lines with C++ comments blanked; string literals stay."""
         return COMMENT_OR_LITERAL.sub(_blank_comment, self.text).splitlines()
 
+    @property
+    def suffix(self):
+        """Without the .in of a template."""
+        return Path(self.path.stem).suffix if self.path.suffix == ".in" else self.path.suffix
+
     @cached_property
     def is_script(self):
-        return not self.path.suffix and self.absolute.read_bytes()[:2] == b"#!"
+        return not self.suffix and self.absolute.read_bytes()[:2] == b"#!"
 
     @cached_property
     def is_cpp(self):
-        return self.path.suffix in (".cpp", ".h")
+        return self.suffix in (".cpp", ".h")
 
     @cached_property
     def is_code(self):
-        return self.path.suffix in CODE or self.path.name == "CMakeLists.txt" or self.is_script
+        return self.suffix in CODE or self.path.name == "CMakeLists.txt" or self.is_script
 
     @cached_property
     def is_shell(self):
-        return self.path.suffix == ".sh" or (self.is_script and re.match(r"#!.*\b(ba)?sh\b", self.lines[0]) is not None)
+        return self.suffix == ".sh" or (self.is_script and re.match(r"#!.*\b(ba)?sh\b", self.lines[0]) is not None)
 
 
 class Tree:
