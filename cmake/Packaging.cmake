@@ -1,0 +1,47 @@
+# SPDX-License-Identifier: MIT
+# What an installation consists of, and the Debian package made from it (cpack in the build folder).
+# Included by the root CMakeLists.txt once the target abissora exists.
+include(GNUInstallDirs)
+
+set(packaging "${PROJECT_SOURCE_DIR}/packaging")
+set(application_icons "${PROJECT_SOURCE_DIR}/src/Resources/appicon")
+set(manual "${PROJECT_BINARY_DIR}/packaging/abissora.1")
+configure_file("${packaging}/abissora.1.in" "${manual}" @ONLY)
+
+install(TARGETS abissora RUNTIME)
+install(FILES "${packaging}/abissora.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+install(FILES "${packaging}/abissora.metainfo.xml" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
+install(FILES "${application_icons}/abissora.svg"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
+install(FILES "${application_icons}/abissora-symbolic.svg"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/symbolic/apps")
+install(FILES "${manual}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}" RENAME copyright)
+install(DIRECTORY "${packaging}/licenses/" DESTINATION "${CMAKE_INSTALL_DOCDIR}/licenses")
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_CONTACT "Gli autori di Abissora")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE "${ABISSORA_BUILD_NUMBER}")
+set(CPACK_DEBIAN_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# What the program takes from the system without linking it: fonts and the toolkit's Italian texts.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-inter, fonts-noto-color-emoji, qt6-translations-l10n")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
+include(CPack)
+
+if(ABISSORA_TESTS)
+  find_program(DESKTOP_FILE_VALIDATE_PROGRAM desktop-file-validate REQUIRED)
+  find_program(APPSTREAMCLI_PROGRAM appstreamcli REQUIRED)
+  find_program(GROFF_PROGRAM groff REQUIRED)
+  add_test(NAME packaging/desktop-entry COMMAND ${DESKTOP_FILE_VALIDATE_PROGRAM} "${packaging}/abissora.desktop")
+  add_test(NAME packaging/metainfo
+    COMMAND ${APPSTREAMCLI_PROGRAM} validate --no-net --strict "${packaging}/abissora.metainfo.xml")
+  # -z prints nothing but warnings.
+  add_test(NAME packaging/manual COMMAND ${GROFF_PROGRAM} -man -ww -z -K utf8 -T utf8 "${manual}")
+  set_tests_properties(packaging/manual PROPERTIES FAIL_REGULAR_EXPRESSION "warning|error")
+  add_test(NAME packaging/installation COMMAND ${CMAKE_COMMAND}
+    "-DBUILD=${PROJECT_BINARY_DIR}" "-DVERSION=${PROJECT_VERSION}" -P "${packaging}/check-installation.cmake")
+endif()
