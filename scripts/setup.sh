@@ -31,7 +31,7 @@ missing_packages() {
 # install_packages LIST...
 install_packages() {
   if ! command -v dpkg-query >/dev/null; then
-    say "Questo sistema non usa i pacchetti Debian: i programmi e le librerie elencati in scripts/packages vanno installati a mano."
+    say "Questo sistema non usa i pacchetti Debian: ciò che è elencato in scripts/packages va installato a mano."
     return
   fi
   local packages as_root=()
@@ -45,7 +45,7 @@ install_packages() {
     as_root=(sudo)
   fi
   say "Installo i pacchetti mancanti: ${packages[*]}"
-  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -y -o DPkg::Lock::Timeout=120)
+  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=120)
   "${apt[@]}" update >&2 || say "L'elenco dei pacchetti non si aggiorna: provo con quello che c'è."
   "${apt[@]}" install --no-install-recommends "${packages[@]}" >&2 </dev/null ||
     die "L'installazione non è riuscita. Eseguire come amministratore:" $'\n'"  $by_hand"
@@ -68,9 +68,9 @@ configure() {
   shift
   if [[ ! -e $generated ]]; then
     say "Preparo la compilazione ($preset)…"
-    (cd "$root" && cmake --preset "$preset" --log-level=WARNING "$@" >&2)
+    (cd "$root" && cmake --preset "$preset" --log-level=WARNING "$@" >/dev/null)
   elif [[ $root/CMakePresets.json -nt $generated || $root/node_modules/.installed-lock.json -nt $generated ]]; then
-    (cd "$root" && cmake --preset "$preset" --log-level=WARNING >&2)
+    (cd "$root" && cmake --preset "$preset" --log-level=WARNING >/dev/null)
   fi
 }
 
@@ -82,12 +82,22 @@ build() {
   cmake --build "$folder" --target "$target" --parallel "$(nproc)" >&2
 }
 
-# Qt wants UTF-8; a bare container has no locale at all.
-use_utf8() {
-  [[ $(locale charmap 2>/dev/null) == UTF-8 ]] && return
-  if [[ -n ${LC_ALL:-} ]]; then
-    export LC_ALL=C.UTF-8
-  else
-    export LC_CTYPE=C.UTF-8
+# A bare container has neither a locale in UTF-8 nor a folder for sockets, and the toolkit complains about both.
+complete_environment() {
+  if [[ $(locale charmap 2>/dev/null) != UTF-8 ]]; then
+    if [[ -n ${LC_ALL:-} ]]; then
+      export LC_ALL=C.UTF-8
+    else
+      export LC_CTYPE=C.UTF-8
+    fi
+  fi
+  if [[ -z ${XDG_RUNTIME_DIR:-} ]]; then
+    local folder
+    folder=${TMPDIR:-/tmp}/runtime-$(id -un)
+    mkdir -m 700 "$folder" 2>/dev/null || true
+    if [[ -O $folder && ! -L $folder ]]; then
+      chmod 700 "$folder"
+      export XDG_RUNTIME_DIR=$folder
+    fi
   fi
 }
