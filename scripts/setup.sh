@@ -44,10 +44,10 @@ install_packages() {
       die "Mancano dei pacchetti e sudo non c'è. Eseguire come amministratore:" $'\n'"  $by_hand"
     as_root=(sudo)
   fi
-  say "Installo i pacchetti mancanti: ${packages[*]}"
-  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=120)
-  "${apt[@]}" update >&2 || say "L'elenco dei pacchetti non si aggiorna: provo con quello che c'è."
-  "${apt[@]}" install --no-install-recommends "${packages[@]}" >&2 </dev/null ||
+  say "Installo i pacchetti mancanti (può volerci qualche minuto): ${packages[*]}"
+  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y -o DPkg::Lock::Timeout=120)
+  "${apt[@]}" update >/dev/null || say "L'elenco dei pacchetti non si aggiorna: provo con quello che c'è."
+  "${apt[@]}" install --no-install-recommends "${packages[@]}" </dev/null >/dev/null ||
     die "L'installazione non è riuscita. Eseguire come amministratore:" $'\n'"  $by_hand"
 }
 
