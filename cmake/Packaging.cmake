@@ -44,4 +44,5 @@ if(ABISSORA_TESTS)
   set_tests_properties(packaging/manual PROPERTIES FAIL_REGULAR_EXPRESSION "warning|error")
   add_test(NAME packaging/installation COMMAND ${CMAKE_COMMAND}
     "-DBUILD=${PROJECT_BINARY_DIR}" "-DVERSION=${PROJECT_VERSION}" -P "${packaging}/check-installation.cmake")
+  set_tests_properties(packaging/installation PROPERTIES ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 endif()
