@@ -17,6 +17,7 @@ struct Tokens
     QColor window;
     QColor sidebar;
     QColor surface; ///< cards and tables
+    QColor field;   ///< what text is typed into
     QColor border;
     QColor divider;
     QColor strongBorder; ///< controls

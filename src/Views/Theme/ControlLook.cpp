@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "ControlLook.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QVariant>
+
+namespace abissora {
+
+namespace {
+
+constexpr const char* buttonProperty = "abissoraButtonLook";
+constexpr const char* selectionProperty = "abissoraSelectionLook";
+
+} // namespace
+
+void setButtonLook(QAbstractButton& button, ButtonLook look)
+{
+    button.setProperty(buttonProperty, static_cast<int>(look));
+    button.updateGeometry();
+    button.update();
+}
+
+ButtonLook buttonLook(const QWidget* button, ButtonLook otherwise)
+{
+    const QVariant look = button != nullptr ? button->property(buttonProperty) : QVariant();
+    return look.isValid() ? static_cast<ButtonLook>(look.toInt()) : otherwise;
+}
+
+void setSelectionLook(QAbstractItemView& view, SelectionLook look)
+{
+    view.setProperty(selectionProperty, static_cast<int>(look));
+    view.viewport()->update();
+}
+
+SelectionLook selectionLook(const QWidget* view)
+{
+    const QVariant look = view != nullptr ? view->property(selectionProperty) : QVariant();
+    return look.isValid() ? static_cast<SelectionLook>(look.toInt()) : SelectionLook::Row;
+}
+
+} // namespace abissora

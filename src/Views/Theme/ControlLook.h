@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGlobal>
+
+class QAbstractButton;
+class QAbstractItemView;
+class QWidget;
+
+namespace abissora {
+
+enum class ButtonLook {
+    Plain,       ///< surface and border
+    Primary,     ///< the one thing that a screen is for
+    Destructive, ///< as Plain, its text in the colour of danger
+    Caution,     ///< as Plain, its text in the colour of warnings
+    Borderless,
+    Link, ///< accent text without a border
+};
+
+/// Push buttons are Plain and tool buttons Borderless until told otherwise.
+void setButtonLook(QAbstractButton& button, ButtonLook look);
+[[nodiscard]] ButtonLook buttonLook(const QWidget* button, ButtonLook otherwise);
+
+enum class SelectionLook {
+    Row,  ///< tinted from edge to edge, text unchanged
+    Pill, ///< filled with the accent, rounded, text in white: sidebars
+};
+
+/// Item views show selected rows as Row until told otherwise.
+void setSelectionLook(QAbstractItemView& view, SelectionLook look);
+[[nodiscard]] SelectionLook selectionLook(const QWidget* view);
+
+} // namespace abissora

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "Theme.h"
+
+#include "AbissoraStyle.h"
+#include "SchemePalette.h"
+
+#include <QApplication>
+#include <QToolTip>
+#include <memory>
+
+namespace abissora {
+
+namespace {
+
+QFont interfaceFont(QFont system)
+{
+    QStringList families{QStringLiteral("Inter")};
+    families += system.families();
+    system.setFamilies(families);
+    return system;
+}
+
+} // namespace
+
+void applyTheme(QApplication& application, Scheme scheme)
+{
+    if (qobject_cast<AbissoraStyle*>(application.style()) == nullptr) {
+        QApplication::setFont(interfaceFont(QApplication::font()));
+        QApplication::setStyle(std::make_unique<AbissoraStyle>().release());
+    }
+    const QPalette palette = paletteFor(scheme);
+    QApplication::setPalette(palette);
+    QToolTip::setPalette(palette);
+}
+
+} // namespace abissora
