@@ -5,9 +5,12 @@
 
 #include <QDateTime>
 #include <QTimeZone>
+#include <memory>
 #include <optional>
 
 namespace abissora {
+
+class ZoneOffsets;
 
 /// The user's Gregorian calendar in one time zone. A local time that a clock change skips is moved forward by the
 /// length of the gap; one that happens twice is its first occurrence.
@@ -16,12 +19,14 @@ class Calendar
 public:
     /// Follows the system's zone, also when it changes while the program runs.
     Calendar() = default;
-    explicit Calendar(QTimeZone zone);
+    /// UTC when `zone` is invalid.
+    explicit Calendar(const QTimeZone& zone);
 
     [[nodiscard]] QTimeZone zone() const;
 
-    /// The same instant as a local date and time, and back. An invalid QDateTime gives nothing.
+    /// The same instant as a local date and time.
     [[nodiscard]] QDateTime local(Instant instant) const;
+    /// Nothing for an invalid day or time, or outside the years 1 to 9999.
     [[nodiscard]] std::optional<Instant> instant(QDate day, QTime time) const;
 
     /// Nothing when the result lies outside what the calendar can form (years 1 to 9999).
@@ -36,7 +41,9 @@ public:
     [[nodiscard]] std::optional<std::int64_t> daysBetween(Instant from, Instant to) const;
 
 private:
-    std::optional<QTimeZone> m_zone;
+    [[nodiscard]] std::shared_ptr<const ZoneOffsets> offsets() const;
+
+    std::shared_ptr<const ZoneOffsets> m_offsets; // null: the system's
 };
 
 } // namespace abissora

@@ -14,13 +14,19 @@ public:
     virtual void print(const QString& text) = 0;
 };
 
-/// Standard output as UTF-8. A closed or broken output is forgotten in silence.
+/// Standard output as UTF-8, past the buffers of stdio and iostreams. A closed or broken output is forgotten in
+/// silence, for good; a reader that went away raises no SIGPIPE. Waits for a slow reader.
 class StandardOutput final : public Console
 {
 public:
+    StandardOutput();
+    /// Another open file descriptor, which stays the caller's.
+    explicit StandardOutput(int descriptor);
+
     void print(const QString& text) override;
 
 private:
+    int m_descriptor;
     bool m_broken = false;
 };
 

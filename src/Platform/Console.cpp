@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "Console.h"
+
+#include <QByteArray>
+#include <cerrno>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <poll.h>
+#include <unistd.h>
+#else
+#include <io.h>
+#endif
+
+namespace abissora {
+
+namespace {
+
+constexpr int standardOutput = 1;
+
+#ifdef Q_OS_UNIX
+
+/// Keeps a write to a pipe without reader from raising SIGPIPE in this thread, without touching the disposition that
+/// the rest of the process and its children see.
+class SigpipeGuard
+{
+public:
+    SigpipeGuard()
+    {
+        sigemptyset(&m_sigpipe);
+        sigaddset(&m_sigpipe, SIGPIPE);
+        m_pendingBefore = isPending();
+        pthread_sigmask(SIG_BLOCK, &m_sigpipe, &m_maskBefore);
+    }
+    ~SigpipeGuard()
+    {
+        if (!m_pendingBefore && isPending()) {
+            int taken = 0;
+            sigwait(&m_sigpipe, &taken);
+        }
+        pthread_sigmask(SIG_SETMASK, &m_maskBefore, nullptr);
+    }
+    Q_DISABLE_COPY_MOVE(SigpipeGuard)
+
+private:
+    static bool isPending()
+    {
+        sigset_t pending;
+        sigemptyset(&pending);
+        sigpending(&pending);
+        return sigismember(&pending, SIGPIPE) == 1;
+    }
+
+    sigset_t m_sigpipe{};
+    sigset_t m_maskBefore{};
+    bool m_pendingBefore = false;
+};
+
+bool waitUntilWritable(int descriptor)
+{
+    pollfd waiting{descriptor, POLLOUT, 0};
+    return poll(&waiting, 1, -1) >= 0 || errno == EINTR;
+}
+
+bool writeAll(int descriptor, const QByteArray& bytes)
+{
+    const SigpipeGuard guard;
+    const char* next = bytes.constData();
+    auto left = static_cast<std::size_t>(bytes.size());
+    while (left > 0) {
+        const ssize_t written = ::write(descriptor, next, left);
+        if (written > 0) {
+            next += written;
+            left -= static_cast<std::size_t>(written);
+        } else if (written < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) {
+            if (!waitUntilWritable(descriptor))
+                return false;
+        } else if (written == 0 || errno != EINTR) {
+            return false;
+        }
+    }
+    return true;
+}
+
+#else
+
+bool writeAll(int descriptor, const QByteArray& bytes)
+{
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const int written = _write(descriptor, bytes.constData() + done, static_cast<unsigned>(bytes.size() - done));
+        if (written <= 0)
+            return false;
+        done += written;
+    }
+    return true;
+}
+
+#endif
+
+} // namespace
+
+StandardOutput::StandardOutput()
+    : StandardOutput(standardOutput)
+{}
+
+StandardOutput::StandardOutput(int descriptor)
+    : m_descriptor(descriptor)
+{}
+
+void StandardOutput::print(const QString& text)
+{
+    if (m_broken)
+        return;
+    QByteArray bytes = text.toUtf8();
+    bytes.append('\n');
+    m_broken = !writeAll(m_descriptor, bytes);
+}
+
+} // namespace abissora

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "PackageInformation.h"
+
+#include <QCoreApplication>
+
+namespace abissora {
+
+QVariant BuiltInPackageInformation::value(const QString& key) const
+{
+    if (key == QLatin1String("CFBundleShortVersionString"))
+        return QStringLiteral(ABISSORA_VERSION);
+    if (key == QLatin1String("CFBundleVersion"))
+        return QStringLiteral(ABISSORA_BUILD);
+    return {};
+}
+
+std::optional<QString> BuiltInPackageInformation::executablePath() const
+{
+    if (!QCoreApplication::instance())
+        return std::nullopt;
+    const QString path = QCoreApplication::applicationFilePath();
+    return path.isEmpty() ? std::nullopt : std::optional(path);
+}
+
+} // namespace abissora

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "PosixFile.h"
+
+#include <QFile>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace abissora::posix {
+
+namespace {
+
+/// Repeats a system call that a signal interrupted.
+template <typename Call>
+auto uninterrupted(Call call)
+{
+    auto result = call();
+    while (result < 0 && errno == EINTR)
+        result = call();
+    return result;
+}
+
+IoResult<void> result(int returned)
+{
+    if (returned != 0)
+        return failure(errno);
+    return {};
+}
+
+IoResult<Descriptor> open(const QByteArray& name, int flags)
+{
+    constexpr mode_t ownersFile = 0600;
+    const int descriptor = uninterrupted([&] { return ::open(name.constData(), flags | O_CLOEXEC, ownersFile); });
+    if (descriptor < 0)
+        return failure(errno);
+    return Descriptor(descriptor);
+}
+
+} // namespace
+
+tl::unexpected<IoError> failure(int error)
+{
+    return tl::unexpected(IoError::fromErrno(error));
+}
+
+Descriptor::~Descriptor()
+{
+    if (m_value >= 0)
+        ::close(m_value);
+}
+
+Descriptor::Descriptor(Descriptor&& other) noexcept
+    : m_value(std::exchange(other.m_value, -1))
+{}
+
+IoResult<QByteArray> systemName(const QString& path)
+{
+    if (path.contains(QChar::Null))
+        return failure(EINVAL);
+    return QFile::encodeName(path);
+}
+
+IoResult<Descriptor> openRegular(const QString& path)
+{
+    // Non-blocking, so that a pipe without a writer cannot hold the program.
+    auto file = systemName(path).and_then([](const QByteArray& name) { return open(name, O_RDONLY | O_NONBLOCK); });
+    if (!file)
+        return file;
+    struct stat status
+    {};
+    if (::fstat(file->get(), &status) != 0)
+        return failure(errno);
+    if (S_ISDIR(status.st_mode))
+        return failure(EISDIR);
+    if (!S_ISREG(status.st_mode))
+        return failure(EINVAL);
+    return file;
+}
+
+IoResult<Descriptor> openFolder(const QString& path)
+{
+    return systemName(path).and_then([](const QByteArray& name) { return open(name, O_RDONLY | O_DIRECTORY); });
+}
+
+IoResult<Descriptor> createFile(const QByteArray& name)
+{
+    return open(name, O_WRONLY | O_CREAT | O_EXCL);
+}
+
+IoResult<void> writeAll(int descriptor, const char* bytes, std::size_t size)
+{
+    while (size > 0) {
+        const ssize_t written = uninterrupted([&] { return ::write(descriptor, bytes, size); });
+        if (written < 0)
+            return failure(errno);
+        bytes += written;
+        size -= static_cast<std::size_t>(written);
+    }
+    return {};
+}
+
+IoResult<std::size_t> readSome(int descriptor, char* bytes, std::size_t size)
+{
+    const ssize_t count = uninterrupted([&] { return ::read(descriptor, bytes, size); });
+    if (count < 0)
+        return failure(errno);
+    return static_cast<std::size_t>(count);
+}
+
+IoResult<void> syncFile(int descriptor)
+{
+#ifdef F_FULLFSYNC
+    if (::fcntl(descriptor, F_FULLFSYNC) == 0)
+        return {};
+#endif
+    return result(uninterrupted([&] { return ::fsync(descriptor); }));
+}
+
+IoResult<void> syncFolder(int descriptor)
+{
+    auto synced = syncFile(descriptor);
+    // Some file systems have no way to sync a folder; nothing better can be had there.
+    if (!synced && (synced.error() == IoError::fromErrno(EINVAL) || synced.error() == IoError::fromErrno(ENOTSUP)))
+        return {};
+    return synced;
+}
+
+IoResult<void> makeOneFolder(const QByteArray& name)
+{
+    constexpr mode_t ownersFolder = 0700;
+    return result(::mkdir(name.constData(), ownersFolder));
+}
+
+IoResult<void> rename(const QByteArray& source, const QByteArray& target)
+{
+    return result(::rename(source.constData(), target.constData()));
+}
+
+IoResult<void> renameNew(const QByteArray& source, const QByteArray& target)
+{
+#ifdef RENAME_NOREPLACE
+    if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+        return {};
+    if (errno != EINVAL && errno != ENOSYS)
+        return failure(errno);
+#endif
+    auto linked = link(source, target);
+    if (linked)
+        ::unlink(source.constData());
+    return linked;
+}
+
+IoResult<void> link(const QByteArray& source, const QByteArray& target)
+{
+    return result(::link(source.constData(), target.constData()));
+}
+
+} // namespace abissora::posix
