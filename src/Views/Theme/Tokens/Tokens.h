@@ -34,6 +34,7 @@ struct Tokens
     QColor dangerTint;
     QColor ok;
     QColor warning;
+    QColor scrim; ///< over what a sheet covers; translucent
 
     [[nodiscard]] QColor named(NamedColor color) const;
 

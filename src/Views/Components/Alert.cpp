@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "Alert.h"
+
+#include "Accessibility.h"
+#include "Buttons.h"
+#include "Metrics.h"
+#include "TypeScale.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace abissora {
+
+namespace {
+
+constexpr int alertWidth = 400;
+
+} // namespace
+
+Alert::Alert(QWidget* parent)
+    : SheetWindow(parent)
+    , m_title(new QLabel)
+    , m_message(new QLabel)
+    , m_safe(new PlainButton(QStringLiteral("Annulla")))
+    , m_destructive(new DestructiveButton(QStringLiteral("Elimina")))
+{
+    provideAccessibility();
+    m_title->setFont(abissora::font(TextStyle::Headline));
+    for (QLabel* label : {m_title, m_message}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+    }
+    m_message->setForegroundRole(QPalette::PlaceholderText);
+    m_safe->setObjectName(QStringLiteral("safe"));
+    m_safe->setDefault(true);
+    m_destructive->setObjectName(QStringLiteral("destructive"));
+
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(metrics::spaceS);
+    buttons->addStretch();
+    buttons->addWidget(m_safe);
+    buttons->addWidget(m_destructive);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(metrics::spaceXL, metrics::spaceXL - 4, metrics::spaceXL, metrics::spaceXL - 4);
+    layout->setSpacing(metrics::spaceS);
+    layout->addWidget(m_title);
+    layout->addWidget(m_message);
+    layout->addSpacing(metrics::spaceM);
+    layout->addLayout(buttons);
+
+    // The person shall see which button Return presses, however the alert was opened.
+    setAttribute(Qt::WA_KeyboardFocusChange);
+    connect(m_safe, &QAbstractButton::clicked, this, &QDialog::reject);
+    connect(m_destructive, &QAbstractButton::clicked, this, &QDialog::accept);
+}
+
+void Alert::setTitle(const QString& title)
+{
+    setWindowTitle(title);
+    m_title->setText(title);
+}
+
+void Alert::setMessage(const QString& message)
+{
+    m_message->setText(message);
+    setAccessibleDescription(message);
+}
+
+QString Alert::message() const
+{
+    return m_message->text();
+}
+
+void Alert::setDestructiveText(const QString& text)
+{
+    m_destructive->setText(text);
+}
+
+void Alert::makeNotice(const QString& buttonText)
+{
+    m_destructive->hide();
+    m_safe->setText(buttonText);
+}
+
+QSize Alert::preferredSize() const
+{
+    const int width = withText(alertWidth, fontMetrics());
+    return {width, layout()->totalHeightForWidth(width)};
+}
+
+QWidget* Alert::firstFocus() const
+{
+    return m_safe;
+}
+
+} // namespace abissora

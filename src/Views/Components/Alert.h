@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "SheetWindow.h"
+
+class QLabel;
+
+namespace abissora {
+
+class DestructiveButton;
+class PlainButton;
+
+/// Asks before something is destroyed: accepted by "Elimina", rejected by "Annulla", which is the default button and
+/// answers Escape. As a notice it has one button, which rejects.
+class Alert : public SheetWindow
+{
+    Q_OBJECT
+
+public:
+    explicit Alert(QWidget* parent = nullptr);
+
+    void setTitle(const QString& title);
+    void setMessage(const QString& message);
+    [[nodiscard]] QString message() const;
+    void setDestructiveText(const QString& text);
+    void makeNotice(const QString& buttonText = QStringLiteral("OK"));
+
+    [[nodiscard]] PlainButton* safeButton() const { return m_safe; }
+    [[nodiscard]] DestructiveButton* destructiveButton() const { return m_destructive; }
+
+protected:
+    [[nodiscard]] QSize preferredSize() const override;
+    [[nodiscard]] QWidget* firstFocus() const override;
+
+private:
+    QLabel* m_title;
+    QLabel* m_message;
+    PlainButton* m_safe;
+    DestructiveButton* m_destructive;
+};
+
+} // namespace abissora

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "Buttons.h"
+
+#include "SymbolIcon.h"
+#include "Tokens.h"
+
+namespace abissora {
+
+namespace {
+
+QIcon symbolFor(ButtonLook look, const QString& name)
+{
+    switch (look) {
+    case ButtonLook::Primary:
+        return symbolIcon(name, Tokens::of(Scheme::Light).onFill); // the same in both schemes
+    case ButtonLook::Destructive:
+        return symbolIcon(name, NamedColor::red);
+    case ButtonLook::Caution:
+        return symbolIcon(name, NamedColor::orange);
+    case ButtonLook::Link:
+        return symbolIcon(name, NamedColor::blue);
+    case ButtonLook::Plain:
+    case ButtonLook::Borderless:
+        break;
+    }
+    return symbolIcon(name);
+}
+
+} // namespace
+
+LookButton::LookButton(ButtonLook look, const QString& text, QWidget* parent)
+    : QPushButton(text, parent)
+    , m_look(look)
+{
+    setButtonLook(*this, look);
+    setAutoDefault(false);
+}
+
+void LookButton::setSymbol(const QString& name)
+{
+    setIcon(symbolFor(m_look, name));
+}
+
+PrimaryButton::PrimaryButton(const QString& text, QWidget* parent)
+    : LookButton(ButtonLook::Primary, text, parent)
+{}
+
+PlainButton::PlainButton(const QString& text, QWidget* parent)
+    : LookButton(ButtonLook::Plain, text, parent)
+{}
+
+DestructiveButton::DestructiveButton(const QString& text, QWidget* parent)
+    : LookButton(ButtonLook::Destructive, text, parent)
+{}
+
+LinkButton::LinkButton(const QString& text, QWidget* parent)
+    : LookButton(ButtonLook::Link, text, parent)
+{}
+
+IconButton::IconButton(const QIcon& icon, const QString& name, QWidget* parent)
+    : QToolButton(parent)
+{
+    setIcon(icon);
+    setAccessibleName(name);
+    setToolTip(name);
+    setAutoRaise(true);
+    setFocusPolicy(Qt::StrongFocus);
+}
+
+} // namespace abissora

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ControlLook.h"
+
+#include <QPushButton>
+#include <QToolButton>
+
+namespace abissora {
+
+/// A push button in one look. None is made the default button by merely having the focus.
+class LookButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    LookButton(ButtonLook look, const QString& text, QWidget* parent);
+
+    /// The symbol in the colour of the look's text.
+    void setSymbol(const QString& name);
+
+private:
+    ButtonLook m_look;
+};
+
+class PrimaryButton final : public LookButton
+{
+    Q_OBJECT
+
+public:
+    explicit PrimaryButton(const QString& text, QWidget* parent = nullptr);
+};
+
+class PlainButton final : public LookButton
+{
+    Q_OBJECT
+
+public:
+    explicit PlainButton(const QString& text, QWidget* parent = nullptr);
+};
+
+class DestructiveButton final : public LookButton
+{
+    Q_OBJECT
+
+public:
+    explicit DestructiveButton(const QString& text, QWidget* parent = nullptr);
+};
+
+class LinkButton final : public LookButton
+{
+    Q_OBJECT
+
+public:
+    explicit LinkButton(const QString& text, QWidget* parent = nullptr);
+};
+
+/// A button without text; its name is read by screen readers and shown as tool tip.
+class IconButton final : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    IconButton(const QIcon& icon, const QString& name, QWidget* parent = nullptr);
+};
+
+} // namespace abissora

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include "Chip.h"
+
+#include "Accessibility.h"
+#include "Buttons.h"
+#include "IconView.h"
+#include "Metrics.h"
+#include "Painting.h"
+#include "SymbolIcon.h"
+#include "Tokens.h"
+#include "TypeScale.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+
+namespace abissora {
+
+Chip::Chip(QWidget* parent)
+    : QFrame(parent)
+    , m_icon(new IconView({}, metrics::iconSize))
+    , m_text(new QLabel)
+    , m_clear(new IconButton(symbolIcon(QStringLiteral("xmark.circle.fill"), NamedColor::secondary), {}))
+{
+    provideAccessibility();
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    m_text->setFont(abissora::font(TextStyle::Caption));
+    m_text->setTextFormat(Qt::PlainText);
+    m_clear->setObjectName(QStringLiteral("clear"));
+    m_clear->setFixedSize(metrics::spaceXL - 2, metrics::spaceXL - 2);
+    setClearName(QStringLiteral("Cancella filtri"));
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(metrics::spaceS + 2, 2, metrics::spaceXS, 2);
+    layout->setSpacing(metrics::spaceXS + 1);
+    layout->addWidget(m_icon);
+    layout->addWidget(m_text);
+    layout->addWidget(m_clear);
+    connect(m_clear, &QAbstractButton::clicked, this, &Chip::clearClicked);
+}
+
+void Chip::setIcon(const QIcon& icon)
+{
+    m_icon->setIcon(icon);
+}
+
+void Chip::setText(const QString& text)
+{
+    m_text->setText(text);
+    setAccessibleName(text);
+}
+
+QString Chip::text() const
+{
+    return m_text->text();
+}
+
+void Chip::setClearName(const QString& name)
+{
+    m_clear->setAccessibleName(name);
+    m_clear->setToolTip(name);
+}
+
+void Chip::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    drawPanel(painter, rect(), height() / 2.0, Tokens::of(palette()).accentTint, {});
+}
+
+} // namespace abissora

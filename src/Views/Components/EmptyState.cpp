@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "EmptyState.h"
+
+#include "Accessibility.h"
+#include "Buttons.h"
+#include "IconView.h"
+#include "Metrics.h"
+#include "SymbolIcon.h"
+#include "TypeScale.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace abissora {
+
+namespace {
+
+constexpr int symbolSide = 44;
+
+QLabel* secondaryLabel(TextStyle style)
+{
+    auto* label = new QLabel;
+    label->setFont(abissora::font(style));
+    label->setForegroundRole(QPalette::PlaceholderText);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    return label;
+}
+
+} // namespace
+
+EmptyState::EmptyState(QWidget* parent)
+    : QWidget(parent)
+    , m_icon(new IconView({}, symbolSide))
+    , m_title(secondaryLabel(TextStyle::Headline))
+    , m_text(secondaryLabel(TextStyle::Body))
+    , m_button(new PlainButton({}))
+{
+    provideAccessibility();
+    m_text->hide();
+    m_button->hide();
+    m_button->setObjectName(QStringLiteral("emptyStateButton"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceXL);
+    layout->setSpacing(metrics::spaceM);
+    layout->addStretch();
+    layout->addWidget(m_icon, 0, Qt::AlignHCenter);
+    layout->addWidget(m_title);
+    layout->addWidget(m_text);
+    layout->addWidget(m_button, 0, Qt::AlignHCenter);
+    layout->addStretch();
+    connect(m_button, &QAbstractButton::clicked, this, &EmptyState::buttonClicked);
+}
+
+EmptyState::EmptyState(const QString& symbol, const QString& title, QWidget* parent)
+    : EmptyState(parent)
+{
+    setSymbol(symbol);
+    setTitle(title);
+}
+
+void EmptyState::setSymbol(const QString& name)
+{
+    m_icon->setIcon(symbolIcon(name, NamedColor::secondary));
+}
+
+void EmptyState::setTitle(const QString& title)
+{
+    m_title->setText(title);
+    setAccessibleName(title);
+}
+
+void EmptyState::setText(const QString& text)
+{
+    m_text->setText(text);
+    m_text->setVisible(!text.isEmpty());
+}
+
+void EmptyState::setButtonText(const QString& text)
+{
+    m_button->setText(text);
+    m_button->setVisible(!text.isEmpty());
+}
+
+} // namespace abissora

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "FormRow.h"
+
+#include "Metrics.h"
+#include "TypeScale.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace abissora {
+
+FormRow::FormRow(const QString& label, QWidget* field, QWidget* parent)
+    : QWidget(parent)
+{
+    auto* name = new QLabel(label);
+    name->setForegroundRole(QPalette::PlaceholderText);
+    name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    name->setBuddy(field);
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setHorizontalSpacing(metrics::spaceM);
+    layout->setVerticalSpacing(metrics::spaceXS);
+    layout->setColumnMinimumWidth(0, withText(labelColumn, fontMetrics()));
+    layout->setColumnStretch(1, 1);
+    const bool tall = field->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag;
+    layout->addWidget(name, 0, 0, tall ? Qt::AlignTop : Qt::AlignVCenter);
+    const bool narrow = !(field->sizePolicy().horizontalPolicy() & (QSizePolicy::ExpandFlag | QSizePolicy::GrowFlag));
+    layout->addWidget(field, 0, 1, narrow ? Qt::AlignLeft : Qt::Alignment());
+}
+
+void FormRow::setHint(const QString& hint)
+{
+    if (m_hint == nullptr) {
+        m_hint = new QLabel;
+        m_hint->setFont(abissora::font(TextStyle::Caption));
+        m_hint->setForegroundRole(QPalette::PlaceholderText);
+        m_hint->setTextFormat(Qt::PlainText);
+        m_hint->setWordWrap(true);
+        static_cast<QGridLayout*>(layout())->addWidget(m_hint, 1, 1);
+    }
+    m_hint->setText(hint);
+    m_hint->setVisible(!hint.isEmpty());
+}
+
+} // namespace abissora

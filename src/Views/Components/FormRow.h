@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+
+namespace abissora {
+
+/// A field behind its label. The label stands right-aligned in a column as wide in every row of the form, and names the
+/// field to screen readers.
+class FormRow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int labelColumn = 150; ///< at the usual text size
+
+    /// Takes the field over. A field that does not want the whole width says so by its size policy.
+    FormRow(const QString& label, QWidget* field, QWidget* parent = nullptr);
+
+    /// A text below the field.
+    void setHint(const QString& hint);
+
+private:
+    QLabel* m_hint = nullptr;
+};
+
+} // namespace abissora

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QIcon>
+#include <QLabel>
+
+namespace abissora {
+
+/// Plain text behind an icon.
+class IconLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit IconLabel(const QIcon& icon = {}, const QString& text = {}, QWidget* parent = nullptr);
+
+    void setIcon(const QIcon& icon);
+    void setIconSide(int side);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void makeRoom();
+
+    QIcon m_icon;
+    int m_side;
+};
+
+} // namespace abissora

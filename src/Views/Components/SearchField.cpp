@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "SearchField.h"
+
+#include "SymbolIcon.h"
+
+#include <QAction>
+#include <QKeyEvent>
+
+namespace abissora {
+
+SearchField::SearchField(const QString& placeholder, QWidget* parent)
+    : QLineEdit(parent)
+    , m_clear(new QAction(this))
+{
+    setPlaceholderText(placeholder);
+    setAccessibleName(placeholder);
+    auto* lens = new QAction(this);
+    lens->setIcon(symbolIcon(QStringLiteral("magnifyingglass"), NamedColor::secondary));
+    connect(lens, &QAction::triggered, this, [this] { setFocus(Qt::MouseFocusReason); });
+    addAction(lens, QLineEdit::LeadingPosition);
+
+    m_clear->setObjectName(QStringLiteral("clear"));
+    m_clear->setIcon(symbolIcon(QStringLiteral("xmark.circle.fill"), NamedColor::secondary));
+    m_clear->setVisible(false);
+    setClearName(QStringLiteral("Cancella la ricerca"));
+    addAction(m_clear, QLineEdit::TrailingPosition);
+    connect(m_clear, &QAction::triggered, this, &SearchField::clearByPerson);
+    connect(this, &QLineEdit::textChanged, m_clear,
+            [this](const QString& text) { m_clear->setVisible(!text.isEmpty()); });
+}
+
+void SearchField::setClearName(const QString& name)
+{
+    m_clear->setText(name);
+    m_clear->setToolTip(name);
+}
+
+void SearchField::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && !text().isEmpty()) {
+        clearByPerson();
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void SearchField::clearByPerson()
+{
+    if (text().isEmpty())
+        return;
+    clear();
+    setFocus(Qt::OtherFocusReason);
+    Q_EMIT textEdited(QString());
+}
+
+} // namespace abissora

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "Sheet.h"
+
+#include "Buttons.h"
+#include "Metrics.h"
+#include "Separator.h"
+#include "TypeScale.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace abissora {
+
+namespace {
+
+constexpr int formWidth = 560;
+constexpr int sideMargin = 18;
+
+} // namespace
+
+Sheet::Sheet(const QString& title, QWidget* parent)
+    : SheetWindow(parent)
+    , m_title(new QLabel)
+    , m_cancel(new PlainButton(QStringLiteral("Annulla")))
+    , m_primary(new PrimaryButton({}))
+    , m_scroll(new QScrollArea)
+    , m_body(new QVBoxLayout)
+{
+    setTitle(title);
+    m_cancel->setObjectName(QStringLiteral("cancel"));
+    m_primary->setObjectName(QStringLiteral("primary"));
+    m_primary->hide();
+
+    auto* body = new QWidget;
+    body->setLayout(m_body);
+    m_body->setContentsMargins(sideMargin, metrics::spaceL, sideMargin, metrics::spaceL);
+    m_body->setSpacing(metrics::spaceL - 2);
+    m_scroll->setWidget(body);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->viewport()->setAutoFillBackground(false);
+    body->setAutoFillBackground(false);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setSpacing(0);
+    layout->addWidget(makeHeader());
+    layout->addWidget(new Separator);
+    layout->addWidget(m_scroll, 1);
+
+    connect(m_cancel, &QAbstractButton::clicked, this, &QDialog::reject);
+    connect(m_primary, &QAbstractButton::clicked, this, &Sheet::primaryClicked);
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter})
+        connect(new QShortcut(QKeySequence(Qt::CTRL | key), this), &QShortcut::activated, this, &Sheet::pressPrimary);
+}
+
+QWidget* Sheet::makeHeader()
+{
+    m_title->setFont(abissora::font(TextStyle::Headline));
+    m_title->setTextFormat(Qt::PlainText);
+    auto* header = new QWidget;
+    auto* layout = new QGridLayout(header);
+    layout->setContentsMargins(sideMargin, metrics::spaceM + 2, sideMargin, metrics::spaceM + 2);
+    layout->setColumnStretch(0, 1);
+    layout->setColumnStretch(2, 1);
+    layout->addWidget(m_cancel, 0, 0, Qt::AlignLeft);
+    layout->addWidget(m_title, 0, 1, Qt::AlignCenter);
+    layout->addWidget(m_primary, 0, 2, Qt::AlignRight);
+    return header;
+}
+
+void Sheet::setTitle(const QString& title)
+{
+    setWindowTitle(title);
+    m_title->setText(title);
+}
+
+void Sheet::setPrimaryText(const QString& text)
+{
+    m_primary->setText(text);
+    m_primary->setVisible(!text.isEmpty());
+}
+
+void Sheet::setContent(QWidget* content)
+{
+    m_scroll->hide();
+    delete m_content;
+    m_content = content;
+    static_cast<QVBoxLayout*>(layout())->addWidget(content, 1);
+}
+
+void Sheet::setPreferredSize(QSize size)
+{
+    m_preferred = size;
+}
+
+void Sheet::setFirstField(QWidget* field)
+{
+    m_firstField = field;
+}
+
+void Sheet::pressPrimary()
+{
+    if (m_primary->isVisible())
+        m_primary->click();
+}
+
+QSize Sheet::preferredSize() const
+{
+    if (m_preferred.isValid())
+        return m_preferred;
+    const QSize content = m_content != nullptr ? m_content->sizeHint() : m_scroll->widget()->sizeHint();
+    const int header = m_cancel->parentWidget()->sizeHint().height() + 3;
+    const int width = std::max(withText(formWidth, fontMetrics()), content.width() + 2);
+    const QWidget* const body = m_scroll->widget();
+    const int height =
+        m_content == nullptr && body->hasHeightForWidth() ? body->heightForWidth(width) : content.height();
+    return {width, header + height};
+}
+
+QWidget* Sheet::firstFocus() const
+{
+    if (m_firstField)
+        return m_firstField;
+    const QWidget* const inside = m_content != nullptr ? m_content : m_scroll->widget();
+    for (QWidget* next = inside->nextInFocusChain(); next != inside; next = next->nextInFocusChain()) {
+        const bool takesFocus = (next->focusPolicy() & Qt::TabFocus) && next->isEnabled() && next->isVisibleTo(this);
+        if (takesFocus && inside->isAncestorOf(next))
+            return next;
+    }
+    return m_cancel;
+}
+
+} // namespace abissora

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "SheetWindow.h"
+
+#include "Metrics.h"
+#include "Painting.h"
+#include "Scrim.h"
+#include "Tokens.h"
+#include "WindowShape.h"
+
+#include <QEvent>
+#include <QLayout>
+#include <QPainter>
+#include <QScreen>
+
+namespace abissora {
+
+namespace {
+
+constexpr int distanceToEdge = metrics::spaceXL;
+
+} // namespace
+
+SheetWindow::SheetWindow(QWidget* parent)
+    : QDialog(parent != nullptr ? parent->window() : nullptr, Qt::Dialog | Qt::FramelessWindowHint)
+{
+    setWindowModality(Qt::WindowModal);
+    if (windowsCanBeTranslucent())
+        setAttribute(Qt::WA_TranslucentBackground);
+    if (QWidget* const below = mainWindow())
+        below->installEventFilter(this);
+}
+
+SheetWindow::~SheetWindow()
+{
+    delete m_scrim;
+}
+
+void SheetWindow::done(int result)
+{
+    uncover();
+    QDialog::done(result);
+}
+
+void SheetWindow::setVisible(bool visible)
+{
+    if (visible && !isVisible()) {
+        place();
+        cover();
+    }
+    QDialog::setVisible(visible);
+    if (visible) {
+        if (QWidget* const first = firstFocus())
+            first->setFocus(Qt::TabFocusReason);
+    } else {
+        uncover();
+        if (m_opener && m_opener->isVisible())
+            m_opener->setFocus(Qt::PopupFocusReason);
+    }
+}
+
+QWidget* SheetWindow::mainWindow() const
+{
+    QWidget* window = parentWidget();
+    while (qobject_cast<SheetWindow*>(window) != nullptr && window->parentWidget() != nullptr)
+        window = window->parentWidget()->window();
+    return window;
+}
+
+void SheetWindow::place()
+{
+    const QWidget* const below = mainWindow();
+    const QRect room = below != nullptr ? below->geometry() : screen()->availableGeometry();
+    const QSize most(room.width() - 2 * distanceToEdge, room.height() - 2 * distanceToEdge);
+    ensurePolished();
+    resize(preferredSize().boundedTo(most).expandedTo(minimumSizeHint()));
+    QRect frame(QPoint(), size());
+    frame.moveCenter(room.center());
+    move(frame.topLeft());
+}
+
+void SheetWindow::cover()
+{
+    if (parentWidget() == nullptr)
+        return;
+    m_opener = parentWidget()->focusWidget();
+    const bool sheetBelow = qobject_cast<SheetWindow*>(parentWidget()) != nullptr;
+    m_scrim = new Scrim(parentWidget(), sheetBelow ? metrics::sheetRadius : 0);
+}
+
+void SheetWindow::uncover()
+{
+    delete m_scrim;
+}
+
+bool SheetWindow::event(QEvent* event)
+{
+    const bool handled = QDialog::event(event);
+    if (event->type() == QEvent::LayoutRequest && isVisible())
+        place();
+    return handled;
+}
+
+bool SheetWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool moved = event->type() == QEvent::Move || event->type() == QEvent::Resize;
+    if (moved && watched == mainWindow() && isVisible())
+        place();
+    return QDialog::eventFilter(watched, event);
+}
+
+void SheetWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const Tokens& tokens = Tokens::of(palette());
+    drawPanel(painter, rect(), metrics::sheetRadius, tokens.window, tokens.border);
+}
+
+void SheetWindow::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    if (!windowsCanBeTranslucent())
+        setMask(roundedRegion(rect(), metrics::sheetRadius));
+}
+
+} // namespace abissora

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+#include <QPointer>
+
+namespace abissora {
+
+class Scrim;
+
+/// A rounded window-modal dialog without a frame, centred over the window it belongs to, which it dims. When it closes,
+/// the focus goes back to where it was.
+class SheetWindow : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit SheetWindow(QWidget* parent);
+    ~SheetWindow() override;
+
+    void done(int result) override;
+
+protected:
+    /// What the sheet would like to have; less when the window below is smaller.
+    [[nodiscard]] virtual QSize preferredSize() const = 0;
+    [[nodiscard]] virtual QWidget* firstFocus() const = 0;
+
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void setVisible(bool visible) override;
+
+private:
+    [[nodiscard]] QWidget* mainWindow() const;
+    void place();
+    void cover();
+    void uncover();
+
+    QPointer<QWidget> m_opener;
+    QPointer<Scrim> m_scrim;
+};
+
+} // namespace abissora

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "Stepper.h"
+
+#include "Accessibility.h"
+
+#include <QAccessible>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyleOptionSpinBox>
+#include <QWheelEvent>
+#include <algorithm>
+
+namespace abissora {
+
+Stepper::Stepper(QWidget* parent)
+    : QAbstractSpinBox(parent)
+{
+    provideAccessibility();
+    setButtonSymbols(PlusMinus);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setFocusPolicy(Qt::StrongFocus); // not by the wheel, which then belongs to the scroll area around
+    lineEdit()->setReadOnly(true);
+    lineEdit()->setFocusPolicy(Qt::NoFocus);
+    lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
+    show(m_value);
+}
+
+void Stepper::setValue(qint64 value)
+{
+    if (value != m_value)
+        show(value);
+}
+
+void Stepper::setRange(qint64 minimum, qint64 maximum)
+{
+    m_minimum = minimum;
+    m_maximum = maximum;
+    updateGeometry();
+    update();
+}
+
+void Stepper::setSingleStep(qint64 step)
+{
+    m_step = step;
+}
+
+void Stepper::setSuffix(const QString& suffix)
+{
+    m_suffix = suffix;
+    show(m_value);
+    updateGeometry();
+}
+
+void Stepper::edit(qint64 value)
+{
+    const qint64 held = std::clamp(value, m_minimum, m_maximum);
+    if (held == m_value)
+        return;
+    show(held);
+    Q_EMIT edited(held);
+}
+
+void Stepper::stepBy(int steps)
+{
+    // From a value outside the range a step leads back into it, never further out.
+    edit(std::clamp(m_value, m_minimum, m_maximum) == m_value ? m_value + steps * m_step : m_value);
+}
+
+QAbstractSpinBox::StepEnabled Stepper::stepEnabled() const
+{
+    StepEnabled enabled = StepNone;
+    if (m_value < m_maximum)
+        enabled |= StepUpEnabled;
+    if (m_value > m_minimum)
+        enabled |= StepDownEnabled;
+    return enabled;
+}
+
+void Stepper::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Home:
+        edit(m_minimum);
+        return;
+    case Qt::Key_End:
+        edit(m_maximum);
+        return;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+        QAbstractSpinBox::keyPressEvent(event);
+        return;
+    default:
+        event->ignore();
+    }
+}
+
+void Stepper::wheelEvent(QWheelEvent* event)
+{
+    if (hasFocus())
+        QAbstractSpinBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+QSize Stepper::sizeHint() const
+{
+    ensurePolished();
+    int width = 0;
+    for (const qint64 value : {m_minimum, m_maximum, m_value})
+        width = std::max(width, fontMetrics().horizontalAdvance(textOf(value)));
+    QStyleOptionSpinBox option;
+    initStyleOption(&option);
+    constexpr int cursorRoom = 6;
+    const QSize contents(width + cursorRoom, lineEdit()->sizeHint().height());
+    return style()->sizeFromContents(QStyle::CT_SpinBox, &option, contents, this);
+}
+
+QSize Stepper::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+QString Stepper::textOf(qint64 value) const
+{
+    return QString::number(value) + m_suffix;
+}
+
+void Stepper::show(qint64 value)
+{
+    m_value = value;
+    lineEdit()->setText(textOf(value));
+    lineEdit()->deselect();
+    update();
+    QAccessibleValueChangeEvent event(this, QVariant(value));
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace abissora
