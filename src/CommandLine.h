@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <tl/expected.hpp>
+
+namespace abissora {
+
+struct CommandLine
+{
+    bool help = false;
+    bool version = false;
+    QString dataDir;  ///< empty when not given
+    QString snapshot; ///< empty when not given
+
+    /// `arguments` without the program's name. The error is a sentence for the person.
+    [[nodiscard]] static tl::expected<CommandLine, QString> parse(const QStringList& arguments);
+
+    [[nodiscard]] static QString helpText();
+    [[nodiscard]] static QString versionText();
+};
+
+} // namespace abissora

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+
+class QTableView;
+
+namespace abissora {
+
+/// Keeps the columns of the register's table together as wide as its viewport: each has the least that its texts need,
+/// and the spare width goes to names, makes, models and dates by fixed shares. Below the least the table scrolls.
+class EquipmentColumns : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Belongs to the table.
+    explicit EquipmentColumns(QTableView& table);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void layOut();
+
+    QTableView& m_table;
+};
+
+} // namespace abissora

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "EquipmentListView.h"
+
+#include "Alert.h"
+#include "ControlLook.h"
+#include "EmptyState.h"
+#include "EquipmentColumns.h"
+#include "EquipmentTableView.h"
+#include "FilterMenu.h"
+#include "ListFooter.h"
+#include "ListHeader.h"
+#include "Metrics.h"
+#include "RowActionsMenu.h"
+#include "SearchField.h"
+#include "SymbolIcon.h"
+
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace abissora {
+
+EquipmentListView::EquipmentListView(const AppContext& context, QWidget* parent)
+    : QWidget(parent)
+    , m_context(context)
+    , m_update([this] { redraw(); })
+    , m_refreshID(context.ids.next())
+    , m_header(new ListHeader)
+    , m_search(new SearchField(QStringLiteral("Cerca attrezzatura...")))
+    , m_filterButton(new QToolButton)
+    , m_filterMenu(new FilterMenu(this))
+    , m_content(new QStackedWidget)
+    , m_table(new EquipmentTableView)
+    , m_empty(new EmptyState)
+    , m_footer(new ListFooter)
+    , m_rowActions(new RowActionsMenu(this))
+{
+    setObjectName(QStringLiteral("equipmentList"));
+    buildLayout();
+    connectControls();
+    redraw();
+}
+
+void EquipmentListView::buildLayout()
+{
+    m_search->setObjectName(QStringLiteral("search"));
+    m_empty->setObjectName(QStringLiteral("emptyRegister"));
+    m_empty->setSymbol(QStringLiteral("tray"));
+    m_empty->setTitle(QStringLiteral("Nessuna attrezzatura trovata"));
+    m_filterButton->setObjectName(QStringLiteral("filterButton"));
+    m_filterButton->setIcon(symbolIcon(QStringLiteral("line.3.horizontal.decrease")));
+    m_filterButton->setAccessibleName(QStringLiteral("Filtro"));
+    m_filterButton->setToolTip(QStringLiteral("Filtro"));
+    m_filterButton->setPopupMode(QToolButton::InstantPopup);
+    m_filterButton->setMenu(m_filterMenu);
+    setButtonLook(*m_filterButton, ButtonLook::Plain);
+
+    new EquipmentColumns(*m_table);
+    m_content->addWidget(m_table);
+    m_content->addWidget(m_empty);
+
+    auto* searchRow = new QHBoxLayout;
+    searchRow->setSpacing(metrics::spaceS);
+    searchRow->addWidget(m_search, 1);
+    searchRow->addWidget(m_filterButton);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(metrics::spaceL + metrics::spaceXS, 0, metrics::spaceL + metrics::spaceXS,
+                               metrics::spaceM);
+    layout->setSpacing(metrics::spaceM);
+    layout->addWidget(m_header);
+    layout->addLayout(searchRow);
+    layout->addWidget(m_content, 1);
+    layout->addWidget(m_footer);
+}
+
+void EquipmentListView::connectControls()
+{
+    EquipmentViewModel& equipment = m_context.equipment;
+    connect(&equipment, &EquipmentViewModel::changed, &m_update, &CoalescedUpdate::schedule);
+    connect(&m_context.types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
+
+    connect(m_header, &ListHeader::addClicked, this, &EquipmentListView::addRequested);
+    connect(m_header, &ListHeader::refreshClicked, this, &EquipmentListView::refresh);
+    connect(m_header, &ListHeader::clearFilterClicked, this,
+            [&equipment] { equipment.setFilterTypeName(std::nullopt); });
+    connect(m_search, &SearchField::textEdited, &equipment, &EquipmentViewModel::setSearchText);
+
+    connect(m_filterMenu, &QMenu::aboutToShow, this,
+            [this] { m_filterMenu->setEntries(m_context.types.filteredTypes(), isNarrowed()); });
+    connect(m_filterMenu, &FilterMenu::allChosen, this, [&equipment] { equipment.setFilterTypeName(std::nullopt); });
+    connect(m_filterMenu, &FilterMenu::clearChosen, this, &EquipmentListView::clearFilters);
+    connect(m_filterMenu, &FilterMenu::typeChosen, this, [this](const QString& name) {
+        m_context.console.print(QStringLiteral("🖱️ Menu filtro cliccato: ") + name);
+        m_context.equipment.filterByTypeName(name);
+        refresh();
+    });
+
+    connect(m_table, &EquipmentTableView::rowSelected, this, [this](int row) {
+        select(row < 0 ? std::nullopt : std::optional(m_table->equipmentModel().equipment().at(row)));
+    });
+    connect(m_table, &EquipmentTableView::actionsRequested, this, [this](int row, QPoint position) {
+        m_rowActions->setEquipment(m_table->equipmentModel().equipment().at(row));
+        m_rowActions->popup(position);
+    });
+    connect(m_table, &EquipmentTableView::deleteRequested, this,
+            [this](int row) { confirmDeletion(m_table->equipmentModel().equipment().at(row)); });
+    connect(m_rowActions, &RowActionsMenu::showRequested, this, &EquipmentListView::select);
+    connect(m_rowActions, &RowActionsMenu::editRequested, this, [this](const Equipment& item) {
+        select(item);
+        Q_EMIT editRequested(item);
+    });
+    connect(m_rowActions, &RowActionsMenu::deleteRequested, this, &EquipmentListView::confirmDeletion);
+
+    connect(m_empty, &EmptyState::buttonClicked, this, [this] {
+        if (isNarrowed())
+            clearFilters();
+        else
+            Q_EMIT addRequested();
+    });
+}
+
+void EquipmentListView::setSelectedEquipment(const std::optional<Equipment>& equipment)
+{
+    m_selectedEquipment = equipment;
+    m_table->showSelected(equipment ? std::optional(equipment->id) : std::nullopt);
+}
+
+void EquipmentListView::confirmDeletion(const Equipment& equipment)
+{
+    m_equipmentToDelete = equipment;
+    auto* alert = new Alert(window());
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->setTitle(QStringLiteral("Conferma Eliminazione"));
+    alert->setMessage(QStringLiteral("Sei sicuro di voler eliminare l'attrezzatura '%1'?").arg(equipment.name));
+    connect(alert, &QDialog::accepted, this, &EquipmentListView::deleteConfirmed);
+    connect(alert, &QDialog::rejected, this, [this] { m_equipmentToDelete.reset(); });
+    alert->open();
+}
+
+void EquipmentListView::deleteConfirmed()
+{
+    if (!m_equipmentToDelete)
+        return;
+    m_context.equipment.deleteEquipment(*m_equipmentToDelete);
+    refresh();
+    m_equipmentToDelete.reset();
+}
+
+void EquipmentListView::refresh()
+{
+    m_refreshID = m_context.ids.next();
+    m_update.schedule();
+}
+
+void EquipmentListView::focusSearch()
+{
+    m_search->setFocus(Qt::ShortcutFocusReason);
+    m_search->selectAll();
+}
+
+void EquipmentListView::redraw()
+{
+    const EquipmentViewModel& equipment = m_context.equipment;
+    const QList<Equipment> shown = equipment.filteredEquipment();
+    const EquipmentRowMaker rows(m_context.types, m_context.dates, m_context.calendar, m_context.clock.now());
+    m_table->showEquipment(shown, rows, m_selectedEquipment ? std::optional(m_selectedEquipment->id) : std::nullopt);
+
+    if (m_search->text() != equipment.searchText())
+        m_search->setText(equipment.searchText());
+    m_header->setFilter(equipment.filterTypeName(), m_context.types);
+
+    m_empty->setButtonText(isNarrowed() ? QStringLiteral("Cancella filtri")
+                                        : QStringLiteral("Aggiungi la prima attrezzatura"));
+    m_content->setCurrentWidget(shown.isEmpty() ? static_cast<QWidget*>(m_empty) : m_table);
+    const auto active = std::count_if(shown.begin(), shown.end(), [](const Equipment& item) { return item.isActive; });
+    m_footer->setCounts(shown.size(), equipment.overdueEquipment().size(), active);
+}
+
+void EquipmentListView::select(const std::optional<Equipment>& equipment)
+{
+    setSelectedEquipment(equipment);
+    Q_EMIT equipmentSelected(equipment);
+}
+
+void EquipmentListView::clearFilters()
+{
+    m_context.equipment.setSearchText({});
+    m_context.equipment.setFilterTypeName(std::nullopt);
+}
+
+bool EquipmentListView::isNarrowed() const
+{
+    const EquipmentViewModel& equipment = m_context.equipment;
+    return !equipment.searchText().isEmpty() || equipment.filterTypeName() || equipment.selectedType();
+}
+
+} // namespace abissora

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AppContext.h"
+#include "CoalescedUpdate.h"
+
+#include <QWidget>
+
+class QStackedWidget;
+class QToolButton;
+
+namespace abissora {
+
+class EmptyState;
+class EquipmentTableView;
+class FilterMenu;
+class ListFooter;
+class ListHeader;
+class RowActionsMenu;
+class SearchField;
+
+/// The register's main screen: a searchable, filterable table with its header, its footer of counts and the actions on
+/// each item. Holds no data of its own.
+class EquipmentListView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit EquipmentListView(const AppContext& context, QWidget* parent = nullptr);
+
+    /// The item that the parent shows in detail; a copy.
+    void setSelectedEquipment(const std::optional<Equipment>& equipment);
+
+    /// Asks before it deletes.
+    void confirmDeletion(const Equipment& equipment);
+    /// What the confirmation is about; nothing while none is open.
+    [[nodiscard]] const std::optional<Equipment>& equipmentToDelete() const { return m_equipmentToDelete; }
+
+    /// Gives the list a new identity: every row is made anew.
+    void refresh();
+    [[nodiscard]] QUuid refreshID() const { return m_refreshID; }
+
+    void focusSearch();
+
+Q_SIGNALS:
+    /// The person selected an item, or none.
+    void equipmentSelected(const std::optional<abissora::Equipment>& equipment);
+    void editRequested(const abissora::Equipment& equipment);
+    void addRequested();
+
+private:
+    void buildLayout();
+    void connectControls();
+    void redraw();
+    void select(const std::optional<Equipment>& equipment);
+    void clearFilters();
+    [[nodiscard]] bool isNarrowed() const;
+    void deleteConfirmed();
+
+    AppContext m_context;
+    CoalescedUpdate m_update;
+    std::optional<Equipment> m_selectedEquipment;
+    std::optional<Equipment> m_equipmentToDelete;
+    QUuid m_refreshID;
+
+    ListHeader* m_header;
+    SearchField* m_search;
+    QToolButton* m_filterButton;
+    FilterMenu* m_filterMenu;
+    QStackedWidget* m_content;
+    EquipmentTableView* m_table;
+    EmptyState* m_empty;
+    ListFooter* m_footer;
+    RowActionsMenu* m_rowActions;
+};
+
+} // namespace abissora

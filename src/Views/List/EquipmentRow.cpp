@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "EquipmentRow.h"
+
+namespace abissora {
+
+EquipmentRowMaker::EquipmentRowMaker(const EquipmentTypeViewModel& types, DateFormat format, Calendar calendar,
+                                     Instant now)
+    : m_types(&types)
+    , m_format(std::move(format))
+    , m_calendar(std::move(calendar))
+    , m_now(now)
+{}
+
+EquipmentRow EquipmentRowMaker::row(const Equipment& item) const
+{
+    const std::int64_t days = item.daysUntilNextService(m_now, m_calendar);
+    const bool isDue = days <= dueThresholdDays;
+    const auto type = m_types->getTypeByName(item.displayTypeName());
+    return {
+        .name = item.name,
+        .typeName = item.displayTypeName(),
+        .appearance = type ? appearanceOf(*type) : builtInAppearance(item.type),
+        .brand = item.brand,
+        .model = item.model,
+        .nextServiceDate = m_format.longDate(item.nextServiceDate),
+        .remaining = isDue ? QStringLiteral("SCADUTO!") : QStringLiteral("%1 giorni").arg(days),
+        .isDue = isDue,
+        .isActive = item.isActive,
+        .state = item.isActive ? QStringLiteral("Attivo") : QStringLiteral("Inattivo"),
+    };
+}
+
+} // namespace abissora

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "EquipmentRow.h"
+
+#include <QAbstractTableModel>
+
+namespace abissora {
+
+/// The list that the catalogue gave, in its order. Rows are made when they are asked for.
+class EquipmentTableModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { NameColumn, BrandColumn, ModelColumn, NextServiceColumn, StateColumn, ActionsColumn, ColumnCount };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// Replaces the whole content in one reset.
+    void setEquipment(const QList<Equipment>& equipment, EquipmentRowMaker rows);
+
+    [[nodiscard]] const QList<Equipment>& equipment() const { return m_equipment; }
+    [[nodiscard]] EquipmentRow row(int row) const;
+    /// -1 when no row shows the item.
+    [[nodiscard]] int rowOf(const QUuid& id) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    /// DisplayRole holds every line that the cell shows, one below the other.
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    QList<Equipment> m_equipment;
+    std::optional<EquipmentRowMaker> m_rows;
+};
+
+} // namespace abissora

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "EquipmentTableView.h"
+
+#include "TypeScale.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+namespace abissora {
+
+EquipmentTableView::EquipmentTableView(QWidget* parent)
+    : QTableView(parent)
+    , m_delegate(m_model)
+{
+    setObjectName(QStringLiteral("equipmentTable"));
+    setAccessibleName(QStringLiteral("Attrezzatura Subacquea"));
+    setModel(&m_model);
+    setItemDelegate(&m_delegate);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setShowGrid(false);
+    setMouseTracking(true);
+    setTabKeyNavigation(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setVerticalScrollMode(ScrollPerPixel);
+    setCornerButtonEnabled(false);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setMinimumSectionSize(60);
+    adjustToText();
+}
+
+void EquipmentTableView::showEquipment(const QList<Equipment>& equipment, const EquipmentRowMaker& rows,
+                                       const std::optional<QUuid>& selected)
+{
+    const int scrolled = verticalScrollBar()->value();
+    const int column = currentIndex().isValid() ? currentIndex().column() : 0;
+    {
+        const QScopedValueRollback silent(m_silent, true);
+        m_model.setEquipment(equipment, rows);
+        const int row = selected ? m_model.rowOf(*selected) : -1;
+        if (row >= 0)
+            setCurrentIndex(m_model.index(row, column));
+    }
+    verticalScrollBar()->setValue(scrolled);
+}
+
+void EquipmentTableView::showSelected(const std::optional<QUuid>& id)
+{
+    const QScopedValueRollback silent(m_silent, true);
+    const int row = id ? m_model.rowOf(*id) : -1;
+    if (row < 0)
+        clearSelection();
+    else if (!selectionModel()->isRowSelected(row))
+        setCurrentIndex(m_model.index(row, 0));
+}
+
+void EquipmentTableView::contextMenuEvent(QContextMenuEvent* event)
+{
+    // A right click has selected the row already; the keyboard means the current one.
+    const QModelIndex index = event->reason() == QContextMenuEvent::Mouse ? indexAt(event->pos()) : currentIndex();
+    if (!index.isValid())
+        return;
+    if (event->reason() == QContextMenuEvent::Mouse)
+        Q_EMIT actionsRequested(index.row(), event->globalPos());
+    else
+        requestActions(index);
+}
+
+void EquipmentTableView::focusInEvent(QFocusEvent* event)
+{
+    QTableView::focusInEvent(event);
+    // The keyboard needs a place to start from; the selection is the person's own choice.
+    if (!currentIndex().isValid() && m_model.rowCount() > 0)
+        selectionModel()->setCurrentIndex(m_model.index(0, 0), QItemSelectionModel::NoUpdate);
+}
+
+void EquipmentTableView::keyPressEvent(QKeyEvent* event)
+{
+    const QModelIndex current = currentIndex();
+    const bool opens = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+    if (current.isValid() && opens) {
+        if (current.column() == EquipmentTableModel::ActionsColumn)
+            requestActions(current);
+        else
+            selectRow(current.row());
+        return;
+    }
+    if (current.isValid() && event->key() == Qt::Key_Delete) {
+        Q_EMIT deleteRequested(current.row());
+        return;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+void EquipmentTableView::leaveEvent(QEvent* event)
+{
+    QTableView::leaveEvent(event);
+    setHover({}, false);
+}
+
+void EquipmentTableView::mouseMoveEvent(QMouseEvent* event)
+{
+    QTableView::mouseMoveEvent(event);
+    const QModelIndex index = indexAt(event->pos());
+    setHover(index, isOnActionButton(index, event->pos()));
+}
+
+void EquipmentTableView::mousePressEvent(QMouseEvent* event)
+{
+    const QModelIndex index = indexAt(event->pos());
+    if (event->button() == Qt::LeftButton && isOnActionButton(index, event->pos())) {
+        requestActions(index);
+        return;
+    }
+    QTableView::mousePressEvent(event);
+}
+
+void EquipmentTableView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QTableView::selectionChanged(selected, deselected);
+    if (m_silent)
+        return;
+    const QModelIndexList rows = selectionModel()->selectedRows();
+    Q_EMIT rowSelected(rows.isEmpty() ? -1 : rows.first().row());
+}
+
+void EquipmentTableView::changeEvent(QEvent* event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
+        adjustToText();
+}
+
+bool EquipmentTableView::isOnActionButton(const QModelIndex& index, QPoint position) const
+{
+    return index.column() == EquipmentTableModel::ActionsColumn &&
+           EquipmentTableDelegate::actionButton(visualRect(index)).contains(position);
+}
+
+void EquipmentTableView::requestActions(const QModelIndex& index)
+{
+    scrollTo(index);
+    const QRect cell = visualRect(index.siblingAtColumn(EquipmentTableModel::ActionsColumn));
+    Q_EMIT actionsRequested(index.row(),
+                            viewport()->mapToGlobal(EquipmentTableDelegate::actionButton(cell).bottomLeft()));
+}
+
+void EquipmentTableView::setHover(const QModelIndex& index, bool onActionButton)
+{
+    const auto repaintRow = [this](const QModelIndex& row) {
+        if (row.isValid())
+            viewport()->update(0, rowViewportPosition(row.row()), viewport()->width(), rowHeight(row.row()));
+    };
+    repaintRow(m_hovered);
+    m_hovered = index;
+    m_delegate.setHover(index.row(), onActionButton);
+    repaintRow(m_hovered);
+}
+
+void EquipmentTableView::adjustToText()
+{
+    // One height for all rows: nothing measures ten thousand of them.
+    verticalHeader()->setMinimumSectionSize(m_delegate.rowHeight());
+    verticalHeader()->setDefaultSectionSize(m_delegate.rowHeight());
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+}
+
+} // namespace abissora

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "EquipmentTableDelegate.h"
+
+#include <QTableView>
+
+namespace abissora {
+
+/// The register's table. One row is selected at a time; the actions of a row open from its button, by right click, by
+/// the Menu key or Shift+F10, and by Return or Space on its last cell.
+class EquipmentTableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit EquipmentTableView(QWidget* parent = nullptr);
+
+    [[nodiscard]] EquipmentTableModel& equipmentModel() { return m_model; }
+
+    /// Replaces the rows, keeping the scroll position. The row of `selected` stays selected; emits nothing.
+    void showEquipment(const QList<Equipment>& equipment, const EquipmentRowMaker& rows,
+                       const std::optional<QUuid>& selected);
+    /// Selects the item's row, or none; emits nothing.
+    void showSelected(const std::optional<QUuid>& id);
+
+Q_SIGNALS:
+    /// The person selected another row, or none (-1).
+    void rowSelected(int row);
+    /// The person asked for the actions of a row, to be shown at this place on the screen.
+    void actionsRequested(int row, QPoint globalPosition);
+    /// The Delete key on a row.
+    void deleteRequested(int row);
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    [[nodiscard]] bool isOnActionButton(const QModelIndex& index, QPoint position) const;
+    void requestActions(const QModelIndex& index);
+    void setHover(const QModelIndex& index, bool onActionButton);
+    void adjustToText();
+
+    EquipmentTableModel m_model;
+    EquipmentTableDelegate m_delegate;
+    QPersistentModelIndex m_hovered;
+    bool m_silent = false;
+};
+
+} // namespace abissora

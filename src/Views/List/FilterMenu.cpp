@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include "FilterMenu.h"
+
+#include "SymbolIcon.h"
+#include "TypeAppearance.h"
+
+namespace abissora {
+
+namespace {
+
+constexpr int menuIconSize = 14;
+
+/// A name is shown as it is, not with one of its letters underlined.
+QString menuText(QString name)
+{
+    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+} // namespace
+
+FilterMenu::FilterMenu(QWidget* parent)
+    : QMenu(parent)
+{
+    setObjectName(QStringLiteral("filterMenu"));
+}
+
+void FilterMenu::setEntries(const QList<EquipmentTypeModel>& types, bool canClear)
+{
+    clear();
+    connect(addAction(QStringLiteral("Tutti")), &QAction::triggered, this, &FilterMenu::allChosen);
+    addSeparator();
+    for (const EquipmentTypeModel& type : types) {
+        const TypeAppearance look = appearanceOf(type);
+        QAction* action = addAction(typeIconForMenu(look.icon, menuIconSize, look.color), menuText(type.name));
+        connect(action, &QAction::triggered, this, [this, name = type.name] { Q_EMIT typeChosen(name); });
+    }
+    if (canClear) {
+        addSeparator();
+        connect(addAction(symbolIcon(QStringLiteral("xmark.circle")), QStringLiteral("Cancella filtri")),
+                &QAction::triggered, this, &FilterMenu::clearChosen);
+    }
+}
+
+} // namespace abissora

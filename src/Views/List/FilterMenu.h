@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "EquipmentTypeModel.h"
+
+#include <QMenu>
+
+namespace abissora {
+
+/// The entries of the filter button, made afresh whenever the menu opens.
+class FilterMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    explicit FilterMenu(QWidget* parent = nullptr);
+
+    /// `canClear` offers the entry that clears every filter.
+    void setEntries(const QList<EquipmentTypeModel>& types, bool canClear);
+
+Q_SIGNALS:
+    void allChosen();
+    void typeChosen(const QString& name);
+    void clearChosen();
+};
+
+} // namespace abissora

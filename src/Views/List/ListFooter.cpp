@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "ListFooter.h"
+
+#include "InkLabel.h"
+#include "Metrics.h"
+
+#include <QHBoxLayout>
+
+namespace abissora {
+
+ListFooter::ListFooter(QWidget* parent)
+    : QWidget(parent)
+    , m_shown(new InkLabel(TextStyle::Caption, &Tokens::secondaryText))
+    , m_due(new InkLabel(TextStyle::Caption, &Tokens::danger))
+    , m_active(new InkLabel(TextStyle::Caption, &Tokens::ok))
+{
+    m_shown->setObjectName(QStringLiteral("shownCount"));
+    m_due->setObjectName(QStringLiteral("dueCount"));
+    m_active->setObjectName(QStringLiteral("activeCount"));
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(metrics::spaceXS, 0, metrics::spaceXS, 0);
+    layout->setSpacing(metrics::spaceL + metrics::spaceXS);
+    for (InkLabel* label : {m_shown, m_due, m_active})
+        layout->addWidget(label);
+    layout->addStretch();
+}
+
+void ListFooter::setCounts(qsizetype shown, qsizetype due, qsizetype active)
+{
+    m_shown->setText(QStringLiteral("%1 articoli").arg(shown));
+    m_due->setText(QStringLiteral("⚠️ %1 manutenzioni scadute").arg(due));
+    m_due->setVisible(due > 0);
+    m_active->setText(QStringLiteral("%1 attivi").arg(active));
+}
+
+} // namespace abissora

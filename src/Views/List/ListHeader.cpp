@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "ListHeader.h"
+
+#include "Buttons.h"
+#include "Chip.h"
+#include "InkLabel.h"
+#include "Metrics.h"
+#include "SymbolIcon.h"
+#include "TypeAppearance.h"
+
+#include <QHBoxLayout>
+
+namespace abissora {
+
+ListHeader::ListHeader(QWidget* parent)
+    : QWidget(parent)
+    , m_chip(new Chip)
+{
+    auto* title = new InkLabel(TextStyle::Title, &Tokens::text, QStringLiteral("Attrezzatura Subacquea"));
+    title->setObjectName(QStringLiteral("listTitle"));
+    auto* refresh = new PlainButton(QStringLiteral("Aggiorna"));
+    refresh->setObjectName(QStringLiteral("refreshButton"));
+    refresh->setSymbol(QStringLiteral("arrow.clockwise"));
+    auto* add = new PrimaryButton(QStringLiteral("Aggiungi"));
+    add->setObjectName(QStringLiteral("addButton"));
+    add->setSymbol(QStringLiteral("plus"));
+    m_chip->setObjectName(QStringLiteral("filterChip"));
+    m_chip->hide();
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(metrics::spaceS);
+    layout->addWidget(title);
+    layout->addSpacing(metrics::spaceXS);
+    layout->addWidget(m_chip);
+    layout->addStretch();
+    layout->addWidget(refresh);
+    layout->addWidget(add);
+
+    connect(refresh, &QAbstractButton::clicked, this, &ListHeader::refreshClicked);
+    connect(add, &QAbstractButton::clicked, this, &ListHeader::addClicked);
+    connect(m_chip, &Chip::clearClicked, this, &ListHeader::clearFilterClicked);
+}
+
+void ListHeader::setFilter(const std::optional<QString>& typeName, const EquipmentTypeViewModel& types)
+{
+    m_chip->setVisible(typeName.has_value());
+    if (!typeName)
+        return;
+    const auto type = types.getTypeByName(*typeName);
+    const TypeAppearance look = type ? appearanceOf(*type) : TypeAppearance{unknownTypeIcon, NamedColor::primary};
+    m_chip->setIcon(typeIcon(look.icon, look.color));
+    m_chip->setText(QStringLiteral("Filtro: ") + *typeName);
+}
+
+} // namespace abissora

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "MainWindow.h"
+
+#include "ContentView.h"
+#include "EditMenu.h"
+#include "EquipmentListView.h"
+#include "SymbolIcon.h"
+
+#include <QApplication>
+#include <QMenuBar>
+
+namespace abissora {
+
+namespace {
+
+constexpr QSize minimumWindowSize(1000, 700);
+
+} // namespace
+
+MainWindow::MainWindow(const AppContext& context, const QString& stateFile, QWidget* parent)
+    : QMainWindow(parent)
+    , m_content(new ContentView(context))
+    , m_state(stateFile)
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowTitle(QStringLiteral("Abissora"));
+    setMinimumSize(minimumWindowSize);
+    setCentralWidget(m_content);
+    buildMenuBar();
+    m_state.restore(*this, m_content->splitter());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    m_state.save(*this, m_content->splitter());
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::buildMenuBar()
+{
+    QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
+    QAction* refresh = file->addAction(symbolIcon(QStringLiteral("arrow.clockwise")), QStringLiteral("A&ggiorna"));
+    refresh->setShortcut(QKeySequence::Refresh);
+    connect(refresh, &QAction::triggered, &m_content->list(), &EquipmentListView::refresh);
+    file->addSeparator();
+    QAction* close = file->addAction(QStringLiteral("&Chiudi"));
+    close->setShortcut(QKeySequence::Close);
+    connect(close, &QAction::triggered, this, &QWidget::close);
+    QAction* quit = file->addAction(QStringLiteral("&Esci"));
+    quit->setShortcut(QKeySequence::Quit);
+    quit->setMenuRole(QAction::QuitRole);
+    connect(quit, &QAction::triggered, qApp, &QApplication::closeAllWindows);
+
+    auto* edit = new EditMenu(this);
+    edit->addSeparator();
+    QAction* find = edit->addAction(QStringLiteral("&Trova"));
+    find->setShortcut(QKeySequence::Find);
+    connect(find, &QAction::triggered, m_content, &ContentView::findInList);
+    menuBar()->addMenu(edit);
+
+    QMenu* help = menuBar()->addMenu(QStringLiteral("&Aiuto"));
+    QAction* aboutQt = help->addAction(QStringLiteral("Informazioni su &Qt"));
+    aboutQt->setMenuRole(QAction::AboutQtRole);
+    connect(aboutQt, &QAction::triggered, qApp, &QApplication::aboutQt);
+}
+
+} // namespace abissora

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "TypeAppearance.h"
+
+namespace abissora {
+
+TypeAppearance appearanceOf(const EquipmentTypeModel& type)
+{
+    return {type.icon.isEmpty() ? unknownTypeIcon : type.icon, type.colorValue()};
+}
+
+TypeAppearance builtInAppearance(EquipmentType type)
+{
+    switch (type) {
+    case EquipmentType::regulator:
+        return {QStringLiteral("dive.regulator"), NamedColor::blue};
+    case EquipmentType::bcd:
+        return {QStringLiteral("dive.bcd"), NamedColor::orange};
+    case EquipmentType::cylinder:
+        return {QStringLiteral("dive.tank"), NamedColor::gray};
+    case EquipmentType::mask:
+        return {QStringLiteral("dive.mask"), NamedColor::purple};
+    case EquipmentType::fins:
+        return {QStringLiteral("dive.fins"), NamedColor::green};
+    case EquipmentType::wetsuit:
+        return {QStringLiteral("dive.wetsuit"), NamedColor::red};
+    case EquipmentType::drysuit:
+        return {QStringLiteral("dive.drysuit"), NamedColor::indigo};
+    case EquipmentType::computer:
+        return {QStringLiteral("dive.computer"), NamedColor::cyan};
+    case EquipmentType::other:
+        break;
+    }
+    return {unknownTypeIcon, NamedColor::secondary};
+}
+
+} // namespace abissora

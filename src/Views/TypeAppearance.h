@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Equipment.h"
+#include "EquipmentTypeModel.h"
+#include "NamedColor.h"
+
+namespace abissora {
+
+/// The picture and colour that stand for a kind of equipment.
+struct TypeAppearance
+{
+    QString icon;
+    NamedColor color = NamedColor::primary;
+
+    friend bool operator==(const TypeAppearance&, const TypeAppearance&) = default;
+};
+
+inline const QString unknownTypeIcon = QStringLiteral("questionmark.circle.fill");
+
+/// Of a type record; an empty icon is shown as unknown.
+[[nodiscard]] TypeAppearance appearanceOf(const EquipmentTypeModel& type);
+/// Of a built-in kind whose name no type record carries.
+[[nodiscard]] TypeAppearance builtInAppearance(EquipmentType type);
+
+} // namespace abissora

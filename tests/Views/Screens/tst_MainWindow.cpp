@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: MIT
+#include "MainWindow.h"
+
+#include "ContentView.h"
+#include "EquipmentListView.h"
+#include "EquipmentTableView.h"
+#include "ScreenFixture.h"
+#include "SegmentedControl.h"
+#include "SidebarView.h"
+#include "TestRunner.h"
+#include "Theme.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QSignalSpy>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+/// A main window that has been shown and has the focus.
+struct Shown
+{
+    explicit Shown(ScreenFixture& f)
+        : window(f.context, f.directories.windowStateFile())
+    {
+        window.show();
+        window.activateWindow();
+        QCoreApplication::processEvents();
+    }
+
+    SidebarView& sidebar() { return *window.findChild<SidebarView*>(); }
+    EquipmentTableView& table() { return *window.findChild<EquipmentTableView*>(); }
+    QLineEdit& search() { return *window.findChild<QLineEdit*>(QStringLiteral("search")); }
+
+    MainWindow window;
+};
+
+QString plain(QString text)
+{
+    return text.remove(QLatin1Char('&'));
+}
+
+} // namespace
+
+class tst_MainWindow : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void sizeAndTitle()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QCOMPARE(s.window.windowTitle(), QStringLiteral("Abissora"));
+        QCOMPARE(s.window.minimumSize(), QSize(1000, 700));
+    }
+
+    void menus()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QStringList titles;
+        for (const QAction* menu : s.window.menuBar()->actions())
+            titles.append(plain(menu->text()));
+        QCOMPARE(titles, QStringList({QStringLiteral("File"), QStringLiteral("Modifica"), QStringLiteral("Aiuto")}));
+    }
+
+    void sidebarAndTabsWorkTogether()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        ContentView& content = s.window.content();
+        QCOMPARE(content.selectedTab(), 0);
+        s.sidebar().setSelectedSidebarItem(QStringLiteral("maintenance"));
+        QCOMPARE(content.selectedTab(), 1);
+        QVERIFY(!content.list().isVisible());
+        s.sidebar().setSelectedSidebarItem(QStringLiteral("type_GAV"));
+        QCOMPARE(content.selectedTab(), 0);
+        QVERIFY(content.list().isVisible());
+        QCoreApplication::processEvents();
+        QCOMPARE(s.table().model()->rowCount(), 1);
+    }
+
+    void settingsTakeTheWholeDetail()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        auto* tabs = s.window.findChild<SegmentedControl*>();
+        QVERIFY(tabs->isVisible());
+        s.sidebar().setSelectedSidebarItem(QStringLiteral("settings"));
+        QVERIFY(!tabs->isVisible());
+        s.sidebar().setSelectedSidebarItem(QStringLiteral("maintenance"));
+        QVERIFY(tabs->isVisible());
+        QCOMPARE(tabs->currentIndex(), 1);
+    }
+
+    void tabSwitchDoesNotMoveTheSidebar()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QSignalSpy changed(&s.window.content(), &ContentView::selectedTabChanged);
+        s.window.content().setSelectedTab(ContentView::StatisticsTab);
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(s.sidebar().selectedSidebarItem(), std::optional(QStringLiteral("all")));
+    }
+
+    void selectionFollowsTheTableAndForgetsDeletedItems()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        s.table().selectRow(1);
+        QCOMPARE(s.window.content().selectedEquipment()->name, QStringLiteral("GAV Scubapro Hydros"));
+        f.equipment.deleteEquipment(*s.window.content().selectedEquipment());
+        QVERIFY(!s.window.content().selectedEquipment());
+    }
+
+    void findPutsTheCursorIntoTheSearch()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        s.window.content().setSelectedTab(ContentView::StatisticsTab);
+        QTest::keyClick(&s.window, Qt::Key_F, Qt::ControlModifier);
+        QCOMPARE(s.window.content().selectedTab(), 0);
+        QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&s.search()));
+    }
+
+    void editingCommandsActOnTheFocusedField()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        const auto command = [&s](const QString& text) -> QAction* {
+            for (QAction* menu : s.window.menuBar()->actions())
+                for (QAction* action : menu->menu()->actions())
+                    if (plain(action->text()) == text)
+                        return action;
+            return nullptr;
+        };
+        s.sidebar().setFocus();
+        QVERIFY(!command(QStringLiteral("Taglia"))->isEnabled());
+        s.search().setFocus();
+        QTest::keyClicks(&s.search(), QStringLiteral("gav"));
+        command(QStringLiteral("Seleziona tutto"))->trigger();
+        QCOMPARE(s.search().selectedText(), QStringLiteral("gav"));
+        command(QStringLiteral("Taglia"))->trigger();
+        QCOMPARE(s.search().text(), QString());
+        QCOMPARE(f.equipment.searchText(), QString());
+        command(QStringLiteral("Annulla"))->trigger();
+        QCOMPARE(s.search().text(), QStringLiteral("gav"));
+        QCOMPARE(f.equipment.searchText(), QStringLiteral("gav"));
+    }
+
+    void tabOrder()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        s.sidebar().setFocus();
+        QStringList order;
+        for (int i = 0; i < 8; ++i) {
+            const QWidget* focused = QApplication::focusWidget();
+            order.append(!focused->objectName().isEmpty() ? focused->objectName()
+                                                          : focused->parentWidget()->objectName());
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        QCOMPARE(order,
+                 QStringList({QStringLiteral("sidebar"), QStringLiteral("tabSwitch"), QStringLiteral("refreshButton"),
+                              QStringLiteral("addButton"), QStringLiteral("search"), QStringLiteral("filterButton"),
+                              QStringLiteral("equipmentTable"), QStringLiteral("sidebar")}));
+    }
+
+    void everythingThatTakesTheFocusHasAName()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        f.equipment.filterByTypeName(QStringLiteral("GAV"));
+        QCoreApplication::processEvents();
+        int named = 0;
+        for (QWidget* widget : s.window.findChildren<QWidget*>()) {
+            if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus)
+                continue;
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+            const QByteArray who = widget->metaObject()->className() + QByteArray(" ") + widget->objectName().toUtf8();
+            QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(), who.constData());
+            ++named;
+        }
+        QVERIFY(named > 8);
+    }
+
+    void nothingIsCutOffWithLargerText()
+    {
+        const QFont usual = QApplication::font();
+        QFont larger = usual;
+        larger.setPointSizeF(usual.pointSizeF() * 1.25);
+        QApplication::setFont(larger);
+        {
+            ScreenFixture f;
+            Shown s(f);
+            s.window.resize(s.window.minimumSize());
+            QCoreApplication::processEvents();
+            for (const QWidget* widget : s.window.findChildren<QWidget*>()) {
+                const bool text = widget->inherits("QLabel") || widget->inherits("QAbstractButton");
+                if (!text || !widget->isVisible() || qobject_cast<const QLineEdit*>(widget->parentWidget()))
+                    continue;
+                const QByteArray who = widget->metaObject()->className() + QByteArray(" ") + widget->objectName().toUtf8();
+                QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), who.constData());
+                QVERIFY2(widget->height() >= widget->minimumSizeHint().height(), who.constData());
+            }
+        }
+        QApplication::setFont(usual);
+    }
+
+    void sizeIsKeptAcrossStarts()
+    {
+        ScreenFixture f;
+        {
+            Shown s(f);
+            s.window.resize(1111, 777);
+            s.window.close();
+        }
+        Shown s(f);
+        QCOMPARE(s.window.size(), QSize(1111, 777));
+    }
+};
+
+ABISSORA_TEST(tst_MainWindow);
+
+#include "tst_MainWindow.moc"

@@ -1,0 +1,154 @@
+# SPDX-License-Identifier: MIT
+"""The real program, read and driven from outside through the accessibility bus. Everything polls; nothing sleeps for a
+fixed time."""
+
+import os
+import subprocess
+import threading
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402
+
+PATIENCE = 30.0
+POLL_INTERVAL = 0.02
+
+
+def until(what, condition):
+    """Polls until `condition` gives something true, and gives that."""
+    deadline = time.monotonic() + PATIENCE
+    while True:
+        try:
+            found = condition()
+        except gi.repository.GLib.Error:
+            found = None  # the object went away while it was being read
+        if found:
+            return found
+        if time.monotonic() > deadline:
+            raise AssertionError("waited in vain for " + what)
+        threading.Event().wait(POLL_INTERVAL)  # poll
+
+
+def children(node):
+    return [child for child in (node.get_child_at_index(i) for i in range(node.get_child_count())) if child]
+
+
+def descendants(node, deep_tables=False):
+    for child in children(node):
+        yield child
+        if deep_tables or child.get_role() != Atspi.Role.TABLE:
+            yield from descendants(child, deep_tables)
+
+
+class Program:
+    def __init__(self, path, data_dir, arguments=()):
+        environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb",
+                           LC_ALL="C.UTF-8", LANGUAGE="", TZ="Europe/Rome")
+        environment.pop("ABISSORA_DATA_DIR", None)
+        self.lines = []
+        self.process = subprocess.Popen([path, "--data-dir", data_dir, *arguments], env=environment,
+                                        stdout=subprocess.PIPE, text=True, encoding="utf-8")
+        self.reader = threading.Thread(target=self._read, daemon=True)
+        self.reader.start()
+        self.window = until("the main window", self._find_window)
+
+    def _read(self):
+        for line in self.process.stdout:
+            self.lines.append(line.rstrip("\n"))
+
+    def _find_window(self):
+        for application in children(Atspi.get_desktop(0)):
+            if application.get_process_id() != self.process.pid:
+                continue
+            for window in children(application):
+                if window.get_role() == Atspi.Role.FRAME and window.get_state_set().contains(Atspi.StateType.SHOWING):
+                    return window
+        return None
+
+    def windows(self):
+        application = self.window.get_application()
+        return [window for window in children(application)
+                if window.get_state_set().contains(Atspi.StateType.SHOWING)]
+
+    # Finding
+
+    def all(self, role, name=None, within=None):
+        return [node for node in descendants(within or self.window)
+                if node.get_role() == role and (name is None or node.get_name() == name)
+                and node.get_state_set().contains(Atspi.StateType.SHOWING)]
+
+    def find(self, role, name=None, within=None):
+        return until(f"{role.value_nick} {name!r}", lambda: next(iter(self.all(role, name, within)), None))
+
+    def find_anywhere(self, role, name=None):
+        """In any window of the program: alerts and menus are windows of their own."""
+        def look():
+            for window in self.windows():
+                for node in [window, *descendants(window)]:
+                    if node.get_role() == role and (name is None or node.get_name() == name) \
+                            and node.get_state_set().contains(Atspi.StateType.SHOWING):
+                        return node
+            return None
+        return until(f"{role.value_nick} {name!r} in some window", look)
+
+    # Reading
+
+    def table(self):
+        return self.find(Atspi.Role.TABLE).get_table_iface()
+
+    def row_names(self):
+        table = self.table()
+        return [table.get_accessible_at(row, 0).get_name().split("\n")[0] for row in range(table.get_n_rows())]
+
+    def wait_for_rows(self, names):
+        until(f"the rows {names}", lambda: self.row_names() == names)
+
+    def wait_for_lines(self, expected, start=0):
+        """The lines stand in the log in this order, each directly after the one before it."""
+        def look():
+            log = self.lines[start:]
+            return any(log[i:i + len(expected)] == expected for i in range(len(log) - len(expected) + 1))
+        until("the log lines " + " / ".join(expected), look)
+
+    def selected_sidebar_row(self):
+        sidebar = self.find(Atspi.Role.LIST, "Barra laterale")
+        chosen = [row.get_name() for row in children(sidebar)
+                  if row.get_state_set().contains(Atspi.StateType.SELECTED)]
+        return chosen[0] if chosen else None
+
+    # Acting
+
+    @staticmethod
+    def press(node):
+        actions = node.get_action_iface()
+        names = [actions.get_action_name(i) for i in range(actions.get_n_actions())]
+        for wanted in ("Press", "press", "Toggle", "click", "ShowMenu", "showMenu"):
+            if wanted in names:
+                assert actions.do_action(names.index(wanted))
+                return
+        raise AssertionError(f"{node.get_name()!r} has no action to press it: {names}")
+
+    def select_in_sidebar(self, name):
+        sidebar = self.find(Atspi.Role.LIST, "Barra laterale")
+        rows = [row.get_name() for row in children(sidebar)]
+        assert sidebar.get_selection_iface().select_child(rows.index(name)), name
+
+    def key(self, *names):
+        """Presses keys by their X names; "ctrl+f" holds one down."""
+        subprocess.run(["xdotool", "key", "--clearmodifiers", *names], check=True)
+
+    def type(self, text):
+        subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "15", text], check=True)
+
+    def close(self):
+        self.key("ctrl+q")
+        status = self.process.wait(timeout=PATIENCE)
+        self.reader.join()
+        assert status == 0, f"the program ended with {status}"
+
+    def kill(self):
+        if self.process.poll() is None:
+            self.process.kill()
+            self.process.wait()
