@@ -96,9 +96,8 @@ DateFormat::DateFormat(QLocale locale, Calendar calendar)
     , m_abbreviatedPattern(withShortMonth(m_longPattern))
 {}
 
-QLocale DateFormat::userLocale()
+QLocale DateFormat::userLocale(const QLocale& system)
 {
-    const QLocale system = QLocale::system();
     const bool unknown = system.language() == QLocale::C || system.language() == QLocale::AnyLanguage;
     return unknown ? italian() : system;
 }

@@ -15,7 +15,7 @@ public:
     DateFormat(QLocale locale, Calendar calendar);
 
     /// The system's locale; Italian where that is "C" or unknown.
-    [[nodiscard]] static QLocale userLocale();
+    [[nodiscard]] static QLocale userLocale(const QLocale& system = QLocale::system());
 
     /// "5 dicembre 2026": the locale's full date without its weekday.
     [[nodiscard]] QString longDate(Instant instant) const;

@@ -11,7 +11,8 @@ class TestCase : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
+protected Q_SLOTS:
+    /// A class with an init() of its own calls this one first.
     void init();
 };
 

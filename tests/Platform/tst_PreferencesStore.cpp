@@ -1,0 +1,266 @@
+// SPDX-License-Identifier: MIT
+#include "Fakes.h"
+#include "FileSizeLimit.h"
+#include "PreferencesStore.h"
+#include "TestRunner.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+#include <cerrno>
+#include <limits>
+
+using namespace abissora;
+
+namespace {
+
+template <typename T>
+QString reason(const IoResult<T>& result)
+{
+    return result ? QString() : result.error().reason;
+}
+
+#define VERIFY_OK(result) QCOMPARE(reason(result), QString())
+#define VERIFY_FAILED(result, number) QCOMPARE(reason(result), IoError::fromErrno(number).reason)
+
+const QString key = QStringLiteral("savedEquipment");
+
+} // namespace
+
+class tst_PreferencesStore : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        test::TestCase::init();
+        m_folder.emplace();
+        QVERIFY(m_folder->isValid());
+        m_store.emplace(preferences(), backups(), m_clock);
+    }
+
+    void dataIsKeptAsItIs()
+    {
+        const QByteArray bytes("\xEF\xBB\xBFnot json\0 \xFF\r\n", 16);
+        VERIFY_OK(m_store->setData(key, bytes));
+        QCOMPARE(m_store->data(key).value(), std::optional(bytes));
+        QCOMPARE(content(m_store->path(key)), bytes);
+        VERIFY_OK(m_store->setData(key, QByteArray()));
+        QCOMPARE(m_store->data(key).value(), std::optional(QByteArray()));
+    }
+
+    void anAbsentKeyIsNoError()
+    {
+        QCOMPARE(m_store->data(key).value(), std::nullopt);
+        QVERIFY(!m_store->boolean(key));
+        QVERIFY(!m_store->integer(key));
+        QVERIFY(!m_store->text(key));
+        QVERIFY(!QFileInfo::exists(preferences())); // reading creates nothing
+        VERIFY_OK(m_store->setData(key, "x"));
+        QCOMPARE(m_store->data(QStringLiteral("other")).value(), std::nullopt);
+    }
+
+    void unreadableIsNotAbsent()
+    {
+        QVERIFY(QDir().mkpath(m_store->path(key)));
+        VERIFY_FAILED(m_store->data(key), EISDIR);
+        VERIFY_FAILED(m_store->setData(key, "x"), EISDIR);
+        QVERIFY(!m_store->boolean(key));
+    }
+
+    void aFileInPlaceOfTheFolder()
+    {
+        write(preferences(), "x");
+        VERIFY_FAILED(m_store->data(key), ENOTDIR);
+        VERIFY_FAILED(m_store->setData(key, "x"), EEXIST);
+        VERIFY_FAILED(m_store->setBoolean(key, true), EEXIST);
+    }
+
+    void everyReadGoesToTheDisk()
+    {
+        VERIFY_OK(m_store->setBoolean(key, true));
+        write(m_store->path(key), "false");
+        QCOMPARE(m_store->boolean(key), std::optional(false));
+        QVERIFY(QFile::remove(m_store->path(key)));
+        QVERIFY(!m_store->boolean(key));
+    }
+
+    void scalarsComeBack()
+    {
+        VERIFY_OK(m_store->setBoolean(QStringLiteral("darkMode"), true));
+        QCOMPARE(content(m_store->path(QStringLiteral("darkMode"))), QByteArray("true"));
+        QCOMPARE(m_store->boolean(QStringLiteral("darkMode")), std::optional(true));
+        for (const std::int64_t number : {std::int64_t{0}, std::int64_t{-5}, std::numeric_limits<std::int64_t>::max(),
+                                          std::numeric_limits<std::int64_t>::min()}) {
+            VERIFY_OK(m_store->setInteger(QStringLiteral("number"), number));
+            QCOMPARE(m_store->integer(QStringLiteral("number")), std::optional(number));
+        }
+        const QStringList texts{QString(), QStringLiteral("€"), QStringLiteral("a\"\\\n\t b"), QStringLiteral("🤿"),
+                                QStringLiteral("a") + QChar::Null + QStringLiteral("b")};
+        for (const QString& text : texts) {
+            VERIFY_OK(m_store->setText(QStringLiteral("text"), text));
+            QCOMPARE(m_store->text(QStringLiteral("text")), std::optional(text));
+        }
+        VERIFY_OK(m_store->setText(QStringLiteral("text"), QStringLiteral("€")));
+        QCOMPARE(content(m_store->path(QStringLiteral("text"))), QByteArray("\"€\""));
+    }
+
+    void loneSurrogatesDoNotBreakTheFile()
+    {
+        VERIFY_OK(m_store->setText(key, QString(QChar(0xD800)) + QLatin1String("a")));
+        QVERIFY(m_store->text(key)->endsWith(QLatin1Char('a')));
+    }
+
+    void readsIntegers_data()
+    {
+        QTest::addColumn<QByteArray>("stored");
+        QTest::addColumn<bool>("isInteger");
+        QTest::addColumn<qint64>("value");
+        const auto integer = [](const char* stored, qint64 value) {
+            QTest::newRow(stored) << QByteArray(stored) << true << value;
+        };
+        const auto nothing = [](const char* stored) {
+            QTest::newRow(stored) << QByteArray(stored) << false << qint64{0};
+        };
+        integer("57", 57);
+        integer("57.0", 57);
+        QTest::newRow("white space around") << QByteArray(" 57\n") << true << qint64{57};
+        integer("-0", 0);
+        integer("-0.0", 0);
+        integer("5.7e1", 57);
+        integer("1e18", 1'000'000'000'000'000'000);
+        integer("9223372036854775807", std::numeric_limits<qint64>::max());
+        integer("-9223372036854775808", std::numeric_limits<qint64>::min());
+        nothing("57.5");
+        nothing("\"57\"");
+        nothing("9223372036854775808");
+        nothing("18446744073709551615");
+        nothing("18446744073709551616");
+        nothing("-9223372036854775809");
+        nothing("9223372036854775808.0");
+        nothing("1e19");
+        nothing("1e400");
+        nothing("true");
+        nothing("null");
+        nothing("[57]");
+        nothing("{}");
+        nothing("57 58");
+        nothing("0x39");
+        nothing("057");
+        nothing("+57");
+        nothing("NaN");
+        nothing("");
+        QTest::newRow("byte order mark") << QByteArray("\xEF\xBB\xBF"
+                                                       "57")
+                                         << false << qint64{0};
+        QTest::newRow("trailing NUL") << QByteArray("57\0", 3) << false << qint64{0};
+    }
+
+    void readsIntegers()
+    {
+        QFETCH(QByteArray, stored);
+        QFETCH(bool, isInteger);
+        QFETCH(qint64, value);
+        VERIFY_OK(m_store->setData(key, stored));
+        const auto read = m_store->integer(key);
+        QCOMPARE(read.has_value(), isInteger);
+        QCOMPARE(qint64{read.value_or(0)}, value);
+    }
+
+    void otherTypesReadAsNothing_data()
+    {
+        QTest::addColumn<QByteArray>("stored");
+        QTest::newRow("null") << QByteArray("null");
+        QTest::newRow("array") << QByteArray("[true]");
+        QTest::newRow("truncated text") << QByteArray("\"abc");
+        QTest::newRow("upper case") << QByteArray("True");
+        QTest::newRow("number") << QByteArray("1");
+        QTest::newRow("invalid UTF-8") << QByteArray("\"\xC3\x28\"");
+        QTest::newRow("byte order mark, true") << QByteArray("\xEF\xBB\xBFtrue");
+        QTest::newRow("byte order mark, text") << QByteArray("\xEF\xBB\xBF\"a\"");
+        QTest::newRow("trailing NUL") << QByteArray("true\0", 5);
+        QTest::newRow("nested") << QByteArray(100'000, '[');
+        QTest::newRow("nested and closed") << QByteArray(100'000, '[') + QByteArray(100'000, ']');
+    }
+
+    void otherTypesReadAsNothing()
+    {
+        QFETCH(QByteArray, stored);
+        VERIFY_OK(m_store->setData(key, stored));
+        QVERIFY(!m_store->boolean(key));
+        QVERIFY(!m_store->text(key));
+    }
+
+    void keysArePlainNames_data()
+    {
+        QTest::addColumn<QString>("bad");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("parent") << QStringLiteral("..");
+        QTest::newRow("path") << QStringLiteral("../outside");
+        QTest::newRow("slash") << QStringLiteral("a/b");
+        QTest::newRow("backslash") << QStringLiteral("a\\b");
+        QTest::newRow("dot") << QStringLiteral("a.b");
+        QTest::newRow("hyphen") << QStringLiteral("a-b");
+        QTest::newRow("space") << QStringLiteral("a b");
+        QTest::newRow("accent") << QStringLiteral("à");
+        QTest::newRow("NUL") << QStringLiteral("a") + QChar::Null;
+    }
+
+    void keysArePlainNames()
+    {
+        QFETCH(QString, bad);
+        VERIFY_FAILED(m_store->data(bad), EINVAL);
+        VERIFY_FAILED(m_store->setData(bad, "x"), EINVAL);
+        VERIFY_FAILED(m_store->setBoolean(bad, true), EINVAL);
+        VERIFY_FAILED(m_store->preserveUnreadable(bad), EINVAL);
+        QVERIFY(!m_store->boolean(bad));
+        QVERIFY(!m_store->integer(bad));
+        QVERIFY(!m_store->text(bad));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    }
+
+    void aFailedWriteKeepsTheOldValue()
+    {
+        VERIFY_OK(m_store->setData(key, "old"));
+        IoResult<void> result;
+        {
+            const test::FileSizeLimit limit(50'000);
+            result = m_store->setData(key, QByteArray(100'000, 'x'));
+        }
+        VERIFY_FAILED(result, EFBIG);
+        QCOMPARE(m_store->data(key).value(), std::optional(QByteArray("old")));
+        QCOMPARE(namesIn(preferences()).size(), 1);
+    }
+
+private:
+    QString preferences() const { return m_folder->filePath(QStringLiteral("preferences")); }
+    QString backups() const { return m_folder->filePath(QStringLiteral("backups")); }
+
+    static QByteArray content(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
+    }
+
+    static void write(const QString& path, const QByteArray& bytes)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(bytes), bytes.size());
+    }
+
+    static QStringList namesIn(const QString& folder)
+    {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    std::optional<QTemporaryDir> m_folder;
+    test::FixedClock m_clock;
+    std::optional<PreferencesStore> m_store;
+};
+
+ABISSORA_TEST(tst_PreferencesStore);
+#include "tst_PreferencesStore.moc"

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "Fakes.h"
+#include "FileSizeLimit.h"
+#include "PreferencesStore.h"
+#include "TestRunner.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+#include <cerrno>
+
+using namespace abissora;
+
+namespace {
+
+template <typename T>
+QString reason(const IoResult<T>& result)
+{
+    return result ? QString() : result.error().reason;
+}
+
+#define VERIFY_OK(result) QCOMPARE(reason(result), QString())
+#define VERIFY_FAILED(result, number) QCOMPARE(reason(result), IoError::fromErrno(number).reason)
+
+const QString key = QStringLiteral("savedEquipment");
+
+} // namespace
+
+class tst_UnreadablePreferences : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        test::TestCase::init();
+        m_folder.emplace();
+        QVERIFY(m_folder->isValid());
+        m_clock.set(std::chrono::sys_days{std::chrono::year{2026} / 11 / 21} + std::chrono::hours{4} +
+                    std::chrono::minutes{3} + std::chrono::seconds{2});
+        m_store.emplace(preferences(), backups(), m_clock);
+    }
+
+    void unreadableBytesAreKept()
+    {
+        VERIFY_OK(m_store->setData(key, "{broken"));
+        VERIFY_OK(m_store->preserveUnreadable(key));
+        const QString copy = backups() + QLatin1String("/savedEquipment-20261121T040302Z.json");
+        QCOMPARE(content(copy), QByteArray("{broken"));
+        VERIFY_OK(m_store->setData(key, "[]"));
+        QCOMPARE(content(copy), QByteArray("{broken"));
+        QCOMPARE(namesIn(backups()).size(), 1);
+    }
+
+    void nothingStoredNeedsNoCopy()
+    {
+        VERIFY_OK(m_store->preserveUnreadable(key));
+        QVERIFY(!QFileInfo::exists(backups()));
+        VERIFY_OK(m_store->setData(key, "[]"));
+    }
+
+    void theSameBytesAreKeptOnce()
+    {
+        VERIFY_OK(m_store->setData(key, "{broken"));
+        VERIFY_OK(m_store->preserveUnreadable(key));
+        m_clock.advance(std::chrono::hours{1});
+        VERIFY_OK(m_store->preserveUnreadable(key));
+        QCOMPARE(namesIn(backups()).size(), 1);
+        VERIFY_OK(m_store->setData(QStringLiteral("equipmentTypes"), "{broken"));
+        VERIFY_OK(m_store->preserveUnreadable(QStringLiteral("equipmentTypes")));
+        QCOMPARE(namesIn(backups()).size(), 2); // each key has its own copy
+    }
+
+    void copiesOfOneSecondHaveNumbers()
+    {
+        for (const char* bytes : {"one", "two", "six"}) {
+            VERIFY_OK(m_store->setData(key, bytes));
+            VERIFY_OK(m_store->preserveUnreadable(key));
+        }
+        const QString stem = backups() + QLatin1String("/savedEquipment-20261121T040302Z");
+        QCOMPARE(content(stem + QLatin1String(".json")), QByteArray("one"));
+        QCOMPARE(content(stem + QLatin1String("-2.json")), QByteArray("two"));
+        QCOMPARE(content(stem + QLatin1String("-3.json")), QByteArray("six"));
+    }
+
+    void aFullDiskKeepsTheBytesUnderASecondName()
+    {
+        const QByteArray broken(100'000, '{');
+        VERIFY_OK(m_store->setData(key, broken));
+        IoResult<void> result;
+        {
+            const test::FileSizeLimit limit(50'000);
+            result = m_store->preserveUnreadable(key);
+        }
+        VERIFY_OK(result);
+        VERIFY_OK(m_store->setData(key, "[]"));
+        QCOMPARE(namesIn(backups()), QStringList{QStringLiteral("savedEquipment-20261121T040302Z.json")});
+        QVERIFY(content(backups() + QLatin1String("/savedEquipment-20261121T040302Z.json")) == broken);
+    }
+
+    void withoutACopyNothingIsOverwritten()
+    {
+        VERIFY_OK(m_store->setData(key, "{broken"));
+        write(backups(), "in the way");
+        VERIFY_FAILED(m_store->preserveUnreadable(key), EEXIST);
+        VERIFY_FAILED(m_store->setData(key, "[]"), EEXIST);
+        QCOMPARE(m_store->data(key).value(), std::optional(QByteArray("{broken")));
+        VERIFY_OK(m_store->setData(QStringLiteral("equipmentTypes"), "[]")); // other keys go on
+
+        QVERIFY(QFile::remove(backups()));
+        VERIFY_OK(m_store->setData(key, "[]")); // kept first, then written
+        QCOMPARE(content(backups() + QLatin1String("/savedEquipment-20261121T040302Z.json")), QByteArray("{broken"));
+        QCOMPARE(m_store->data(key).value(), std::optional(QByteArray("[]")));
+    }
+
+    void whatCannotBeReadIsNotOverwritten()
+    {
+        QVERIFY(QDir().mkpath(m_store->path(key)));
+        VERIFY_FAILED(m_store->preserveUnreadable(key), EISDIR);
+        VERIFY_FAILED(m_store->setData(key, "[]"), EISDIR);
+        QVERIFY(QDir().rmdir(m_store->path(key)));
+        VERIFY_OK(m_store->setData(key, "[]"));
+    }
+
+private:
+    QString preferences() const { return m_folder->filePath(QStringLiteral("preferences")); }
+    QString backups() const { return m_folder->filePath(QStringLiteral("backups")); }
+
+    static QByteArray content(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
+    }
+
+    static void write(const QString& path, const QByteArray& bytes)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(bytes), bytes.size());
+    }
+
+    static QStringList namesIn(const QString& folder)
+    {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    std::optional<QTemporaryDir> m_folder;
+    test::FixedClock m_clock;
+    std::optional<PreferencesStore> m_store;
+};
+
+ABISSORA_TEST(tst_UnreadablePreferences);
+#include "tst_UnreadablePreferences.moc"
