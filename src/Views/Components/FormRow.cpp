@@ -24,7 +24,8 @@ FormRow::FormRow(const QString& label, QWidget* field, QWidget* parent)
     layout->setColumnStretch(1, 1);
     const bool tall = field->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag;
     layout->addWidget(name, 0, 0, tall ? Qt::AlignTop : Qt::AlignVCenter);
-    const bool narrow = !(field->sizePolicy().horizontalPolicy() & (QSizePolicy::ExpandFlag | QSizePolicy::GrowFlag));
+    const bool narrow = field->maximumWidth() < QWIDGETSIZE_MAX ||
+                        !(field->sizePolicy().horizontalPolicy() & (QSizePolicy::ExpandFlag | QSizePolicy::GrowFlag));
     layout->addWidget(field, 0, 1, narrow ? Qt::AlignLeft : Qt::Alignment());
 }
 

@@ -21,9 +21,9 @@ SearchField::SearchField(const QString& placeholder, QWidget* parent)
 
     m_clear->setObjectName(QStringLiteral("clear"));
     m_clear->setIcon(symbolIcon(QStringLiteral("xmark.circle.fill"), NamedColor::secondary));
-    m_clear->setVisible(false);
     setClearName(QStringLiteral("Cancella la ricerca"));
     addAction(m_clear, QLineEdit::TrailingPosition);
+    m_clear->setVisible(false); // after it was added: the field only notices changes
     connect(m_clear, &QAction::triggered, this, &SearchField::clearByPerson);
     connect(this, &QLineEdit::textChanged, m_clear,
             [this](const QString& text) { m_clear->setVisible(!text.isEmpty()); });

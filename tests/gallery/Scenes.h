@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Gallery.h"
+
+namespace abissora::gallery {
+
+[[nodiscard]] QList<Scene> controlScenes();
+[[nodiscard]] QList<Scene> componentScenes();
+[[nodiscard]] QList<Scene> sheetScenes();
+
+} // namespace abissora::gallery
