@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "SymbolIcon.h"
+
+#include "SymbolIconEngine.h"
+
+#include <QFile>
+#include <QPixmap>
+
+// Outside the namespace, as the resources' functions are. A static library's own registration is dropped by the linker.
+static void initializeResources()
+{
+    static const bool initialized = [] {
+        Q_INIT_RESOURCE(symbols);
+        Q_INIT_RESOURCE(appicon);
+        return true;
+    }();
+    Q_UNUSED(initialized)
+}
+
+namespace abissora {
+
+namespace {
+
+constexpr qreal menuPictureScale = 2;
+
+// Empty for a name that the library does not have. A separator would lead out of the library's folder.
+QString symbolPath(const QString& name)
+{
+    initializeResources();
+    if (name.isEmpty() || name.contains(QLatin1Char('/')))
+        return {};
+    const QString path = QLatin1String(":/symbols/") + name + QLatin1String(".svg");
+    return QFile::exists(path) ? path : QString();
+}
+
+QIcon iconOf(const QString& name, const SymbolInk& ink)
+{
+    return QIcon(new SymbolIconEngine(name, symbolPath(name), ink));
+}
+
+} // namespace
+
+bool ResourceSymbolLibrary::contains(const QString& name) const
+{
+    return !symbolPath(name).isEmpty();
+}
+
+QIcon symbolIcon(const QString& name, std::optional<NamedColor> color)
+{
+    return iconOf(name, color ? SymbolInk(*color) : SymbolInk());
+}
+
+QIcon symbolIcon(const QString& name, const QColor& color)
+{
+    return iconOf(name, color);
+}
+
+QIcon typeIcon(const QString& name, NamedColor color)
+{
+    return iconOf(name, color);
+}
+
+QIcon typeIconForMenu(const QString& name, int size, NamedColor color)
+{
+    const QIcon icon = typeIcon(name, color);
+    if (!name.startsWith(QLatin1String("dive.")))
+        return icon;
+    const QPixmap picture = icon.pixmap(QSize(size, size), menuPictureScale);
+    return picture.isNull() ? icon : QIcon(picture);
+}
+
+QIcon applicationIcon()
+{
+    initializeResources();
+    return QIcon(new SymbolIconEngine(QStringLiteral("abissora"), QStringLiteral(":/appicon/abissora.svg"), {}));
+}
+
+} // namespace abissora
