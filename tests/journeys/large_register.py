@@ -56,12 +56,8 @@ def journey(run, data):
     program.type("n. 299")
     program.wait_for_rows([items[299]["name"]])
 
-    # Delete it by keyboard: into the table, the Delete key, and the alert's second button.
-    program.key("Tab")
-    program.key("Tab")
-    program.key("Tab")
-    program.key("Down")
-    program.key("Delete")
+    # Delete it by keyboard: past the filter button into the table, select the row, the Delete key.
+    program.key("Tab", "Tab", "space", "Delete")
     program.find_anywhere(Atspi.Role.LABEL, f"Sei sicuro di voler eliminare l'attrezzatura '{items[299]['name']}'?")
     program.press(program.find_anywhere(Atspi.Role.PUSH_BUTTON, "Elimina"))
     program.wait_for_lines([f"🗑️ Eliminato equipaggiamento: {items[299]['name']}"])

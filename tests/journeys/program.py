@@ -133,7 +133,7 @@ class Program:
     def select_in_sidebar(self, name):
         sidebar = self.find(Atspi.Role.LIST, "Barra laterale")
         rows = [row.get_name() for row in children(sidebar)]
-        assert sidebar.get_selection_iface().select_child(rows.index(name)), name
+        assert sidebar.get_table_iface().add_row_selection(rows.index(name)), name
 
     def key(self, *names):
         """Presses keys by their X names; "ctrl+f" holds one down."""

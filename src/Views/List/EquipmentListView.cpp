@@ -2,20 +2,18 @@
 #include "EquipmentListView.h"
 
 #include "Alert.h"
-#include "ControlLook.h"
 #include "EmptyState.h"
 #include "EquipmentColumns.h"
 #include "EquipmentTableView.h"
+#include "FilterButton.h"
 #include "FilterMenu.h"
 #include "ListFooter.h"
 #include "ListHeader.h"
 #include "Metrics.h"
 #include "RowActionsMenu.h"
 #include "SearchField.h"
-#include "SymbolIcon.h"
 
 #include <QStackedWidget>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace abissora {
@@ -27,8 +25,8 @@ EquipmentListView::EquipmentListView(const AppContext& context, QWidget* parent)
     , m_refreshID(context.ids.next())
     , m_header(new ListHeader)
     , m_search(new SearchField(QStringLiteral("Cerca attrezzatura...")))
-    , m_filterButton(new QToolButton)
     , m_filterMenu(new FilterMenu(this))
+    , m_filterButton(new FilterButton(*m_filterMenu))
     , m_content(new QStackedWidget)
     , m_table(new EquipmentTableView)
     , m_empty(new EmptyState)
@@ -48,12 +46,6 @@ void EquipmentListView::buildLayout()
     m_empty->setSymbol(QStringLiteral("tray"));
     m_empty->setTitle(QStringLiteral("Nessuna attrezzatura trovata"));
     m_filterButton->setObjectName(QStringLiteral("filterButton"));
-    m_filterButton->setIcon(symbolIcon(QStringLiteral("line.3.horizontal.decrease")));
-    m_filterButton->setAccessibleName(QStringLiteral("Filtro"));
-    m_filterButton->setToolTip(QStringLiteral("Filtro"));
-    m_filterButton->setPopupMode(QToolButton::InstantPopup);
-    m_filterButton->setMenu(m_filterMenu);
-    setButtonLook(*m_filterButton, ButtonLook::Plain);
 
     new EquipmentColumns(*m_table);
     m_content->addWidget(m_table);

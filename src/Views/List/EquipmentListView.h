@@ -7,12 +7,12 @@
 #include <QWidget>
 
 class QStackedWidget;
-class QToolButton;
 
 namespace abissora {
 
 class EmptyState;
 class EquipmentTableView;
+class FilterButton;
 class FilterMenu;
 class ListFooter;
 class ListHeader;
@@ -65,8 +65,8 @@ private:
 
     ListHeader* m_header;
     SearchField* m_search;
-    QToolButton* m_filterButton;
     FilterMenu* m_filterMenu;
+    FilterButton* m_filterButton;
     QStackedWidget* m_content;
     EquipmentTableView* m_table;
     EmptyState* m_empty;

@@ -101,8 +101,9 @@ void EquipmentTableDelegate::paint(QPainter* painter, const QStyleOptionViewItem
     const Tokens& tokens = Tokens::of(option.palette);
     const QRect cell = option.rect.adjusted(metrics::spaceS, 0, -metrics::spaceS, 0);
     const EquipmentRow row = m_model.row(index.row());
-    const bool focused =
-        option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_KeyboardFocusChange);
+    const bool focused = showsFocusRing(option);
+    if (focused && index.column() != EquipmentTableModel::ActionsColumn)
+        drawFocusRing(*painter, option.rect.adjusted(1, 1, -1, -1), metrics::spaceXS, option.palette);
     switch (index.column()) {
     case EquipmentTableModel::NameColumn:
         paintName(*painter, cell, row, tokens);
