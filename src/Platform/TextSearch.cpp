@@ -7,9 +7,11 @@ namespace abissora {
 
 namespace {
 
-bool isAscii(QStringView text)
+/// Latin-1 is composed, has no accents of their own and folds one to one, "ß" excepted: QString's own search will do,
+/// and needs no memory.
+bool isSimple(QStringView text)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x100 && c != QChar(0xDF); });
 }
 
 // The lower-case letters whose full case folding is longer than one character, among those that canonical
@@ -48,15 +50,14 @@ bool startsWithAccent(QStringView text)
 
 TextSearch::TextSearch(const QString& needle)
     : m_needle(folded(needle))
-    , m_ascii(isAscii(m_needle))
 {}
 
 bool TextSearch::foundIn(const QString& text) const
 {
     if (m_needle.isEmpty())
         return true;
-    if (isAscii(text))
-        return m_ascii && text.contains(m_needle, Qt::CaseInsensitive);
+    if (isSimple(text))
+        return text.contains(m_needle, Qt::CaseInsensitive);
 
     const QString haystack = folded(text);
     for (qsizetype at = haystack.indexOf(m_needle); at >= 0; at = haystack.indexOf(m_needle, at + 1)) {

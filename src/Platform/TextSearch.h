@@ -18,7 +18,6 @@ public:
 
 private:
     QString m_needle; // folded and composed
-    bool m_ascii = false;
 };
 
 } // namespace abissora

@@ -47,6 +47,10 @@ private Q_SLOTS:
         row("sharp s", u"STRASSE", u"Straße", true);
         row("sharp s in the needle", u"straße", u"STRASSE", true);
         row("capital sharp s", u"strasse", u"STRAẞE", true);
+        row("sharp s finds two letters", u"ß", u"tosse", true);
+        row("micro sign", u"µ", u"5 µm", true);
+        row("micro sign as a Greek letter", u"μ", u"5 µm", true);
+        row("diaeresis whose capital lies beyond Latin-1", u"Ÿ", u"ÿ", true);
         row("ligature", u"FILTRO", u"ﬁltro", true);
         row("final sigma", u"ΣΟΦΟΣ", u"σοφος", true);
         row("Kelvin sign", u"k", u"300 \u212A", true);
@@ -61,6 +65,18 @@ private Q_SLOTS:
         row("Japanese", u"潜水", u"スキューバ潜水", true);
         row("pattern characters are plain", u".*", u"abc", false);
         row("hash signs", u"###", u"### Titolo", true);
+    }
+
+    /// The shortcut for Latin-1 text gives what the long way gives.
+    void latin1IsNoSpecialCase()
+    {
+        for (char16_t a = 0x20; a < 0x100; ++a) {
+            for (char16_t b = 0x20; b < 0x100; ++b) {
+                const TextSearch search{QString(QChar(a))};
+                const QString text{QChar(b)};
+                QCOMPARE(search.foundIn(text), search.foundIn(text + QChar(0x4E00)));
+            }
+        }
     }
 
     void foundIn()
