@@ -19,6 +19,8 @@ function(abissora_add_symbols target)
     message(FATAL_ERROR "The icon sets are missing. Fetch them with\n  npm ci --ignore-scripts\nin ${PROJECT_SOURCE_DIR}.")
   endif()
 
+  find_program(NODE_PROGRAM NAMES node nodejs REQUIRED)
+
   # Contents, not times: npm gives every file of a package the same time, whatever its version.
   file(GLOB inputs CONFIGURE_DEPENDS "${drawings}/*.svg")
   list(APPEND inputs "${script}" "${table}")
@@ -38,7 +40,6 @@ function(abissora_add_symbols target)
     file(READ "${stamp}" known)
   endif()
   if(NOT known STREQUAL sums)
-    find_program(NODE_PROGRAM NAMES node nodejs REQUIRED)
     execute_process(
       COMMAND ${NODE_PROGRAM} "${script}"
         --table "${table}" --sets "${sets}" --drawings "${drawings}" --output "${output}"

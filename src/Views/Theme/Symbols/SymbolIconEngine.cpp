@@ -27,8 +27,7 @@ SymbolIconEngine::SymbolIconEngine(QString name, QString path, SymbolInk ink)
     : m_name(std::move(name))
     , m_path(std::move(path))
     , m_ink(std::move(ink))
-{
-}
+{}
 
 void SymbolIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State)
 {
