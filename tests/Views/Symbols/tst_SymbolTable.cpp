@@ -40,11 +40,11 @@ QString svgOf(const QString& symbol)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-void addNames(const QList<const char*>& names)
+void addNames(const char* words)
 {
     QTest::addColumn<QString>("name");
-    for (const char* name : names)
-        QTest::newRow(name) << QString::fromLatin1(name);
+    for (const QByteArray& name : QByteArray(words).split(' '))
+        QTest::newRow(name.constData()) << QString::fromLatin1(name);
 }
 
 } // namespace
@@ -156,52 +156,15 @@ void tst_SymbolTable::aDiscHasAHole()
 
 void tst_SymbolTable::selectableIconsExist_data()
 {
-    addNames({"dive.regulator",
-              "dive.bcd",
-              "dive.tank",
-              "dive.mask",
-              "dive.fins",
-              "dive.wetsuit",
-              "dive.drysuit",
-              "dive.computer",
-              "dive.light",
-              "dive.compass",
-              "gauge.with.dots.needle.bottom.0percent",
-              "dive.gauge",
-              "dive.knife",
-              "dive.reel",
-              "balloon.fill",
-              "dive.weightbelt",
-              "dive.lifejacket",
-              "cross.case.fill",
-              "lungs.fill",
-              "dive.whistle",
-              "flag.checkered",
-              "antenna.radiowaves.left.and.right",
-              "bell.and.waves.left.and.right.fill",
-              "camera.fill",
-              "camera.macro.circle.fill",
-              "suitcase.fill",
-              "bag.badge.plus",
-              "wrench.and.screwdriver.fill",
-              "gearshape.fill",
-              "water.waves",
-              "figure.water.fitness",
-              "dive.snorkel",
-              "graduationcap.fill",
-              "mountain.2.fill",
-              "sailboat.fill",
-              "moon.stars.fill",
-              "arrow.down.circle.fill",
-              "wrench.fill",
-              "bubbles.and.sparkles.fill",
-              "checkmark.circle.fill",
-              "hammer.circle.fill",
-              "magnifyingglass.circle.fill",
-              "slider.horizontal.3",
-              "questionmark.circle.fill",
-              "circle.hexagongrid.fill",
-              "pencil.circle.fill"});
+    addNames("dive.regulator dive.bcd dive.tank dive.mask dive.fins dive.wetsuit dive.drysuit dive.computer "
+             "dive.light dive.compass gauge.with.dots.needle.bottom.0percent dive.gauge dive.knife dive.reel "
+             "balloon.fill dive.weightbelt dive.lifejacket cross.case.fill lungs.fill dive.whistle "
+             "flag.checkered antenna.radiowaves.left.and.right bell.and.waves.left.and.right.fill camera.fill "
+             "camera.macro.circle.fill suitcase.fill bag.badge.plus wrench.and.screwdriver.fill "
+             "gearshape.fill water.waves figure.water.fitness dive.snorkel graduationcap.fill mountain.2.fill "
+             "sailboat.fill moon.stars.fill arrow.down.circle.fill wrench.fill bubbles.and.sparkles.fill "
+             "checkmark.circle.fill hammer.circle.fill magnifyingglass.circle.fill slider.horizontal.3 "
+             "questionmark.circle.fill circle.hexagongrid.fill pencil.circle.fill");
 }
 
 void tst_SymbolTable::selectableIconsExist()
@@ -212,37 +175,12 @@ void tst_SymbolTable::selectableIconsExist()
 
 void tst_SymbolTable::migratedIconsExist_data()
 {
-    addNames({"dive.regulator",
-              "dive.bcd",
-              "dive.tank",
-              "dive.mask",
-              "dive.fins",
-              "dive.wetsuit",
-              "dive.drysuit",
-              "dive.computer",
-              "dive.light",
-              "compass.drawing",
-              "gauge.with.dots.needle.bottom.50percent",
-              "lasso",
-              "balloon.fill",
-              "scalemass.fill",
-              "circle.dotted.circle.fill",
-              "lungs.fill",
-              "flag.checkered",
-              "antenna.radiowaves.left.and.right",
-              "bell.and.waves.left.and.right.fill",
-              "figure.water.fitness",
-              "fish.fill",
-              "wrench.fill",
-              "bubbles.and.sparkles.fill",
-              "dive.compass",
-              "dive.gauge",
-              "dive.knife",
-              "dive.reel",
-              "dive.weightbelt",
-              "dive.lifejacket",
-              "dive.whistle",
-              "dive.snorkel"});
+    addNames("dive.regulator dive.bcd dive.tank dive.mask dive.fins dive.wetsuit dive.drysuit dive.computer "
+             "dive.light compass.drawing gauge.with.dots.needle.bottom.50percent lasso balloon.fill "
+             "scalemass.fill circle.dotted.circle.fill lungs.fill flag.checkered "
+             "antenna.radiowaves.left.and.right bell.and.waves.left.and.right.fill figure.water.fitness "
+             "fish.fill wrench.fill bubbles.and.sparkles.fill dive.compass dive.gauge dive.knife dive.reel "
+             "dive.weightbelt dive.lifejacket dive.whistle dive.snorkel");
 }
 
 void tst_SymbolTable::migratedIconsExist()
@@ -252,55 +190,14 @@ void tst_SymbolTable::migratedIconsExist()
 
 void tst_SymbolTable::symbolsOfTheScreensExist_data()
 {
-    addNames({"folder",
-              "folder.fill",
-              "exclamationmark.triangle",
-              "exclamationmark.triangle.fill",
-              "gear",
-              "list.bullet",
-              "wrench",
-              "chart.bar",
-              "lightbulb",
-              "arrow.clockwise",
-              "magnifyingglass",
-              "line.3.horizontal.decrease",
-              "xmark.circle",
-              "xmark.circle.fill",
-              "tray",
-              "info.circle",
-              "note.text",
-              "clock.arrow.circlepath",
-              "checkmark.circle",
-              "checkmark.seal",
-              "checkmark.seal.fill",
-              "calendar.circle.fill",
-              "drop.circle.fill",
-              "ellipsis.circle.fill",
-              "pencil.circle",
-              "trash.circle.fill",
-              "doc.text.fill",
-              "doc.fill",
-              "doc.badge.plus",
-              "arrow.triangle.2.circlepath",
-              "wand.and.stars",
-              "clock.fill",
-              "bell",
-              "arrow.down.circle",
-              "paintbrush",
-              "book",
-              "book.fill",
-              "arrow.counterclockwise",
-              "sparkles",
-              "quote.opening",
-              "list.bullet.circle.fill",
-              "exclamationmark.circle",
-              "plus",
-              "xmark",
-              "pencil",
-              "calendar",
-              "chevron.up.down",
-              "chevron.down",
-              "checkmark"});
+    addNames("folder folder.fill exclamationmark.triangle exclamationmark.triangle.fill gear list.bullet "
+             "wrench chart.bar lightbulb arrow.clockwise magnifyingglass line.3.horizontal.decrease "
+             "xmark.circle xmark.circle.fill tray info.circle note.text clock.arrow.circlepath "
+             "checkmark.circle checkmark.seal checkmark.seal.fill calendar.circle.fill drop.circle.fill "
+             "ellipsis.circle.fill pencil.circle trash.circle.fill doc.text.fill doc.fill doc.badge.plus "
+             "arrow.triangle.2.circlepath wand.and.stars clock.fill bell arrow.down.circle paintbrush book "
+             "book.fill arrow.counterclockwise sparkles quote.opening list.bullet.circle.fill "
+             "exclamationmark.circle plus xmark pencil calendar chevron.up.down chevron.down checkmark");
 }
 
 void tst_SymbolTable::symbolsOfTheScreensExist()
