@@ -61,7 +61,7 @@ IoResult<void> write(const QString& path, const Fill& fill, Place place)
         return tl::unexpected(temporary.error());
 
     const int descriptor = temporary->descriptor.get();
-    const auto placed = fill(descriptor).and_then([&] { return posix::syncFile(descriptor); }).and_then([&] {
+    auto placed = fill(descriptor).and_then([&] { return posix::syncFile(descriptor); }).and_then([&] {
         return place(temporary->name, *target);
     });
     if (!placed) {

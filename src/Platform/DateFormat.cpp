@@ -89,8 +89,8 @@ const QLocale& italian()
 
 } // namespace
 
-DateFormat::DateFormat(QLocale locale, Calendar calendar)
-    : m_locale(std::move(locale))
+DateFormat::DateFormat(const QLocale& locale, Calendar calendar)
+    : m_locale(locale)
     , m_calendar(std::move(calendar))
     , m_longPattern(withoutWeekday(m_locale.dateFormat(QLocale::LongFormat)))
     , m_abbreviatedPattern(withShortMonth(m_longPattern))

@@ -12,7 +12,7 @@ namespace abissora {
 class DateFormat
 {
 public:
-    DateFormat(QLocale locale, Calendar calendar);
+    DateFormat(const QLocale& locale, Calendar calendar);
 
     /// The system's locale; Italian where that is "C" or unknown.
     [[nodiscard]] static QLocale userLocale(const QLocale& system = QLocale::system());

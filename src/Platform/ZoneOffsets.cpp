@@ -37,8 +37,8 @@ struct SystemZone
 
 } // namespace
 
-ZoneOffsets::ZoneOffsets(QTimeZone zone)
-    : m_zone(std::move(zone))
+ZoneOffsets::ZoneOffsets(const QTimeZone& zone)
+    : m_zone(zone)
 {
     if (!m_zone.isValid())
         m_zone = QTimeZone::utc();

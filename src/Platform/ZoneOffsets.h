@@ -14,7 +14,7 @@ namespace abissora {
 class ZoneOffsets
 {
 public:
-    explicit ZoneOffsets(QTimeZone zone);
+    explicit ZoneOffsets(const QTimeZone& zone);
 
     /// The system's zone of this moment, UTC when it cannot be determined. Shared while the zone stays the same: TZ is
     /// looked at every time, the system's own setting at most once a second.
