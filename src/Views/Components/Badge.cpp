@@ -27,8 +27,8 @@ void Badge::setCount(qsizetype count)
 
 QSize Badge::sizeHint() const
 {
-    const int height = fontMetrics().height() + metrics::spaceXS;
-    return {std::max(height, fontMetrics().horizontalAdvance(text()) + metrics::spaceM), height};
+    const int height = fontMetrics().height() + 2 * metrics::spaceXS;
+    return {std::max(height, fontMetrics().horizontalAdvance(text()) + 2 * metrics::spaceXS), height};
 }
 
 QSize Badge::minimumSizeHint() const

@@ -12,7 +12,8 @@ namespace abissora {
 FormRow::FormRow(const QString& label, QWidget* field, QWidget* parent)
     : QWidget(parent)
 {
-    auto* name = new QLabel(label);
+    // With a buddy the label takes an ampersand for the mark of an access key.
+    auto* name = new QLabel(QString(label).replace(QLatin1Char('&'), QLatin1String("&&")));
     name->setForegroundRole(QPalette::PlaceholderText);
     name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     name->setBuddy(field);

@@ -7,6 +7,7 @@
 #include "Tokens.h"
 #include "WindowShape.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QLayout>
 #include <QPainter>
@@ -47,12 +48,15 @@ void SheetWindow::setVisible(bool visible)
         place();
         cover();
     }
+    const bool hadTheFocus = !visible && parentWidget() != nullptr && QApplication::activeWindow() == this;
     QDialog::setVisible(visible);
     if (visible) {
         if (QWidget* const first = firstFocus())
             first->setFocus(Qt::TabFocusReason);
     } else {
         uncover();
+        if (hadTheFocus)
+            parentWidget()->activateWindow();
         if (m_opener && m_opener->isVisible())
             m_opener->setFocus(Qt::PopupFocusReason);
     }

@@ -22,13 +22,13 @@ Stepper::Stepper(QWidget* parent)
     lineEdit()->setReadOnly(true);
     lineEdit()->setFocusPolicy(Qt::NoFocus);
     lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
-    show(m_value);
+    present(m_value);
 }
 
 void Stepper::setValue(qint64 value)
 {
     if (value != m_value)
-        show(value);
+        present(value);
 }
 
 void Stepper::setRange(qint64 minimum, qint64 maximum)
@@ -47,7 +47,7 @@ void Stepper::setSingleStep(qint64 step)
 void Stepper::setSuffix(const QString& suffix)
 {
     m_suffix = suffix;
-    show(m_value);
+    present(m_value);
     updateGeometry();
 }
 
@@ -56,7 +56,7 @@ void Stepper::edit(qint64 value)
     const qint64 held = std::clamp(value, m_minimum, m_maximum);
     if (held == m_value)
         return;
-    show(held);
+    present(held);
     Q_EMIT edited(held);
 }
 
@@ -127,7 +127,7 @@ QString Stepper::textOf(qint64 value) const
     return QString::number(value) + m_suffix;
 }
 
-void Stepper::show(qint64 value)
+void Stepper::present(qint64 value)
 {
     m_value = value;
     lineEdit()->setText(textOf(value));

@@ -42,7 +42,7 @@ protected:
 
 private:
     [[nodiscard]] QString textOf(qint64 value) const;
-    void show(qint64 value);
+    void present(qint64 value);
 
     qint64 m_value = 0;
     qint64 m_minimum = 0;

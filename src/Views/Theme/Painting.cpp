@@ -21,6 +21,13 @@ qreal deviceScale(const QPainter& painter)
     return scale > 0 ? scale : 1;
 }
 
+QRectF roundedToPixels(const QRectF& device)
+{
+    const QPointF topLeft(std::round(device.left()), std::round(device.top()));
+    const QPointF bottomRight(std::round(device.right()), std::round(device.bottom()));
+    return {topLeft, bottomRight};
+}
+
 QPainterPath glyphPath(Glyph glyph)
 {
     // In a square of side 10 around the origin.
@@ -73,10 +80,7 @@ qreal hairlineWidth(const QPainter& painter)
 QRectF onDeviceGrid(const QPainter& painter, const QRectF& rect)
 {
     const QTransform transform = painter.deviceTransform();
-    const QRectF device = transform.mapRect(rect);
-    const QPointF topLeft(std::round(device.left()), std::round(device.top()));
-    const QPointF bottomRight(std::round(device.right()), std::round(device.bottom()));
-    return transform.inverted().mapRect(QRectF(topLeft, bottomRight));
+    return transform.inverted().mapRect(roundedToPixels(transform.mapRect(rect)));
 }
 
 void drawPanel(QPainter& painter, const QRectF& rect, qreal radius, const QColor& fill, const QColor& border)
@@ -87,13 +91,19 @@ void drawPanel(QPainter& painter, const QRectF& rect, qreal radius, const QColor
 void drawPanel(QPainter& painter, const QRectF& rect, qreal radius, const QColor& fill, const QColor& border,
                qreal borderWidth)
 {
+    const QTransform toDevice = painter.deviceTransform();
+    const qreal scale = deviceScale(painter);
+    const QRectF device = roundedToPixels(toDevice.mapRect(rect));
     painter.save();
+    // In whole device pixels there is no rounding that could blur an edge.
+    painter.setWorldTransform(toDevice.inverted(), true);
     painter.setRenderHint(QPainter::Antialiasing);
-    const qreal inset = border.isValid() ? borderWidth / 2 : 0;
-    const QRectF panel = onDeviceGrid(painter, rect).adjusted(inset, inset, -inset, -inset);
-    painter.setPen(border.isValid() ? QPen(border, borderWidth) : QPen(Qt::NoPen));
+    const int pen = border.isValid() ? std::max(1, qRound(borderWidth * scale)) : 0;
+    const qreal inset = pen / 2.0;
+    const qreal corner = std::max(0.0, radius * scale - inset);
+    painter.setPen(pen > 0 ? QPen(border, pen) : QPen(Qt::NoPen));
     painter.setBrush(fill.isValid() ? QBrush(fill) : QBrush(Qt::NoBrush));
-    painter.drawRoundedRect(panel, std::max(0.0, radius - inset), std::max(0.0, radius - inset));
+    painter.drawRoundedRect(device.adjusted(inset, inset, -inset, -inset), corner, corner);
     painter.restore();
 }
 

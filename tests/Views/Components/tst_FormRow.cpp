@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#include "ClippedTexts.h"
+#include "ComponentTest.h"
+#include "FormRow.h"
+#include "Stepper.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+using namespace abissora;
+
+class tst_FormRow : public test::ComponentTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theLabelNamesTheField();
+    void fieldsOfAFormStandInOneColumn();
+    void aShortFieldKeepsItsWidth();
+    void aHintStandsBelowTheField();
+    void largerTextFits();
+};
+
+void tst_FormRow::theLabelNamesTheField()
+{
+    auto* const line = new QLineEdit;
+    const FormRow row(QStringLiteral("Nome*"), line);
+    QCOMPARE(nameOf(*line), QStringLiteral("Nome*"));
+    auto* const stepper = new Stepper;
+    const FormRow other(QStringLiteral("Giorni & mesi"), stepper);
+    QCOMPARE(nameOf(*stepper), QStringLiteral("Giorni & mesi"));
+}
+
+void tst_FormRow::fieldsOfAFormStandInOneColumn()
+{
+    QWidget form;
+    auto* const layout = new QVBoxLayout(&form);
+    auto* const first = new QLineEdit;
+    auto* const second = new QLineEdit;
+    layout->addWidget(new FormRow(QStringLiteral("Nome*"), first));
+    layout->addWidget(new FormRow(QStringLiteral("Numero Seriale"), second));
+    form.resize(520, 120);
+    activate(form);
+    const auto left = [&](const QWidget* field) { return field->mapTo(&form, QPoint()).x(); };
+    QCOMPARE(left(first), left(second));
+    QCOMPARE(first->width(), second->width());
+}
+
+void tst_FormRow::aShortFieldKeepsItsWidth()
+{
+    auto* const line = new QLineEdit;
+    line->setFixedWidth(170);
+    FormRow row(QStringLiteral("Data Acquisto"), line);
+    row.resize(520, 30);
+    activate(row);
+    QCOMPARE(line->width(), 170);
+    QVERIFY(line->x() < 200);
+}
+
+void tst_FormRow::aHintStandsBelowTheField()
+{
+    auto* const line = new QLineEdit;
+    FormRow row(QStringLiteral("Nome*"), line);
+    row.setHint(QStringLiteral("* Campo obbligatorio"));
+    row.resize(520, row.sizeHint().height());
+    activate(row);
+    const QLabel* const hint = row.findChildren<QLabel*>().last();
+    QVERIFY(hint->y() > line->geometry().bottom());
+    QCOMPARE(hint->x(), line->x());
+}
+
+void tst_FormRow::largerTextFits()
+{
+    const QFont before = QApplication::font();
+    QFont larger = before;
+    larger.setPointSizeF(larger.pointSizeF() * 1.25);
+    QApplication::setFont(larger);
+    {
+        FormRow row(QStringLiteral("Intervallo Tagliando"), new QLineEdit);
+        row.resize(420, row.sizeHint().height());
+        activate(row);
+        QCOMPARE(test::clippedTexts(row), QStringList());
+    }
+    QApplication::setFont(before);
+}
+
+ABISSORA_TEST(tst_FormRow);
+#include "tst_FormRow.moc"

@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: MIT
+#include "Buttons.h"
+#include "ClippedTexts.h"
+#include "ComponentTest.h"
+#include "FormRow.h"
+#include "GroupBox.h"
+#include "Scrim.h"
+#include "Sheet.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QVBoxLayout>
+
+using namespace abissora;
+
+class tst_Sheet : public test::ComponentTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void itIsAModalDialogNamedAfterItsTitle();
+    void escapeAndTheButtonCancel();
+    void thePrimaryButtonTellsAndClosesNothing();
+    void controlReturnPressesThePrimaryButton();
+    void controlReturnWorksFromATextEdit();
+    void controlReturnRespectsADisabledButton();
+    void returnInAFieldPressesNothing();
+    void theFirstFieldHasTheFocus();
+    void anotherFieldCanHaveTheFocusFirst();
+    void theFocusReturnsToTheOpener();
+    void theWindowBelowIsDimmedMeanwhile();
+    void itIsCentredAndFitsTheWindow();
+    void aTallBodyScrolls();
+    void theHeaderIsNotClipped();
+
+private:
+    std::unique_ptr<QWidget> m_window;
+    QLineEdit* m_opener = nullptr;
+    std::unique_ptr<Sheet> m_sheet;
+    QLineEdit* m_first = nullptr;
+    QPlainTextEdit* m_notes = nullptr;
+};
+
+void tst_Sheet::init()
+{
+    ComponentTest::init();
+    m_window = std::make_unique<QWidget>();
+    m_window->setGeometry(50, 50, 1000, 700);
+    m_opener = new QLineEdit(m_window.get());
+    activate(*m_window);
+    m_opener->setFocus();
+
+    m_sheet = std::make_unique<Sheet>(QStringLiteral("Nuova Attrezzatura"), m_window.get());
+    m_sheet->setPrimaryText(QStringLiteral("Salva"));
+    auto* const group = new GroupBox(QStringLiteral("Informazioni Generali"));
+    m_first = new QLineEdit;
+    m_notes = new QPlainTextEdit;
+    group->content()->addWidget(new FormRow(QStringLiteral("Nome*"), m_first));
+    group->content()->addWidget(m_notes);
+    m_sheet->body()->addWidget(group);
+}
+
+void tst_Sheet::cleanup()
+{
+    m_sheet.reset();
+    m_window.reset();
+}
+
+void tst_Sheet::itIsAModalDialogNamedAfterItsTitle()
+{
+    m_sheet->open();
+    QCOMPARE(m_sheet->windowModality(), Qt::WindowModal);
+    QCOMPARE(roleOf(*m_sheet), QAccessible::Dialog);
+    QCOMPARE(nameOf(*m_sheet), QStringLiteral("Nuova Attrezzatura"));
+}
+
+void tst_Sheet::escapeAndTheButtonCancel()
+{
+    const QSignalSpy rejected(m_sheet.get(), &QDialog::rejected);
+    m_sheet->open();
+    QTest::keyClick(m_sheet.get(), Qt::Key_Escape);
+    QVERIFY(!m_sheet->isVisible());
+    QCOMPARE(rejected.size(), 1);
+    m_sheet->open();
+    QTest::mouseClick(m_sheet->cancelButton(), Qt::LeftButton);
+    QVERIFY(!m_sheet->isVisible());
+    QCOMPARE(rejected.size(), 2);
+}
+
+void tst_Sheet::thePrimaryButtonTellsAndClosesNothing()
+{
+    const QSignalSpy clicked(m_sheet.get(), &Sheet::primaryClicked);
+    m_sheet->open();
+    QTest::mouseClick(m_sheet->primaryButton(), Qt::LeftButton);
+    QCOMPARE(clicked.size(), 1);
+    QVERIFY(m_sheet->isVisible());
+}
+
+void tst_Sheet::controlReturnPressesThePrimaryButton()
+{
+    const QSignalSpy clicked(m_sheet.get(), &Sheet::primaryClicked);
+    m_sheet->open();
+    QTRY_COMPARE(QApplication::activeWindow(), m_sheet.get());
+    QTest::keyClick(m_first, Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(clicked.size(), 1);
+}
+
+void tst_Sheet::controlReturnWorksFromATextEdit()
+{
+    const QSignalSpy clicked(m_sheet.get(), &Sheet::primaryClicked);
+    m_sheet->open();
+    QTRY_COMPARE(QApplication::activeWindow(), m_sheet.get());
+    m_notes->setFocus();
+    QTest::keyClick(m_notes, Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(clicked.size(), 1);
+    QVERIFY(m_notes->toPlainText().isEmpty());
+}
+
+void tst_Sheet::controlReturnRespectsADisabledButton()
+{
+    const QSignalSpy clicked(m_sheet.get(), &Sheet::primaryClicked);
+    m_sheet->primaryButton()->setEnabled(false);
+    m_sheet->open();
+    QTRY_COMPARE(QApplication::activeWindow(), m_sheet.get());
+    QTest::keyClick(m_first, Qt::Key_Return, Qt::ControlModifier);
+    QCOMPARE(clicked.size(), 0);
+}
+
+void tst_Sheet::returnInAFieldPressesNothing()
+{
+    const QSignalSpy clicked(m_sheet.get(), &Sheet::primaryClicked);
+    m_sheet->open();
+    QTRY_COMPARE(QApplication::activeWindow(), m_sheet.get());
+    QTest::keyClick(m_first, Qt::Key_Return);
+    QVERIFY(m_sheet->isVisible());
+    QCOMPARE(clicked.size(), 0);
+}
+
+void tst_Sheet::theFirstFieldHasTheFocus()
+{
+    m_sheet->open();
+    QTRY_COMPARE(QApplication::activeWindow(), m_sheet.get());
+    QTRY_VERIFY(m_first->hasFocus());
+}
+
+void tst_Sheet::anotherFieldCanHaveTheFocusFirst()
+{
+    m_sheet->setFirstField(m_notes);
+    m_sheet->open();
+    QTRY_COMPARE(QApplication::activeWindow(), m_sheet.get());
+    QTRY_VERIFY(m_notes->hasFocus());
+}
+
+void tst_Sheet::theFocusReturnsToTheOpener()
+{
+    m_sheet->open();
+    QTRY_COMPARE(QApplication::activeWindow(), m_sheet.get());
+    m_sheet->reject();
+    QTRY_COMPARE(QApplication::activeWindow(), m_window.get());
+    QTRY_VERIFY(m_opener->hasFocus());
+}
+
+void tst_Sheet::theWindowBelowIsDimmedMeanwhile()
+{
+    m_sheet->open();
+    const auto* const scrim = m_window->findChild<Scrim*>();
+    QVERIFY(scrim != nullptr);
+    QCOMPARE(scrim->geometry(), m_window->rect());
+    m_window->resize(1100, 720);
+    QCoreApplication::processEvents();
+    QCOMPARE(scrim->geometry(), m_window->rect());
+    m_sheet->reject();
+    QVERIFY(m_window->findChild<Scrim*>() == nullptr);
+}
+
+void tst_Sheet::itIsCentredAndFitsTheWindow()
+{
+    m_sheet->setPreferredSize({2000, 2000});
+    m_sheet->open();
+    const QRect frame = m_sheet->geometry();
+    QVERIFY(m_window->geometry().contains(frame));
+    QVERIFY((frame.center() - m_window->geometry().center()).manhattanLength() <= 2);
+    m_window->resize(1000, 750);
+    QCoreApplication::processEvents();
+    QVERIFY((m_sheet->geometry().center() - m_window->geometry().center()).manhattanLength() <= 2);
+}
+
+void tst_Sheet::aTallBodyScrolls()
+{
+    m_notes->setFixedHeight(1500);
+    m_sheet->open();
+    QCoreApplication::processEvents();
+    QVERIFY(m_sheet->height() < 700);
+    QVERIFY(m_sheet->findChild<QScrollArea*>()->verticalScrollBar()->maximum() > 0);
+    QCOMPARE(m_sheet->findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0);
+}
+
+void tst_Sheet::theHeaderIsNotClipped()
+{
+    m_sheet->setTitle(QStringLiteral("Modifica Attrezzatura"));
+    m_sheet->open();
+    QCoreApplication::processEvents();
+    QCOMPARE(test::clippedTexts(*m_sheet), QStringList());
+}
+
+ABISSORA_TEST(tst_Sheet);
+#include "tst_Sheet.moc"

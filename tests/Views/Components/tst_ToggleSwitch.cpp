@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "ComponentTest.h"
+#include "ToggleSwitch.h"
+
+#include <QSignalSpy>
+
+using namespace abissora;
+
+class tst_ToggleSwitch : public test::ComponentTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aClickAnywhereSwitchesOnce();
+    void spaceSwitches();
+    void theProgramsStateIsNoClick();
+    void disabledItStays();
+    void itLooksOnAndOff();
+    void itIsReadAsACheckBox();
+    void theTextFits();
+};
+
+void tst_ToggleSwitch::aClickAnywhereSwitchesOnce()
+{
+    ToggleSwitch toggle(QStringLiteral("Abilita Notifiche"));
+    toggle.resize(400, toggle.sizeHint().height());
+    activate(toggle);
+    const QSignalSpy clicked(&toggle, &QAbstractButton::clicked);
+    QTest::mouseClick(&toggle, Qt::LeftButton, {}, QPoint(390, toggle.height() / 2));
+    QVERIFY(toggle.isChecked());
+    QTest::mouseClick(&toggle, Qt::LeftButton, {}, QPoint(200, toggle.height() / 2));
+    QVERIFY(!toggle.isChecked());
+    QCOMPARE(clicked.size(), 2);
+}
+
+void tst_ToggleSwitch::spaceSwitches()
+{
+    ToggleSwitch toggle;
+    activate(toggle);
+    toggle.setFocus();
+    QTest::keyClick(&toggle, Qt::Key_Space);
+    QVERIFY(toggle.isChecked());
+}
+
+void tst_ToggleSwitch::theProgramsStateIsNoClick()
+{
+    ToggleSwitch toggle;
+    const QSignalSpy clicked(&toggle, &QAbstractButton::clicked);
+    toggle.setChecked(true);
+    QCOMPARE(clicked.size(), 0);
+}
+
+void tst_ToggleSwitch::disabledItStays()
+{
+    ToggleSwitch toggle;
+    activate(toggle);
+    toggle.setEnabled(false);
+    QTest::mouseClick(&toggle, Qt::LeftButton);
+    QVERIFY(!toggle.isChecked());
+}
+
+void tst_ToggleSwitch::itLooksOnAndOff()
+{
+    ToggleSwitch toggle;
+    toggle.resize(toggle.sizeHint());
+    const QPoint leadingEnd(toggle.width() - 33, toggle.height() / 2 + 8);
+    QVERIFY(toggle.grab().toImage().pixelColor(leadingEnd) != Tokens::of(Scheme::Light).accentFill);
+    toggle.setChecked(true);
+    QCOMPARE(toggle.grab().toImage().pixelColor(leadingEnd), Tokens::of(Scheme::Light).accentFill);
+}
+
+void tst_ToggleSwitch::itIsReadAsACheckBox()
+{
+    ToggleSwitch toggle(QStringLiteral("Modalità Scura"));
+    QCOMPARE(roleOf(toggle), QAccessible::CheckBox);
+    QCOMPARE(nameOf(toggle), QStringLiteral("Modalità Scura"));
+    toggle.setChecked(true);
+    QVERIFY(QAccessible::queryAccessibleInterface(&toggle)->state().checked);
+}
+
+void tst_ToggleSwitch::theTextFits()
+{
+    const ToggleSwitch toggle(QStringLiteral("Controlla aggiornamenti all'avvio"));
+    QVERIFY(toggle.sizeHint().width() > toggle.fontMetrics().horizontalAdvance(toggle.text()) + 36);
+}
+
+ABISSORA_TEST(tst_ToggleSwitch);
+#include "tst_ToggleSwitch.moc"

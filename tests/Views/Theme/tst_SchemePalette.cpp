@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "SchemePalette.h"
+#include "TestRunner.h"
+
+#include <QTest>
+
+using namespace abissora;
+
+Q_DECLARE_METATYPE(abissora::Scheme)
+
+class tst_SchemePalette : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyRoleOfEveryGroupIsSet_data();
+    void everyRoleOfEveryGroupIsSet();
+    void inactiveWindowsLookLikeActiveOnes();
+    void disabledTextIsPaler();
+    void rolesThatWidgetsRelyOn();
+};
+
+void tst_SchemePalette::everyRoleOfEveryGroupIsSet_data()
+{
+    QTest::addColumn<Scheme>("scheme");
+    QTest::newRow("light") << Scheme::Light;
+    QTest::newRow("dark") << Scheme::Dark;
+}
+
+void tst_SchemePalette::everyRoleOfEveryGroupIsSet()
+{
+    QFETCH(const Scheme, scheme);
+    const QPalette palette = paletteFor(scheme);
+    for (int group = 0; group < QPalette::NColorGroups; ++group) {
+        for (int role = 0; role < QPalette::NColorRoles; ++role) {
+            QVERIFY2(
+                palette.isBrushSet(static_cast<QPalette::ColorGroup>(group), static_cast<QPalette::ColorRole>(role)),
+                qPrintable(QStringLiteral("group %1, role %2").arg(group).arg(role)));
+        }
+    }
+}
+
+void tst_SchemePalette::inactiveWindowsLookLikeActiveOnes()
+{
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark})
+        QVERIFY(paletteFor(scheme).isEqual(QPalette::Active, QPalette::Inactive));
+}
+
+void tst_SchemePalette::disabledTextIsPaler()
+{
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        const QPalette palette = paletteFor(scheme);
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            QCOMPARE(palette.color(QPalette::Disabled, role), Tokens::of(scheme).disabled);
+    }
+}
+
+void tst_SchemePalette::rolesThatWidgetsRelyOn()
+{
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        const QPalette palette = paletteFor(scheme);
+        const Tokens& tokens = Tokens::of(scheme);
+        QCOMPARE(palette.color(QPalette::AlternateBase), tokens.sidebar);
+        QCOMPARE(palette.color(QPalette::Button), tokens.surface);
+        QCOMPARE(palette.color(QPalette::PlaceholderText), tokens.secondaryText);
+        QCOMPARE(palette.color(QPalette::Link), tokens.accentInk);
+        QCOMPARE(palette.color(QPalette::ToolTipText), tokens.text);
+        QCOMPARE(schemeOf(palette), scheme);
+    }
+}
+
+ABISSORA_TEST(tst_SchemePalette);
+#include "tst_SchemePalette.moc"

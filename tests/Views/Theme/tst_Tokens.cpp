@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "TestRunner.h"
+#include "Tokens.h"
+
+#include <QPalette>
+#include <QTest>
+#include <algorithm>
+#include <cmath>
+
+using namespace abissora;
+
+namespace {
+
+double luminance(const QColor& color)
+{
+    const auto linear = [](float channel) {
+        return channel <= 0.04045F ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& first, const QColor& second)
+{
+    const auto [darker, lighter] = std::minmax({luminance(first), luminance(second)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor over(const QColor& ground, QColor ink, float alpha)
+{
+    const auto channel = [alpha](float below, float above) { return below + (above - below) * alpha; };
+    return QColor::fromRgbF(channel(ground.redF(), ink.redF()), channel(ground.greenF(), ink.greenF()),
+                            channel(ground.blueF(), ink.blueF()));
+}
+
+using Role = QColor Tokens::*;
+
+struct Named
+{
+    const char* name;
+    Role role;
+};
+
+constexpr double textContrast = 4.5;
+constexpr double shapeContrast = 3.0;
+
+constexpr Named window{"window", &Tokens::window};
+constexpr Named sidebar{"sidebar", &Tokens::sidebar};
+constexpr Named surface{"surface", &Tokens::surface};
+constexpr Named field{"field", &Tokens::field};
+constexpr Named accentTint{"accent tint", &Tokens::accentTint};
+constexpr Named selection{"selection", &Tokens::selection};
+constexpr Named dangerTint{"danger tint", &Tokens::dangerTint};
+constexpr Named divider{"divider", &Tokens::divider};
+
+} // namespace
+
+class tst_Tokens : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void contrastOfPairs_data();
+    void contrastOfPairs();
+    void namedColorsAreReadableIcons_data();
+    void namedColorsAreReadableIcons();
+    void everyColorIsSet();
+    void aPaletteTellsItsScheme();
+};
+
+void tst_Tokens::contrastOfPairs_data()
+{
+    QTest::addColumn<QColor>("ink");
+    QTest::addColumn<QColor>("ground");
+    QTest::addColumn<double>("least");
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        const Tokens& tokens = Tokens::of(scheme);
+        const char* const schemeName = scheme == Scheme::Light ? "light" : "dark";
+        const auto pairs = [&](const Named& ink, std::initializer_list<Named> grounds, double least) {
+            for (const Named& ground : grounds)
+                QTest::addRow("%s: %s on %s", schemeName, ink.name, ground.name)
+                    << tokens.*ink.role << tokens.*ground.role << least;
+        };
+        pairs({"text", &Tokens::text}, {window, sidebar, surface, field, accentTint, selection, dangerTint, divider},
+              textContrast);
+        pairs({"secondary text", &Tokens::secondaryText},
+              {window, sidebar, surface, field, accentTint, selection, divider}, textContrast);
+        pairs({"accent ink", &Tokens::accentInk}, {window, surface, field, accentTint}, textContrast);
+        pairs({"danger", &Tokens::danger}, {window, surface, selection, dangerTint}, textContrast);
+        pairs({"ok", &Tokens::ok}, {window, surface, selection}, textContrast);
+        pairs({"warning", &Tokens::warning}, {window, surface}, textContrast);
+        pairs({"text on fill", &Tokens::onFill},
+              {{"accent fill", &Tokens::accentFill}, {"danger fill", &Tokens::dangerFill}}, textContrast);
+        pairs({"control border", &Tokens::strongBorder}, {window, sidebar, surface, field}, shapeContrast);
+        pairs({"focus ring", &Tokens::accentInk}, {window, sidebar, surface, field, selection}, shapeContrast);
+        pairs({"filled control", &Tokens::accentFill}, {window, surface}, shapeContrast);
+        pairs({"badge", &Tokens::dangerFill}, {sidebar}, shapeContrast);
+        pairs({"switch thumb", &Tokens::onFill},
+              {{"switch off", &Tokens::strongBorder}, {"switch on", &Tokens::accentFill}}, shapeContrast);
+    }
+}
+
+void tst_Tokens::contrastOfPairs()
+{
+    QFETCH(const QColor, ink);
+    QFETCH(const QColor, ground);
+    QFETCH(const double, least);
+    const double measured = contrast(ink, ground);
+    QVERIFY2(measured >= least, qPrintable(QStringLiteral("%1:1 where %2:1 is wanted").arg(measured).arg(least)));
+}
+
+void tst_Tokens::namedColorsAreReadableIcons_data()
+{
+    QTest::addColumn<QColor>("ink");
+    QTest::addColumn<QColor>("ground");
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        const Tokens& tokens = Tokens::of(scheme);
+        for (int color = 0; color <= static_cast<int>(NamedColor::secondary); ++color) {
+            const QColor ink = tokens.named(static_cast<NamedColor>(color));
+            const char* const schemeName = scheme == Scheme::Light ? "light" : "dark";
+            QTest::addRow("%s: %d on surface", schemeName, color) << ink << tokens.surface;
+            QTest::addRow("%s: %d on window", schemeName, color) << ink << tokens.window;
+            QTest::addRow("%s: %d on sidebar", schemeName, color) << ink << tokens.sidebar;
+            QTest::addRow("%s: %d on selection", schemeName, color) << ink << tokens.selection;
+            QTest::addRow("%s: %d on its own tint", schemeName, color) << ink << over(tokens.surface, ink, 0.15F);
+        }
+    }
+}
+
+void tst_Tokens::namedColorsAreReadableIcons()
+{
+    QFETCH(const QColor, ink);
+    QFETCH(const QColor, ground);
+    const double measured = contrast(ink, ground);
+    QVERIFY2(measured >= shapeContrast, qPrintable(QString::number(measured)));
+}
+
+void tst_Tokens::everyColorIsSet()
+{
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        const Tokens& tokens = Tokens::of(scheme);
+        for (const Role role : {&Tokens::window,        &Tokens::sidebar,    &Tokens::surface,      &Tokens::field,
+                                &Tokens::border,        &Tokens::divider,    &Tokens::strongBorder, &Tokens::text,
+                                &Tokens::secondaryText, &Tokens::disabled,   &Tokens::accentInk,    &Tokens::accentFill,
+                                &Tokens::onFill,        &Tokens::accentTint, &Tokens::selection,    &Tokens::danger,
+                                &Tokens::dangerFill,    &Tokens::dangerTint, &Tokens::ok,           &Tokens::warning,
+                                &Tokens::scrim})
+            QVERIFY((tokens.*role).isValid());
+        QVERIFY(std::all_of(tokens.namedColors.begin(), tokens.namedColors.end(), std::mem_fn(&QColor::isValid)));
+    }
+}
+
+void tst_Tokens::aPaletteTellsItsScheme()
+{
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        QPalette palette;
+        palette.setColor(QPalette::Window, Tokens::of(scheme).window);
+        QCOMPARE(schemeOf(palette), scheme);
+        QCOMPARE(&Tokens::of(palette), &Tokens::of(scheme));
+    }
+}
+
+ABISSORA_TEST(tst_Tokens);
+#include "tst_Tokens.moc"
