@@ -12,7 +12,6 @@ namespace abissora {
 
 namespace {
 
-constexpr int ringRoom = 3;
 constexpr QSize track = indicators::switchSize;
 
 } // namespace
@@ -39,8 +38,7 @@ QSize ToggleSwitch::sizeHint() const
 {
     const int textWidth =
         text().isEmpty() ? 0 : fontMetrics().size(Qt::TextShowMnemonic, text()).width() + metrics::spaceM;
-    return {textWidth + track.width() + 2 * ringRoom,
-            std::max(track.height() + 2 * ringRoom, fontMetrics().height() + metrics::spaceXS)};
+    return {textWidth + track.width(), std::max(track.height(), fontMetrics().height() + metrics::spaceXS)};
 }
 
 QSize ToggleSwitch::minimumSizeHint() const
@@ -53,16 +51,15 @@ void ToggleSwitch::paintEvent(QPaintEvent*)
     QStylePainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
-    const QRect trackRect =
-        QStyle::visualRect(layoutDirection(), rect(),
-                           QRect(QPoint(width() - ringRoom - track.width(), (height() - track.height()) / 2), track));
+    const QRect trackRect = QStyle::visualRect(
+        layoutDirection(), rect(), QRect(QPoint(width() - track.width(), (height() - track.height()) / 2), track));
     const bool sliding = m_slide.state() == QAbstractAnimation::Running;
     const double position = sliding ? m_slide.currentValue().toDouble() : isChecked() ? 1.0 : 0.0;
     indicators::drawSwitch(option, painter, trackRect, position);
     if (text().isEmpty())
         return;
     QRect textRect = rect();
-    textRect.setRight(width() - ringRoom - track.width() - metrics::spaceM);
+    textRect.setRight(width() - track.width() - metrics::spaceM);
     const int mnemonic =
         style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     painter.drawItemText(QStyle::visualRect(layoutDirection(), rect(), textRect),

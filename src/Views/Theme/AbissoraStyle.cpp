@@ -2,6 +2,7 @@
 #include "AbissoraStyle.h"
 
 #include "ButtonPainting.h"
+#include "ControlLook.h"
 #include "FieldPainting.h"
 #include "IndicatorPainting.h"
 #include "ItemViewPainting.h"
@@ -152,9 +153,11 @@ void AbissoraStyle::drawControl(ControlElement element, const QStyleOption* opti
             return fields::drawComboBoxLabel(*combo, *painter, *this, widget);
         break;
     case CE_ItemViewItem:
-        if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option)) {
-            const QStyleOptionViewItem inked = itemviews::withInk(*item);
-            return QProxyStyle::drawControl(element, &inked, painter, widget);
+        if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+            item && selectionLook(item->widget) == SelectionLook::Row) {
+            itemviews::drawItemPanel(*item, *painter);
+            const QStyleOptionViewItem content = itemviews::contentOf(*item);
+            return QProxyStyle::drawControl(element, &content, painter, widget);
         }
         break;
     case CE_HeaderSection:

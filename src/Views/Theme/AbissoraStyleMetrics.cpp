@@ -4,6 +4,7 @@
 #include "ButtonPainting.h"
 #include "FieldPainting.h"
 #include "IndicatorPainting.h"
+#include "ItemViewPainting.h"
 #include "MenuPainting.h"
 #include "Metrics.h"
 #include "ScrollBarPainting.h"
@@ -88,6 +89,10 @@ QSize AbissoraStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
     case CT_SpinBox:
         if (const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option))
             return fields::spinBoxSize(*spin, size);
+        break;
+    case CT_ItemViewItem:
+        if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option))
+            return itemviews::itemSize(*item, QProxyStyle::sizeFromContents(type, option, size, widget));
         break;
     case CT_MenuItem:
         if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option))

@@ -35,13 +35,6 @@ Box boxColors(const QStyleOption& option, bool filled)
     return {touched(tokens.field, option), tokens.strongBorder, tokens.text};
 }
 
-/// The ring stands outside the indicator, where layouts leave room for it.
-void drawRingAround(const QStyleOption& option, QPainter& painter, const QRectF& rect, qreal radius)
-{
-    if (showsFocusRing(option))
-        drawFocusRing(painter, rect.adjusted(-3, -3, 3, 3), radius + 3, option.palette);
-}
-
 } // namespace
 
 void drawCheckBox(const QStyleOption& option, QPainter& painter)
@@ -67,19 +60,24 @@ void drawSwitch(const QStyleOption& option, QPainter& painter, const QRectF& rec
 {
     const Tokens& tokens = Tokens::of(option.palette);
     const bool enabled = option.state & QStyle::State_Enabled;
-    const QColor track = enabled ? mix(tokens.strongBorder, tokens.accentFill, position) : tokens.border;
-    const qreal radius = rect.height() / 2;
-    drawRingAround(option, painter, rect, radius);
-    drawPanel(painter, rect, radius, track, {});
-    const qreal side = rect.height() - 4;
-    const qreal travel = rect.width() - side - 4;
+    QRectF track = rect;
+    if (showsFocusRing(option)) {
+        // The ring takes its room from the track, so that a switch stays in line with what stands above it.
+        drawFocusRing(painter, rect, rect.height() / 2, option.palette);
+        constexpr qreal gap = metrics::focusRingWidth + 1;
+        track.adjust(gap, gap, -gap, -gap);
+    }
+    drawPanel(painter, track, track.height() / 2,
+              enabled ? mix(tokens.strongBorder, tokens.accentFill, position) : tokens.border, {});
+
+    const qreal side = track.height() - 4;
     const qreal along = option.direction == Qt::RightToLeft ? 1 - position : position;
-    const QRectF thumb(rect.left() + 2 + travel * along, rect.top() + 2, side, side);
+    const qreal left = track.left() + 2 + (track.width() - side - 4) * along;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(enabled ? tokens.onFill : tokens.surface);
-    painter.drawEllipse(thumb);
+    painter.drawEllipse(QRectF(left, track.top() + 2, side, side));
     painter.restore();
 }
 

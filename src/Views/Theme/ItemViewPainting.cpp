@@ -5,12 +5,19 @@
 #include "Metrics.h"
 #include "Painting.h"
 #include "Tokens.h"
+#include "TypeScale.h"
 
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
 
 namespace abissora::itemviews {
+
+namespace {
+
+constexpr int leastRowHeight = 28;
+
+} // namespace
 
 void drawItemPanel(const QStyleOptionViewItem& option, QPainter& painter)
 {
@@ -42,14 +49,17 @@ void drawItemFocus(const QStyleOption& option, QPainter& painter, const QWidget*
     drawFocusRing(painter, option.rect, pill ? metrics::controlRadius : 4, option.palette);
 }
 
-QStyleOptionViewItem withInk(const QStyleOptionViewItem& option)
+QStyleOptionViewItem contentOf(const QStyleOptionViewItem& option)
 {
-    QStyleOptionViewItem inked(option);
-    if (selectionLook(option.widget) == SelectionLook::Row) {
-        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-            inked.palette.setColor(group, QPalette::HighlightedText, option.palette.color(group, QPalette::Text));
-    }
-    return inked;
+    QStyleOptionViewItem content(option);
+    content.backgroundBrush = Qt::NoBrush;
+    content.state &= ~(QStyle::State_MouseOver | QStyle::State_Selected);
+    return content;
+}
+
+QSize itemSize(const QStyleOptionViewItem& option, QSize contents)
+{
+    return contents.expandedTo({0, withText(leastRowHeight, option.fontMetrics)});
 }
 
 void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter)

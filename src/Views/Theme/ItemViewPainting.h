@@ -15,8 +15,10 @@ namespace abissora::itemviews {
 /// The background of an item: selected, under the pointer, or nothing.
 void drawItemPanel(const QStyleOptionViewItem& option, QPainter& painter);
 void drawItemFocus(const QStyleOption& option, QPainter& painter, const QWidget* widget);
-/// The option with its text colours set for the look of the view's selection.
-[[nodiscard]] QStyleOptionViewItem withInk(const QStyleOptionViewItem& option);
+/// What is left to draw on the panel of a Row, where text and icon look the same selected or not.
+[[nodiscard]] QStyleOptionViewItem contentOf(const QStyleOptionViewItem& option);
+/// At least as high as a person can hit.
+[[nodiscard]] QSize itemSize(const QStyleOptionViewItem& option, QSize contents);
 
 void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter);
 void drawHeaderLabel(const QStyleOptionHeader& option, QPainter& painter, const QStyle& style, const QWidget* widget);

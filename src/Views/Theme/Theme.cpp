@@ -14,7 +14,8 @@ namespace {
 
 QFont interfaceFont(QFont system)
 {
-    QStringList families{QStringLiteral("Inter")};
+    // Pictographs are looked for among the emoji before any text font that happens to have them.
+    QStringList families{QStringLiteral("Inter"), QStringLiteral("Noto Color Emoji")};
     families += system.families();
     system.setFamilies(families);
     return system;

@@ -63,7 +63,7 @@ void tst_ToggleSwitch::itLooksOnAndOff()
 {
     ToggleSwitch toggle;
     toggle.resize(toggle.sizeHint());
-    const QPoint leadingEnd(toggle.width() - 33, toggle.height() / 2 + 8);
+    const QPoint leadingEnd(toggle.width() - 32, toggle.height() / 2 + 5);
     QVERIFY(toggle.grab().toImage().pixelColor(leadingEnd) != Tokens::of(Scheme::Light).accentFill);
     toggle.setChecked(true);
     QCOMPARE(toggle.grab().toImage().pixelColor(leadingEnd), Tokens::of(Scheme::Light).accentFill);
