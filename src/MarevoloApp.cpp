@@ -5,7 +5,6 @@
 #include "Theme.h"
 
 #include <QApplication>
-#include <QIcon>
 
 namespace abissora {
 
@@ -19,7 +18,7 @@ MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories
     , m_settings(m_preferences, m_console)
     , m_types(m_preferences, m_symbols, m_console, m_ids)
 {
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/appicon/abissora.svg")));
+    QApplication::setWindowIcon(applicationIcon());
     applyScheme();
     connect(&m_settings, &SettingsViewModel::darkModeChanged, this, &MarevoloApp::applyScheme);
 }

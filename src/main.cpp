@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "AtomicFile.h"
 #include "CommandLine.h"
 #include "Display.h"
 #include "MainWindow.h"
@@ -66,6 +67,10 @@ int run(QApplication& application, const CommandLine& commandLine)
             QStringLiteral("Abissora è già aperta su questo registro: la sua finestra passa in primo piano.\n"));
         return commandLine.snapshot.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
     }
+
+    for (const QString& folder :
+         {directories.preferences(), directories.maintenanceDocuments(), directories.backups()})
+        AtomicFile::removeLeftovers(folder);
 
     MarevoloApp app(application, directories);
     QObject::connect(&instance, &SingleInstance::activationRequested, &app, &MarevoloApp::showMainWindow);

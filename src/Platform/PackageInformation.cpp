@@ -16,7 +16,7 @@ QVariant BuiltInPackageInformation::value(const QString& key) const
 
 std::optional<QString> BuiltInPackageInformation::executablePath() const
 {
-    if (!QCoreApplication::instance())
+    if (QCoreApplication::startingUp()) // or there is no application at all
         return std::nullopt;
     const QString path = QCoreApplication::applicationFilePath();
     return path.isEmpty() ? std::nullopt : std::optional(path);

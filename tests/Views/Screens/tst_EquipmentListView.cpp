@@ -2,16 +2,13 @@
 #include "EquipmentListView.h"
 
 #include "Chip.h"
-#include "EquipmentTableView.h"
 #include "FilterMenu.h"
-#include "RowActionsMenu.h"
+#include "ListParts.h"
 #include "ScreenFixture.h"
 #include "TestRunner.h"
 
-#include <QAbstractButton>
 #include <QAbstractItemModelTester>
 #include <QAccessible>
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -20,66 +17,6 @@
 
 using namespace abissora;
 using namespace abissora::test;
-
-namespace {
-
-template <typename Widget>
-Widget& part(QWidget& parent, const char* name)
-{
-    auto* found = parent.findChild<Widget*>(QLatin1String(name));
-    if (!found)
-        qFatal("no widget called %s", name);
-    return *found;
-}
-
-QStringList names(EquipmentListView& view)
-{
-    QStringList names;
-    for (const Equipment& item : part<EquipmentTableView>(view, "equipmentTable").equipmentModel().equipment())
-        names.append(item.name);
-    return names;
-}
-
-QString cell(EquipmentListView& view, int row, int column)
-{
-    return part<EquipmentTableView>(view, "equipmentTable").model()->index(row, column).data().toString();
-}
-
-void settle()
-{
-    QCoreApplication::processEvents();
-}
-
-QDialog* openAlert(QWidget& view)
-{
-    const auto dialogs = view.window()->findChildren<QDialog*>();
-    for (QDialog* dialog : dialogs) {
-        if (dialog->isVisible())
-            return dialog;
-    }
-    return nullptr;
-}
-
-void press(QWidget& dialog, const QString& text)
-{
-    const auto buttons = dialog.findChildren<QAbstractButton*>();
-    for (QAbstractButton* button : buttons) {
-        if (button->text().remove(QLatin1Char('&')) == text) {
-            QTest::mouseClick(button, Qt::LeftButton);
-            return;
-        }
-    }
-    QFAIL(qPrintable(QStringLiteral("no button called ") + text));
-}
-
-QAction* action(const QMenu& menu, const QString& text)
-{
-    const auto actions = menu.actions();
-    const auto found = std::find_if(actions.begin(), actions.end(), [&](QAction* a) { return a->text() == text; });
-    return found == actions.end() ? nullptr : *found;
-}
-
-} // namespace
 
 class tst_EquipmentListView : public TestCase
 {
@@ -295,98 +232,6 @@ private Q_SLOTS:
         view.setSelectedEquipment(std::nullopt);
         QVERIFY(!table.selectionModel()->hasSelection());
         QVERIFY(selected.isEmpty());
-    }
-
-    void rowActions()
-    {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
-        view.resize(900, 600);
-        view.show();
-        settle();
-        auto& table = part<EquipmentTableView>(view, "equipmentTable");
-        auto& menu = part<RowActionsMenu>(view, "rowActions");
-        const QModelIndex actionCell = table.model()->index(2, EquipmentTableModel::ActionsColumn);
-        QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(actionCell).center());
-        QVERIFY(menu.isVisible());
-        QStringList entries;
-        for (const QAction* entry : menu.actions())
-            if (!entry->isSeparator())
-                entries.append(entry->text());
-        QCOMPARE(entries, QStringList({QStringLiteral("Visualizza dettagli"), QStringLiteral("Modifica attrezzatura"),
-                                       QStringLiteral("Elimina attrezzatura")}));
-        QSignalSpy selected(&view, &EquipmentListView::equipmentSelected);
-        QSignalSpy edited(&view, &EquipmentListView::editRequested);
-        action(menu, QStringLiteral("Modifica attrezzatura"))->trigger();
-        QCOMPARE(selected.size(), 1);
-        QCOMPARE(edited.first().first().value<Equipment>().name, QStringLiteral("Erogatore Apeks XTX50"));
-        menu.close();
-        // By the keyboard: Return on the last cell, and the Menu key anywhere in the row.
-        table.setCurrentIndex(actionCell);
-        QTest::keyClick(&table, Qt::Key_Return);
-        QVERIFY(menu.isVisible());
-        menu.close();
-        QContextMenuEvent byKey(QContextMenuEvent::Keyboard, {}, {});
-        QCoreApplication::sendEvent(table.viewport(), &byKey);
-        QVERIFY(menu.isVisible());
-        menu.close();
-    }
-
-    void deletingAsksFirst()
-    {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
-        view.show();
-        settle();
-        const Equipment item = f.equipment.equipment().at(1);
-        view.confirmDeletion(item);
-        QDialog* alert = openAlert(view);
-        QVERIFY(alert);
-        QCOMPARE(view.equipmentToDelete()->id, item.id);
-        QStringList texts;
-        for (const QLabel* label : alert->findChildren<QLabel*>())
-            texts.append(label->text());
-        QVERIFY(texts.contains(QStringLiteral("Conferma Eliminazione")));
-        QVERIFY(texts.contains(QStringLiteral("Sei sicuro di voler eliminare l'attrezzatura 'GAV Scubapro Hydros'?")));
-        QTest::keyClick(alert, Qt::Key_Escape);
-        settle();
-        QCOMPARE(f.equipment.equipment().size(), 3);
-        QVERIFY(!view.equipmentToDelete());
-
-        const QUuid before = view.refreshID();
-        view.confirmDeletion(item);
-        press(*openAlert(view), QStringLiteral("Elimina"));
-        settle();
-        QCOMPARE(names(view).size(), 2);
-        QVERIFY(!view.equipmentToDelete());
-        QVERIFY(view.refreshID() != before);
-    }
-
-    void deleteKeyAsksToo()
-    {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
-        view.show();
-        settle();
-        auto& table = part<EquipmentTableView>(view, "equipmentTable");
-        table.selectRow(0);
-        QTest::keyClick(&table, Qt::Key_Delete);
-        QVERIFY(openAlert(view));
-        press(*openAlert(view), QStringLiteral("Annulla"));
-        QCOMPARE(f.equipment.equipment().size(), 3);
-    }
-
-    void hostileNamesAreShownAsTheyAre()
-    {
-        ScreenFixture f(QList<Equipment>{});
-        const QString name = QStringLiteral("<b>A</b>&amp;%1\t\"'");
-        f.equipment.addEquipment(makeItem(1, name, EquipmentType::fins, f.inDays(3)));
-        EquipmentListView view(f.context);
-        view.show();
-        QCOMPARE(cell(view, 0, 0).section(QLatin1Char('\n'), 0, 0), name);
-        view.confirmDeletion(f.equipment.equipment().first());
-        for (const QLabel* label : openAlert(view)->findChildren<QLabel*>())
-            QVERIFY(label->textFormat() == Qt::PlainText || !label->text().contains(QLatin1String("<b>")));
     }
 
     void scrollPositionSurvivesARedraw()

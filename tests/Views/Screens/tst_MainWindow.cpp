@@ -206,7 +206,8 @@ private Q_SLOTS:
                 const bool text = widget->inherits("QLabel") || widget->inherits("QAbstractButton");
                 if (!text || !widget->isVisible() || qobject_cast<const QLineEdit*>(widget->parentWidget()))
                     continue;
-                const QByteArray who = widget->metaObject()->className() + QByteArray(" ") + widget->objectName().toUtf8();
+                const QByteArray who =
+                    widget->metaObject()->className() + QByteArray(" ") + widget->objectName().toUtf8();
                 QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), who.constData());
                 QVERIFY2(widget->height() >= widget->minimumSizeHint().height(), who.constData());
             }
