@@ -149,7 +149,7 @@ void EquipmentTableDelegate::setHover(int row, bool onActionButton)
 int EquipmentTableDelegate::rowHeight() const
 {
     return QFontMetrics(font(TextStyle::BodyMedium)).height() + QFontMetrics(font(TextStyle::Caption)).height() +
-           2 * metrics::spaceS + metrics::spaceXS;
+           2 * metrics::spaceM;
 }
 
 void EquipmentTableDelegate::paintBackground(QPainter& painter, const QStyleOptionViewItem& option,
