@@ -1,128 +1,197 @@
 // SPDX-License-Identifier: MIT
 #include "DateField.h"
 
+#include "SymbolIcon.h"
 #include "TypeScale.h"
 
+#include <QAction>
 #include <QCalendarWidget>
 #include <QKeyEvent>
-#include <QMouseEvent>
-#include <QScopedValueRollback>
-#include <QSignalBlocker>
-#include <QStyleOptionComboBox>
+#include <QRegularExpression>
 #include <QTextCharFormat>
-#include <QWheelEvent>
+#include <QWidgetAction>
+#include <optional>
 
 namespace abissora {
 
 namespace {
 
 constexpr int fieldWidth = 170;
+const QDate firstDay(1, 1, 1);
+const QDate lastDay(9999, 12, 31);
+
+QString textOf(QDate day)
+{
+    return day.toString(QStringLiteral("dd/MM/yyyy"));
+}
+
+/// Two digits of a year as people write them: 98 is 1998, 26 is 2026.
+int fullYear(const QString& digits)
+{
+    constexpr int firstOfLastCentury = 70;
+    const int year = digits.toInt();
+    return digits.size() > 2 ? year : year + (year < firstOfLastCentury ? 2000 : 1900);
+}
+
+std::optional<QDate> dayOf(const QString& text, const QRegularExpression& form)
+{
+    const QRegularExpressionMatch match = form.match(text.trimmed());
+    const QDate day(fullYear(match.captured(3)), match.captured(2).toInt(), match.captured(1).toInt());
+    return match.hasMatch() && day.isValid() && day >= firstDay ? std::optional(day) : std::nullopt;
+}
+
+/// A day written in full, so that none is taken for meant which is only passed while typing another.
+std::optional<QDate> completeDay(const QString& text)
+{
+    static const QRegularExpression form(QStringLiteral("^([0-9]{2})/?([0-9]{2})/?([0-9]{4})$"));
+    return dayOf(text, form);
+}
+
+std::optional<QDate> shortDay(const QString& text)
+{
+    static const QRegularExpression form(QStringLiteral("^([0-9]{1,2})[-/. ]([0-9]{1,2})[-/. ]([0-9]{4}|[0-9]{2})$"));
+    return dayOf(text, form);
+}
 
 } // namespace
 
 DateField::DateField(const Calendar& calendar, QWidget* parent)
-    : QDateEdit(parent)
+    : QLineEdit(parent)
     , m_calendar(calendar)
 {
-    // The field's own arithmetic is about days only: a zone with clock changes would get in its way.
-    setTimeSpec(Qt::UTC);
-    setLocale(QLocale(QLocale::Italian, QLocale::Italy));
-    setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
-    setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
-    setCalendarPopup(true);
-    setFocusPolicy(Qt::StrongFocus); // not by the wheel, which then belongs to the scroll area around
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setInputMethodHints(Qt::ImhDate);
+    QAction* const open = addAction(symbolIcon(QStringLiteral("calendar"), NamedColor::secondary), TrailingPosition);
+    open->setText(QStringLiteral("Calendario"));
     setInstant({});
-    connect(this, &QDateTimeEdit::dateChanged, this, &DateField::report);
+    connect(open, &QAction::triggered, this, &DateField::openCalendar);
+    connect(this, &QLineEdit::textEdited, this, &DateField::takeCompleteDay);
+    connect(this, &QLineEdit::editingFinished, this, &DateField::takeTypedDay);
 }
 
 void DateField::setInstant(Instant instant)
 {
-    const QSignalBlocker silence(this);
     const QDateTime local = m_calendar.local(instant);
-    setDate(std::clamp(local.date(), minimumDate(), maximumDate()));
     m_original = instant;
     m_timeOfDay = local.time();
-    m_originalDay = date();
+    m_originalDay = local.date();
+    m_day = m_originalDay;
+    setText(textOf(m_day));
 }
 
-Instant DateField::instant()
+Instant DateField::instant() const
 {
-    if (!m_reporting)
-        interpretText();
-    if (date() == m_originalDay)
+    const QDate day = typedDay();
+    if (day == m_originalDay)
         return m_original;
-    return m_calendar.instant(date(), m_timeOfDay).value_or(m_original);
+    return m_calendar.instant(day, m_timeOfDay).value_or(m_original);
 }
 
-void DateField::report()
+QDate DateField::typedDay() const
 {
-    const QScopedValueRollback reporting(m_reporting, true);
-    Q_EMIT edited();
+    if (const auto day = completeDay(text()))
+        return *day;
+    return shortDay(text()).value_or(m_day);
+}
+
+void DateField::takeDay(QDate day)
+{
+    const bool isAnother = day != m_day;
+    m_day = day;
+    if (text() != textOf(day))
+        setText(textOf(day));
+    if (isAnother)
+        Q_EMIT edited();
+}
+
+void DateField::takeCompleteDay()
+{
+    if (const auto day = completeDay(text()))
+        takeDay(*day);
+}
+
+void DateField::takeTypedDay()
+{
+    takeDay(typedDay());
+}
+
+bool DateField::step(int key)
+{
+    const QDate day = typedDay();
+    QDate other;
+    switch (key) {
+    case Qt::Key_Up:
+        other = day.addDays(1);
+        break;
+    case Qt::Key_Down:
+        other = day.addDays(-1);
+        break;
+    case Qt::Key_PageUp:
+        other = day.addMonths(1);
+        break;
+    case Qt::Key_PageDown:
+        other = day.addMonths(-1);
+        break;
+    default:
+        return false;
+    }
+    if (other >= firstDay && other <= lastDay)
+        takeDay(other);
+    return true;
+}
+
+void DateField::keyPressEvent(QKeyEvent* event)
+{
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    const bool opens =
+        event->key() == Qt::Key_F4 || (event->key() == Qt::Key_Down && event->modifiers() & Qt::AltModifier);
+    if (opens)
+        openCalendar();
+    else if (!plain || !step(event->key()))
+        QLineEdit::keyPressEvent(event);
+}
+
+void DateField::openCalendar()
+{
+    if (m_popup == nullptr)
+        makeCalendar();
+    m_days->setSelectedDate(typedDay());
+    m_days->showSelectedDate();
+    m_popup->popup(mapToGlobal(QPoint(0, height())));
+    m_days->setFocus(Qt::PopupFocusReason);
+}
+
+void DateField::makeCalendar()
+{
+    m_days = new QCalendarWidget;
+    m_days->setLocale(QLocale(QLocale::Italian, QLocale::Italy));
+    m_days->setFirstDayOfWeek(Qt::Monday);
+    m_days->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    m_days->setDateRange(firstDay, lastDay);
+    m_days->setDateEditEnabled(false);
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
+        m_days->setWeekdayTextFormat(day, {});
+
+    m_popup = new QMenu(this);
+    auto* entry = new QWidgetAction(m_popup);
+    entry->setDefaultWidget(m_days);
+    m_popup->addAction(entry);
+    for (const auto picked : {&QCalendarWidget::clicked, &QCalendarWidget::activated}) {
+        connect(m_days, picked, this, [this](QDate day) {
+            m_popup->close();
+            takeDay(day);
+        });
+    }
 }
 
 QSize DateField::sizeHint() const
 {
-    const QSize needed = QDateEdit::sizeHint();
-    return {std::max(needed.width(), withText(fieldWidth, fontMetrics())), needed.height()};
+    return {withText(fieldWidth, fontMetrics()), QLineEdit::sizeHint().height()};
 }
 
 QSize DateField::minimumSizeHint() const
 {
     return sizeHint();
-}
-
-bool DateField::focusNextPrevChild(bool next)
-{
-    return QWidget::focusNextPrevChild(next);
-}
-
-void DateField::keyPressEvent(QKeyEvent* event)
-{
-    const bool opens =
-        event->key() == Qt::Key_F4 || (event->modifiers() == Qt::AltModifier && event->key() == Qt::Key_Down);
-    if (opens)
-        openCalendarPopup();
-    else
-        QDateEdit::keyPressEvent(event);
-}
-
-void DateField::mousePressEvent(QMouseEvent* event)
-{
-    prepareCalendarPopup();
-    QDateEdit::mousePressEvent(event);
-}
-
-void DateField::wheelEvent(QWheelEvent* event)
-{
-    if (hasFocus())
-        QDateEdit::wheelEvent(event);
-    else
-        event->ignore();
-}
-
-void DateField::prepareCalendarPopup()
-{
-    if (m_popupPrepared)
-        return;
-    m_popupPrepared = true;
-    QCalendarWidget* const popup = calendarWidget();
-    popup->setFirstDayOfWeek(Qt::Monday);
-    popup->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
-        popup->setWeekdayTextFormat(day, {});
-}
-
-void DateField::openCalendarPopup()
-{
-    // The base class opens it for a press on the arrow only.
-    QStyleOptionComboBox option;
-    option.initFrom(this);
-    option.subControls = QStyle::SC_ComboBoxArrow;
-    const QPointF place =
-        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this).center();
-    QMouseEvent press(QEvent::MouseButtonPress, place, mapToGlobal(place), Qt::LeftButton, Qt::LeftButton, {});
-    mousePressEvent(&press);
 }
 
 } // namespace abissora

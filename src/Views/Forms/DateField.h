@@ -3,14 +3,18 @@
 
 #include "Calendar.h"
 
-#include <QDateEdit>
+#include <QLineEdit>
+#include <QMenu>
+
+class QCalendarWidget;
 
 namespace abissora {
 
-/// The day of an instant as dd/MM/yyyy, typed, stepped or picked from a calendar (Alt+Down or F4). Only the day is
-/// edited: another day keeps the time of day, the original day gives the original instant back to the millisecond. Tab
-/// leaves it, the wheel changes it only while it has the focus. Days before the year 100 are kept but not shown.
-class DateField : public QDateEdit
+/// The day of an instant as dd/MM/yyyy: typed, stepped (Up and Down a day, Page Up and Page Down a month) or picked
+/// from a calendar (the mark at the end, Alt+Down, F4). Only the day is edited: another day keeps the time of day, the
+/// original day gives the original instant back to the millisecond. A text that is no day of the years 1 to 9999 leaves
+/// the day as it was.
+class DateField : public QLineEdit
 {
     Q_OBJECT
 
@@ -19,33 +23,35 @@ public:
 
     /// Emits nothing.
     void setInstant(Instant instant);
-    /// Takes in first what is being typed, which may emit edited().
-    [[nodiscard]] Instant instant();
+    /// With what is being typed, as far as it is a day.
+    [[nodiscard]] Instant instant() const;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// Once for every other day that the person gave. instant() may be asked for it.
+    /// The person gave another day. While a day is being typed, as soon as it is complete.
     void edited();
 
 protected:
-    bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void prepareCalendarPopup();
-    void openCalendarPopup();
-    void report();
+    [[nodiscard]] QDate typedDay() const;
+    void takeDay(QDate day);
+    void takeCompleteDay();
+    void takeTypedDay();
+    bool step(int key);
+    void openCalendar();
+    void makeCalendar();
 
     Calendar m_calendar;
     Instant m_original{};
     QTime m_timeOfDay;
-    QDate m_originalDay; ///< as the field can show it
-    bool m_reporting = false;
-    bool m_popupPrepared = false;
+    QDate m_originalDay;
+    QDate m_day;
+    QMenu* m_popup = nullptr; // made when it is first opened
+    QCalendarWidget* m_days = nullptr;
 };
 
 } // namespace abissora
