@@ -40,8 +40,9 @@ void MarevoloApp::showMainWindow()
 MainWindow& MarevoloApp::mainWindow()
 {
     if (!m_mainWindow) {
-        const AppContext context{m_equipment, m_types, m_settings, m_console,
-                                 m_clock,     m_ids,   m_calendar, DateFormat(DateFormat::userLocale(), m_calendar)};
+        const AppContext context{
+            m_equipment, m_types,     m_settings, m_console,  m_clock,
+            m_ids,       m_documents, m_opener,   m_calendar, DateFormat(DateFormat::userLocale(), m_calendar)};
         m_mainWindow = std::make_unique<MainWindow>(context, m_directories.windowStateFile());
     }
     return *m_mainWindow;

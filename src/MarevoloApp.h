@@ -4,6 +4,7 @@
 #include "AppContext.h"
 #include "ApplicationDirectories.h"
 #include "DesktopFilePanel.h"
+#include "DesktopOpener.h"
 #include "MaintenanceDocumentStore.h"
 #include "SymbolIcon.h"
 
@@ -38,6 +39,7 @@ private:
     StandardOutput m_console;
     ResourceSymbolLibrary m_symbols;
     DesktopFilePanel m_filePanel;
+    DesktopOpener m_opener;
     PreferencesStore m_preferences;
     MaintenanceDocumentStore m_documents;
     EquipmentViewModel m_equipment;

@@ -5,6 +5,7 @@
 #include "Console.h"
 #include "FilePanel.h"
 #include "IdGenerator.h"
+#include "Opener.h"
 #include "PackageInformation.h"
 #include "SymbolLibrary.h"
 
@@ -102,6 +103,23 @@ private:
     QStringList m_begun;
     QStringList m_ended;
     bool m_grants = false;
+};
+
+class RecordingOpener final : public Opener
+{
+public:
+    bool open(const QUrl& url) override
+    {
+        m_opened.append(url);
+        return m_succeeds;
+    }
+    void succeed(bool succeeds) { m_succeeds = succeeds; }
+
+    [[nodiscard]] const QList<QUrl>& opened() const { return m_opened; }
+
+private:
+    QList<QUrl> m_opened;
+    bool m_succeeds = true;
 };
 
 class FakeSymbolLibrary final : public SymbolLibrary

@@ -8,6 +8,8 @@
 #include "EquipmentTypeViewModel.h"
 #include "EquipmentViewModel.h"
 #include "IdGenerator.h"
+#include "MaintenanceDocumentStore.h"
+#include "Opener.h"
 #include "SettingsViewModel.h"
 
 namespace abissora {
@@ -22,6 +24,8 @@ struct AppContext
     Console& console;
     const Clock& clock;
     IdGenerator& ids;
+    MaintenanceDocumentStore& documents;
+    Opener& opener;
     Calendar calendar;
     DateFormat dates;
 };

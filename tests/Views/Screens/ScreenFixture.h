@@ -36,8 +36,9 @@ public:
         , equipment(StorageManager(seeded(stored), console, clock, calendar, ids), documents, console, clock, calendar)
         , settings(preferences, console)
         , types(preferences, symbols, console, ids)
-        , context{equipment, types, settings, console,
-                  clock,     ids,   calendar, DateFormat(QLocale(QLocale::Italian, QLocale::Italy), calendar)}
+        , context{
+              equipment, types,     settings, console,  clock,
+              ids,       documents, opener,   calendar, DateFormat(QLocale(QLocale::Italian, QLocale::Italy), calendar)}
     {
         console.clear();
     }
@@ -59,6 +60,7 @@ public:
     SequentialIds ids;
     RecordingConsole console;
     ScriptedFilePanel panel;
+    RecordingOpener opener;
     ResourceSymbolLibrary symbols;
     ApplicationDirectories directories;
     PreferencesStore preferences;
