@@ -26,7 +26,9 @@ bool renderScene(const Scene& scene, const QString& schemeName, const QDir& fold
 {
     const auto widget = scene.make();
     widget->show();
-    QApplication::processEvents();
+    // A changed text travels upward one layout at a time, each by an event of its own.
+    for (int level = 0; level < 5; ++level)
+        QApplication::processEvents();
     bool written = true;
     for (const qreal scale : {1.0, 1.5, 2.0}) {
         const QString name = QStringLiteral("%1-%2@%3.png").arg(scene.name, schemeName).arg(scale);

@@ -8,5 +8,6 @@ namespace abissora::gallery {
 [[nodiscard]] QList<Scene> controlScenes();
 [[nodiscard]] QList<Scene> componentScenes();
 [[nodiscard]] QList<Scene> sheetScenes();
+[[nodiscard]] QList<Scene> screenScenes();
 
 } // namespace abissora::gallery

@@ -25,5 +25,5 @@ int main(int argc, char** argv)
     QApplication::setFont(font);
 
     using namespace abissora::gallery;
-    return render(controlScenes() + componentScenes() + sheetScenes(), QDir(arguments.at(1))) ? 0 : 1;
+    return render(controlScenes() + componentScenes() + sheetScenes() + screenScenes(), QDir(arguments.at(1))) ? 0 : 1;
 }

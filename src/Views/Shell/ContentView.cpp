@@ -15,8 +15,6 @@ namespace abissora {
 
 namespace {
 
-constexpr int sidebarWidth = 228;
-
 struct TabTitle
 {
     QString text;
@@ -48,7 +46,7 @@ ContentView::ContentView(const AppContext& context, QWidget* parent)
     m_splitter->addWidget(m_pages);
     m_splitter->setChildrenCollapsible(false);
     m_splitter->setStretchFactor(1, 1);
-    m_splitter->setSizes({sidebarWidth, sidebarWidth * 4});
+    m_splitter->setSizes({m_sidebar->sizeHint().width(), m_sidebar->sizeHint().width() * 4});
     m_splitter->setHandleWidth(1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -95,10 +95,12 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
     painter->restore();
 }
 
-QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const
 {
     const int entryHeight = QFontMetrics(font(TextStyle::Body)).height() + metrics::spaceL;
-    const int width = QStyledItemDelegate::sizeHint(option, index).width();
+    // Room for a badge of two digits, so that one that appears moves nothing.
+    const int width = QFontMetrics(font(TextStyle::Body)).horizontalAdvance(index.data().toString()) +
+                      metrics::iconSize + 5 * margin + badgeSize(QStringLiteral("00")).width() + metrics::spaceXS;
     switch (index.data(SidebarModel::KindRole).toInt()) {
     case SidebarModel::SectionTitle:
         return {width, QFontMetrics(font(TextStyle::CaptionSemibold)).height() + metrics::spaceL + metrics::spaceXS};

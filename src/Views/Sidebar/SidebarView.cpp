@@ -53,6 +53,16 @@ void SidebarView::setSelectedSidebarItem(const std::optional<QString>& tag)
     actOnSelection();
 }
 
+QSize SidebarView::sizeHint() const
+{
+    const QSize usual = QListView::sizeHint();
+    QStyleOptionViewItem option;
+    initViewItemOption(&option);
+    const int fixedRows = m_delegate.sizeHint(option, m_model.index(m_model.rowOf(sidebar::maintenance))).width();
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    return {std::max(minimumWidth(), fixedRows + scrollBar), usual.height()};
+}
+
 void SidebarView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
     QListView::selectionChanged(selected, deselected);

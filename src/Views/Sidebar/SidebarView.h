@@ -27,6 +27,9 @@ public:
     /// Selecting another item than the selected one acts on tabs and filters.
     void setSelectedSidebarItem(const std::optional<QString>& tag);
 
+    /// Wide enough for the fixed rows with a badge, and for a scroll bar beside them.
+    [[nodiscard]] QSize sizeHint() const override;
+
 Q_SIGNALS:
     void selectedSidebarItemChanged();
     /// The selection asks for a tab of the main window.
