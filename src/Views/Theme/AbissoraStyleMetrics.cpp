@@ -183,6 +183,7 @@ int AbissoraStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
         }
         return 0;
     case SH_ToolTip_Mask:
+    case SH_ComboBox_AllowWheelScrolling: // a form scrolls, its values stay
         return 0;
     case SH_ScrollBar_LeftClickAbsolutePosition:
         return 0;

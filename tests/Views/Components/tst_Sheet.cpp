@@ -160,6 +160,9 @@ void tst_Sheet::theFocusReturnsToTheOpener()
 {
     m_sheet->open();
     QTRY_COMPARE(QApplication::activeWindow(), m_sheet.get());
+    QLineEdit other(m_window.get());
+    other.show();
+    other.setFocus(); // as when a list below is built anew
     m_sheet->reject();
     QTRY_COMPARE(QApplication::activeWindow(), m_window.get());
     QTRY_VERIFY(m_opener->hasFocus());

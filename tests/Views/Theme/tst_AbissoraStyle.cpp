@@ -22,6 +22,7 @@
 #include <QTableWidget>
 #include <QTest>
 #include <QToolTip>
+#include <QWheelEvent>
 
 using namespace abissora;
 
@@ -47,6 +48,7 @@ private Q_SLOTS:
     void headersAreInCaptionSize();
     void selectedRowsKeepTheirTextColor();
     void animationsAreShort();
+    void theWheelDoesNotChangeAComboBox();
     void aMenuItemHasRoomForItsShortcut();
 
 private:
@@ -280,6 +282,15 @@ void tst_AbissoraStyle::selectedRowsKeepTheirTextColor()
 void tst_AbissoraStyle::animationsAreShort()
 {
     QVERIFY(QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) <= 150);
+}
+
+void tst_AbissoraStyle::theWheelDoesNotChangeAComboBox()
+{
+    QComboBox combo;
+    combo.addItems({QStringLiteral("Erogatore"), QStringLiteral("Torcia")});
+    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&combo, &wheel);
+    QCOMPARE(combo.currentIndex(), 0);
 }
 
 void tst_AbissoraStyle::aMenuItemHasRoomForItsShortcut()
