@@ -162,7 +162,8 @@ private:
         const Slot& slot = *frame.place.slot;
         if (slot.element) {
             ++frame.index;
-            return {slot.element, slot.append(frame.place.target)};
+            // Nothing replaces a bad element, so those after it cannot matter; a long bad list costs no memory.
+            return frame.faults.empty() ? Place{slot.element, slot.append(frame.place.target)} : Place{};
         }
         if (frame.member == unknown)
             return {};

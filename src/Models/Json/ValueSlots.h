@@ -92,8 +92,8 @@ struct SlotOf<std::int64_t>
                                    },
                                .real =
                                    [](void* target, double value) {
-                                       constexpr double limit = 0x1p63;
-                                       if (std::trunc(value) != value || value < -limit || value >= limit)
+                                       // The bounds are out: they may stand for a number just beyond 64 bits.
+                                       if (std::trunc(value) != value || std::abs(value) >= 0x1p63)
                                            return false;
                                        as<std::int64_t>(target) = static_cast<std::int64_t>(value);
                                        return true;
