@@ -26,9 +26,15 @@ concept HasRawValues = requires
 };
 
 template <HasRawValues Case>
+[[nodiscard]] constexpr QStringView rawValueView(Case value)
+{
+    return RawValues<Case>::entries.at(static_cast<std::size_t>(value)).rawValue;
+}
+
+template <HasRawValues Case>
 [[nodiscard]] QString rawValue(Case value)
 {
-    return RawValues<Case>::entries.at(static_cast<std::size_t>(value)).rawValue.toString();
+    return rawValueView(value).toString();
 }
 
 /// Exact, case- and accent-sensitive; nothing for any other text.

@@ -1,49 +1,67 @@
 // SPDX-License-Identifier: MIT
 #include "RecordWriter.h"
 
-#include "IdGenerator.h"
 #include "ScalarText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
 
 namespace abissora::json {
 
-void RecordWriter::write(const QString& value)
+namespace {
+
+bool needsEscape(char c)
+{
+    return c == '"' || c == '\\' || static_cast<unsigned char>(c) < 0x20;
+}
+
+void appendEscaped(std::string& out, char c)
 {
     static constexpr char hex[] = "0123456789abcdef";
+    switch (c) {
+    case '"':
+    case '\\':
+        out += {'\\', c};
+        break;
+    case '\n':
+        out += "\\n";
+        break;
+    case '\r':
+        out += "\\r";
+        break;
+    case '\t':
+        out += "\\t";
+        break;
+    default:
+        out += {'\\', 'u', '0', '0', hex[c >> 4], hex[c & 0xf]};
+    }
+}
+
+} // namespace
+
+void RecordWriter::write(QStringView value)
+{
     const QByteArray utf8 = value.toUtf8();
     m_out += '"';
-    for (const char c : utf8) {
-        switch (c) {
-        case '"':
-            m_out += "\\\"";
+    const auto end = utf8.cend();
+    for (auto plain = utf8.cbegin();;) {
+        const auto special = std::find_if(plain, end, needsEscape);
+        m_out.append(plain, special);
+        if (special == end)
             break;
-        case '\\':
-            m_out += "\\\\";
-            break;
-        case '\n':
-            m_out += "\\n";
-            break;
-        case '\r':
-            m_out += "\\r";
-            break;
-        case '\t':
-            m_out += "\\t";
-            break;
-        default:
-            if (static_cast<unsigned char>(c) < 0x20) {
-                m_out += "\\u00";
-                m_out += hex[c >> 4];
-                m_out += hex[c & 0xf];
-            } else {
-                m_out += c;
-            }
-        }
+        appendEscaped(m_out, *special);
+        plain = special + 1;
     }
     m_out += '"';
 }
 
 void RecordWriter::write(const QUuid& value)
 {
-    write(uuidText(value));
+    m_out += '"';
+    m_out += value.toByteArray(QUuid::WithoutBraces).toUpper().toStdString();
+    m_out += '"';
 }
 
 void RecordWriter::write(Instant value)
@@ -51,7 +69,9 @@ void RecordWriter::write(Instant value)
     const auto text = dateText(value);
     if (!text)
         fail(QStringLiteral("the year lies outside 1 to 9999"));
-    m_out += '"' + *text + '"';
+    m_out += '"';
+    m_out += *text;
+    m_out += '"';
 }
 
 void RecordWriter::write(double value)

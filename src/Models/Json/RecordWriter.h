@@ -5,8 +5,6 @@
 #include "RecordFields.h"
 
 #include <QList>
-#include <charconv>
-#include <cmath>
 #include <exception>
 #include <string>
 
@@ -53,10 +51,10 @@ public:
     template <HasRawValues Case>
     void write(Case value)
     {
-        write(rawValue(value));
+        write(rawValueView(value));
     }
 
-    void write(const QString& value);
+    void write(QStringView value);
     void write(const QUuid& value);
     void write(Instant value);
     void write(double value);

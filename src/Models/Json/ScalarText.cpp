@@ -2,8 +2,6 @@
 #include "ScalarText.h"
 
 #include <QString>
-#include <array>
-#include <cstdio>
 
 namespace abissora::json {
 
@@ -35,6 +33,12 @@ bool matches(std::string_view text, std::string_view pattern)
     return true;
 }
 
+void setNumber(std::string& text, std::size_t at, std::size_t digits, int value)
+{
+    for (std::size_t i = at + digits; i-- > at; value /= 10)
+        text[i] = static_cast<char>('0' + value % 10);
+}
+
 int number(std::string_view digits)
 {
     int value = 0;
@@ -54,12 +58,14 @@ std::optional<std::string> dateText(Instant instant)
         return std::nullopt;
     const year_month_day date(day);
     const hh_mm_ss time(seconds - day);
-    std::array<char, 40> buffer{};
-    const int length = std::snprintf(
-        buffer.data(), buffer.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ", static_cast<int>(date.year()),
-        static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()), static_cast<int>(time.hours().count()),
-        static_cast<int>(time.minutes().count()), static_cast<int>(time.seconds().count()));
-    return std::string(buffer.data(), static_cast<std::size_t>(length));
+    std::string text(datePattern);
+    setNumber(text, 0, 4, static_cast<int>(date.year()));
+    setNumber(text, 5, 2, static_cast<int>(static_cast<unsigned>(date.month())));
+    setNumber(text, 8, 2, static_cast<int>(static_cast<unsigned>(date.day())));
+    setNumber(text, 11, 2, static_cast<int>(time.hours().count()));
+    setNumber(text, 14, 2, static_cast<int>(time.minutes().count()));
+    setNumber(text, 17, 2, static_cast<int>(time.seconds().count()));
+    return text;
 }
 
 std::optional<Instant> dateFromText(std::string_view text)
