@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Equipment.h"
+#include "EquipmentTypeModel.h"
+#include "Fakes.h"
+
+#include <QDateTime>
+
+// Short ways to write down records. Every record has all its required members set, each to a value of its own.
+namespace abissora::test {
+
+/// "2026-06-15T10:00:00Z", also with milliseconds.
+inline Instant at(const char* isoText)
+{
+    const QDateTime time = QDateTime::fromString(QLatin1String(isoText), Qt::ISODateWithMs);
+    Q_ASSERT(time.isValid());
+    return Instant(std::chrono::milliseconds(time.toMSecsSinceEpoch()));
+}
+
+inline Maintenance maintenance(int id, Instant date, Instant next)
+{
+    Maintenance record;
+    record.id = SequentialIds::at(id);
+    record.date = date;
+    record.type = MaintenanceType::repair;
+    record.description = QStringLiteral("Revisione primo stadio");
+    record.performedBy = QStringLiteral("Officina Blu");
+    record.cost = 120.5;
+    record.notes = QStringLiteral("O-ring sostituiti");
+    record.nextServiceDate = next;
+    return record;
+}
+
+inline Maintenance maintenance(int id)
+{
+    return maintenance(id, at("2025-03-14T09:26:53Z"), at("2026-03-14T09:26:53Z"));
+}
+
+inline Equipment equipment(int id, const QString& name = QStringLiteral("Erogatore di prova"))
+{
+    Equipment item;
+    item.id = SequentialIds::at(id);
+    item.name = name;
+    item.type = EquipmentType::bcd;
+    item.brand = QStringLiteral("Marca");
+    item.model = QStringLiteral("Modello");
+    item.serialNumber = QStringLiteral("SN-01");
+    item.purchaseDate = at("2024-01-02T03:04:05Z");
+    item.lastServiceDate = at("2025-06-07T08:09:10Z");
+    item.nextServiceDate = at("2026-12-31T23:59:59Z");
+    item.notes = QStringLiteral("Note");
+    return item;
+}
+
+inline Equipment equipmentWith(int id, const QList<Maintenance>& history)
+{
+    Equipment item = equipment(id);
+    item.maintenanceHistory = history;
+    return item;
+}
+
+inline EquipmentTypeModel equipmentType(int id, const QString& name)
+{
+    return {SequentialIds::at(id), name, QStringLiteral("dive.tank"), QStringLiteral("gray"), 180, true};
+}
+
+} // namespace abissora::test
