@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "Register.h"
+
+#include <random>
+
+namespace abissora::benchmark {
+
+namespace {
+
+using Random = std::mt19937;
+
+QUuid id(Random& random)
+{
+    const auto word = [&random] { return static_cast<std::uint32_t>(random()); };
+    return QUuid::fromRfc4122(QByteArray::fromHex(
+        QByteArray::number(qulonglong(word()) << 32 | word(), 16)
+            .rightJustified(16, '0')
+            .append(QByteArray::number(qulonglong(word()) << 32 | word(), 16).rightJustified(16, '0'))));
+}
+
+Instant instant(Random& random, Instant now)
+{
+    constexpr int twoYears = 2 * 365 * 86'400;
+    return now + std::chrono::seconds(std::uniform_int_distribution(-twoYears, twoYears)(random));
+}
+
+Maintenance maintenance(Random& random, Instant now, int n)
+{
+    constexpr auto types = allCases<MaintenanceType>();
+    Maintenance record;
+    record.id = id(random);
+    record.date = instant(random, now);
+    record.type = types.at(static_cast<std::size_t>(n) % types.size());
+    record.description = QStringLiteral("Revisione, prova a %1 bar").arg(n * 10);
+    record.performedBy = QStringLiteral("Officina Blu");
+    record.cost = std::uniform_int_distribution(0, 40'000)(random) / 100.0;
+    record.notes = QStringLiteral("Ritirata.");
+    record.nextServiceDate = instant(random, now);
+    record.isCompleted = n % 2 == 0;
+    return record;
+}
+
+} // namespace
+
+QList<Equipment> registerOf(int count, Instant now)
+{
+    static const QStringList brands{QStringLiteral("Marevivo"), QStringLiteral("Nordsee"), QStringLiteral("Écume"),
+                                    QStringLiteral("Sette Mari")};
+    constexpr auto types = allCases<EquipmentType>();
+    Random random(1); // NOLINT(cert-msc*): the same register at every run
+    QList<Equipment> equipment;
+    equipment.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        Equipment item;
+        item.id = id(random);
+        item.type = types.at(static_cast<std::size_t>(i) % types.size());
+        item.name = rawValue(item.type) + QStringLiteral(" numero %1").arg(i);
+        item.brand = brands.at(i % brands.size());
+        item.model = QStringLiteral("Modello %1").arg(i % 37);
+        item.serialNumber = QStringLiteral("AB-%1").arg(i, 8, 10, QLatin1Char('0'));
+        item.purchaseDate = instant(random, now);
+        item.lastServiceDate = instant(random, now);
+        item.nextServiceDate = instant(random, now);
+        item.notes = QStringLiteral("Per acque fredde.");
+        item.isActive = i % 10 != 0;
+        for (int n = 0; n < 4; ++n)
+            item.maintenanceHistory.append(maintenance(random, now, n));
+        equipment.append(item);
+    }
+    return equipment;
+}
+
+} // namespace abissora::benchmark

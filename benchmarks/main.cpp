@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+// abissora-benchmark: how long the operations that a person waits for take. The last column is the time divided by
+// that of a fixed piece of plain work measured in the same run, so that figures of different machines and days can be
+// compared. Build it with the preset "release".
+#include "EquipmentViewModel.h"
+#include "RecordJson.h"
+#include "Register.h"
+#include "Report.h"
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <QTimeZone>
+
+using namespace abissora;
+using namespace abissora::benchmark;
+
+namespace {
+
+class SilentConsole final : public Console
+{
+public:
+    void print(const QString& text) override { sink = static_cast<std::size_t>(text.size()); }
+};
+
+class NoPanel final : public FilePanel
+{
+public:
+    [[nodiscard]] std::optional<QString> pickFile(const FilePanelRequest& /*request*/) override { return {}; }
+};
+
+void measureJson(const Report& report, const char* encoding, const char* decoding, const QList<Equipment>& equipment)
+{
+    const QByteArray json = encode(equipment).value();
+    const int runs = equipment.size() < 1000 ? 101 : 11;
+    report.measure(encoding, runs, [&] { sink = static_cast<std::size_t>(encode(equipment)->size()); });
+    report.measure(decoding, runs, [&] { sink = static_cast<std::size_t>(decodeEquipment(json)->size()); });
+}
+
+/// The register's state object over a folder of its own.
+class Catalogue
+{
+public:
+    Catalogue(const QList<Equipment>& equipment, const Clock& clock, const Calendar& calendar)
+        : m_preferences(m_folder.filePath(QStringLiteral("preferences")), m_folder.path(), clock)
+        , m_documents(m_folder.filePath(QStringLiteral("documents")), m_panel, m_ids, m_console)
+    {
+        m_preferences.setData(StorageManager::equipmentKey, encode(equipment).value());
+        m_viewModel.emplace(StorageManager(m_preferences, m_console, clock, calendar, m_ids), m_documents, m_console,
+                            clock, calendar);
+    }
+
+    EquipmentViewModel* operator->() { return &*m_viewModel; }
+
+private:
+    QTemporaryDir m_folder;
+    SilentConsole m_console;
+    NoPanel m_panel;
+    RandomIdGenerator m_ids;
+    PreferencesStore m_preferences;
+    MaintenanceDocumentStore m_documents;
+    std::optional<EquipmentViewModel> m_viewModel;
+};
+
+void measureLists(const Report& report, Catalogue& catalogue)
+{
+    const auto measure = [&](const char* name) {
+        report.measure(name, 51, [&] { sink = static_cast<std::size_t>(catalogue->filteredEquipment().size()); });
+    };
+    measure("filteredEquipment, 10,000 items, no filter");
+    catalogue->setFilterTypeName(QStringLiteral("GAV"));
+    measure("filteredEquipment, 10,000 items, by type name");
+    catalogue->setFilterTypeName({});
+    catalogue->setSelectedType(EquipmentType::bcd);
+    measure("filteredEquipment, 10,000 items, by built-in kind");
+    catalogue->setSelectedType({});
+    catalogue->setSearchText(QStringLiteral("e"));
+    measure("filteredEquipment, 10,000 items, first letter of a search");
+    catalogue->setSearchText(QStringLiteral("è"));
+    measure("filteredEquipment, 10,000 items, search without a match");
+    catalogue->setSearchText({});
+    report.measure("overdueEquipment, 10,000 items", 51,
+                   [&] { sink = static_cast<std::size_t>(catalogue->overdueEquipment().size()); });
+}
+
+void measureDays(const Report& report, const QList<Equipment>& equipment, Instant now, const char* name,
+                 const Calendar& calendar)
+{
+    report.measure(name, 51, [&] {
+        std::int64_t days = 0;
+        for (const Equipment& item : equipment)
+            days += calendar.daysBetween(now, item.nextServiceDate).value_or(0);
+        sink = static_cast<std::size_t>(days);
+    });
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const SystemClock clock;
+    const QList<Equipment> small = registerOf(300, clock.now());
+    const QList<Equipment> large = registerOf(10'000, clock.now());
+
+    const Report report(medianOf(51, reference));
+    measureJson(report, "encode, 300 items of 4 records", "decode, 300 items of 4 records", small);
+    measureJson(report, "encode, 10,000 items of 4 records", "decode, 10,000 items of 4 records", large);
+    measureDays(report, large, clock.now(), "daysBetween, 10,000 times, system's zone", Calendar());
+    measureDays(report, large, clock.now(), "daysBetween, 10,000 times, Europe/Rome",
+                Calendar(QTimeZone("Europe/Rome")));
+
+    Catalogue catalogue(large, clock, Calendar());
+    measureLists(report, catalogue);
+    report.measure("updateEquipment, 10,000 items, saved and synced", 11,
+                   [&] { catalogue->updateEquipment(large.front()); });
+    return 0;
+}
