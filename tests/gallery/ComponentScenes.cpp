@@ -169,9 +169,9 @@ std::unique_ptr<QWidget> statistics()
 
 QList<Scene> componentScenes()
 {
-    return {{QStringLiteral("settings"), settings},
-            {QStringLiteral("list"), list},
-            {QStringLiteral("statistics"), statistics}};
+    return {{QStringLiteral("component-settings"), settings},
+            {QStringLiteral("component-list"), list},
+            {QStringLiteral("component-statistics"), statistics}};
 }
 
 } // namespace abissora::gallery

@@ -198,11 +198,11 @@ std::unique_ptr<QWidget> menu()
 
 QList<Scene> controlScenes()
 {
-    return {{QStringLiteral("buttons"), buttons},
-            {QStringLiteral("fields"), fields},
-            {QStringLiteral("table"), table},
-            {QStringLiteral("sidebar"), sidebarList},
-            {QStringLiteral("menu"), menu}};
+    return {{QStringLiteral("control-buttons"), buttons},
+            {QStringLiteral("control-fields"), fields},
+            {QStringLiteral("control-table"), table},
+            {QStringLiteral("control-sidebar"), sidebarList},
+            {QStringLiteral("control-menu"), menu}};
 }
 
 } // namespace abissora::gallery

@@ -18,8 +18,8 @@ struct Scene
     std::function<std::unique_ptr<QWidget>()> make;
 };
 
-/// Writes name-scheme@scale.png for every scene, both schemes and the scales 1, 1.5 and 2. False when a picture could
-/// not be written.
+/// Writes name-scheme@scale.png for every scene in both schemes, at the scale that the application runs at. False when
+/// a picture could not be written.
 [[nodiscard]] bool render(const QList<Scene>& scenes, const QDir& folder);
 
 } // namespace abissora::gallery

@@ -97,8 +97,9 @@ std::unique_ptr<QWidget> notice()
 
 QList<Scene> sheetScenes()
 {
-    return {
-        {QStringLiteral("sheet"), form}, {QStringLiteral("alert"), destructive}, {QStringLiteral("notice"), notice}};
+    return {{QStringLiteral("component-sheet"), form},
+            {QStringLiteral("component-alert"), destructive},
+            {QStringLiteral("component-notice"), notice}};
 }
 
 } // namespace abissora::gallery

@@ -34,7 +34,9 @@ void drawItemPanel(const QStyleOptionViewItem& option, QPainter& painter)
         drawPanel(painter, option.rect, metrics::controlRadius, selected ? tokens.accentFill : veil, {});
         return;
     }
-    painter.fillRect(option.rect, selected ? tokens.selection : mix(tokens.surface, tokens.text, 0.03));
+    // Cells meet without a seam at fractional scales, whatever render hints a delegate has set.
+    painter.fillRect(onDeviceGrid(painter, option.rect),
+                     selected ? tokens.selection : mix(tokens.surface, tokens.text, 0.03));
 }
 
 void drawItemFocus(const QStyleOption& option, QPainter& painter, const QWidget* widget)
