@@ -96,8 +96,9 @@ void EquipmentTableDelegate::paint(QPainter* painter, const QStyleOptionViewItem
                                    const QModelIndex& index) const
 {
     painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
+    // Antialiased, the fills of neighbouring cells would show seams at fractional scales.
     paintBackground(*painter, option, index);
+    painter->setRenderHint(QPainter::Antialiasing);
     const Tokens& tokens = Tokens::of(option.palette);
     const QRect cell = option.rect.adjusted(metrics::spaceS, 0, -metrics::spaceS, 0);
     const EquipmentRow row = m_model.row(index.row());
