@@ -11,19 +11,19 @@ namespace abissora {
 
 namespace {
 
-/// As the file system reports it: what follows the last dot, which does not begin the name.
+bool isPlainName(const QString& name)
+{
+    return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
+           !name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char('\\')) && !name.contains(QChar(0));
+}
+
+/// What follows the last dot of the name, unless that dot begins it. A stored name must remain a plain name.
 QString extensionOf(const QString& path)
 {
     const QString name = QFileInfo(path).fileName();
     const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
     const QString extension = dot > 0 ? name.mid(dot + 1) : QString();
-    return extension.isEmpty() ? QStringLiteral("pdf") : extension;
-}
-
-bool isPlainName(const QString& name)
-{
-    return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
-           !name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char('\\')) && !name.contains(QChar(0));
+    return isPlainName(extension) ? extension : QStringLiteral("pdf");
 }
 
 class ScopedAccess
@@ -80,15 +80,20 @@ std::optional<QString> MaintenanceDocumentStore::pickPDFAndStore(const std::opti
 
 std::optional<QString> MaintenanceDocumentStore::store(const QString& source)
 {
-    const ScopedAccess access(m_panel, source);
     const QString name = uuidText(m_ids.next()) + QLatin1Char('.') + extensionOf(source);
-    const auto copied = documentsDirectory().and_then(
-        [&](const QString& folder) { return AtomicFile::copy(source, folder + QLatin1Char('/') + name); });
+    const auto copied = copyInto(name, source);
     if (!copied) {
         m_console.print(QStringLiteral("Errore salvataggio documento: ") + copied.error().reason);
         return std::nullopt;
     }
     return name;
+}
+
+IoResult<void> MaintenanceDocumentStore::copyInto(const QString& name, const QString& source)
+{
+    const ScopedAccess access(m_panel, source);
+    return documentsDirectory().and_then(
+        [&](const QString& folder) { return AtomicFile::copy(source, folder + QLatin1Char('/') + name); });
 }
 
 std::optional<QString> MaintenanceDocumentStore::url(const QString& name) const

@@ -36,6 +36,8 @@ public:
     void deleteDocument(const QString& name) const;
 
 private:
+    IoResult<void> copyInto(const QString& name, const QString& source);
+
     QString m_folder;
     FilePanel& m_panel;
     IdGenerator& m_ids;
