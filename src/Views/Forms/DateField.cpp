@@ -65,7 +65,8 @@ DateField::DateField(const Calendar& calendar, QWidget* parent)
     open->setText(QStringLiteral("Calendario"));
     setInstant({});
     connect(open, &QAction::triggered, this, &DateField::openCalendar);
-    connect(this, &QLineEdit::textEdited, this, &DateField::takeCompleteDay);
+    // Not textEdited: assistive technology sets the text without it. setInstant() gives no other day than it just took.
+    connect(this, &QLineEdit::textChanged, this, &DateField::takeCompleteDay);
     connect(this, &QLineEdit::editingFinished, this, &DateField::takeTypedDay);
 }
 

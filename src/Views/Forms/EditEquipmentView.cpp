@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "EditEquipmentView.h"
+
+namespace abissora {
+
+EditEquipmentView::EditEquipmentView(const AppContext& context, const Equipment& equipment, QWidget* parent)
+    : EquipmentForm(Purpose::Edit, QStringLiteral("Modifica Attrezzatura"), context, EquipmentFormState::of(equipment),
+                    parent)
+    , m_equipment(equipment)
+{}
+
+void EditEquipmentView::save(const EquipmentFormState& state, Instant nextServiceDate)
+{
+    m_equipment = state.appliedTo(m_equipment, nextServiceDate);
+    context().equipment.updateEquipment(m_equipment);
+    Q_EMIT saved(m_equipment);
+}
+
+} // namespace abissora

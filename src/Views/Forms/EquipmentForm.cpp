@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: MIT
+#include "EquipmentForm.h"
+
+#include "Alert.h"
+#include "Buttons.h"
+#include "DateField.h"
+#include "FormRow.h"
+#include "GroupBox.h"
+#include "InkLabel.h"
+#include "Metrics.h"
+#include "ToggleSwitch.h"
+#include "TypeChoice.h"
+#include "TypePicker.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <limits>
+
+namespace abissora {
+
+namespace {
+
+constexpr int notesHeight = 110;
+
+template <typename Widget>
+Widget* named(Widget* widget, const char* objectName)
+{
+    widget->setObjectName(QLatin1String(objectName));
+    return widget;
+}
+
+QLineEdit* makeTextField(const char* objectName, const QString& placeholder = {})
+{
+    auto* field = named(new QLineEdit, objectName);
+    field->setMaxLength(std::numeric_limits<int>::max()); // a form shall not shorten what is stored
+    field->setPlaceholderText(placeholder);
+    return field;
+}
+
+void bringIntoView(QWidget* field)
+{
+    for (QWidget* around = field->parentWidget(); around != nullptr; around = around->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(around))
+            area->ensureWidgetVisible(field);
+    }
+}
+
+} // namespace
+
+EquipmentForm::EquipmentForm(Purpose purpose, const QString& title, const AppContext& context,
+                             const EquipmentFormState& initial, QWidget* parent)
+    : Sheet(title, parent)
+    , m_context(context)
+    , m_purpose(purpose)
+    , m_name(makeTextField("name", QStringLiteral("Inserisci il nome")))
+    , m_type(named(new TypePicker, "type"))
+    , m_interval(named(new InkLabel(TextStyle::Body, &Tokens::secondaryText), "interval"))
+    , m_intervalRow(nullptr)
+    , m_brand(makeTextField("brand", QStringLiteral("Inserisci la marca")))
+    , m_model(makeTextField("model", QStringLiteral("Inserisci il modello")))
+    , m_serialNumber(makeTextField("serialNumber", QStringLiteral("Inserisci il numero seriale")))
+    , m_purchaseDate(named(new DateField(context.calendar), "purchaseDate"))
+    , m_lastServiceDate(named(new DateField(context.calendar), "lastServiceDate"))
+    , m_nextServiceDate(named(new InkLabel(TextStyle::Body, &Tokens::text), "nextServiceDate"))
+    , m_isActive(named(new ToggleSwitch(QStringLiteral("Attivo")), "isActive"))
+    , m_notes(named(new QPlainTextEdit, "notes"))
+    , m_incomplete(named(new InkLabel(TextStyle::Caption, &Tokens::danger), "incomplete"))
+{
+    setPrimaryText(QStringLiteral("Salva"));
+    for (GroupBox* group :
+         {makeGeneralGroup(), makeDetailsGroup(), makeDatesGroup(), makeStateGroup(), makeNotesGroup()})
+        body()->addWidget(group);
+    addFootnotes();
+    setState(initial);
+    connectFields();
+    followTypes();
+    setFirstField(firstEmptyRequiredField());
+}
+
+GroupBox* EquipmentForm::makeGeneralGroup()
+{
+    m_intervalRow = new FormRow(QStringLiteral("Intervallo tagliando"), m_interval);
+    auto* group = new GroupBox(QStringLiteral("Informazioni Generali"));
+    group->content()->addWidget(new FormRow(QStringLiteral("Nome*"), m_name));
+    group->content()->addWidget(new FormRow(QStringLiteral("Tipo*"), m_type));
+    group->content()->addWidget(m_intervalRow);
+    return group;
+}
+
+GroupBox* EquipmentForm::makeDetailsGroup()
+{
+    auto* group = new GroupBox(QStringLiteral("Dettagli Tecnici"));
+    group->content()->addWidget(new FormRow(QStringLiteral("Marca*"), m_brand));
+    group->content()->addWidget(new FormRow(QStringLiteral("Modello"), m_model));
+    group->content()->addWidget(new FormRow(QStringLiteral("Numero Seriale"), m_serialNumber));
+    return group;
+}
+
+GroupBox* EquipmentForm::makeDatesGroup()
+{
+    auto* group = new GroupBox(QStringLiteral("Date"));
+    group->content()->addWidget(new FormRow(QStringLiteral("Data Acquisto"), m_purchaseDate));
+    group->content()->addWidget(new FormRow(QStringLiteral("Ultimo Tagliando"), m_lastServiceDate));
+    group->content()->addWidget(new FormRow(QStringLiteral("Prossimo Tagliando"), m_nextServiceDate));
+    return group;
+}
+
+GroupBox* EquipmentForm::makeStateGroup()
+{
+    auto* group = new GroupBox(QStringLiteral("Stato"));
+    group->content()->addWidget(m_isActive);
+    group->setVisible(m_purpose == Purpose::Edit);
+    return group;
+}
+
+GroupBox* EquipmentForm::makeNotesGroup()
+{
+    auto* group = new GroupBox(QStringLiteral("Note"));
+    m_notes->setAccessibleName(group->title());
+    m_notes->setTabChangesFocus(true);
+    m_notes->setFixedHeight(withText(notesHeight, fontMetrics()));
+    group->content()->addWidget(m_notes);
+    return group;
+}
+
+void EquipmentForm::addFootnotes()
+{
+    m_incomplete->setText(QStringLiteral("Compila tutti i campi obbligatori"));
+    QSizePolicy policy = m_incomplete->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // the sheet shall not jump while somebody types
+    m_incomplete->setSizePolicy(policy);
+    auto* footnotes = new QVBoxLayout;
+    footnotes->setSpacing(metrics::spaceXS);
+    footnotes->addWidget(named(
+        new InkLabel(TextStyle::Caption, &Tokens::secondaryText, QStringLiteral("* Campi obbligatori")), "required"));
+    footnotes->addWidget(m_incomplete);
+    body()->addLayout(footnotes);
+    body()->addStretch();
+}
+
+void EquipmentForm::setState(const EquipmentFormState& state)
+{
+    m_selectedTypeName = state.selectedTypeName;
+    m_givenNotes = state.notes;
+    m_name->setText(state.name);
+    m_brand->setText(state.brand);
+    m_model->setText(state.model);
+    m_serialNumber->setText(state.serialNumber);
+    m_purchaseDate->setInstant(state.purchaseDate);
+    m_lastServiceDate->setInstant(state.lastServiceDate);
+    m_isActive->setChecked(state.isActive);
+    m_notes->setPlainText(state.notes);
+}
+
+void EquipmentForm::connectFields()
+{
+    for (const QLineEdit* field : {m_name, m_brand})
+        connect(field, &QLineEdit::textChanged, this, &EquipmentForm::refresh);
+    connect(m_lastServiceDate, &DateField::edited, this, &EquipmentForm::refresh);
+    connect(m_type, &TypePicker::chosen, this, [this](const QString& typeName) {
+        m_selectedTypeName = typeName;
+        followTypes();
+    });
+    connect(&m_context.types, &EquipmentTypeViewModel::changed, this, &EquipmentForm::followTypes);
+    connect(this, &Sheet::primaryClicked, this, &EquipmentForm::saveEquipment);
+}
+
+EquipmentFormState EquipmentForm::state() const
+{
+    return {
+        .name = m_name->text(),
+        .selectedTypeName = m_selectedTypeName,
+        .brand = m_brand->text(),
+        .model = m_model->text(),
+        .serialNumber = m_serialNumber->text(),
+        .purchaseDate = m_purchaseDate->instant(),
+        .lastServiceDate = m_lastServiceDate->instant(),
+        // The editor has its own idea of line ends and of spaces that do not break.
+        .notes = m_notes->document()->isModified() ? m_notes->toPlainText() : m_givenNotes,
+        .isActive = m_isActive->isChecked(),
+    };
+}
+
+QLineEdit* EquipmentForm::firstEmptyRequiredField() const
+{
+    for (QLineEdit* field : {m_name, m_brand}) {
+        if (field->text().trimmed().isEmpty())
+            return field;
+    }
+    return nullptr;
+}
+
+void EquipmentForm::followTypes()
+{
+    const QList<EquipmentTypeModel> offered = m_context.types.filteredTypes();
+    if (m_purpose == Purpose::Add && !offers(offered, m_selectedTypeName))
+        m_selectedTypeName = defaultTypeName(offered);
+    m_type->setTypes(m_purpose == Purpose::Edit ? availableTypes(offered, m_selectedTypeName) : offered,
+                     m_selectedTypeName);
+    refresh();
+}
+
+void EquipmentForm::refresh()
+{
+    const EquipmentFormState now = state();
+    m_nextServiceDate->setText(m_context.dates.abbreviatedDate(
+        now.calculateNextServiceDate(m_context.types, m_context.calendar, m_context.clock.now())));
+    const auto type = m_context.types.getTypeByName(m_selectedTypeName);
+    m_intervalRow->setVisible(m_purpose == Purpose::Edit && type);
+    if (type)
+        m_interval->setText(QStringLiteral("%1 giorni").arg(type->serviceIntervalDays));
+    m_incomplete->setVisible(!now.isFormValid());
+}
+
+void EquipmentForm::saveEquipment()
+{
+    const EquipmentFormState entered = state();
+    if (!entered.isFormValid()) {
+        showAlert(QStringLiteral("Per favore, compila tutti i campi obbligatori."));
+        return;
+    }
+    save(entered, entered.calculateNextServiceDate(m_context.types, m_context.calendar, m_context.clock.now()));
+    accept();
+}
+
+void EquipmentForm::showAlert(const QString& message)
+{
+    auto* alert = new Alert(this);
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->setTitle(QStringLiteral("Errore"));
+    alert->setMessage(message);
+    alert->makeNotice();
+    connect(alert, &QDialog::finished, this, [this] {
+        if (QLineEdit* const field = firstEmptyRequiredField()) {
+            field->setFocus(Qt::OtherFocusReason);
+            bringIntoView(field);
+        }
+    });
+    alert->open();
+}
+
+} // namespace abissora

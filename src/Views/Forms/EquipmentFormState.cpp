@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "EquipmentFormState.h"
+
+#include "EquipmentTypeViewModel.h"
+
+namespace abissora {
+
+namespace {
+
+constexpr std::int64_t intervalOfUnknownTypes = 365;
+
+} // namespace
+
+EquipmentFormState EquipmentFormState::of(const Equipment& item)
+{
+    return {
+        .name = item.name,
+        .selectedTypeName = item.displayTypeName(),
+        .brand = item.brand,
+        .model = item.model,
+        .serialNumber = item.serialNumber,
+        .purchaseDate = item.purchaseDate,
+        .lastServiceDate = item.lastServiceDate,
+        .notes = item.notes,
+        .isActive = item.isActive,
+    };
+}
+
+bool EquipmentFormState::isFormValid() const
+{
+    return !name.trimmed().isEmpty() && !brand.trimmed().isEmpty();
+}
+
+Instant EquipmentFormState::calculateNextServiceDate(const EquipmentTypeViewModel& types, const Calendar& calendar,
+                                                     Instant now) const
+{
+    const auto type = types.getTypeByName(selectedTypeName);
+    const std::int64_t interval = type ? type->serviceIntervalDays : intervalOfUnknownTypes;
+    return calendar.addDays(lastServiceDate, interval).value_or(now);
+}
+
+Equipment EquipmentFormState::appliedTo(Equipment item, Instant nextServiceDate) const
+{
+    const QString typeName = selectedTypeName.trimmed();
+    const auto builtIn = EquipmentTypeViewModel::getEquipmentType(typeName);
+    item.name = name.trimmed();
+    item.type = builtIn.value_or(EquipmentType::other);
+    item.customTypeName = builtIn ? std::nullopt : std::optional(typeName);
+    item.brand = brand.trimmed();
+    item.model = model.trimmed();
+    item.serialNumber = serialNumber.trimmed();
+    item.purchaseDate = purchaseDate;
+    item.lastServiceDate = lastServiceDate;
+    item.nextServiceDate = nextServiceDate;
+    item.notes = notes.trimmed();
+    item.isActive = isActive;
+    return item;
+}
+
+} // namespace abissora

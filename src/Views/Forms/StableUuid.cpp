@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "StableUuid.h"
+
+#include <numeric>
+
+namespace abissora {
+
+namespace {
+
+constexpr unsigned versionMark = 0x40;
+constexpr unsigned variantMark = 0x80;
+
+char byteOf(quint64 number, int index, unsigned mark = 0)
+{
+    return static_cast<char>(((number >> (8 * index)) & 0xFF) | mark);
+}
+
+} // namespace
+
+QUuid stableUUID(const QString& from)
+{
+    const QByteArray text = from.toUtf8();
+    const auto count = static_cast<quint64>(text.size());
+    const quint64 sum = std::accumulate(text.begin(), text.end(), quint64{0}, [](quint64 total, char byte) {
+        return total + static_cast<unsigned char>(byte);
+    });
+    const char bytes[] = {
+        byteOf(sum, 0),
+        byteOf(sum, 1),
+        byteOf(sum, 2),
+        byteOf(sum, 3),
+        byteOf(count, 0),
+        byteOf(count, 1),
+        byteOf(count, 2, versionMark),
+        byteOf(count, 3, variantMark),
+        '\x80',
+        '\x8C',
+        byteOf(sum, 4),
+        byteOf(sum, 5),
+        byteOf(sum, 6),
+        byteOf(sum, 7),
+        byteOf(count, 4),
+        byteOf(count, 5),
+    };
+    return QUuid::fromRfc4122(QByteArrayView(bytes, sizeof bytes));
+}
+
+} // namespace abissora

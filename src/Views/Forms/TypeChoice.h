@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "EquipmentTypeModel.h"
+
+#include <QList>
+
+namespace abissora {
+
+/// The type that a new item starts with: "Erogatore" when it is offered, else the first one; empty when there is none.
+[[nodiscard]] QString defaultTypeName(const QList<EquipmentTypeModel>& offered);
+
+[[nodiscard]] bool offers(const QList<EquipmentTypeModel>& offered, const QString& typeName);
+
+/// What a picker shows: the offered types, and the selected one as an entry of unknown appearance at the end when it is
+/// not among them.
+[[nodiscard]] QList<EquipmentTypeModel> availableTypes(const QList<EquipmentTypeModel>& offered,
+                                                       const QString& selectedTypeName);
+
+} // namespace abissora
