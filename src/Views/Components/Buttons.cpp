@@ -14,9 +14,12 @@ QIcon symbolFor(ButtonLook look, const QString& name)
     case ButtonLook::Primary:
         return symbolIcon(name, Tokens::of(Scheme::Light).onFill); // the same in both schemes
     case ButtonLook::Destructive:
+    case ButtonLook::DestructiveLink:
         return symbolIcon(name, NamedColor::red);
     case ButtonLook::Caution:
         return symbolIcon(name, NamedColor::orange);
+    case ButtonLook::Positive:
+        return symbolIcon(name, NamedColor::green);
     case ButtonLook::Link:
         return symbolIcon(name, NamedColor::blue);
     case ButtonLook::Plain:

@@ -8,14 +8,15 @@ class QWidget;
 
 namespace abissora {
 
-/// Keeps a window's size and its splitter across starts. Not the position: not every desktop can restore it.
+/// Keeps a window's size and its splitters across starts. Not the position: not every desktop can restore it.
 class WindowState
 {
 public:
     explicit WindowState(const QString& file);
 
-    void restore(QWidget& window, QSplitter& splitter) const;
-    void save(const QWidget& window, const QSplitter& splitter);
+    /// Splitters are known by their object names.
+    void restore(QWidget& window, const QList<QSplitter*>& splitters) const;
+    void save(const QWidget& window, const QList<QSplitter*>& splitters);
 
 private:
     QSettings m_settings;

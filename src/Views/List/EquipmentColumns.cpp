@@ -13,16 +13,18 @@ namespace abissora {
 
 namespace {
 
-/// Shares of the width that the texts may take, and the least that each column needs.
+/// Shares of the width that the texts may take, what each column needs to be read whole as a rule, and the least that
+/// it is squeezed to.
 struct ColumnWidth
 {
     int share;
+    int usual;
     int least;
 };
 
-constexpr std::array<ColumnWidth, EquipmentTableModel::ColumnCount> widths{ColumnWidth{30, 170}, ColumnWidth{14, 74},
-                                                                           ColumnWidth{14, 74},  ColumnWidth{20, 146},
-                                                                           ColumnWidth{0, 86},   ColumnWidth{0, 66}};
+constexpr std::array<ColumnWidth, EquipmentTableModel::ColumnCount> widths{
+    ColumnWidth{30, 170, 100}, ColumnWidth{14, 74, 46}, ColumnWidth{14, 74, 46},
+    ColumnWidth{20, 146, 84},  ColumnWidth{0, 86, 60},  ColumnWidth{0, 66, 46}};
 
 } // namespace
 
@@ -45,20 +47,27 @@ bool EquipmentColumns::eventFilter(QObject* watched, QEvent* event)
 void EquipmentColumns::layOut()
 {
     const QFontMetrics text(font(TextStyle::Body));
+    int usual = 0;
     int least = 0;
     int shares = 0;
     for (const ColumnWidth& column : widths) {
+        usual += withText(column.usual, text);
         least += withText(column.least, text);
         shares += column.share;
     }
-    const int spare = std::max(0, m_table.viewport()->width() - least);
+    const int width = m_table.viewport()->width();
+    const int spare = std::max(0, width - usual);
+    const int squeezed = std::clamp(width - least, 0, usual - least); // of what lies between least and usual
     int given = 0;
-    for (int column = EquipmentTableModel::ColumnCount - 1; column >= 0; --column) {
-        const ColumnWidth& width = widths.at(static_cast<std::size_t>(column));
-        const int extra = column == 0 ? spare - given : spare * width.share / shares;
-        given += extra;
-        m_table.setColumnWidth(column, withText(width.least, text) + extra);
+    for (int column = EquipmentTableModel::ColumnCount - 1; column > 0; --column) {
+        const ColumnWidth& own = widths.at(static_cast<std::size_t>(column));
+        const int most = withText(own.usual, text) - withText(own.least, text);
+        const int columnWidth =
+            withText(own.least, text) + most * squeezed / (usual - least) + spare * own.share / shares;
+        m_table.setColumnWidth(column, columnWidth);
+        given += columnWidth;
     }
+    m_table.setColumnWidth(0, std::max(width, least) - given);
 }
 
 } // namespace abissora

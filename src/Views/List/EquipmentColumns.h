@@ -7,8 +7,9 @@ class QTableView;
 
 namespace abissora {
 
-/// Keeps the columns of the register's table together as wide as its viewport: each has the least that its texts need,
-/// and the spare width goes to names, makes, models and dates by fixed shares. Below the least the table scrolls.
+/// Keeps the columns of the register's table together as wide as its viewport. Spare width goes to names, makes, models
+/// and dates by fixed shares; in a narrow viewport every column gives way, down to a least width below which the table
+/// scrolls.
 class EquipmentColumns : public QObject
 {
     Q_OBJECT

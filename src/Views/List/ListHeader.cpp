@@ -3,10 +3,11 @@
 
 #include "Buttons.h"
 #include "Chip.h"
-#include "InkLabel.h"
+#include "FlowLayout.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
+#include "WrapLabel.h"
 
 #include <QHBoxLayout>
 
@@ -16,7 +17,7 @@ ListHeader::ListHeader(QWidget* parent)
     : QWidget(parent)
     , m_chip(new Chip)
 {
-    auto* title = new InkLabel(TextStyle::Title, &Tokens::text, QStringLiteral("Attrezzatura Subacquea"));
+    auto* title = new WrapLabel(TextStyle::Title, &Tokens::text, QStringLiteral("Attrezzatura Subacquea"));
     title->setObjectName(QStringLiteral("listTitle"));
     auto* refresh = new PlainButton(QStringLiteral("Aggiorna"));
     refresh->setObjectName(QStringLiteral("refreshButton"));
@@ -27,13 +28,13 @@ ListHeader::ListHeader(QWidget* parent)
     m_chip->setObjectName(QStringLiteral("filterChip"));
     m_chip->hide();
 
+    auto* titleAndChip = new FlowLayout(metrics::spaceM, metrics::spaceXS);
+    titleAndChip->addWidget(title);
+    titleAndChip->addWidget(m_chip);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(metrics::spaceS);
-    layout->addWidget(title);
-    layout->addSpacing(metrics::spaceXS);
-    layout->addWidget(m_chip);
-    layout->addStretch();
+    layout->addLayout(titleAndChip, 1);
     layout->addWidget(refresh);
     layout->addWidget(add);
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ContentView.h"
 
+#include "EditEquipmentView.h"
 #include "EmptyState.h"
+#include "EquipmentDetailView.h"
+#include "EquipmentFormView.h"
 #include "EquipmentListView.h"
 #include "Metrics.h"
 #include "SegmentedControl.h"
@@ -14,6 +17,8 @@
 namespace abissora {
 
 namespace {
+
+constexpr int detailWidth = 385;
 
 struct TabTitle
 {
@@ -34,14 +39,17 @@ ContentView::ContentView(const AppContext& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
     , m_splitter(new QSplitter)
+    , m_listSplitter(new QSplitter)
     , m_sidebar(new SidebarView(context.equipment, context.types, context.console))
     , m_pages(new QStackedWidget)
     , m_tabs(new SegmentedControl)
     , m_screens(new QStackedWidget)
     , m_list(new EquipmentListView(context))
+    , m_detailPane(new QWidget)
     , m_tabArea(makeTabArea())
 {
     m_pages->addWidget(m_tabArea);
+    m_splitter->setObjectName(QStringLiteral("splitter"));
     m_splitter->addWidget(m_sidebar);
     m_splitter->addWidget(m_pages);
     m_splitter->setChildrenCollapsible(false);
@@ -56,6 +64,8 @@ ContentView::ContentView(const AppContext& context, QWidget* parent)
     connect(m_sidebar, &SidebarView::selectedSidebarItemChanged, this, &ContentView::showPage);
     connect(m_tabs, &SegmentedControl::activated, this, &ContentView::setSelectedTab);
     connect(m_list, &EquipmentListView::equipmentSelected, this, &ContentView::setSelectedEquipment);
+    connect(m_list, &EquipmentListView::addRequested, this, &ContentView::addEquipment);
+    connect(m_list, &EquipmentListView::editRequested, this, &ContentView::editEquipment);
     connect(&context.equipment, &EquipmentViewModel::equipmentChanged, this, &ContentView::forgetDeletedSelection);
 }
 
@@ -74,7 +84,20 @@ void ContentView::setSelectedEquipment(const std::optional<Equipment>& equipment
         return;
     m_selectedEquipment = equipment;
     m_list->setSelectedEquipment(equipment);
+    showDetail();
     Q_EMIT selectedEquipmentChanged();
+}
+
+void ContentView::showDetail()
+{
+    if (m_selectedEquipment && m_detail == nullptr) {
+        m_detail = new EquipmentDetailView(m_context, *m_selectedEquipment);
+        m_detailPane->layout()->addWidget(m_detail);
+        connect(m_detail, &EquipmentDetailView::closed, this, [this] { setSelectedEquipment(std::nullopt); });
+    } else if (m_selectedEquipment) {
+        m_detail->setEquipment(*m_selectedEquipment);
+    }
+    m_detailPane->setVisible(m_selectedEquipment.has_value());
 }
 
 void ContentView::findInList()
@@ -85,13 +108,50 @@ void ContentView::findInList()
     m_list->focusSearch();
 }
 
+void ContentView::addEquipment()
+{
+    if (isFormOpen())
+        return;
+    auto* form = new EquipmentFormView(m_context, window());
+    connect(form, &QDialog::finished, this, [this] { m_context.equipment.setAddingEquipment(false); });
+    openForm(form);
+    m_context.equipment.setAddingEquipment(true);
+}
+
+bool ContentView::showingAddSheet() const
+{
+    return isFormOpen() && qobject_cast<const EquipmentFormView*>(m_form) != nullptr;
+}
+
+void ContentView::editEquipment(const Equipment& equipment)
+{
+    if (isFormOpen())
+        return;
+    setSelectedEquipment(equipment);
+    auto* form = new EditEquipmentView(m_context, equipment, window());
+    connect(form, &EditEquipmentView::saved, this, &ContentView::setSelectedEquipment);
+    openForm(form);
+}
+
+bool ContentView::isFormOpen() const
+{
+    return m_form && m_form->isVisible();
+}
+
+void ContentView::openForm(Sheet* form)
+{
+    m_form = form;
+    form->setAttribute(Qt::WA_DeleteOnClose);
+    form->open();
+}
+
 QWidget* ContentView::makeTabArea()
 {
     m_tabs->setObjectName(QStringLiteral("tabSwitch"));
     for (const TabTitle& title : tabTitles())
         m_tabs->addSegment(title.symbol, title.text);
     m_tabs->setCurrentIndex(m_selectedTab);
-    m_screens->addWidget(m_list);
+    m_screens->addWidget(makeListArea());
     for (int tab = MaintenanceTab; tab < TabCount; ++tab)
         m_screens->addWidget(new QWidget);
 
@@ -102,6 +162,22 @@ QWidget* ContentView::makeTabArea()
     layout->addWidget(m_tabs, 0, Qt::AlignHCenter);
     layout->addWidget(m_screens, 1);
     return area;
+}
+
+QWidget* ContentView::makeListArea()
+{
+    auto* paneLayout = new QHBoxLayout(m_detailPane);
+    paneLayout->setContentsMargins(0, 0, 0, 0);
+    m_detailPane->setObjectName(QStringLiteral("detailPane"));
+    m_detailPane->hide();
+    m_listSplitter->setObjectName(QStringLiteral("listSplitter"));
+    m_listSplitter->addWidget(m_list);
+    m_listSplitter->addWidget(m_detailPane);
+    m_listSplitter->setChildrenCollapsible(false);
+    m_listSplitter->setStretchFactor(0, 1);
+    m_listSplitter->setSizes({detailWidth * 2, detailWidth});
+    m_listSplitter->setHandleWidth(1);
+    return m_listSplitter;
 }
 
 QWidget* ContentView::makeScreen(int tab)

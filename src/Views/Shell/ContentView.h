@@ -3,6 +3,7 @@
 
 #include "AppContext.h"
 
+#include <QPointer>
 #include <QWidget>
 
 class QSplitter;
@@ -10,12 +11,14 @@ class QStackedWidget;
 
 namespace abissora {
 
+class EquipmentDetailView;
 class EquipmentListView;
 class SegmentedControl;
+class Sheet;
 class SidebarView;
 
-/// The main window's content: the sidebar, and beside it the three tabs or the settings. Screens are created when they
-/// are first shown.
+/// The main window's content: the sidebar, and beside it the three tabs or the settings; the selected item stands in
+/// detail at the right of the list. Screens are created when they are first shown.
 class ContentView : public QWidget
 {
     Q_OBJECT
@@ -31,10 +34,16 @@ public:
     void setSelectedEquipment(const std::optional<Equipment>& equipment);
 
     [[nodiscard]] EquipmentListView& list() { return *m_list; }
-    [[nodiscard]] QSplitter& splitter() { return *m_splitter; }
+    [[nodiscard]] QList<QSplitter*> splitters() const { return {m_splitter, m_listSplitter}; }
 
     /// Shows the list and puts the cursor into its search field.
     void findInList();
+
+    /// Opens the form for a new item over the window; does nothing while a form is open, as editEquipment().
+    void addEquipment();
+    [[nodiscard]] bool showingAddSheet() const;
+    /// Selects the item and opens the form for it.
+    void editEquipment(const Equipment& equipment);
 
 Q_SIGNALS:
     void selectedTabChanged();
@@ -42,22 +51,30 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QWidget* makeTabArea();
+    [[nodiscard]] QWidget* makeListArea();
     [[nodiscard]] QWidget* makeScreen(int tab);
     void showPage();
+    void showDetail();
     void forgetDeletedSelection();
+    [[nodiscard]] bool isFormOpen() const;
+    void openForm(Sheet* form);
 
     AppContext m_context;
     int m_selectedTab = ListTab;
     std::optional<Equipment> m_selectedEquipment;
 
     QSplitter* m_splitter;
+    QSplitter* m_listSplitter;
     SidebarView* m_sidebar;
     QStackedWidget* m_pages;
     SegmentedControl* m_tabs;
     QStackedWidget* m_screens;
     EquipmentListView* m_list;
+    QWidget* m_detailPane;
+    EquipmentDetailView* m_detail = nullptr;
     QWidget* m_tabArea;
     QWidget* m_settings = nullptr;
+    QPointer<Sheet> m_form;
 };
 
 } // namespace abissora

@@ -27,18 +27,21 @@ MainWindow::MainWindow(const AppContext& context, const QString& stateFile, QWid
     setMinimumSize(minimumWindowSize);
     setCentralWidget(m_content);
     buildMenuBar();
-    m_state.restore(*this, m_content->splitter());
+    m_state.restore(*this, m_content->splitters());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    m_state.save(*this, m_content->splitter());
+    m_state.save(*this, m_content->splitters());
     QMainWindow::closeEvent(event);
 }
 
 void MainWindow::buildMenuBar()
 {
     QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
+    QAction* add = file->addAction(symbolIcon(QStringLiteral("plus")), QStringLiteral("&Aggiungi"));
+    add->setShortcut(QKeySequence::New);
+    connect(add, &QAction::triggered, m_content, &ContentView::addEquipment);
     QAction* refresh = file->addAction(symbolIcon(QStringLiteral("arrow.clockwise")), QStringLiteral("A&ggiorna"));
     refresh->setShortcut(QKeySequence::Refresh);
     connect(refresh, &QAction::triggered, &m_content->list(), &EquipmentListView::refresh);

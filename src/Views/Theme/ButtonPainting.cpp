@@ -35,9 +35,12 @@ QColor inkOf(const QStyleOptionButton& option, ButtonLook look)
     case ButtonLook::Primary:
         return tokens.onFill;
     case ButtonLook::Destructive:
+    case ButtonLook::DestructiveLink:
         return tokens.danger;
     case ButtonLook::Caution:
         return tokens.warning;
+    case ButtonLook::Positive:
+        return tokens.ok;
     case ButtonLook::Link:
         return tokens.accentInk;
     case ButtonLook::Plain:
@@ -47,9 +50,14 @@ QColor inkOf(const QStyleOptionButton& option, ButtonLook look)
     return tokens.text;
 }
 
+bool isLink(ButtonLook look)
+{
+    return look == ButtonLook::Link || look == ButtonLook::DestructiveLink;
+}
+
 int paddingOf(ButtonLook look)
 {
-    return look == ButtonLook::Link ? metrics::spaceXS : metrics::controlPadding;
+    return isLink(look) ? metrics::spaceXS : metrics::controlPadding;
 }
 
 QFont fontOf(const QStyleOptionButton& option, const QWidget* widget)
@@ -102,7 +110,7 @@ void drawPushButtonPanel(const QStyleOptionButton& option, QPainter& painter, co
         drawFilledPanel(option, painter);
         return;
     }
-    if (look == ButtonLook::Borderless || look == ButtonLook::Link) {
+    if (look == ButtonLook::Borderless || isLink(look)) {
         if (option.state & (QStyle::State_MouseOver | QStyle::State_Sunken | QStyle::State_On))
             drawPanel(painter, option.rect, metrics::controlRadius, touched(tokens.surface, option), {});
     } else {
@@ -151,7 +159,7 @@ QSize pushButtonSize(const QStyleOptionButton& option, const QWidget* widget)
     const QFontMetrics metrics(fontOf(option, widget));
     const ButtonLook look = lookOf(option, widget);
     const int width = contentWidth(option, metrics) + 2 * paddingOf(look);
-    const int height = look == ButtonLook::Link ? metrics.height() + metrics::spaceS : controlHeight(metrics);
+    const int height = isLink(look) ? metrics.height() + metrics::spaceS : controlHeight(metrics);
     return {std::max(width, height), height};
 }
 

@@ -14,8 +14,10 @@ enum class ButtonLook {
     Primary,     ///< the one thing that a screen is for
     Destructive, ///< as Plain, its text in the colour of danger
     Caution,     ///< as Plain, its text in the colour of warnings
+    Positive,    ///< as Plain, its text in the colour of what is well
     Borderless,
-    Link, ///< accent text without a border
+    Link,            ///< accent text without a border
+    DestructiveLink, ///< as Link, its text in the colour of danger
 };
 
 /// Push buttons are Plain and tool buttons Borderless until told otherwise.

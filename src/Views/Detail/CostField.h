@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLineEdit>
+#include <optional>
+
+namespace abissora {
+
+/// An amount of money. Takes no key and no pasted text that cannot become a number.
+class CostField : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit CostField(QWidget* parent = nullptr);
+
+    void setCost(double cost);
+    /// The very number that was set while its text stands; nothing while the text is an unfinished number.
+    [[nodiscard]] std::optional<double> cost() const;
+
+private:
+    double m_cost = 0;
+    QString m_shown;
+};
+
+} // namespace abissora

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "DetailHeader.h"
+
+#include "DueBadge.h"
+#include "IconTile.h"
+#include "Metrics.h"
+#include "StateMark.h"
+#include "SymbolIcon.h"
+#include "WrapLabel.h"
+
+#include <QHBoxLayout>
+
+namespace abissora {
+
+namespace {
+
+constexpr int tileSide = 56;
+
+} // namespace
+
+DetailHeader::DetailHeader(QWidget* parent)
+    : Card(parent)
+    , m_tile(new IconTile(tileSide))
+    , m_name(new WrapLabel(TextStyle::Headline, &Tokens::text))
+    , m_typeName(new WrapLabel(TextStyle::Body, &Tokens::secondaryText))
+    , m_state(new StateMark)
+    , m_badge(new DueBadge)
+{
+    m_name->setObjectName(QStringLiteral("detailName"));
+    m_typeName->setObjectName(QStringLiteral("detailType"));
+    m_state->setObjectName(QStringLiteral("detailState"));
+    m_badge->setObjectName(QStringLiteral("dueBadge"));
+
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(metrics::spaceXS / 2);
+    texts->addStretch();
+    texts->addWidget(m_name);
+    texts->addWidget(m_typeName);
+    texts->addWidget(m_state);
+    texts->addStretch();
+    auto* row = new QHBoxLayout;
+    row->setSpacing(metrics::spaceM + 2);
+    row->addWidget(m_tile);
+    row->addLayout(texts, 1);
+    row->addWidget(m_badge);
+    content()->addLayout(row);
+}
+
+void DetailHeader::setContent(const DetailContent& content)
+{
+    m_tile->setIcon(typeIcon(content.appearance.icon, content.appearance.color), content.appearance.color);
+    m_name->setText(content.name);
+    m_typeName->setText(content.typeName);
+    m_state->setActive(content.isActive);
+    m_badge->setVisible(content.isDue);
+    setAccessibleName(content.name);
+}
+
+} // namespace abissora

@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "DocumentField.h"
+
+#include "Buttons.h"
+#include "IconLabel.h"
+#include "Metrics.h"
+#include "SymbolIcon.h"
+
+#include <QHBoxLayout>
+#include <QPointer>
+
+namespace abissora {
+
+DocumentField::DocumentField(DocumentSlot slot, MaintenanceDocumentStore& documents, Opener& opener, QWidget* parent)
+    : QWidget(parent)
+    , m_documents(documents)
+    , m_opener(opener)
+    , m_file(new IconLabel(symbolIcon(QStringLiteral("doc.fill"), NamedColor::blue)))
+    , m_open(new PlainButton(QStringLiteral("Apri")))
+    , m_remove(new DestructiveButton(QStringLiteral("Rimuovi")))
+    , m_attach(new PlainButton(slot == DocumentSlot::Receipt ? QStringLiteral("Carica scontrino (PDF)")
+                                                             : QStringLiteral("Carica certificato (PDF)")))
+{
+    const QString label = documentLabel(slot);
+    m_file->setObjectName(QStringLiteral("file") + label);
+    m_file->setText(label + QStringLiteral(" (PDF)"));
+    m_open->setObjectName(QStringLiteral("open") + label);
+    m_open->setAccessibleDescription(label);
+    m_remove->setObjectName(QStringLiteral("remove") + label);
+    m_remove->setAccessibleDescription(label);
+    m_attach->setObjectName(QStringLiteral("attach") + label);
+    m_attach->setSymbol(QStringLiteral("doc.badge.plus"));
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(metrics::spaceS);
+    for (QWidget* part : std::initializer_list<QWidget*>{m_file, m_open, m_remove, m_attach})
+        layout->addWidget(part);
+    layout->addStretch();
+    connect(m_open, &QAbstractButton::clicked, this, &DocumentField::open);
+    connect(m_remove, &QAbstractButton::clicked, this, &DocumentField::remove);
+    connect(m_attach, &QAbstractButton::clicked, this, &DocumentField::attach);
+    refresh();
+}
+
+void DocumentField::setFileName(const std::optional<QString>& name)
+{
+    m_name = name;
+    refresh();
+}
+
+void DocumentField::discardAttached()
+{
+    if (m_attached)
+        m_documents.deleteDocument(*m_attached);
+    m_attached.reset();
+}
+
+void DocumentField::refresh()
+{
+    const bool present = m_name && m_documents.url(*m_name);
+    const bool hadFocus = m_open->hasFocus() || m_remove->hasFocus() || m_attach->hasFocus();
+    const bool changes = m_attach->isHidden() != present;
+    if (changes && hadFocus) {
+        // Before the focused button is hidden, which would send the focus elsewhere.
+        LookButton* const next = present ? m_open : m_attach;
+        next->show();
+        next->setFocus();
+    }
+    for (QWidget* part : std::initializer_list<QWidget*>{m_file, m_open, m_remove})
+        part->setVisible(present);
+    m_attach->setVisible(!present);
+}
+
+void DocumentField::open()
+{
+    if (const auto path = m_documents.url(m_name.value_or(QString())))
+        m_opener.open(QUrl::fromLocalFile(*path));
+    else
+        refresh();
+}
+
+void DocumentField::remove()
+{
+    if (m_name)
+        m_documents.deleteDocument(*m_name);
+    if (m_attached == m_name)
+        m_attached.reset();
+    setFileName(std::nullopt);
+}
+
+void DocumentField::attach()
+{
+    const QPointer<DocumentField> alive(this);
+    const std::optional<QString> stored = m_documents.pickPDFAndStore(m_name);
+    if (!alive || !stored)
+        return;
+    m_attached = stored;
+    setFileName(stored);
+}
+
+} // namespace abissora

@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: MIT
+#include "EquipmentDetailView.h"
+
+#include "Alert.h"
+#include "Buttons.h"
+#include "DetailActions.h"
+#include "DetailHeader.h"
+#include "EditEquipmentView.h"
+#include "InkLabel.h"
+#include "MaintenanceFormView.h"
+#include "MaintenanceHistory.h"
+#include "MaintenanceRecords.h"
+#include "Metrics.h"
+#include "SelectableText.h"
+#include "SymbolIcon.h"
+#include "TechnicalDetails.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
+
+namespace abissora {
+
+namespace {
+
+constexpr int sideMargin = 18;
+constexpr int leastWidth = 340;
+
+} // namespace
+
+EquipmentDetailView::EquipmentDetailView(const AppContext& context, const Equipment& equipment, QWidget* parent)
+    : QWidget(parent)
+    , m_context(context)
+    , m_equipment(equipment)
+    , m_header(new DetailHeader)
+    , m_technical(new TechnicalDetails)
+    , m_notes(new SelectableText)
+    , m_actions(new DetailActions)
+    , m_history(new MaintenanceHistory(context))
+    , m_body(makeBody())
+{
+    setObjectName(QStringLiteral("equipmentDetail"));
+    setMinimumWidth(leastWidth);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(makeTitleBar());
+    layout->addWidget(m_body, 1);
+    connectParts();
+    redraw();
+}
+
+QWidget* EquipmentDetailView::makeTitleBar()
+{
+    auto* close = new IconButton(symbolIcon(QStringLiteral("xmark")), QStringLiteral("Chiudi"));
+    close->setObjectName(QStringLiteral("closeDetail"));
+    connect(close, &QAbstractButton::clicked, this, &EquipmentDetailView::closed);
+    auto* bar = new QWidget;
+    auto* layout = new QHBoxLayout(bar);
+    layout->setContentsMargins(sideMargin, metrics::spaceXS, sideMargin - metrics::spaceXS, metrics::spaceXS);
+    layout->addWidget(new InkLabel(TextStyle::Headline, &Tokens::text, QStringLiteral("Dettagli Attrezzatura")), 1);
+    layout->addWidget(close);
+    return bar;
+}
+
+QScrollArea* EquipmentDetailView::makeBody()
+{
+    m_notes->setObjectName(QStringLiteral("notes"));
+    m_notes->setAccessibleName(QStringLiteral("Note"));
+    auto* notes = new GroupBox(QStringLiteral("Note"), QStringLiteral("note.text"));
+    notes->content()->addWidget(m_notes);
+
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(sideMargin, metrics::spaceXS, sideMargin, metrics::spaceL);
+    layout->setSpacing(metrics::spaceM);
+    for (QWidget* part : std::initializer_list<QWidget*>{m_header, m_technical, notes, m_actions, m_history})
+        layout->addWidget(part);
+    layout->addStretch();
+
+    auto* area = new QScrollArea;
+    area->setWidget(content);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
+    return area;
+}
+
+void EquipmentDetailView::connectParts()
+{
+    connect(&m_context.equipment, &EquipmentViewModel::equipmentChanged, this, &EquipmentDetailView::syncFromModel);
+    connect(&m_context.types, &EquipmentTypeViewModel::typesChanged, this, &EquipmentDetailView::redraw);
+
+    connect(m_actions, &DetailActions::editClicked, this, &EquipmentDetailView::openEditForm);
+    connect(m_actions, &DetailActions::addMaintenanceClicked, this,
+            qOverload<>(&EquipmentDetailView::openMaintenanceForm));
+    connect(m_actions, &DetailActions::toggleActiveClicked, this, &EquipmentDetailView::toggleActive);
+    connect(m_actions, &DetailActions::deleteClicked, this, &EquipmentDetailView::confirmDeletion);
+
+    connect(m_history, &MaintenanceHistory::updated, this, &EquipmentDetailView::storeMaintenance);
+    connect(m_history, &MaintenanceHistory::editRequested, this, &EquipmentDetailView::startEditingMaintenance);
+    connect(m_history, &MaintenanceHistory::deleteRequested, this, &EquipmentDetailView::confirmDeleteMaintenance);
+}
+
+void EquipmentDetailView::setEquipment(const Equipment& equipment)
+{
+    if (equipment.id != m_equipment.id)
+        m_body->verticalScrollBar()->setValue(0);
+    m_equipment = equipment;
+    syncFromModel();
+}
+
+void EquipmentDetailView::syncFromModel()
+{
+    const QList<Equipment>& items = m_context.equipment.equipment();
+    const auto stored =
+        std::find_if(items.begin(), items.end(), [this](const Equipment& item) { return item.id == m_equipment.id; });
+    if (stored != items.end())
+        m_equipment = *stored;
+    redraw();
+}
+
+void EquipmentDetailView::redraw()
+{
+    const DetailContent content =
+        DetailContent::of(m_equipment, m_context.types, m_context.dates, m_context.calendar, m_context.clock.now());
+    m_header->setContent(content);
+    m_technical->setLines(content.technicalDetails);
+    m_notes->setText(content.notes);
+    m_actions->setActive(content.isActive);
+    m_history->setHistory(m_equipment.maintenanceHistory);
+}
+
+void EquipmentDetailView::openEditForm()
+{
+    auto* form = new EditEquipmentView(m_context, m_equipment, this);
+    form->setAttribute(Qt::WA_DeleteOnClose);
+    connect(form, &EditEquipmentView::saved, this, [this](const Equipment& edited) { m_equipment = edited; });
+    connect(form, &QDialog::finished, this, &EquipmentDetailView::syncFromModel);
+    form->open();
+}
+
+void EquipmentDetailView::openMaintenanceForm()
+{
+    openMaintenanceForm(std::nullopt);
+}
+
+void EquipmentDetailView::startEditingMaintenance(const QUuid& id)
+{
+    openMaintenanceForm(recordOf(m_equipment.maintenanceHistory, id));
+}
+
+void EquipmentDetailView::openMaintenanceForm(const std::optional<Maintenance>& editing)
+{
+    auto* form = new MaintenanceFormView(m_context, m_equipment.id, editing, this);
+    form->setAttribute(Qt::WA_DeleteOnClose);
+    connect(form, &QDialog::finished, this, &EquipmentDetailView::syncFromModel);
+    form->open();
+}
+
+void EquipmentDetailView::toggleActive()
+{
+    m_equipment.isActive = !m_equipment.isActive;
+    m_context.equipment.updateEquipment(m_equipment);
+    redraw();
+}
+
+void EquipmentDetailView::storeMaintenance(const Maintenance& maintenance)
+{
+    replaceRecord(m_equipment.maintenanceHistory, maintenance);
+    m_context.equipment.updateEquipment(m_equipment);
+    redraw();
+}
+
+Alert* EquipmentDetailView::makeAlert(const QString& title, const QString& message)
+{
+    auto* alert = new Alert(this);
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->setTitle(title);
+    alert->setMessage(message);
+    return alert;
+}
+
+void EquipmentDetailView::confirmDeleteMaintenance(const QUuid& id)
+{
+    m_maintenanceToDelete = recordOf(m_equipment.maintenanceHistory, id);
+    Alert* alert = makeAlert(QStringLiteral("Elimina Manutenzione"), maintenanceDeleteAlertMessage());
+    connect(alert, &QDialog::accepted, this, &EquipmentDetailView::deleteSelectedMaintenance);
+    connect(alert, &QDialog::rejected, this, [this] { m_maintenanceToDelete.reset(); });
+    alert->open();
+}
+
+QString EquipmentDetailView::maintenanceDeleteAlertMessage() const
+{
+    if (!m_maintenanceToDelete)
+        return QStringLiteral("Eliminare questa manutenzione?");
+    return QStringLiteral("Eliminare la manutenzione del %1?\nAnche eventuali documenti allegati verranno rimossi.")
+        .arg(m_context.dates.abbreviatedDate(m_maintenanceToDelete->date));
+}
+
+void EquipmentDetailView::deleteSelectedMaintenance()
+{
+    if (!m_maintenanceToDelete)
+        return;
+    const QUuid id = m_maintenanceToDelete->id;
+    // The register works out the item's service dates anew and the copy takes them over before it is stored itself.
+    m_context.equipment.deleteMaintenance(m_equipment.id, id);
+    m_equipment.maintenanceHistory.removeIf([&](const Maintenance& record) { return record.id == id; });
+    m_context.equipment.updateEquipment(m_equipment);
+    m_maintenanceToDelete.reset();
+    redraw();
+}
+
+void EquipmentDetailView::confirmDeletion()
+{
+    Alert* alert =
+        makeAlert(QStringLiteral("Conferma Eliminazione"),
+                  QStringLiteral("Sei sicuro di voler eliminare l'attrezzatura '%1'? Questa azione non può essere "
+                                 "annullata.")
+                      .arg(m_equipment.name));
+    connect(alert, &QDialog::accepted, this, [this] {
+        m_context.equipment.deleteEquipment(m_equipment);
+        Q_EMIT closed();
+    });
+    alert->open();
+}
+
+void EquipmentDetailView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().window());
+}
+
+} // namespace abissora

@@ -1,0 +1,245 @@
+// SPDX-License-Identifier: MIT
+#include "MaintenanceFormView.h"
+
+#include "Buttons.h"
+#include "CostField.h"
+#include "DateField.h"
+#include "DocumentField.h"
+#include "FormRow.h"
+#include "GroupBox.h"
+#include "IconView.h"
+#include "Metrics.h"
+#include "SymbolIcon.h"
+#include "ToggleSwitch.h"
+#include "WrapLabel.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QPlainTextEdit>
+
+namespace abissora {
+
+namespace {
+
+constexpr int costWidth = 170;
+constexpr int notesHeight = 96;
+constexpr std::int64_t usualInterval = 365;
+constexpr std::int64_t computerInterval = 730;
+
+Maintenance newRecord(const AppContext& context)
+{
+    Maintenance record;
+    record.date = context.clock.now();
+    record.nextServiceDate = record.date;
+    record.isCompleted = true;
+    return record;
+}
+
+/// A field shows some characters as others: what nobody touched is given back as it was.
+QString textOf(const QLineEdit& field, const QString& original)
+{
+    return field.isModified() ? field.text() : original;
+}
+
+} // namespace
+
+MaintenanceFormView::MaintenanceFormView(const AppContext& context, const QUuid& equipmentId,
+                                         const std::optional<Maintenance>& editingMaintenance, QWidget* parent)
+    : Sheet(editingMaintenance ? QStringLiteral("Modifica Manutenzione") : QStringLiteral("Nuova Manutenzione"), parent)
+    , m_context(context)
+    , m_equipmentId(equipmentId)
+    , m_isEditing(editingMaintenance.has_value())
+    , m_original(editingMaintenance ? *editingMaintenance : newRecord(context))
+    , m_date(new DateField(context.calendar))
+    , m_type(new QComboBox)
+    , m_description(new QLineEdit)
+    , m_performedBy(new QLineEdit)
+    , m_cost(new CostField)
+    , m_completed(new ToggleSwitch(QStringLiteral("Manutenzione avvenuta")))
+    , m_receipt(new DocumentField(DocumentSlot::Receipt, context.documents, context.opener))
+    , m_certificate(new DocumentField(DocumentSlot::Certificate, context.documents, context.opener))
+    , m_next(new DateField(context.calendar))
+    , m_notes(new QPlainTextEdit)
+{
+    setObjectName(QStringLiteral("maintenanceForm"));
+    setPrimaryText(QStringLiteral("Salva"));
+    buildBody();
+    showRecord();
+    connectFields();
+    if (!m_isEditing)
+        updateNextServiceDate();
+}
+
+void MaintenanceFormView::buildBody()
+{
+    for (QWidget* group : {makeDetails(), makeAdditional(), makeOutcome(), makeNextService(), makeNotes()})
+        body()->addWidget(group);
+    body()->addWidget(new InkLabel(TextStyle::Caption, &Tokens::secondaryText, QStringLiteral("* Campi obbligatori")));
+    setFirstField(m_description);
+}
+
+QWidget* MaintenanceFormView::makeDetails()
+{
+    m_date->setObjectName(QStringLiteral("date"));
+    m_date->setAccessibleName(QStringLiteral("Data"));
+    m_type->setObjectName(QStringLiteral("type"));
+    m_type->setAccessibleName(QStringLiteral("Tipo"));
+    for (const MaintenanceType type : allCases<MaintenanceType>()) {
+        const TypeAppearance look = appearanceOf(type);
+        m_type->addItem(symbolIcon(look.icon, look.color), rawValue(type), static_cast<int>(type));
+    }
+    m_type->setFocusPolicy(Qt::StrongFocus);
+    m_description->setObjectName(QStringLiteral("description"));
+    m_description->setPlaceholderText(QStringLiteral("Inserisci la descrizione"));
+
+    auto* group = new GroupBox(QStringLiteral("Dettagli Manutenzione"));
+    auto* row = new QHBoxLayout;
+    row->setSpacing(metrics::spaceM);
+    row->addWidget(m_date);
+    row->addWidget(m_type, 1);
+    group->content()->addLayout(row);
+    group->content()->addWidget(new FormRow(QStringLiteral("Descrizione*"), m_description));
+    return group;
+}
+
+QWidget* MaintenanceFormView::makeAdditional()
+{
+    m_performedBy->setObjectName(QStringLiteral("performedBy"));
+    m_performedBy->setPlaceholderText(QStringLiteral("Nome del tecnico"));
+    m_cost->setObjectName(QStringLiteral("cost"));
+    m_cost->setMaximumWidth(withText(costWidth, fontMetrics()));
+    auto* group = new GroupBox(QStringLiteral("Informazioni Aggiuntive"));
+    group->content()->addWidget(new FormRow(QStringLiteral("Eseguito da"), m_performedBy));
+    group->content()->addWidget(new FormRow(QStringLiteral("Costo"), m_cost));
+    return group;
+}
+
+QWidget* MaintenanceFormView::makeOutcome()
+{
+    m_completed->setObjectName(QStringLiteral("isCompleted"));
+    auto* group = new GroupBox(QStringLiteral("Esito e Documenti"));
+    group->content()->addWidget(m_completed);
+    group->content()->addWidget(new FormRow(documentLabel(DocumentSlot::Receipt), m_receipt));
+    group->content()->addWidget(new FormRow(documentLabel(DocumentSlot::Certificate), m_certificate));
+    return group;
+}
+
+QWidget* MaintenanceFormView::makeNextService()
+{
+    m_next->setObjectName(QStringLiteral("nextServiceDate"));
+    m_next->setAccessibleName(QStringLiteral("Data Prossimo Tagliando"));
+    auto* explanation = new WrapLabel(
+        TextStyle::Body, &Tokens::secondaryText,
+        QStringLiteral("Calcolata automaticamente: %1 giorni dall'intervallo configurato per la tipologia")
+            .arg(equipmentIntervalDays()));
+    explanation->setObjectName(QStringLiteral("intervalExplanation"));
+    auto* line = new QHBoxLayout;
+    line->setSpacing(metrics::spaceS);
+    line->addWidget(new IconView(symbolIcon(QStringLiteral("wand.and.stars"), NamedColor::blue)), 0, Qt::AlignTop);
+    line->addWidget(explanation, 1);
+    auto* group = new GroupBox(QStringLiteral("Prossimo Tagliando"));
+    group->content()->addLayout(line);
+    group->content()->addWidget(new FormRow(QStringLiteral("Data Prossimo Tagliando"), m_next));
+    return group;
+}
+
+QWidget* MaintenanceFormView::makeNotes()
+{
+    m_notes->setObjectName(QStringLiteral("notes"));
+    m_notes->setAccessibleName(QStringLiteral("Note"));
+    m_notes->setTabChangesFocus(true);
+    m_notes->setFixedHeight(withText(notesHeight, fontMetrics()));
+    auto* group = new GroupBox(QStringLiteral("Note"));
+    group->content()->addWidget(m_notes);
+    return group;
+}
+
+void MaintenanceFormView::showRecord()
+{
+    m_date->setInstant(m_original.date);
+    m_type->setCurrentIndex(m_type->findData(static_cast<int>(m_original.type)));
+    m_description->setText(m_original.description);
+    m_performedBy->setText(m_original.performedBy);
+    m_cost->setCost(m_original.cost);
+    m_completed->setChecked(m_original.isCompleted.value_or(true));
+    m_receipt->setFileName(m_original.receiptFileName);
+    m_certificate->setFileName(m_original.certificateFileName);
+    m_next->setInstant(m_original.nextServiceDate);
+    m_notes->setPlainText(m_original.notes);
+    primaryButton()->setEnabled(!m_original.description.isEmpty());
+}
+
+void MaintenanceFormView::connectFields()
+{
+    connect(m_date, &DateField::edited, this, [this] {
+        if (m_autoUpdateNextDate)
+            updateNextServiceDate();
+    });
+    connect(m_next, &DateField::edited, this, [this] { m_autoUpdateNextDate = false; });
+    connect(m_description, &QLineEdit::textChanged, this,
+            [this](const QString& text) { primaryButton()->setEnabled(!text.isEmpty()); });
+    connect(this, &Sheet::primaryClicked, this, &MaintenanceFormView::save);
+}
+
+std::int64_t MaintenanceFormView::equipmentIntervalDays() const
+{
+    const QList<Equipment>& items = m_context.equipment.equipment();
+    const auto item =
+        std::find_if(items.begin(), items.end(), [this](const Equipment& e) { return e.id == m_equipmentId; });
+    if (item == items.end())
+        return usualInterval;
+    if (const auto type = m_context.types.getTypeByName(item->typeName()))
+        return std::max<std::int64_t>(type->serviceIntervalDays, 1);
+    return item->type == EquipmentType::computer ? computerInterval : usualInterval;
+}
+
+void MaintenanceFormView::updateNextServiceDate()
+{
+    const Instant date = m_date->instant();
+    m_next->setInstant(m_context.calendar.addDays(date, equipmentIntervalDays()).value_or(date));
+}
+
+Maintenance MaintenanceFormView::record(double cost)
+{
+    Maintenance record = m_original;
+    if (!m_isEditing)
+        record.id = m_context.ids.next();
+    record.date = m_date->instant(); // first: the next date may follow it
+    record.type = static_cast<MaintenanceType>(m_type->currentData().toInt());
+    record.description = textOf(*m_description, m_original.description);
+    record.performedBy = textOf(*m_performedBy, m_original.performedBy);
+    record.cost = cost;
+    record.isCompleted = m_completed->isChecked();
+    record.receiptFileName = m_receipt->fileName();
+    record.certificateFileName = m_certificate->fileName();
+    record.nextServiceDate = m_next->instant();
+    if (m_notes->document()->isModified())
+        record.notes = m_notes->toPlainText();
+    return record;
+}
+
+void MaintenanceFormView::save()
+{
+    if (m_description->text().isEmpty())
+        return;
+    const std::optional<double> cost = m_cost->cost();
+    if (!cost) {
+        m_cost->setFocus(Qt::OtherFocusReason);
+        m_cost->selectAll();
+        return;
+    }
+    if (m_isEditing)
+        m_context.equipment.updateMaintenance(m_equipmentId, record(*cost));
+    else
+        m_context.equipment.addMaintenance(m_equipmentId, record(*cost));
+    accept();
+}
+
+void MaintenanceFormView::reject()
+{
+    m_receipt->discardAttached();
+    m_certificate->discardAttached();
+    Sheet::reject();
+}
+
+} // namespace abissora

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AppContext.h"
+#include "GroupBox.h"
+
+namespace abissora {
+
+class EmptyState;
+class MaintenanceRow;
+
+/// The records of an item, newest first.
+class MaintenanceHistory : public GroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit MaintenanceHistory(const AppContext& context, QWidget* parent = nullptr);
+
+    void setHistory(const QList<Maintenance>& history);
+
+Q_SIGNALS:
+    /// The record as the person changed it in its row.
+    void updated(const abissora::Maintenance& maintenance);
+    void editRequested(const QUuid& id);
+    void deleteRequested(const QUuid& id);
+
+private:
+    void addRow();
+
+    struct Entry
+    {
+        QWidget* divider;
+        MaintenanceRow* row;
+    };
+
+    AppContext m_context;
+    QList<Entry> m_entries;
+    EmptyState* m_empty;
+};
+
+} // namespace abissora

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "MaintenanceRecords.h"
+
+namespace abissora {
+
+QString documentLabel(DocumentSlot slot)
+{
+    return slot == DocumentSlot::Receipt ? QStringLiteral("Scontrino") : QStringLiteral("Certificato");
+}
+
+std::optional<QString>& documentName(Maintenance& maintenance, DocumentSlot slot)
+{
+    return slot == DocumentSlot::Receipt ? maintenance.receiptFileName : maintenance.certificateFileName;
+}
+
+const std::optional<QString>& documentName(const Maintenance& maintenance, DocumentSlot slot)
+{
+    return slot == DocumentSlot::Receipt ? maintenance.receiptFileName : maintenance.certificateFileName;
+}
+
+void forgetDocument(Maintenance& maintenance, const QString& name)
+{
+    for (const DocumentSlot slot : {DocumentSlot::Receipt, DocumentSlot::Certificate}) {
+        if (documentName(maintenance, slot) == name)
+            documentName(maintenance, slot).reset();
+    }
+}
+
+TypeAppearance appearanceOf(MaintenanceType type)
+{
+    switch (type) {
+    case MaintenanceType::annual:
+        return {QStringLiteral("calendar.circle.fill"), NamedColor::blue};
+    case MaintenanceType::repair:
+        return {QStringLiteral("wrench.fill"), NamedColor::red};
+    case MaintenanceType::test:
+        return {QStringLiteral("checkmark.circle.fill"), NamedColor::green};
+    case MaintenanceType::cleaning:
+        return {QStringLiteral("drop.circle.fill"), NamedColor::cyan};
+    case MaintenanceType::other:
+        break;
+    }
+    return {QStringLiteral("ellipsis.circle.fill"), NamedColor::gray};
+}
+
+QList<Maintenance> newestFirst(const QList<Maintenance>& history)
+{
+    QList<const Maintenance*> order;
+    for (const Maintenance& record : history)
+        order.append(&record);
+    std::stable_sort(order.begin(), order.end(),
+                     [](const Maintenance* a, const Maintenance* b) { return a->date > b->date; });
+    QList<Maintenance> sorted;
+    sorted.reserve(history.size());
+    for (const Maintenance* record : order)
+        sorted.append(*record);
+    return sorted;
+}
+
+std::optional<Maintenance> recordOf(const QList<Maintenance>& history, const QUuid& id)
+{
+    const auto found = std::find_if(history.begin(), history.end(), [&](const Maintenance& m) { return m.id == id; });
+    return found == history.end() ? std::nullopt : std::optional(*found);
+}
+
+void replaceRecord(QList<Maintenance>& history, const Maintenance& record)
+{
+    const auto found =
+        std::find_if(history.begin(), history.end(), [&](const Maintenance& m) { return m.id == record.id; });
+    if (found != history.end())
+        *found = record;
+}
+
+} // namespace abissora

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "MaintenanceRow.h"
+
+#include "Buttons.h"
+#include "CostText.h"
+#include "DocumentLink.h"
+#include "FlowLayout.h"
+#include "IconTile.h"
+#include "IconView.h"
+#include "Metrics.h"
+#include "SymbolIcon.h"
+#include "WrapLabel.h"
+
+#include <QContextMenuEvent>
+#include <QHBoxLayout>
+#include <QMenu>
+
+namespace abissora {
+
+namespace {
+
+constexpr int tileSide = 34;
+
+QFont medium(QFont font)
+{
+    font.setWeight(QFont::Medium);
+    return font;
+}
+
+} // namespace
+
+MaintenanceRow::MaintenanceRow(const AppContext& context, QWidget* parent)
+    : QWidget(parent)
+    , m_context(context)
+    , m_tile(new IconTile(tileSide))
+    , m_type(new WrapLabel(TextStyle::Headline, &Tokens::text))
+    , m_cost(new InkLabel(TextStyle::Caption, &Tokens::secondaryText))
+    , m_description(new WrapLabel(TextStyle::Body, &Tokens::text))
+    , m_dateAndPerformer(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText))
+    , m_completedIcon(new IconView)
+    , m_completed(new WrapLabel(TextStyle::Caption, &Tokens::ok, QStringLiteral("Manutenzione avvenuta")))
+    , m_notCompleted(new WrapLabel(TextStyle::Caption, &Tokens::warning, QStringLiteral("Manutenzione non avvenuta")))
+    , m_receipt(makeLink(DocumentSlot::Receipt))
+    , m_certificate(makeLink(DocumentSlot::Certificate))
+{
+    m_type->setObjectName(QStringLiteral("maintenanceType"));
+    m_cost->setObjectName(QStringLiteral("maintenanceCost"));
+    m_cost->setFont(medium(m_cost->font()));
+    m_description->setObjectName(QStringLiteral("maintenanceDescription"));
+    m_dateAndPerformer->setObjectName(QStringLiteral("maintenanceDate"));
+    m_completed->setObjectName(QStringLiteral("completed"));
+    m_notCompleted->setObjectName(QStringLiteral("notCompleted"));
+    build();
+}
+
+void MaintenanceRow::build()
+{
+    auto* heading = new QHBoxLayout;
+    heading->setSpacing(metrics::spaceS);
+    heading->addWidget(m_type, 1);
+    heading->addWidget(m_cost, 0, Qt::AlignTop);
+    auto* outcome = new QHBoxLayout;
+    outcome->setSpacing(metrics::spaceXS);
+    outcome->addWidget(m_completedIcon);
+    outcome->addWidget(m_completed, 1);
+    outcome->addWidget(m_notCompleted, 1);
+    outcome->addWidget(makeButtons());
+    auto* documents = new FlowLayout(metrics::spaceS, 0);
+    documents->addWidget(m_receipt);
+    documents->addWidget(m_certificate);
+
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(metrics::spaceXS / 2);
+    texts->addLayout(heading);
+    texts->addWidget(m_description);
+    texts->addWidget(m_dateAndPerformer);
+    texts->addLayout(outcome);
+    texts->addLayout(documents);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, metrics::spaceXS, 0, metrics::spaceXS);
+    layout->setSpacing(metrics::spaceM);
+    layout->addWidget(m_tile, 0, Qt::AlignTop);
+    layout->addLayout(texts, 1);
+}
+
+QWidget* MaintenanceRow::makeButtons()
+{
+    auto* edit =
+        new IconButton(symbolIcon(QStringLiteral("pencil.circle.fill"), NamedColor::blue), QStringLiteral("Modifica"));
+    edit->setObjectName(QStringLiteral("editMaintenance"));
+    auto* remove =
+        new IconButton(symbolIcon(QStringLiteral("trash.circle.fill"), NamedColor::red), QStringLiteral("Elimina"));
+    remove->setObjectName(QStringLiteral("deleteMaintenance"));
+    auto* menu = new IconButton(symbolIcon(QStringLiteral("ellipsis.circle.fill"), NamedColor::secondary),
+                                QStringLiteral("Azioni"));
+    menu->setObjectName(QStringLiteral("maintenanceMenu"));
+    connect(edit, &QAbstractButton::clicked, this, &MaintenanceRow::editRequested);
+    connect(remove, &QAbstractButton::clicked, this, &MaintenanceRow::deleteRequested);
+    connect(menu, &QAbstractButton::clicked, this,
+            [this, menu] { showMenu(menu->mapToGlobal(menu->rect().bottomLeft())); });
+
+    auto* buttons = new QWidget;
+    auto* layout = new QHBoxLayout(buttons);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    for (IconButton* button : {edit, remove, menu})
+        layout->addWidget(button);
+    return buttons;
+}
+
+DocumentLink* MaintenanceRow::makeLink(DocumentSlot slot)
+{
+    auto* link = new DocumentLink(slot, m_context.documents, m_context.opener);
+    connect(link, &DocumentLink::picked, this, [this, slot](const std::optional<QString>& name) {
+        documentName(m_maintenance, slot) = name;
+        Q_EMIT updated();
+    });
+    connect(link, &DocumentLink::removed, this, [this](const QString& name) {
+        forgetDocument(m_maintenance, name);
+        Q_EMIT updated();
+    });
+    return link;
+}
+
+void MaintenanceRow::setMaintenance(const Maintenance& maintenance)
+{
+    m_maintenance = maintenance;
+    const TypeAppearance look = appearanceOf(maintenance.type);
+    m_tile->setIcon(symbolIcon(look.icon, look.color), look.color);
+    m_type->setText(rawValue(maintenance.type));
+    const std::optional<QString> cost = costText::listed(maintenance.cost);
+    m_cost->setText(cost.value_or(QString()));
+    m_cost->setVisible(cost.has_value());
+    m_description->setText(maintenance.description);
+    m_dateAndPerformer->setText(QStringLiteral("%1 · Eseguito da: %2")
+                                    .arg(m_context.dates.abbreviatedDate(maintenance.date), maintenance.performedBy));
+    const bool done = maintenance.isCompleted.value_or(true);
+    m_completedIcon->setIcon(done ? symbolIcon(QStringLiteral("checkmark.seal.fill"), NamedColor::green)
+                                  : symbolIcon(QStringLiteral("exclamationmark.circle"), NamedColor::orange));
+    m_completed->setVisible(done);
+    m_notCompleted->setVisible(!done);
+    m_receipt->setFileName(maintenance.receiptFileName);
+    m_certificate->setFileName(maintenance.certificateFileName);
+}
+
+void MaintenanceRow::contextMenuEvent(QContextMenuEvent* event)
+{
+    showMenu(event->globalPos());
+}
+
+void MaintenanceRow::showMenu(QPoint globalPosition)
+{
+    auto* menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("maintenanceActions"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    connect(menu->addAction(symbolIcon(QStringLiteral("pencil"), NamedColor::blue),
+                            QStringLiteral("Modifica manutenzione")),
+            &QAction::triggered, this, &MaintenanceRow::editRequested);
+    connect(menu->addAction(symbolIcon(QStringLiteral("trash.circle.fill"), NamedColor::red),
+                            QStringLiteral("Elimina manutenzione")),
+            &QAction::triggered, this, &MaintenanceRow::deleteRequested);
+    menu->popup(globalPosition);
+}
+
+} // namespace abissora

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "TechnicalDetails.h"
+
+#include "DetailRow.h"
+#include "Separator.h"
+
+#include <QVBoxLayout>
+
+namespace abissora {
+
+TechnicalDetails::TechnicalDetails(QWidget* parent)
+    : GroupBox(QStringLiteral("Dettagli Tecnici"), QStringLiteral("info.circle"), parent)
+{
+    content()->setSpacing(2);
+}
+
+void TechnicalDetails::setLines(const QList<DetailContent::Line>& lines)
+{
+    while (m_rows.size() < lines.size()) {
+        if (!m_rows.isEmpty())
+            content()->addWidget(new Separator(Separator::Weight::Divider));
+        m_rows.append(new DetailRow(lines.at(m_rows.size()).label));
+        content()->addWidget(m_rows.last());
+    }
+    for (qsizetype i = 0; i < lines.size(); ++i)
+        m_rows.at(i)->setValue(lines.at(i).value);
+}
+
+} // namespace abissora
