@@ -45,9 +45,10 @@ void EquipmentViewModel::setAddingEquipment(bool adding)
 
 void EquipmentViewModel::addEquipment(const Equipment& equipment)
 {
+    const QString name = equipment.name; // the argument may be an element of the list
     m_equipment.append(equipment);
     saveAndNotify();
-    m_console.print(QStringLiteral("➕ Aggiunto equipaggiamento: ") + equipment.name);
+    m_console.print(QStringLiteral("➕ Aggiunto equipaggiamento: ") + name);
 }
 
 void EquipmentViewModel::updateEquipment(const Equipment& equipment)
@@ -55,9 +56,10 @@ void EquipmentViewModel::updateEquipment(const Equipment& equipment)
     Equipment* item = find(equipment.id);
     if (!item)
         return;
+    const QString name = equipment.name;
     *item = equipment;
     saveAndNotify();
-    m_console.print(QStringLiteral("✏️ Aggiornato equipaggiamento: ") + equipment.name);
+    m_console.print(QStringLiteral("✏️ Aggiornato equipaggiamento: ") + name);
 }
 
 void EquipmentViewModel::deleteEquipment(const Equipment& equipment)
@@ -78,9 +80,9 @@ void EquipmentViewModel::addMaintenance(const QUuid& to, const Maintenance& main
     Equipment* item = find(to);
     if (!item)
         return;
-    item->maintenanceHistory.append(maintenance);
-    item->lastServiceDate = maintenance.date;
-    item->nextServiceDate = maintenance.nextServiceDate;
+    const Maintenance& added = item->maintenanceHistory.emplaceBack(maintenance);
+    item->lastServiceDate = added.date;
+    item->nextServiceDate = added.nextServiceDate;
     saveAndNotify();
 }
 
@@ -105,7 +107,8 @@ void EquipmentViewModel::deleteMaintenance(const QUuid& from, const QUuid& maint
     if (!item)
         return;
     auto& history = item->maintenanceHistory;
-    const auto hasId = [&](const Maintenance& m) { return m.id == maintenanceId; };
+    // By value: the argument may be the id of the very record that is moved over.
+    const auto hasId = [maintenanceId](const Maintenance& m) { return m.id == maintenanceId; };
     if (const auto record = std::find_if(history.cbegin(), history.cend(), hasId); record != history.cend())
         deleteDocuments(*record);
     history.removeIf(hasId);
@@ -160,12 +163,10 @@ QList<Equipment> EquipmentViewModel::filteredEquipment() const
 
 QList<Equipment> EquipmentViewModel::overdueEquipment() const
 {
-    // At most 30 whole days are left exactly when 31 whole days do not fit: one comparison in place of a count.
     const Instant now = m_clock.now();
-    const auto firstNotDue = m_calendar.addDays(now, dueThresholdDays + 1);
     QList<Equipment> overdue;
     for (const Equipment& item : m_equipment) {
-        if (item.isActive && (!firstNotDue || item.nextServiceDate < *firstNotDue))
+        if (item.isActive && item.daysUntilNextService(now, m_calendar) <= dueThresholdDays)
             overdue.append(item);
     }
     return overdue;
