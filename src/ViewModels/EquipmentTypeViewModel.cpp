@@ -31,13 +31,10 @@ EquipmentTypeViewModel::EquipmentTypeViewModel(PreferencesStore& preferences, co
 
 void EquipmentTypeViewModel::loadTypes()
 {
-    if (loadStoredTypes()) {
+    if (loadStoredTypes())
         migrateIconsIfNeeded();
-        return;
-    }
-    setTypes(getDefaultTypes());
-    saveTypes();
-    storeIconVersion();
+    else
+        resetToDefaults();
 }
 
 bool EquipmentTypeViewModel::loadStoredTypes()
@@ -121,6 +118,13 @@ std::optional<EquipmentType> EquipmentTypeViewModel::getEquipmentType(const QStr
     return fromRawValue<EquipmentType>(from);
 }
 
+void EquipmentTypeViewModel::addType(const EquipmentTypeModel& type)
+{
+    m_types.append(type);
+    saveTypes();
+    Q_EMIT typesChanged();
+}
+
 void EquipmentTypeViewModel::updateType(const EquipmentTypeModel& type)
 {
     const qsizetype index = indexOf(type.id);
@@ -144,6 +148,14 @@ void EquipmentTypeViewModel::deleteType(const EquipmentTypeModel& type)
 QList<EquipmentTypeModel> EquipmentTypeViewModel::getDefaultTypes() const
 {
     return defaultTypes(m_ids);
+}
+
+void EquipmentTypeViewModel::resetToDefaults()
+{
+    m_types = getDefaultTypes();
+    saveTypes();
+    storeIconVersion();
+    Q_EMIT typesChanged();
 }
 
 void EquipmentTypeViewModel::migrateIconsIfNeeded()

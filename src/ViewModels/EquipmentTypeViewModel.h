@@ -50,11 +50,16 @@ public:
     /// The built-in kind whose displayed name this is.
     [[nodiscard]] static std::optional<EquipmentType> getEquipmentType(const QString& from);
 
+    /// Appends it; a name that is already taken is no obstacle.
+    void addType(const EquipmentTypeModel& type);
     /// Both find the type by its id and do nothing when there is none.
     void updateType(const EquipmentTypeModel& type);
     void deleteType(const EquipmentTypeModel& type);
 
+    /// The sixteen standard types with fresh ids.
     [[nodiscard]] QList<EquipmentTypeModel> getDefaultTypes() const;
+    /// Puts them in the place of all types. Their icons need no migration.
+    void resetToDefaults();
 
 Q_SIGNALS:
     void typesChanged();
