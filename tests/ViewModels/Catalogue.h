@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "EquipmentViewModel.h"
+#include "RecordJson.h"
+#include "TemporaryRegister.h"
+
+namespace abissora::test {
+
+/// The register's state object over a temporary register that holds `stored`; what loading printed is forgotten.
+struct Catalogue : TemporaryRegister
+{
+    explicit Catalogue(const QList<Equipment>& stored)
+        : viewModel(seeded(stored), documents, console, clock, calendar)
+    {
+        console.clear();
+    }
+
+    [[nodiscard]] QList<Equipment> storedEquipment() const
+    {
+        return decodeEquipment(content(registerFile)).value_or(QList<Equipment>());
+    }
+
+    EquipmentViewModel viewModel;
+
+private:
+    StorageManager seeded(const QList<Equipment>& stored)
+    {
+        write(registerFile, encode(stored).value());
+        return storageManager();
+    }
+};
+
+} // namespace abissora::test
