@@ -83,9 +83,9 @@ class Program:
         return until(f"{role.value_nick} {name!r}", lambda: next(iter(self.all(role, name, within)), None))
 
     def find_anywhere(self, role, name=None):
-        """In any window of the program: alerts and menus are windows of their own."""
+        """In any window of the program, those over the main window first: alerts, sheets, menus."""
         def look():
-            for window in self.windows():
+            for window in sorted(self.windows(), key=lambda w: w == self.window):
                 for node in [window, *descendants(window)]:
                     if node.get_role() == role and (name is None or node.get_name() == name) \
                             and node.get_state_set().contains(Atspi.StateType.SHOWING):
@@ -135,11 +135,18 @@ class Program:
         rows = [row.get_name() for row in children(sidebar)]
         assert sidebar.get_table_iface().add_row_selection(rows.index(name)), name
 
+    def wait_for_focus(self):
+        """Keys pressed before the window manager gave the focus to a window would be lost."""
+        until("an active window", lambda: any(window.get_state_set().contains(Atspi.StateType.ACTIVE)
+                                              for window in self.windows()))
+
     def key(self, *names):
         """Presses keys by their X names; "ctrl+f" holds one down."""
+        self.wait_for_focus()
         subprocess.run(["xdotool", "key", "--clearmodifiers", *names], check=True)
 
     def type(self, text):
+        self.wait_for_focus()
         subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "15", text], check=True)
 
     def close(self):
