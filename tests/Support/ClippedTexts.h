@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QStringList>
+#include <QToolButton>
 
 namespace abissora::test {
 
@@ -21,8 +22,11 @@ inline QStringList clippedTexts(const QWidget& root)
     };
     for (const QLabel* label : root.findChildren<QLabel*>())
         check(*label, label->text());
-    for (const QAbstractButton* button : root.findChildren<QAbstractButton*>())
-        check(*button, button->text());
+    for (const QAbstractButton* button : root.findChildren<QAbstractButton*>()) {
+        const auto* tool = qobject_cast<const QToolButton*>(button);
+        if (tool == nullptr || tool->toolButtonStyle() != Qt::ToolButtonIconOnly)
+            check(*button, button->text());
+    }
     return clipped;
 }
 

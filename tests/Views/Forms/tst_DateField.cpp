@@ -3,6 +3,7 @@
 
 #include "TestRunner.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QLineEdit>
@@ -200,6 +201,16 @@ private Q_SLOTS:
         s.other->setFocus();
         QCOMPARE(days, QStringList(day));
         QCOMPARE(s.field->text(), QDate::fromString(day, Qt::ISODate).toString(QStringLiteral("dd/MM/yyyy")));
+    }
+
+    void assistiveTechnologyMaySetTheText()
+    {
+        Shown s;
+        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00Z")));
+        QSignalSpy edited(s.field, &DateField::edited);
+        QAccessible::queryAccessibleInterface(s.field)->setText(QAccessible::Value, QStringLiteral("16/06/2026"));
+        QCOMPARE(edited.size(), 1);
+        QCOMPARE(iso(s.field->instant()), QStringLiteral("2026-06-16T10:00:00.000Z"));
     }
 
     void correctingOneDigitEmitsOnce()

@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "ContentView.h"
+#include "EditEquipmentView.h"
+#include "EquipmentFormView.h"
+#include "EquipmentListView.h"
+#include "EquipmentTableView.h"
+#include "FormDriver.h"
+#include "MainWindow.h"
+#include "RowActionsMenu.h"
+#include "ScreenFixture.h"
+#include "TestRunner.h"
+
+#include <QAction>
+#include <QMenuBar>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+struct Shown
+{
+    explicit Shown(ScreenFixture& f)
+        : window(f.context, f.directories.windowStateFile())
+    {
+        window.show();
+        window.activateWindow();
+        QCoreApplication::processEvents();
+    }
+
+    template <typename Form>
+    Form* openForm()
+    {
+        for (Form* form : window.findChildren<Form*>()) {
+            if (form->isVisible())
+                return form;
+        }
+        return nullptr;
+    }
+
+    EquipmentTableView& table() { return *window.findChild<EquipmentTableView*>(); }
+
+    MainWindow window;
+};
+
+void fill(const FormDriver& driver, const QString& name)
+{
+    driver.type("name", name);
+    driver.type("brand", QStringLiteral("Marca"));
+}
+
+} // namespace
+
+class tst_FormsInTheWindow : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void addingFromTheHeader()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        auto* add = s.window.findChild<QAbstractButton*>(QStringLiteral("addButton"));
+        QVERIFY(!s.window.content().showingAddSheet());
+        add->setFocus();
+        QTest::mouseClick(add, Qt::LeftButton);
+        auto* form = s.openForm<EquipmentFormView>();
+        QVERIFY(form);
+        QCOMPARE(form->windowModality(), Qt::WindowModal);
+        QVERIFY(s.window.content().showingAddSheet());
+        QVERIFY(f.equipment.isAddingEquipment());
+        const FormDriver driver(*form);
+        fill(driver, QStringLiteral("Nuovo erogatore"));
+        driver.save();
+        QVERIFY(!s.window.content().showingAddSheet());
+        QVERIFY(!f.equipment.isAddingEquipment());
+        QCoreApplication::processEvents();
+        QCOMPARE(s.table().model()->rowCount(), 4);
+        s.window.activateWindow();
+        QCOMPARE(s.window.focusWidget(), add);
+    }
+
+    void addingFromTheMenuOneAtATime()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QAction* add = s.window.menuBar()->actions().first()->menu()->actions().first();
+        QCOMPARE(add->text().remove(QLatin1Char('&')), QStringLiteral("Aggiungi"));
+        QCOMPARE(add->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_N));
+        s.table().setFocus();
+        QTest::keyClick(&s.window, Qt::Key_N, Qt::ControlModifier);
+        auto* form = s.openForm<EquipmentFormView>();
+        QVERIFY(form);
+        add->trigger();
+        s.window.content().editEquipment(f.equipment.equipment().first());
+        QCOMPARE(s.window.findChildren<Sheet*>().size(), 1);
+        FormDriver(*form).cancel();
+        QVERIFY(!s.window.content().showingAddSheet());
+        s.window.activateWindow();
+        QCOMPARE(s.window.focusWidget(), &s.table());
+        add->trigger();
+        QVERIFY(s.openForm<EquipmentFormView>());
+    }
+
+    void addingTheFirstItem()
+    {
+        ScreenFixture f(QList<Equipment>{});
+        Shown s(f);
+        for (QAbstractButton* button : s.window.findChildren<QAbstractButton*>()) {
+            if (button->text() == QStringLiteral("Aggiungi la prima attrezzatura") && button->isVisible()) {
+                QTest::mouseClick(button, Qt::LeftButton);
+                break;
+            }
+        }
+        auto* form = s.openForm<EquipmentFormView>();
+        QVERIFY(form);
+        fill(FormDriver(*form), QStringLiteral("Primo"));
+        FormDriver(*form).save();
+        QCoreApplication::processEvents();
+        QCOMPARE(s.table().model()->rowCount(), 1);
+        QVERIFY(s.window.focusWidget() && s.window.focusWidget()->isVisible());
+    }
+
+    void editingFromTheRowSelectsTheItem()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        const QModelIndex actions = s.table().model()->index(1, EquipmentTableModel::ActionsColumn);
+        s.table().setFocus();
+        s.table().scrollTo(actions);
+        QTest::mouseClick(s.table().viewport(), Qt::LeftButton, {}, s.table().visualRect(actions).center());
+        auto* menu = s.window.findChild<RowActionsMenu*>();
+        for (QAction* action : menu->actions()) {
+            if (action->text() == QStringLiteral("Modifica attrezzatura"))
+                action->trigger();
+        }
+        menu->close();
+        auto* form = s.openForm<EditEquipmentView>();
+        QVERIFY(form);
+        QVERIFY(!s.window.content().showingAddSheet());
+        QVERIFY(!f.equipment.isAddingEquipment());
+        QCOMPARE(s.window.content().selectedEquipment()->name, QStringLiteral("GAV Scubapro Hydros"));
+        const FormDriver driver(*form);
+        QCOMPARE(driver.part<QLineEdit>("name").text(), QStringLiteral("GAV Scubapro Hydros"));
+        driver.type("name", QStringLiteral("GAV rosso"));
+        driver.save();
+        QCoreApplication::processEvents();
+        QCOMPARE(s.window.content().selectedEquipment()->name, QStringLiteral("GAV rosso"));
+        QVERIFY(f.equipment.equipment().contains(*s.window.content().selectedEquipment()));
+        QVERIFY(s.table().selectionModel()->hasSelection());
+        QCOMPARE(s.window.focusWidget(), &s.table());
+    }
+
+    void closingTheWindowWithAFormOpenIsSafe()
+    {
+        ScreenFixture f;
+        {
+            Shown s(f);
+            s.window.content().addEquipment();
+            QVERIFY(s.openForm<EquipmentFormView>());
+        }
+        QCOMPARE(f.equipment.equipment().size(), 3);
+    }
+};
+
+ABISSORA_TEST(tst_FormsInTheWindow);
+
+#include "tst_FormsInTheWindow.moc"

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "TypePicker.h"
+
+#include "Fakes.h"
+#include "TestRunner.h"
+
+#include <QAbstractItemView>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWheelEvent>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+QList<EquipmentTypeModel> makeTypes(const QStringList& names)
+{
+    QList<EquipmentTypeModel> types;
+    for (const QString& name : names)
+        types.append({SequentialIds::at(1), name, QStringLiteral("dive.bcd"), QStringLiteral("blue"), 365, true});
+    return types;
+}
+
+const QStringList threeNames{QStringLiteral("GAV"), QStringLiteral("Muta"), QStringLiteral("muta")};
+
+} // namespace
+
+class tst_TypePicker : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void settingEmitsNothing()
+    {
+        TypePicker picker;
+        QSignalSpy chosen(&picker, &TypePicker::chosen);
+        picker.setTypes(makeTypes(threeNames), QStringLiteral("Muta"));
+        picker.setTypes(makeTypes(threeNames), QStringLiteral("GAV"));
+        picker.setTypes(makeTypes(threeNames.mid(1)), QStringLiteral("muta"));
+        QCOMPARE(picker.currentText(), QStringLiteral("muta"));
+        picker.setTypes(makeTypes(threeNames), QStringLiteral("Faro"));
+        QCOMPARE(picker.currentIndex(), -1);
+        QVERIFY(chosen.isEmpty());
+    }
+
+    void choosingEmitsOnce()
+    {
+        TypePicker picker;
+        picker.setTypes(makeTypes(threeNames), QStringLiteral("GAV"));
+        picker.show();
+        QSignalSpy chosen(&picker, &TypePicker::chosen);
+        QTest::keyClick(&picker, Qt::Key_Down);
+        QCOMPARE(chosen.size(), 1);
+        QCOMPARE(chosen.first().first().toString(), QStringLiteral("Muta"));
+        picker.showPopup();
+        QTest::keyClick(picker.view(), Qt::Key_Return); // the one it has
+        QCOMPARE(chosen.size(), 1);
+        picker.showPopup();
+        QTest::keyClick(picker.view(), Qt::Key_Up);
+        QTest::keyClick(picker.view(), Qt::Key_Return);
+        QCOMPARE(chosen.size(), 2);
+        QCOMPARE(picker.currentText(), QStringLiteral("GAV"));
+    }
+
+    void theWheelBelongsToWhatIsAround()
+    {
+        TypePicker picker;
+        picker.setTypes(makeTypes(threeNames), QStringLiteral("Muta"));
+        picker.show();
+        const QPointF place = picker.rect().center();
+        QWheelEvent wheel(place, picker.mapToGlobal(place), {}, QPoint(0, 120), Qt::NoButton, {}, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(&picker, &wheel);
+        QVERIFY(!wheel.isAccepted());
+        QCOMPARE(picker.currentText(), QStringLiteral("Muta"));
+    }
+
+    void eachTypeHasItsPicture()
+    {
+        auto types = makeTypes(threeNames);
+        types[1].icon.clear(); // shown as unknown
+        TypePicker picker;
+        picker.setTypes(types, QStringLiteral("GAV"));
+        for (int i = 0; i < picker.count(); ++i)
+            QVERIFY(!picker.itemIcon(i).isNull());
+    }
+};
+
+ABISSORA_TEST(tst_TypePicker);
+
+#include "tst_TypePicker.moc"
