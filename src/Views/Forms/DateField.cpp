@@ -2,6 +2,7 @@
 #include "DateField.h"
 
 #include "SymbolIcon.h"
+#include "Tokens.h"
 #include "TypeScale.h"
 
 #include <QAction>
@@ -9,6 +10,7 @@
 #include <QKeyEvent>
 #include <QRegularExpression>
 #include <QTextCharFormat>
+#include <QToolButton>
 #include <QWidgetAction>
 #include <optional>
 
@@ -51,6 +53,19 @@ std::optional<QDate> shortDay(const QString& text)
 {
     static const QRegularExpression form(QStringLiteral("^([0-9]{1,2})[-/. ]([0-9]{1,2})[-/. ]([0-9]{4}|[0-9]{2})$"));
     return dayOf(text, form);
+}
+
+/// The toolkit's pictures have colours of their own.
+void setArrow(QCalendarWidget& calendar, const char* name, Qt::ArrowType arrow)
+{
+    auto* button = calendar.findChild<QToolButton*>(QLatin1String(name));
+    if (button == nullptr)
+        return;
+    QPalette palette;
+    palette.setColor(QPalette::ButtonText, Tokens::of(calendar.palette()).onFill);
+    button->setPalette(palette);
+    button->setIcon({});
+    button->setArrowType(arrow);
 }
 
 } // namespace
@@ -172,6 +187,8 @@ void DateField::makeCalendar()
     m_days->setDateEditEnabled(false);
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
         m_days->setWeekdayTextFormat(day, {});
+    setArrow(*m_days, "qt_calendar_prevmonth", Qt::LeftArrow);
+    setArrow(*m_days, "qt_calendar_nextmonth", Qt::RightArrow);
 
     m_popup = new QMenu(this);
     auto* entry = new QWidgetAction(m_popup);
