@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ContentView.h"
 #include "MainWindow.h"
+#include "MaintenanceFormView.h"
 #include "Scenes.h"
 #include "ScreenFixture.h"
 #include "SidebarView.h"
@@ -47,6 +48,24 @@ QList<Equipment> items()
     };
     items[4].customTypeName = QStringLiteral("Torcia");
     items[6].isActive = false;
+    Maintenance battery;
+    battery.id = test::SequentialIds::at(1);
+    battery.date = sys_days{2026y / October / 21} + 9h;
+    battery.description = QStringLiteral("Sostituzione batteria e prova stagna");
+    battery.performedBy = QStringLiteral("Blu Service");
+    battery.cost = 45;
+    battery.nextServiceDate = sys_days{2026y / December / 6} + 9h;
+    battery.isCompleted = true;
+    Maintenance repair = battery;
+    repair.id = test::SequentialIds::at(2);
+    repair.date = sys_days{2025y / November / 3} + 9h;
+    repair.type = MaintenanceType::repair;
+    repair.description = QStringLiteral("Cinturino rotto");
+    repair.isCompleted = false;
+    repair.cost = 0;
+    items[2].serialNumber = QStringLiteral("SU456789");
+    items[2].notes = QStringLiteral("Computer subacqueo con display a colori.");
+    items[2].maintenanceHistory = {repair, battery};
     return items;
 }
 
@@ -76,6 +95,15 @@ public:
     }
 };
 
+class MaintenanceForm final : private Holder, public MaintenanceFormView
+{
+public:
+    explicit MaintenanceForm(const QList<Equipment>& stored)
+        : Holder(stored)
+        , MaintenanceFormView(fixture.context, stored.at(2).id, std::nullopt)
+    {}
+};
+
 Scene window(const QString& name, const Window::Setup& setup, const QList<Equipment>& stored = items(),
              QSize size = windowSize)
 {
@@ -103,6 +131,19 @@ QList<Scene> screenScenes()
         window(QStringLiteral("list-empty"), [](test::ScreenFixture&, MainWindow&) {}, {}),
         window(
             QStringLiteral("list-smallest"), [](test::ScreenFixture&, MainWindow&) {}, items(), QSize(1000, 700)),
+        window(
+            QStringLiteral("detail-smallest"),
+            [](test::ScreenFixture& f, MainWindow& w) {
+                w.content().setSelectedEquipment(f.equipment.equipment().at(0));
+            },
+            items(), QSize(1000, 700)),
+        {QStringLiteral("maintenance-form"), [] { return std::make_unique<MaintenanceForm>(items()); }},
+        window(
+            QStringLiteral("detail-whole"),
+            [](test::ScreenFixture& f, MainWindow& w) {
+                w.content().setSelectedEquipment(f.equipment.equipment().at(2));
+            },
+            items(), QSize(1280, 1150)),
     };
 }
 

@@ -94,13 +94,8 @@ QString writtenShortest(double cost)
     return QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
 }
 
-} // namespace
-
-std::optional<double> parse(const QString& text)
+std::optional<double> valueOf(const QString& amount)
 {
-    const QString amount = withoutCurrency(text);
-    if (amount.isEmpty())
-        return 0.0;
     const std::optional<QString> number = normalized(amount);
     if (!number)
         return std::nullopt;
@@ -112,10 +107,18 @@ std::optional<double> parse(const QString& text)
     return cost;
 }
 
+} // namespace
+
+std::optional<double> parse(const QString& text)
+{
+    const QString amount = withoutCurrency(text);
+    return amount.isEmpty() ? 0.0 : valueOf(amount);
+}
+
 bool isUnfinished(const QString& text)
 {
     const auto completes = [amount = withoutCurrency(text)](const char* rest) {
-        return parse(amount + QLatin1String(rest)).has_value();
+        return valueOf(amount + QLatin1String(rest)).has_value();
     };
     return completes("0") || completes("00") || completes("000");
 }

@@ -2,7 +2,7 @@
 #include "DocumentLink.h"
 
 #include "Buttons.h"
-#include "Metrics.h"
+#include "TypeScale.h"
 
 #include <QHBoxLayout>
 #include <QPointer>
@@ -29,8 +29,10 @@ DocumentLink::DocumentLink(DocumentSlot slot, MaintenanceDocumentStore& document
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    for (LookButton* button : {m_open, m_replace, m_upload})
+    for (LookButton* button : {m_open, m_replace, m_upload}) {
+        button->setFont(abissora::font(TextStyle::Caption));
         layout->addWidget(button);
+    }
     connect(m_open, &QAbstractButton::clicked, this, &DocumentLink::open);
     connect(m_replace, &QAbstractButton::clicked, this, &DocumentLink::replace);
     connect(m_upload, &QAbstractButton::clicked, this, &DocumentLink::upload);

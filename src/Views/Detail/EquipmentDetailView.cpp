@@ -25,7 +25,7 @@ namespace abissora {
 namespace {
 
 constexpr int sideMargin = 18;
-constexpr int leastWidth = 340;
+constexpr int leastWidth = 300;
 
 } // namespace
 

@@ -2,6 +2,7 @@
 #include "TechnicalDetails.h"
 
 #include "DetailRow.h"
+#include "Metrics.h"
 #include "Separator.h"
 
 #include <QVBoxLayout>
@@ -11,7 +12,8 @@ namespace abissora {
 TechnicalDetails::TechnicalDetails(QWidget* parent)
     : GroupBox(QStringLiteral("Dettagli Tecnici"), QStringLiteral("info.circle"), parent)
 {
-    content()->setSpacing(2);
+    content()->setSpacing(metrics::spaceXS / 2);
+    content()->addSpacing(metrics::spaceXS);
 }
 
 void TechnicalDetails::setLines(const QList<DetailContent::Line>& lines)

@@ -23,8 +23,8 @@ struct ColumnWidth
 };
 
 constexpr std::array<ColumnWidth, EquipmentTableModel::ColumnCount> widths{
-    ColumnWidth{30, 170, 100}, ColumnWidth{14, 74, 46}, ColumnWidth{14, 74, 46},
-    ColumnWidth{20, 146, 84},  ColumnWidth{0, 86, 60},  ColumnWidth{0, 66, 46}};
+    ColumnWidth{30, 170, 86}, ColumnWidth{14, 74, 50}, ColumnWidth{14, 74, 50},
+    ColumnWidth{20, 146, 74}, ColumnWidth{0, 86, 72},  ColumnWidth{0, 66, 44}};
 
 } // namespace
 
@@ -33,6 +33,7 @@ EquipmentColumns::EquipmentColumns(QTableView& table)
     , m_table(table)
 {
     table.horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table.horizontalHeader()->setMinimumSectionSize(1); // the style's own is wider than some columns' least
     table.viewport()->installEventFilter(this);
     layOut();
 }

@@ -19,6 +19,7 @@ namespace abissora {
 namespace {
 
 constexpr int detailWidth = 385;
+constexpr int leastListWidth = 440; // its table with every column
 
 struct TabTitle
 {
@@ -171,6 +172,7 @@ QWidget* ContentView::makeListArea()
     m_detailPane->setObjectName(QStringLiteral("detailPane"));
     m_detailPane->hide();
     m_listSplitter->setObjectName(QStringLiteral("listSplitter"));
+    m_list->setMinimumWidth(leastListWidth);
     m_listSplitter->addWidget(m_list);
     m_listSplitter->addWidget(m_detailPane);
     m_listSplitter->setChildrenCollapsible(false);

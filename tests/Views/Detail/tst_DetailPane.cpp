@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "Alert.h"
+#include "ClippedTexts.h"
+#include "ContentView.h"
+#include "DetailParts.h"
+#include "EquipmentDetailView.h"
+#include "EquipmentListView.h"
+#include "EquipmentTableView.h"
+#include "MainWindow.h"
+#include "TestRunner.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSplitter>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+struct Shown
+{
+    explicit Shown(ScreenFixture& f)
+        : window(f.context, f.directories.windowStateFile())
+    {
+        window.show();
+        window.activateWindow();
+        settle();
+    }
+
+    EquipmentTableView& table() { return *window.findChild<EquipmentTableView*>(); }
+    QSplitter& splitter() { return *window.content().splitters().last(); }
+    void select(int row)
+    {
+        table().selectRow(row);
+        settle();
+    }
+    [[nodiscard]] bool isPaneShown() const { return isShown(window, QStringLiteral("detailPane")); }
+
+    MainWindow window;
+
+private:
+    static bool isShown(const QWidget& parent, const QString& name)
+    {
+        return parent.findChild<QWidget*>(name)->isVisible();
+    }
+};
+
+} // namespace
+
+class tst_DetailPane : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsTheSelectedItem()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QVERIFY(!s.isPaneShown());
+        s.select(0);
+        QVERIFY(s.isPaneShown());
+        QCOMPARE(textOf(s.window, QStringLiteral("detailName")), QStringLiteral("Computer Suunto EON Core"));
+        QVERIFY(std::abs(s.splitter().sizes().last() - 385) <= 2);
+        s.select(1);
+        QCOMPARE(textOf(s.window, QStringLiteral("detailName")), QStringLiteral("GAV Scubapro Hydros"));
+    }
+
+    void closeMarkClearsTheSelection()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        s.select(0);
+        click(s.window, QStringLiteral("closeDetail"));
+        QVERIFY(!s.isPaneShown());
+        QVERIFY(!s.window.content().selectedEquipment());
+        QVERIFY(s.table().selectionModel()->selectedRows().isEmpty());
+    }
+
+    void deletingClearsTheSelection()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        s.select(0);
+        click(s.window, QStringLiteral("deleteEquipment"));
+        click(openDialog<Alert>(s.window), QStringLiteral("destructive"));
+        settle();
+        QVERIFY(!s.isPaneShown());
+        QVERIFY(!s.window.content().selectedEquipment());
+        QCOMPARE(s.table().model()->rowCount(), 2);
+    }
+
+    void anotherItemIsShownFromItsTop()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        s.window.resize(1000, 700);
+        s.select(0);
+        QScrollBar& bar = *s.window.findChild<EquipmentDetailView*>()->findChild<QScrollArea*>()->verticalScrollBar();
+        QVERIFY(bar.maximum() > 0);
+        bar.setValue(bar.maximum());
+        click(s.window, QStringLiteral("toggleActive"));
+        QVERIFY(bar.value() > 0);
+        s.select(1);
+        QCOMPARE(bar.value(), 0);
+    }
+
+    void smallestWindowKeepsBothUsable()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        s.window.resize(1000, 700);
+        s.select(0);
+        f.equipment.filterByTypeName(QStringLiteral("GAV"));
+        // A changed text travels upward one layout at a time, each by an event of its own.
+        for (int level = 0; level < 5; ++level)
+            settle();
+        QCOMPARE(s.window.size(), QSize(1000, 700));
+        QCOMPARE(s.table().horizontalScrollBar()->maximum(), 0);
+        QCOMPARE(clippedTexts(s.window.content().list()), QStringList());
+    }
+
+    void widthIsKeptAcrossStarts_data()
+    {
+        QTest::addColumn<bool>("closedFirst");
+        QTest::newRow("with the pane open") << false;
+        QTest::newRow("with the pane closed") << true;
+    }
+
+    void widthIsKeptAcrossStarts()
+    {
+        QFETCH(bool, closedFirst);
+        ScreenFixture f;
+        int width = 0;
+        {
+            Shown s(f);
+            s.select(0);
+            s.splitter().setSizes({s.splitter().width() - 441, 440});
+            width = s.splitter().sizes().last();
+            QVERIFY(std::abs(width - 440) <= 2);
+            if (closedFirst)
+                click(s.window, QStringLiteral("closeDetail"));
+            s.window.close();
+        }
+        Shown s(f);
+        QVERIFY(!s.isPaneShown());
+        s.select(0);
+        QCOMPARE(s.splitter().sizes().last(), width);
+    }
+};
+
+ABISSORA_TEST(tst_DetailPane);
+
+#include "tst_DetailPane.moc"
