@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ContentView.h"
+#include "EditEquipmentView.h"
+#include "EquipmentFormView.h"
 #include "MainWindow.h"
 #include "MaintenanceFormView.h"
 #include "Scenes.h"
@@ -115,6 +117,29 @@ void selectInSidebar(MainWindow& window, const QString& tag)
     window.findChild<SidebarView*>()->setSelectedSidebarItem(tag);
 }
 
+/// Keeps a sheet's state alive as its child.
+class KeptState final : public QObject
+{
+public:
+    explicit KeptState(const QList<Equipment>& stored)
+        : holder(stored)
+    {}
+
+    Holder holder;
+};
+
+/// A form over the items; `make` is given the fixture.
+template <typename Make>
+Scene form(const QString& name, Make make)
+{
+    return {name, [make] {
+                auto state = std::make_unique<KeptState>(items());
+                std::unique_ptr<QWidget> sheet = make(state->holder.fixture);
+                state.release()->setParent(sheet.get());
+                return sheet;
+            }};
+}
+
 } // namespace
 
 QList<Scene> screenScenes()
@@ -138,6 +163,16 @@ QList<Scene> screenScenes()
             },
             items(), QSize(1000, 700)),
         {QStringLiteral("maintenance-form"), [] { return std::make_unique<MaintenanceForm>(items()); }},
+        form(QStringLiteral("equipment-form"),
+             [](test::ScreenFixture& f) { return std::make_unique<EquipmentFormView>(f.context, nullptr); }),
+        form(QStringLiteral("equipment-form-edit"),
+             [](test::ScreenFixture& f) {
+                 return std::make_unique<EditEquipmentView>(f.context, f.equipment.equipment().first(), nullptr);
+             }),
+        window(QStringLiteral("detail-no-history"),
+               [](test::ScreenFixture& f, MainWindow& w) {
+                   w.content().setSelectedEquipment(f.equipment.equipment().at(1));
+               }),
         window(
             QStringLiteral("detail-whole"),
             [](test::ScreenFixture& f, MainWindow& w) {

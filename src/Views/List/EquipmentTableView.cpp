@@ -92,6 +92,10 @@ void EquipmentTableView::keyPressEvent(QKeyEvent* event)
             selectRow(current.row());
         return;
     }
+    if (current.isValid() && event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        requestActions(current);
+        return;
+    }
     if (current.isValid() && event->key() == Qt::Key_Delete) {
         Q_EMIT deleteRequested(current.row());
         return;

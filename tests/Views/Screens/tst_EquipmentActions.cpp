@@ -41,9 +41,12 @@ private Q_SLOTS:
         QCOMPARE(selected.size(), 1);
         QCOMPARE(edited.first().first().value<Equipment>().name, QStringLiteral("Erogatore Apeks XTX50"));
         menu.close();
-        // By the keyboard: Return on the last cell, and the Menu key anywhere in the row.
+        // By the keyboard: Return on the last cell, Shift+F10 and the Menu key anywhere in the row.
         table.setCurrentIndex(actionCell);
         QTest::keyClick(&table, Qt::Key_Return);
+        QVERIFY(menu.isVisible());
+        menu.close();
+        QTest::keyClick(&table, Qt::Key_F10, Qt::ShiftModifier);
         QVERIFY(menu.isVisible());
         menu.close();
         QContextMenuEvent byKey(QContextMenuEvent::Keyboard, {}, {});
