@@ -150,12 +150,12 @@ struct SlotOf<std::optional<Value>>
 
     static constexpr Slot make()
     {
-        Slot slot{.expected = inner.expected, .null = [](void* target) { as<std::optional<Value>>(target).reset(); }};
+        Slot made{.expected = inner.expected, .null = [](void* target) { as<std::optional<Value>>(target).reset(); }};
         if constexpr (inner.boolean != nullptr)
-            slot.boolean = &forward<inner.boolean, bool>;
+            made.boolean = &forward<inner.boolean, bool>;
         if constexpr (inner.string != nullptr)
-            slot.string = &forward<inner.string, const std::string&>;
-        return slot;
+            made.string = &forward<inner.string, const std::string&>;
+        return made;
     }
 
     static constexpr Slot slot = make();
