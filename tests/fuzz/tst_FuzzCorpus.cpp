@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "RecordProperties.h"
+#include "TestRunner.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QTest>
+
+using namespace abissora;
+
+/// Every file is read as either kind of record, whichever it was kept for.
+class tst_FuzzCorpus : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void replay_data()
+    {
+        QTest::addColumn<QString>("path");
+        const QString corpus = QStringLiteral(CORPUS);
+        QDirIterator files(corpus, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString path = files.next();
+            QTest::newRow(qPrintable(path.mid(corpus.size() + 1))) << path;
+        }
+    }
+
+    void replay()
+    {
+        QFETCH(QString, path);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray json = file.readAll();
+        QCOMPARE(test::faultWithEquipment(json), QString());
+        QCOMPARE(test::faultWithTypes(json), QString());
+    }
+};
+
+ABISSORA_TEST(tst_FuzzCorpus);
+#include "tst_FuzzCorpus.moc"
