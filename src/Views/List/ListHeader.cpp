@@ -31,10 +31,15 @@ ListHeader::ListHeader(QWidget* parent)
     auto* titleAndChip = new FlowLayout(metrics::spaceM, metrics::spaceXS);
     titleAndChip->addWidget(title);
     titleAndChip->addWidget(m_chip);
+    // The flow layout begins at its top; on one line it stands level with the buttons.
+    auto* centred = new QVBoxLayout;
+    centred->addStretch();
+    centred->addLayout(titleAndChip);
+    centred->addStretch();
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(metrics::spaceS);
-    layout->addLayout(titleAndChip, 1);
+    layout->addLayout(centred, 1);
     layout->addWidget(refresh);
     layout->addWidget(add);
 
