@@ -47,7 +47,7 @@ QList<Equipment> registerOf(int count, Instant now)
     static const QStringList brands{QStringLiteral("Marevivo"), QStringLiteral("Nordsee"), QStringLiteral("Écume"),
                                     QStringLiteral("Sette Mari")};
     constexpr auto types = allCases<EquipmentType>();
-    Random random(1); // NOLINT(cert-msc*): the same register at every run
+    Random random(1); // the same register at every run
     QList<Equipment> equipment;
     equipment.reserve(count);
     for (int i = 0; i < count; ++i) {

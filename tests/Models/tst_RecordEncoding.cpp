@@ -164,7 +164,7 @@ private Q_SLOTS:
 
     void anyCostSurvives()
     {
-        std::mt19937_64 random(7); // NOLINT(cert-msc*): the same numbers at every run
+        std::mt19937_64 random(7); // the same numbers at every run
         for (int i = 0; i < 20'000; ++i) {
             const auto cost = std::bit_cast<double>(random());
             if (std::isfinite(cost))
