@@ -68,8 +68,7 @@ int run(QApplication& application, const CommandLine& commandLine)
         return commandLine.snapshot.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
     }
 
-    for (const QString& folder :
-         {directories.preferences(), directories.maintenanceDocuments(), directories.backups()})
+    for (const QString& folder : {directories.preferences(), directories.maintenanceDocuments(), directories.backups()})
         AtomicFile::removeLeftovers(folder);
 
     MarevoloApp app(application, directories);
