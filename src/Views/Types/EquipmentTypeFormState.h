@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AvailableColors.h"
+#include "DivingIcons.h"
+#include "EquipmentTypeModel.h"
+
+namespace abissora {
+
+/// What the type form holds, as it was entered.
+struct EquipmentTypeFormState
+{
+    QString name;
+    DivingIcons selectedIcon = DivingIcons::regulator;
+    AvailableColors selectedColor = AvailableColors::blue;
+    std::int64_t serviceIntervalDays = 365;
+
+    /// An icon or a colour that the form does not offer is left at the one of a new type.
+    [[nodiscard]] static EquipmentTypeFormState of(const EquipmentTypeModel& type);
+
+    /// The name holds more than white space.
+    [[nodiscard]] bool isFormValid() const;
+    /// The record to store, always active.
+    [[nodiscard]] EquipmentTypeModel toType(const QUuid& id) const;
+
+    friend bool operator==(const EquipmentTypeFormState&, const EquipmentTypeFormState&) = default;
+};
+
+} // namespace abissora
