@@ -56,7 +56,7 @@ public:
 };
 
 /// A button without text; its name is read by screen readers and shown as tool tip.
-class IconButton final : public QToolButton
+class IconButton : public QToolButton
 {
     Q_OBJECT
 

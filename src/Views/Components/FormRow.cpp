@@ -6,6 +6,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <algorithm>
 
 namespace abissora {
 
@@ -21,13 +22,18 @@ FormRow::FormRow(const QString& label, QWidget* field, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setHorizontalSpacing(metrics::spaceM);
     layout->setVerticalSpacing(metrics::spaceXS);
-    layout->setColumnMinimumWidth(0, withText(labelColumn, fontMetrics()));
+    setLabelColumn(labelColumn);
     layout->setColumnStretch(1, 1);
     const bool tall = field->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag;
     layout->addWidget(name, 0, 0, tall ? Qt::AlignTop : Qt::AlignVCenter);
     const bool narrow = field->maximumWidth() < QWIDGETSIZE_MAX ||
                         !(field->sizePolicy().horizontalPolicy() & (QSizePolicy::ExpandFlag | QSizePolicy::GrowFlag));
     layout->addWidget(field, 0, 1, narrow ? Qt::AlignLeft : Qt::Alignment());
+}
+
+void FormRow::setLabelColumn(int width)
+{
+    static_cast<QGridLayout*>(layout())->setColumnMinimumWidth(0, withText(width, fontMetrics()));
 }
 
 void FormRow::setHint(const QString& hint)
@@ -42,6 +48,13 @@ void FormRow::setHint(const QString& hint)
     }
     m_hint->setText(hint);
     m_hint->setVisible(!hint.isEmpty());
+}
+
+void FormRow::addBelow(QWidget* widget)
+{
+    auto* const grid = static_cast<QGridLayout*>(layout());
+    constexpr int hintRow = 1;
+    grid->addWidget(widget, std::max(grid->rowCount(), hintRow + 1), 1);
 }
 
 } // namespace abissora

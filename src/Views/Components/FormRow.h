@@ -19,8 +19,13 @@ public:
     /// Takes the field over. A field that does not want the whole width says so by its size policy.
     FormRow(const QString& label, QWidget* field, QWidget* parent = nullptr);
 
+    /// A width other than labelColumn, at the usual text size too.
+    void setLabelColumn(int width);
+
     /// A text below the field.
     void setHint(const QString& hint);
+    /// Takes over what else stands below the field and its hint.
+    void addBelow(QWidget* widget);
 
 private:
     QLabel* m_hint = nullptr;

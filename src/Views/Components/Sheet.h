@@ -30,6 +30,8 @@ public:
     [[nodiscard]] PrimaryButton* primaryButton() const { return m_primary; }
 
     [[nodiscard]] QVBoxLayout* body() const { return m_body; }
+    /// What the body scrolls in.
+    [[nodiscard]] QScrollArea* scrollArea() const { return m_scroll; }
     /// For content that scrolls by itself: takes the place of the scrolling body.
     void setContent(QWidget* content);
 

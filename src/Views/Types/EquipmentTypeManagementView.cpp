@@ -1,22 +1,140 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeManagementView.h"
 
+#include "Alert.h"
 #include "Buttons.h"
+#include "EmptyState.h"
+#include "EquipmentTypeFormView.h"
+#include "InkLabel.h"
+#include "Metrics.h"
+#include "SearchField.h"
+#include "TextSearch.h"
+#include "TypeList.h"
+
+#include <QHBoxLayout>
+#include <QStackedWidget>
 
 namespace abissora {
 
 namespace {
 
-constexpr QSize preferred(720, 600);
+constexpr int preferredWidth = 700;
+constexpr int preferredHeight = 600;
+constexpr int sideMargin = 18;
+constexpr int searchWidth = 220;
 
 } // namespace
 
 EquipmentTypeManagementView::EquipmentTypeManagementView(const AppContext& context, QWidget* parent)
     : Sheet(QStringLiteral("Gestione Tipologie"), parent)
     , m_context(context)
+    , m_update([this] { redraw(); })
+    , m_search(new SearchField(QStringLiteral("Cerca...")))
+    , m_add(new PlainButton(QStringLiteral("Nuova Tipologia")))
+    , m_list(new TypeList)
+    , m_empty(new EmptyState(QStringLiteral("magnifyingglass"), QStringLiteral("Nessuna tipologia trovata")))
+    , m_pages(new QStackedWidget)
+    , m_count(new InkLabel(TextStyle::Body, &Tokens::secondaryText))
+    , m_reset(new PlainButton(QStringLiteral("Ripristina Default")))
 {
     cancelButton()->setText(QStringLiteral("Chiudi"));
-    setPreferredSize(preferred);
+    setPreferredSize({withText(preferredWidth, fontMetrics()), withText(preferredHeight, fontMetrics())});
+    setContent(makeContent());
+    setFirstField(m_search);
+    connectControls();
+    redraw();
+}
+
+QWidget* EquipmentTypeManagementView::makeContent()
+{
+    m_search->setObjectName(QStringLiteral("typeSearch"));
+    m_search->setFixedWidth(withText(searchWidth, fontMetrics()));
+    m_add->setObjectName(QStringLiteral("addType"));
+    m_add->setSymbol(QStringLiteral("plus"));
+    m_count->setObjectName(QStringLiteral("typeCount"));
+    m_reset->setObjectName(QStringLiteral("resetTypes"));
+    m_pages->addWidget(m_list);
+    m_pages->addWidget(m_empty);
+
+    auto* header = new QHBoxLayout;
+    header->setSpacing(metrics::spaceM);
+    header->addWidget(new InkLabel(TextStyle::Headline, &Tokens::text, QStringLiteral("Tipologie Attrezzatura")), 1);
+    header->addWidget(m_search);
+    header->addWidget(m_add);
+    auto* footer = new QHBoxLayout;
+    footer->addWidget(m_count, 1);
+    footer->addWidget(m_reset);
+
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(sideMargin, metrics::spaceL, sideMargin, metrics::spaceL);
+    layout->setSpacing(metrics::spaceM);
+    layout->addLayout(header);
+    layout->addWidget(m_pages, 1);
+    layout->addLayout(footer);
+    return content;
+}
+
+void EquipmentTypeManagementView::connectControls()
+{
+    connect(&m_context.types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
+    connect(m_search, &SearchField::textEdited, this, &EquipmentTypeManagementView::redraw);
+    connect(m_add, &QAbstractButton::clicked, this, [this] { openForm(std::nullopt); });
+    connect(m_list, &TypeList::editRequested, this, &EquipmentTypeManagementView::openForm);
+    connect(m_list, &TypeList::deleteRequested, this, &EquipmentTypeManagementView::confirmDeletion);
+    connect(m_empty, &EmptyState::buttonClicked, this, [this] {
+        m_search->clear();
+        m_search->setFocus(Qt::OtherFocusReason);
+        redraw();
+    });
+    connect(m_reset, &QAbstractButton::clicked, &m_context.types, &EquipmentTypeViewModel::resetToDefaults);
+}
+
+QList<EquipmentTypeModel> EquipmentTypeManagementView::filteredTypes() const
+{
+    const TextSearch search(m_search->text());
+    QList<EquipmentTypeModel> types = m_context.types.filteredTypes();
+    types.removeIf([&search](const EquipmentTypeModel& type) { return !search.foundIn(type.name); });
+    return types;
+}
+
+void EquipmentTypeManagementView::redraw()
+{
+    const QList<EquipmentTypeModel> shown = filteredTypes();
+    const bool focusWasInTheList = m_list->isAncestorOf(focusWidget());
+    m_list->setTypes(shown);
+    m_empty->setButtonText(m_search->text().isEmpty() ? QString() : QStringLiteral("Cancella ricerca"));
+    m_pages->setCurrentWidget(shown.isEmpty() ? static_cast<QWidget*>(m_empty) : m_list);
+    if (shown.isEmpty() && focusWasInTheList)
+        m_search->setFocus(Qt::OtherFocusReason);
+
+    const QList<EquipmentTypeModel>& all = m_context.types.types();
+    const auto active =
+        std::count_if(all.begin(), all.end(), [](const EquipmentTypeModel& type) { return type.isActive; });
+    m_count->setText(QStringLiteral("%1 tipologie attive").arg(active));
+}
+
+void EquipmentTypeManagementView::openForm(const std::optional<EquipmentTypeModel>& selectedType)
+{
+    auto* form = new EquipmentTypeFormView(m_context, selectedType, this);
+    form->setAttribute(Qt::WA_DeleteOnClose);
+    form->open();
+}
+
+void EquipmentTypeManagementView::confirmDeletion(const EquipmentTypeModel& typeToDelete)
+{
+    auto* alert = new Alert(this);
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->setTitle(QStringLiteral("Conferma Eliminazione"));
+    alert->setMessage(deletionQuestion(typeToDelete));
+    connect(alert, &QDialog::accepted, this, [this, typeToDelete] { m_context.types.deleteType(typeToDelete); });
+    alert->open();
+}
+
+QString EquipmentTypeManagementView::deletionQuestion(const std::optional<EquipmentTypeModel>& typeToDelete)
+{
+    return typeToDelete ? QStringLiteral("Sei sicuro di voler eliminare la tipologia '%1'?").arg(typeToDelete->name)
+                        : QStringLiteral("Sei sicuro di voler eliminare questa tipologia?");
 }
 
 } // namespace abissora

@@ -2,9 +2,18 @@
 #pragma once
 
 #include "AppContext.h"
+#include "CoalescedUpdate.h"
 #include "Sheet.h"
 
+class QStackedWidget;
+
 namespace abissora {
+
+class EmptyState;
+class InkLabel;
+class PlainButton;
+class SearchField;
+class TypeList;
 
 /// "Gestione Tipologie": lists the active types and offers to add, edit and delete them and to go back to the defaults.
 class EquipmentTypeManagementView final : public Sheet
@@ -14,8 +23,28 @@ class EquipmentTypeManagementView final : public Sheet
 public:
     explicit EquipmentTypeManagementView(const AppContext& context, QWidget* parent = nullptr);
 
+    /// What is asked before the type is deleted.
+    [[nodiscard]] static QString deletionQuestion(const std::optional<EquipmentTypeModel>& typeToDelete);
+
 private:
+    [[nodiscard]] QWidget* makeContent();
+    void connectControls();
+
+    [[nodiscard]] QList<EquipmentTypeModel> filteredTypes() const;
+    void redraw();
+    void openForm(const std::optional<EquipmentTypeModel>& selectedType);
+    void confirmDeletion(const EquipmentTypeModel& typeToDelete);
+
     AppContext m_context;
+    CoalescedUpdate m_update;
+
+    SearchField* m_search;
+    PlainButton* m_add;
+    TypeList* m_list;
+    EmptyState* m_empty;
+    QStackedWidget* m_pages;
+    InkLabel* m_count;
+    PlainButton* m_reset;
 };
 
 } // namespace abissora

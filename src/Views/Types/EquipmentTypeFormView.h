@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AppContext.h"
+#include "EquipmentTypeFormState.h"
+#include "Sheet.h"
+
+class QLineEdit;
+
+namespace abissora {
+
+class ColorChoice;
+class GroupBox;
+class IconPicker;
+class InkLabel;
+class Stepper;
+class TypePreview;
+
+/// "Nuova Tipologia", or "Modifica Tipologia" when given a type: adds it to the catalogue or puts it in its place
+/// there.
+class EquipmentTypeFormView final : public Sheet
+{
+    Q_OBJECT
+
+public:
+    EquipmentTypeFormView(const AppContext& context, const std::optional<EquipmentTypeModel>& editingType,
+                          QWidget* parent = nullptr);
+
+private:
+    [[nodiscard]] GroupBox* makeBasics();
+    void makeColumns();
+    void setState(const EquipmentTypeFormState& state);
+    void connectFields();
+
+    [[nodiscard]] EquipmentTypeFormState state() const;
+    void refresh();
+    void save();
+
+    AppContext m_context;
+    std::optional<EquipmentTypeModel> m_editingType;
+
+    QLineEdit* m_name;
+    InkLabel* m_invalidName;
+    Stepper* m_interval;
+    ColorChoice* m_color;
+    IconPicker* m_icons;
+    TypePreview* m_preview;
+};
+
+} // namespace abissora

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "TypeRow.h"
+
+#include "Buttons.h"
+#include "IconTile.h"
+#include "Metrics.h"
+#include "SymbolIcon.h"
+#include "TypeAppearance.h"
+#include "WrapLabel.h"
+
+#include <QHBoxLayout>
+
+namespace abissora {
+
+namespace {
+
+constexpr int tileSide = 34;
+
+} // namespace
+
+TypeRow::TypeRow(QWidget* parent)
+    : QWidget(parent)
+    , m_tile(new IconTile(tileSide))
+    , m_name(new WrapLabel(TextStyle::BodyMedium, &Tokens::text))
+    , m_interval(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText))
+    , m_edit(new LookButton(ButtonLook::Link, QStringLiteral("Modifica"), nullptr))
+    , m_delete(new LookButton(ButtonLook::DestructiveLink, QStringLiteral("Elimina"), nullptr))
+{
+    m_name->setObjectName(QStringLiteral("typeName"));
+    m_interval->setObjectName(QStringLiteral("typeInterval"));
+    m_edit->setObjectName(QStringLiteral("editType"));
+    m_edit->setSymbol(QStringLiteral("pencil.circle.fill"));
+    m_delete->setObjectName(QStringLiteral("deleteType"));
+    m_delete->setSymbol(QStringLiteral("trash.circle.fill"));
+
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(metrics::spaceXS / 2);
+    texts->addWidget(m_name);
+    texts->addWidget(m_interval);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(metrics::spaceL, metrics::spaceS, metrics::spaceM, metrics::spaceS);
+    layout->setSpacing(metrics::spaceM);
+    layout->addWidget(m_tile);
+    layout->addLayout(texts, 1);
+    layout->addWidget(m_edit);
+    layout->addWidget(m_delete);
+    connect(m_edit, &QAbstractButton::clicked, this, &TypeRow::editRequested);
+    connect(m_delete, &QAbstractButton::clicked, this, &TypeRow::deleteRequested);
+}
+
+void TypeRow::setType(const EquipmentTypeModel& type)
+{
+    m_type = type;
+    const TypeAppearance look = appearanceOf(type);
+    m_tile->setIcon(typeIcon(look.icon, look.color), look.color);
+    m_name->setText(type.name);
+    m_interval->setText(QStringLiteral("Intervallo: %1 giorni").arg(type.serviceIntervalDays));
+    setAccessibleName(type.name);
+    for (LookButton* button : {m_edit, m_delete})
+        button->setAccessibleDescription(type.name);
+}
+
+GridFocus::Row TypeRow::buttons() const
+{
+    return {m_edit, m_delete};
+}
+
+} // namespace abissora

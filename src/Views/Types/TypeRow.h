@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "EquipmentTypeModel.h"
+#include "GridFocus.h"
+
+#include <QWidget>
+
+namespace abissora {
+
+class IconTile;
+class LookButton;
+class WrapLabel;
+
+/// One type of the management screen with its actions.
+class TypeRow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit TypeRow(QWidget* parent = nullptr);
+
+    void setType(const EquipmentTypeModel& type);
+    [[nodiscard]] const EquipmentTypeModel& type() const { return m_type; }
+    [[nodiscard]] GridFocus::Row buttons() const;
+
+Q_SIGNALS:
+    void editRequested();
+    void deleteRequested();
+
+private:
+    EquipmentTypeModel m_type;
+    IconTile* m_tile;
+    WrapLabel* m_name;
+    WrapLabel* m_interval;
+    LookButton* m_edit;
+    LookButton* m_delete;
+};
+
+} // namespace abissora
