@@ -9,5 +9,6 @@ namespace abissora::gallery {
 [[nodiscard]] QList<Scene> componentScenes();
 [[nodiscard]] QList<Scene> sheetScenes();
 [[nodiscard]] QList<Scene> screenScenes();
+[[nodiscard]] QList<Scene> typeScenes();
 
 } // namespace abissora::gallery

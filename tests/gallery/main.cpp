@@ -40,5 +40,7 @@ int main(int argc, char** argv)
     font.setPointSizeF(fixedPointSize);
     QApplication::setFont(font);
     using namespace abissora::gallery;
-    return render(controlScenes() + componentScenes() + sheetScenes() + screenScenes(), QDir(folder)) ? 0 : 1;
+    return render(controlScenes() + componentScenes() + sheetScenes() + screenScenes() + typeScenes(), QDir(folder))
+               ? 0
+               : 1;
 }

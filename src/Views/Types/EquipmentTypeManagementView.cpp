@@ -30,7 +30,7 @@ EquipmentTypeManagementView::EquipmentTypeManagementView(const AppContext& conte
     , m_context(context)
     , m_update([this] { redraw(); })
     , m_search(new SearchField(QStringLiteral("Cerca...")))
-    , m_add(new PlainButton(QStringLiteral("Nuova Tipologia")))
+    , m_add(new PrimaryButton(QStringLiteral("Nuova Tipologia")))
     , m_list(new TypeList)
     , m_empty(new EmptyState(QStringLiteral("magnifyingglass"), QStringLiteral("Nessuna tipologia trovata")))
     , m_pages(new QStackedWidget)

@@ -12,6 +12,7 @@ namespace abissora {
 class EmptyState;
 class InkLabel;
 class PlainButton;
+class PrimaryButton;
 class SearchField;
 class TypeList;
 
@@ -39,7 +40,7 @@ private:
     CoalescedUpdate m_update;
 
     SearchField* m_search;
-    PlainButton* m_add;
+    PrimaryButton* m_add;
     TypeList* m_list;
     EmptyState* m_empty;
     QStackedWidget* m_pages;
