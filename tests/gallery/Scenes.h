@@ -10,5 +10,6 @@ namespace abissora::gallery {
 [[nodiscard]] QList<Scene> sheetScenes();
 [[nodiscard]] QList<Scene> screenScenes();
 [[nodiscard]] QList<Scene> typeScenes();
+[[nodiscard]] QList<Scene> helpScenes();
 
 } // namespace abissora::gallery

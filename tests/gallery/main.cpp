@@ -40,7 +40,8 @@ int main(int argc, char** argv)
     font.setPointSizeF(fixedPointSize);
     QApplication::setFont(font);
     using namespace abissora::gallery;
-    return render(controlScenes() + componentScenes() + sheetScenes() + screenScenes() + typeScenes(), QDir(folder))
+    return render(controlScenes() + componentScenes() + sheetScenes() + screenScenes() + typeScenes() + helpScenes(),
+                  QDir(folder))
                ? 0
                : 1;
 }

@@ -5,8 +5,12 @@
 
 #include <QWidget>
 
+class QStackedWidget;
+
 namespace abissora {
 
+class HelpIndexView;
+class HelpPage;
 class Opener;
 
 /// The guide: its index with a search beside the chosen section. Content of a window or of a sheet; it asks for no
@@ -21,7 +25,14 @@ public:
     HelpView(QList<HelpSection> sections, Opener& opener, QWidget* parent = nullptr);
 
 private:
+    [[nodiscard]] static QWidget* makeHeader();
+    [[nodiscard]] QWidget* makeBody();
+    void showSelection();
+
     HelpIndex m_index;
+    HelpIndexView* m_indexView;
+    HelpPage* m_page;
+    QStackedWidget* m_pages;
 };
 
 } // namespace abissora

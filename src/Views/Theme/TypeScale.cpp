@@ -27,6 +27,8 @@ Step stepOf(TextStyle style)
         return {0.85, QFont::Normal};
     case TextStyle::CaptionSemibold:
         return {0.85, QFont::DemiBold};
+    case TextStyle::Callout:
+        return {0.92, QFont::Normal};
     case TextStyle::Body:
         return {1.0, QFont::Normal};
     case TextStyle::BodyMedium:

@@ -10,6 +10,7 @@ namespace abissora {
 enum class TextStyle {
     Caption,
     CaptionSemibold,
+    Callout,
     Body,
     BodyMedium,
     Headline,

@@ -31,6 +31,7 @@ void tst_TypeScale::sizesFollowTheApplicationsFont_data()
     };
     row("caption", TextStyle::Caption, 0.85, QFont::Normal);
     row("caption, semibold", TextStyle::CaptionSemibold, 0.85, QFont::DemiBold);
+    row("callout", TextStyle::Callout, 0.92, QFont::Normal);
     row("body", TextStyle::Body, 1.0, QFont::Normal);
     row("body, medium", TextStyle::BodyMedium, 1.0, QFont::Medium);
     row("headline", TextStyle::Headline, 1.15, QFont::DemiBold);

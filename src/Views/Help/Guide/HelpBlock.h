@@ -7,7 +7,7 @@
 
 namespace abissora {
 
-/// What a section's body consists of. All texts but those of code may hold inline markup, see InlineText.h.
+/// What a section's body consists of. Paragraphs, items and quotes may hold inline markup, see InlineText.h.
 namespace help {
 
 struct Subheading

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "HelpIndexView.h"
+
+#include "ControlLook.h"
+#include "HelpIndex.h"
+#include "HelpSectionDelegate.h"
+#include "IconView.h"
+#include "Metrics.h"
+#include "Painting.h"
+#include "SearchField.h"
+#include "SymbolIcon.h"
+#include "Tokens.h"
+#include "TypeScale.h"
+#include "WrapLabel.h"
+
+#include <QListView>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace abissora {
+
+namespace {
+
+constexpr int largeIconSide = 44;
+
+} // namespace
+
+HelpIndexView::HelpIndexView(HelpIndex& index, QWidget* parent)
+    : QWidget(parent)
+    , m_index(index)
+    , m_search(new SearchField(QStringLiteral("Cerca nella guida…")))
+    , m_list(new QListView)
+    , m_noResult(new WrapLabel(TextStyle::Callout, &Tokens::secondaryText))
+    , m_pages(new QStackedWidget)
+{
+    setObjectName(QStringLiteral("helpIndex"));
+    m_search->setObjectName(QStringLiteral("helpSearch"));
+    buildList();
+    m_pages->addWidget(m_list);
+    m_pages->addWidget(makeNoResult());
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(metrics::spaceM, metrics::spaceM, metrics::spaceM, metrics::spaceM);
+    layout->setSpacing(metrics::spaceM - 1);
+    layout->addWidget(m_search);
+    layout->addWidget(m_pages, 1);
+    connect(m_search, &QLineEdit::textEdited, this, &HelpIndexView::search);
+    showSections();
+}
+
+void HelpIndexView::focusSearch()
+{
+    m_search->setFocus(Qt::ShortcutFocusReason);
+    m_search->selectAll();
+}
+
+void HelpIndexView::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    const Tokens& tokens = Tokens::of(palette());
+    painter.fillRect(rect(), tokens.sidebar);
+    drawVerticalHairline(painter, 0, height(), width() - hairlineWidth(painter), tokens.border);
+}
+
+void HelpIndexView::buildList()
+{
+    m_list->setObjectName(QStringLiteral("helpSections"));
+    m_list->setAccessibleName(QStringLiteral("Indice della guida"));
+    m_list->setFrameShape(QFrame::NoFrame);
+    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_list->setMouseTracking(true);
+    m_list->setTabKeyNavigation(false);
+    m_list->viewport()->setAutoFillBackground(false);
+    setSelectionLook(*m_list, SelectionLook::Pill);
+    m_list->setItemDelegate(new HelpSectionDelegate(m_list));
+    m_list->setModel(&m_titles);
+    connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this, &HelpIndexView::selectRow);
+}
+
+QWidget* HelpIndexView::makeNoResult()
+{
+    m_noResult->setObjectName(QStringLiteral("noResult"));
+    m_noResult->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    auto* page = new QWidget;
+    auto* layout = new QVBoxLayout(page);
+    layout->setContentsMargins(0, metrics::spaceXL, 0, metrics::spaceXL);
+    layout->setSpacing(metrics::spaceM);
+    layout->addStretch(1);
+    layout->addWidget(new IconView(symbolIcon(QStringLiteral("magnifyingglass"), NamedColor::secondary), largeIconSide),
+                      0, Qt::AlignHCenter);
+    layout->addWidget(m_noResult);
+    layout->addStretch(2);
+    return page;
+}
+
+void HelpIndexView::search(const QString& text)
+{
+    m_index.setSearchText(text);
+    showSections();
+    Q_EMIT selectionChanged();
+}
+
+void HelpIndexView::selectRow()
+{
+    const QModelIndexList rows = m_list->selectionModel()->selectedRows();
+    if (rows.isEmpty())
+        return;
+    m_index.select(m_index.filteredSections().at(rows.first().row()).id);
+    Q_EMIT selectionChanged();
+}
+
+void HelpIndexView::showSections()
+{
+    const QList<HelpSection>& sections = m_index.filteredSections();
+    const QSignalBlocker silent(m_list->selectionModel());
+    QStringList titles;
+    int selected = -1;
+    for (const HelpSection& section : sections) {
+        if (section.id == m_index.selection())
+            selected = static_cast<int>(titles.size());
+        titles.append(section.title);
+    }
+    m_titles.setStringList(titles);
+    if (selected >= 0)
+        m_list->setCurrentIndex(m_titles.index(selected));
+    m_noResult->setText(QStringLiteral("Nessun risultato per\n\"%1\"").arg(m_index.searchText()));
+    m_pages->setCurrentIndex(sections.isEmpty() && !m_index.sections().isEmpty() ? 1 : 0);
+}
+
+} // namespace abissora

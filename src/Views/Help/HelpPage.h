@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "HelpSection.h"
+
+#include <QTextBrowser>
+#include <optional>
+
+namespace abissora {
+
+class Opener;
+
+/// One section of the guide as one document: it scrolls, and its text can be selected across all of its blocks. Links
+/// lead to the browser, and nothing is ever loaded from anywhere.
+class HelpPage : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    /// `opener` outlives the page.
+    explicit HelpPage(Opener& opener, QWidget* parent = nullptr);
+
+    /// Shows it from its top; the section that is shown already stays where it is.
+    void setSection(const HelpSection& section);
+
+protected:
+    QVariant loadResource(int type, const QUrl& name) override;
+    QMimeData* createMimeDataFromSelection() const override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    void write();
+    void rewrite();
+    [[nodiscard]] bool scrollBy(const QKeyEvent& event);
+
+    std::optional<HelpSection> m_section;
+};
+
+} // namespace abissora
