@@ -1,46 +1,22 @@
 // SPDX-License-Identifier: MIT
-#include "Fakes.h"
 #include "FileSizeLimit.h"
-#include "PreferencesStore.h"
-#include "TestRunner.h"
+#include "PreferencesTest.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
-#include <QTest>
 #include <cerrno>
 
 using namespace abissora;
 
-namespace {
-
-template <typename T>
-QString reason(const IoResult<T>& result)
-{
-    return result ? QString() : result.error().reason;
-}
-
-#define VERIFY_OK(result) QCOMPARE(reason(result), QString())
-#define VERIFY_FAILED(result, number) QCOMPARE(reason(result), IoError::fromErrno(number).reason)
-
-const QString key = QStringLiteral("savedEquipment");
-
-} // namespace
-
-class tst_UnreadablePreferences : public test::TestCase
+class tst_UnreadablePreferences : public test::PreferencesTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        test::TestCase::init();
-        m_folder.emplace();
-        QVERIFY(m_folder->isValid());
+        test::PreferencesTest::init();
         m_clock.set(std::chrono::sys_days{std::chrono::year{2026} / 11 / 21} + std::chrono::hours{4} +
                     std::chrono::minutes{3} + std::chrono::seconds{2});
-        m_store.emplace(preferences(), backups(), m_clock);
     }
 
     void unreadableBytesAreKept()
@@ -123,32 +99,6 @@ private Q_SLOTS:
         QVERIFY(QDir().rmdir(m_store->path(key)));
         VERIFY_OK(m_store->setData(key, "[]"));
     }
-
-private:
-    QString preferences() const { return m_folder->filePath(QStringLiteral("preferences")); }
-    QString backups() const { return m_folder->filePath(QStringLiteral("backups")); }
-
-    static QByteArray content(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
-    }
-
-    static void write(const QString& path, const QByteArray& bytes)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), bytes.size());
-    }
-
-    static QStringList namesIn(const QString& folder)
-    {
-        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    }
-
-    std::optional<QTemporaryDir> m_folder;
-    test::FixedClock m_clock;
-    std::optional<PreferencesStore> m_store;
 };
 
 ABISSORA_TEST(tst_UnreadablePreferences);

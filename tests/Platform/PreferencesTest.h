@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Fakes.h"
+#include "IoChecks.h"
+#include "PreferencesStore.h"
+#include "TestRunner.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace abissora::test {
+
+/// A store over an empty folder for each test function.
+class PreferencesTest : public TestCase
+{
+    Q_OBJECT
+
+protected Q_SLOTS:
+    /// A class with an init() of its own calls this one first.
+    void init()
+    {
+        TestCase::init();
+        m_folder.emplace();
+        QVERIFY(m_folder->isValid());
+        m_store.emplace(preferences(), backups(), m_clock);
+    }
+
+protected:
+    const QString key = QStringLiteral("savedEquipment");
+
+    [[nodiscard]] QString preferences() const { return m_folder->filePath(QStringLiteral("preferences")); }
+    [[nodiscard]] QString backups() const { return m_folder->filePath(QStringLiteral("backups")); }
+
+    static QByteArray content(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
+    }
+
+    static void write(const QString& path, const QByteArray& bytes)
+    {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(bytes), bytes.size());
+    }
+
+    static QStringList namesIn(const QString& folder)
+    {
+        return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+    }
+
+    std::optional<QTemporaryDir> m_folder;
+    FixedClock m_clock;
+    std::optional<PreferencesStore> m_store;
+};
+
+} // namespace abissora::test
