@@ -5,9 +5,9 @@
 #include "Buttons.h"
 #include "Metrics.h"
 #include "TypeScale.h"
+#include "WrapLabel.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 
 namespace abissora {
 
@@ -19,18 +19,13 @@ constexpr int alertWidth = 400;
 
 Alert::Alert(QWidget* parent)
     : SheetWindow(parent)
-    , m_title(new QLabel)
-    , m_message(new QLabel)
+    , m_title(new WrapLabel(TextStyle::Headline, &Tokens::text))
+    , m_message(new WrapLabel(TextStyle::Body, &Tokens::secondaryText))
     , m_safe(new PlainButton(QStringLiteral("Annulla")))
     , m_destructive(new DestructiveButton(QStringLiteral("Elimina")))
 {
     provideAccessibility();
-    m_title->setFont(abissora::font(TextStyle::Headline));
-    for (QLabel* label : {m_title, m_message}) {
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-    }
-    m_message->setForegroundRole(QPalette::PlaceholderText);
+    m_message->setAlignment(Qt::AlignTop);
     m_safe->setObjectName(QStringLiteral("safe"));
     m_safe->setDefault(true);
     m_destructive->setObjectName(QStringLiteral("destructive"));

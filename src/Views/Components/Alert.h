@@ -3,12 +3,11 @@
 
 #include "SheetWindow.h"
 
-class QLabel;
-
 namespace abissora {
 
 class DestructiveButton;
 class PlainButton;
+class WrapLabel;
 
 /// Asks before something is destroyed: accepted by "Elimina", rejected by "Annulla", which is the default button and
 /// answers Escape. As a notice it has one button, which rejects.
@@ -33,8 +32,8 @@ protected:
     [[nodiscard]] QWidget* firstFocus() const override;
 
 private:
-    QLabel* m_title;
-    QLabel* m_message;
+    WrapLabel* m_title;
+    WrapLabel* m_message;
     PlainButton* m_safe;
     DestructiveButton* m_destructive;
 };

@@ -22,7 +22,9 @@ private Q_SLOTS:
     void tabLeadsToTheDestructiveButton();
     void aNoticeHasOneButton();
     void itIsReadAsAnAlert();
+    void aLongMessageFits_data();
     void aLongMessageFits();
+    void anEndlessMessageLeavesTheButtonsInTheirPlace();
 
 private:
     std::unique_ptr<QWidget> m_window;
@@ -110,15 +112,34 @@ void tst_Alert::itIsReadAsAnAlert()
     QCOMPARE(QAccessible::queryAccessibleInterface(m_alert.get())->text(QAccessible::Description), m_alert->message());
 }
 
+void tst_Alert::aLongMessageFits_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("words") << QStringLiteral("Computer Suunto EON Core ").repeated(6);
+    QTest::newRow("one word") << QStringLiteral("Computer").repeated(20);
+}
+
 void tst_Alert::aLongMessageFits()
 {
+    QFETCH(QString, name);
     m_alert->setMessage(
         QStringLiteral("Sei sicuro di voler eliminare l'attrezzatura '%1'? Questa azione non può essere "
                        "annullata.")
-            .arg(QStringLiteral("Computer Suunto EON Core ").repeated(6)));
+            .arg(name));
     m_alert->open();
     QCoreApplication::processEvents();
     QCOMPARE(test::clippedTexts(*m_alert), QStringList());
+    QVERIFY(m_alert->width() < 480);
+}
+
+void tst_Alert::anEndlessMessageLeavesTheButtonsInTheirPlace()
+{
+    m_alert->setMessage(QStringLiteral("Computer ").repeated(2000));
+    m_alert->open();
+    QCoreApplication::processEvents();
+    QVERIFY(m_window->geometry().contains(m_alert->geometry()));
+    for (const QWidget* button : std::initializer_list<QWidget*>{m_alert->safeButton(), m_alert->destructiveButton()})
+        QVERIFY(m_alert->rect().contains(button->geometry()));
 }
 
 ABISSORA_TEST(tst_Alert);
