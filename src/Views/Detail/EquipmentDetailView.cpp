@@ -77,7 +77,7 @@ QScrollArea* EquipmentDetailView::makeBody()
     layout->setSpacing(metrics::spaceM);
     for (QWidget* part : std::initializer_list<QWidget*>{m_header, m_technical, notes, m_actions, m_history})
         layout->addWidget(part);
-    layout->addStretch();
+    layout->addStretch(1); // takes all the spare height: no card grows
 
     auto* area = new QScrollArea;
     area->setWidget(content);

@@ -2,6 +2,7 @@
 #include "Alert.h"
 #include "ClippedTexts.h"
 #include "ContentView.h"
+#include "DetailHeader.h"
 #include "DetailParts.h"
 #include "EquipmentDetailView.h"
 #include "EquipmentListView.h"
@@ -103,6 +104,22 @@ private Q_SLOTS:
         QVERIFY(bar.value() > 0);
         s.select(1);
         QCOMPARE(bar.value(), 0);
+    }
+
+    void cardsKeepTheirHeightInATallWindow()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        s.window.resize(1280, 800);
+        s.select(0);
+        for (int level = 0; level < 5; ++level)
+            settle();
+        const QWidget& header = *s.window.findChild<DetailHeader*>();
+        const int height = header.height();
+        s.window.resize(1280, 1500);
+        for (int level = 0; level < 5; ++level)
+            settle();
+        QCOMPARE(header.height(), height);
     }
 
     void smallestWindowKeepsBothUsable()
