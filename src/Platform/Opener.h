@@ -11,7 +11,7 @@ class Opener
 public:
     virtual ~Opener() = default;
 
-    /// False when the system knows no application for it.
+    /// False when the system has nothing that opens it.
     virtual bool open(const QUrl& url) = 0;
 };
 

@@ -3,13 +3,21 @@
 
 #include "Opener.h"
 
+#include <chrono>
+
 namespace abissora {
 
-/// Asks the desktop.
+/// Asks the desktop. Where that is done by a command, a command that fails soon tells that nothing opens the address;
+/// one that goes on is taken for the opened application itself. Events other than the person's go on meanwhile.
 class DesktopOpener final : public Opener
 {
 public:
+    explicit DesktopOpener(std::chrono::milliseconds patience = std::chrono::milliseconds(700));
+
     bool open(const QUrl& url) override;
+
+private:
+    std::chrono::milliseconds m_patience;
 };
 
 } // namespace abissora

@@ -2,6 +2,7 @@
 #include "DocumentField.h"
 
 #include "Buttons.h"
+#include "DocumentOpening.h"
 #include "IconLabel.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
@@ -74,9 +75,7 @@ void DocumentField::refresh()
 
 void DocumentField::open()
 {
-    if (const auto path = m_documents.url(m_name.value_or(QString())))
-        m_opener.open(QUrl::fromLocalFile(*path));
-    else
+    if (!openDocument(m_name.value_or(QString()), m_documents, m_opener, *this))
         refresh();
 }
 

@@ -2,6 +2,7 @@
 #include "DocumentLink.h"
 
 #include "Buttons.h"
+#include "DocumentOpening.h"
 #include "TypeScale.h"
 
 #include <QHBoxLayout>
@@ -63,9 +64,7 @@ void DocumentLink::refresh()
 
 void DocumentLink::open()
 {
-    if (const auto path = m_documents.url(m_name.value_or(QString())))
-        m_opener.open(QUrl::fromLocalFile(*path));
-    else
+    if (!openDocument(m_name.value_or(QString()), m_documents, m_opener, *this))
         refresh();
 }
 

@@ -98,6 +98,22 @@ private Q_SLOTS:
                  QList<QUrl>({QUrl::fromLocalFile(s.f.documents.url(*s.stored().receiptFileName).value())}));
     }
 
+    void nothingOpensIt()
+    {
+        Shown s(attachReceipt);
+        s.f.opener.succeed(false);
+        click(*s.view, QStringLiteral("openReceipt"));
+        Alert& notice = openDialog<Alert>(*s.view);
+        QCOMPARE(notice.windowTitle(), QStringLiteral("Documento non aperto"));
+        QVERIFY(notice.message().endsWith(s.f.documents.url(*s.stored().receiptFileName).value()));
+        notice.activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), &notice);
+        click(notice, QStringLiteral("safe"));
+        settle();
+        QVERIFY(!isDialogOpen(*s.view));
+        QTRY_VERIFY(part(*s.view, QStringLiteral("openReceipt")).hasFocus());
+    }
+
     void replacingDeletesTheFileAndOffersTheUpload()
     {
         Shown s(attachReceipt);

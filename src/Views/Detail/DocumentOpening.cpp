@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "DocumentOpening.h"
+
+#include "Alert.h"
+
+#include <QDir>
+#include <QPointer>
+
+namespace abissora {
+
+bool openDocument(const QString& name, const MaintenanceDocumentStore& documents, Opener& opener, QWidget& place)
+{
+    const auto path = documents.url(name);
+    if (!path)
+        return false;
+    const QPointer<QWidget> shown(&place);
+    if (opener.open(QUrl::fromLocalFile(*path)) || !shown)
+        return true;
+    auto* notice = new Alert(&place);
+    notice->setAttribute(Qt::WA_DeleteOnClose);
+    notice->setTitle(QStringLiteral("Documento non aperto"));
+    notice->setMessage(QStringLiteral("Il sistema non ha aperto il documento: forse manca un'applicazione per i file "
+                                      "PDF. Il file si trova qui:\n%1")
+                           .arg(QDir::toNativeSeparators(*path)));
+    notice->makeNotice();
+    notice->open();
+    return true;
+}
+
+} // namespace abissora
