@@ -1,14 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "FormRow.h"
 
+#include "CheckedField.h"
 #include "Metrics.h"
 #include "TypeScale.h"
+#include "WrapLabel.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <algorithm>
 
 namespace abissora {
+
+namespace {
+
+enum Row { fieldRow, hintRow, errorRow };
+
+} // namespace
 
 FormRow::FormRow(const QString& label, QWidget* field, QWidget* parent)
     : QWidget(parent)
@@ -25,10 +33,12 @@ FormRow::FormRow(const QString& label, QWidget* field, QWidget* parent)
     setLabelColumn(labelColumn);
     layout->setColumnStretch(1, 1);
     const bool tall = field->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag;
-    layout->addWidget(name, 0, 0, tall ? Qt::AlignTop : Qt::AlignVCenter);
+    layout->addWidget(name, fieldRow, 0, tall ? Qt::AlignTop : Qt::AlignVCenter);
     const bool narrow = field->maximumWidth() < QWIDGETSIZE_MAX ||
                         !(field->sizePolicy().horizontalPolicy() & (QSizePolicy::ExpandFlag | QSizePolicy::GrowFlag));
-    layout->addWidget(field, 0, 1, narrow ? Qt::AlignLeft : Qt::Alignment());
+    layout->addWidget(field, fieldRow, 1, narrow ? Qt::AlignLeft : Qt::Alignment());
+    if (const auto* checked = qobject_cast<CheckedField*>(field))
+        connect(checked, &CheckedField::errorChanged, this, &FormRow::showError);
 }
 
 void FormRow::setLabelColumn(int width)
@@ -44,7 +54,7 @@ void FormRow::setHint(const QString& hint)
         m_hint->setForegroundRole(QPalette::PlaceholderText);
         m_hint->setTextFormat(Qt::PlainText);
         m_hint->setWordWrap(true);
-        static_cast<QGridLayout*>(layout())->addWidget(m_hint, 1, 1);
+        static_cast<QGridLayout*>(layout())->addWidget(m_hint, hintRow, 1);
     }
     m_hint->setText(hint);
     m_hint->setVisible(!hint.isEmpty());
@@ -53,8 +63,18 @@ void FormRow::setHint(const QString& hint)
 void FormRow::addBelow(QWidget* widget)
 {
     auto* const grid = static_cast<QGridLayout*>(layout());
-    constexpr int hintRow = 1;
-    grid->addWidget(widget, std::max(grid->rowCount(), hintRow + 1), 1);
+    grid->addWidget(widget, std::max(grid->rowCount(), errorRow + 1), 1);
+}
+
+void FormRow::showError(const QString& error)
+{
+    if (m_error == nullptr) {
+        m_error = new WrapLabel(TextStyle::Caption, &Tokens::danger);
+        m_error->setObjectName(QStringLiteral("error"));
+        static_cast<QGridLayout*>(layout())->addWidget(m_error, errorRow, 1);
+    }
+    m_error->setText(error);
+    m_error->setVisible(!error.isEmpty());
 }
 
 } // namespace abissora

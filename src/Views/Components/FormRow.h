@@ -7,6 +7,8 @@ class QLabel;
 
 namespace abissora {
 
+class WrapLabel;
+
 /// A field behind its label. The label stands right-aligned in a column as wide in every row of the form, and names the
 /// field to screen readers.
 class FormRow : public QWidget
@@ -14,9 +16,10 @@ class FormRow : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int labelColumn = 150; ///< at the usual text size
+    static constexpr int labelColumn = 156; ///< at the usual text size
 
-    /// Takes the field over. A field that does not want the whole width says so by its size policy.
+    /// Takes the field over. A field that does not want the whole width says so by its size policy. The error of a
+    /// CheckedField stands below it.
     FormRow(const QString& label, QWidget* field, QWidget* parent = nullptr);
 
     /// A width other than labelColumn, at the usual text size too.
@@ -28,7 +31,10 @@ public:
     void addBelow(QWidget* widget);
 
 private:
+    void showError(const QString& error);
+
     QLabel* m_hint = nullptr;
+    WrapLabel* m_error = nullptr;
 };
 
 } // namespace abissora

@@ -110,6 +110,12 @@ void Sheet::pressPrimary()
         m_primary->click();
 }
 
+void Sheet::goTo(QWidget* field)
+{
+    field->setFocus(Qt::TabFocusReason);
+    m_scroll->ensureWidgetVisible(field);
+}
+
 QSize Sheet::preferredSize() const
 {
     if (m_preferred.isValid())

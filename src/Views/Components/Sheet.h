@@ -46,6 +46,8 @@ Q_SIGNALS:
 protected:
     [[nodiscard]] QSize preferredSize() const override;
     [[nodiscard]] QWidget* firstFocus() const override;
+    /// Puts the cursor into a field of the body, with its text selected, and brings it into view.
+    void goTo(QWidget* field);
 
 private:
     [[nodiscard]] QWidget* makeHeader();

@@ -3,6 +3,7 @@
 
 #include "CostText.h"
 
+#include <QFocusEvent>
 #include <QValidator>
 
 namespace abissora {
@@ -47,10 +48,14 @@ private:
 } // namespace
 
 CostField::CostField(QWidget* parent)
-    : QLineEdit(parent)
+    : CheckedField(parent)
 {
     setPlaceholderText(QStringLiteral("0,00"));
     setValidator(new CostValidator(*this));
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (cost())
+            setError({});
+    });
 }
 
 void CostField::setCost(double cost)
@@ -64,6 +69,21 @@ void CostField::setCost(double cost)
 std::optional<double> CostField::cost() const
 {
     return text() == m_shown ? m_cost : costText::parse(text());
+}
+
+bool CostField::commit()
+{
+    const bool isAmount = cost().has_value();
+    setError(isAmount ? QString() : QStringLiteral("Importo non valido: scrivi un numero, per esempio 45,50"));
+    return isAmount;
+}
+
+void CostField::focusOutEvent(QFocusEvent* event)
+{
+    CheckedField::focusOutEvent(event);
+    // A popup menu of the field's own is no farewell.
+    if (event->reason() != Qt::PopupFocusReason)
+        commit();
 }
 
 } // namespace abissora

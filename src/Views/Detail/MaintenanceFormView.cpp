@@ -16,6 +16,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
+#include <limits>
 
 namespace abissora {
 
@@ -82,6 +83,7 @@ QWidget* MaintenanceFormView::makeDetails()
 {
     m_date->setObjectName(QStringLiteral("date"));
     m_date->setAccessibleName(QStringLiteral("Data"));
+    m_date->setFixedWidth(withText(FormRow::labelColumn, fontMetrics())); // the type stands above the other fields
     m_type->setObjectName(QStringLiteral("type"));
     m_type->setAccessibleName(QStringLiteral("Tipo"));
     for (const MaintenanceType type : allCases<MaintenanceType>()) {
@@ -89,6 +91,8 @@ QWidget* MaintenanceFormView::makeDetails()
         m_type->addItem(symbolIcon(look.icon, look.color), rawValue(type), static_cast<int>(type));
     }
     m_type->setFocusPolicy(Qt::StrongFocus);
+    for (QLineEdit* field : {m_description, m_performedBy})
+        field->setMaxLength(std::numeric_limits<int>::max()); // a form shall not shorten what is stored
     m_description->setObjectName(QStringLiteral("description"));
     m_description->setPlaceholderText(QStringLiteral("Inserisci la descrizione"));
 
@@ -97,7 +101,15 @@ QWidget* MaintenanceFormView::makeDetails()
     row->setSpacing(metrics::spaceM);
     row->addWidget(m_date);
     row->addWidget(m_type, 1);
+    auto* error = new WrapLabel(TextStyle::Caption, &Tokens::danger);
+    error->setObjectName(QStringLiteral("dateError"));
+    error->hide();
+    connect(m_date, &CheckedField::errorChanged, error, [error](const QString& text) {
+        error->setText(text);
+        error->setVisible(!text.isEmpty());
+    });
     group->content()->addLayout(row);
+    group->content()->addWidget(error);
     group->content()->addWidget(new FormRow(QStringLiteral("Descrizione*"), m_description));
     return group;
 }
@@ -172,7 +184,8 @@ void MaintenanceFormView::showRecord()
 void MaintenanceFormView::connectFields()
 {
     connect(m_date, &DateField::edited, this, [this] {
-        if (m_autoUpdateNextDate)
+        // What stands unfinished in the other field is the person's own.
+        if (m_autoUpdateNextDate && m_next->error().isEmpty())
             updateNextServiceDate();
     });
     connect(m_next, &DateField::edited, this, [this] { m_autoUpdateNextDate = false; });
@@ -199,16 +212,27 @@ void MaintenanceFormView::updateNextServiceDate()
     m_next->setInstant(m_context.calendar.addDays(date, equipmentIntervalDays()).value_or(date));
 }
 
-Maintenance MaintenanceFormView::record(double cost)
+CheckedField* MaintenanceFormView::firstInvalidField() const
+{
+    // The date first: the next one may follow it.
+    CheckedField* first = nullptr;
+    for (CheckedField* field : std::initializer_list<CheckedField*>{m_date, m_cost, m_next}) {
+        if (!field->commit() && first == nullptr)
+            first = field;
+    }
+    return first;
+}
+
+Maintenance MaintenanceFormView::record()
 {
     Maintenance record = m_original;
     if (!m_isEditing)
         record.id = m_context.ids.next();
-    record.date = m_date->instant(); // first: the next date may follow it
+    record.date = m_date->instant();
     record.type = static_cast<MaintenanceType>(m_type->currentData().toInt());
     record.description = textOf(*m_description, m_original.description);
     record.performedBy = textOf(*m_performedBy, m_original.performedBy);
-    record.cost = cost;
+    record.cost = m_cost->cost().value_or(m_original.cost);
     record.isCompleted = m_completed->isChecked();
     record.receiptFileName = m_receipt->fileName();
     record.certificateFileName = m_certificate->fileName();
@@ -222,16 +246,14 @@ void MaintenanceFormView::save()
 {
     if (m_description->text().isEmpty())
         return;
-    const std::optional<double> cost = m_cost->cost();
-    if (!cost) {
-        m_cost->setFocus(Qt::OtherFocusReason);
-        m_cost->selectAll();
+    if (CheckedField* const field = firstInvalidField()) {
+        goTo(field);
         return;
     }
     if (m_isEditing)
-        m_context.equipment.updateMaintenance(m_equipmentId, record(*cost));
+        m_context.equipment.updateMaintenance(m_equipmentId, record());
     else
-        m_context.equipment.addMaintenance(m_equipmentId, record(*cost));
+        m_context.equipment.addMaintenance(m_equipmentId, record());
     accept();
 }
 

@@ -10,6 +10,7 @@ class QPlainTextEdit;
 
 namespace abissora {
 
+class CheckedField;
 class CostField;
 class DateField;
 class DocumentField;
@@ -28,7 +29,7 @@ public:
     /// The days between two services of the item.
     [[nodiscard]] std::int64_t equipmentIntervalDays() const;
     void updateNextServiceDate();
-    /// Does nothing while the record lacks its description; takes the person to a cost that is no number.
+    /// Does nothing while the record lacks its description; takes the person to a date or a cost that is none.
     void save();
 
     void reject() override;
@@ -42,7 +43,8 @@ private:
     [[nodiscard]] QWidget* makeNotes();
     void connectFields();
     void showRecord();
-    [[nodiscard]] Maintenance record(double cost);
+    [[nodiscard]] CheckedField* firstInvalidField() const;
+    [[nodiscard]] Maintenance record();
 
     AppContext m_context;
     QUuid m_equipmentId;

@@ -12,7 +12,6 @@
 #include <QTextCharFormat>
 #include <QToolButton>
 #include <QWidgetAction>
-#include <optional>
 
 namespace abissora {
 
@@ -71,7 +70,7 @@ void setArrow(QCalendarWidget& calendar, const char* name, Qt::ArrowType arrow)
 } // namespace
 
 DateField::DateField(const Calendar& calendar, QWidget* parent)
-    : QLineEdit(parent)
+    : CheckedField(parent)
     , m_calendar(calendar)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -82,7 +81,7 @@ DateField::DateField(const Calendar& calendar, QWidget* parent)
     connect(open, &QAction::triggered, this, &DateField::openCalendar);
     // Not textEdited: assistive technology sets the text without it. setInstant() gives no other day than it just took.
     connect(this, &QLineEdit::textChanged, this, &DateField::takeCompleteDay);
-    connect(this, &QLineEdit::editingFinished, this, &DateField::takeTypedDay);
+    connect(this, &QLineEdit::editingFinished, this, &DateField::commit);
 }
 
 void DateField::setInstant(Instant instant)
@@ -93,21 +92,32 @@ void DateField::setInstant(Instant instant)
     m_originalDay = local.date();
     m_day = m_originalDay;
     setText(textOf(m_day));
+    setError({});
 }
 
 Instant DateField::instant() const
 {
-    const QDate day = typedDay();
+    const QDate day = typedDay().value_or(m_day);
     if (day == m_originalDay)
         return m_original;
     return m_calendar.instant(day, m_timeOfDay).value_or(m_original);
 }
 
-QDate DateField::typedDay() const
+std::optional<QDate> DateField::typedDay() const
 {
-    if (const auto day = completeDay(text()))
-        return *day;
-    return shortDay(text()).value_or(m_day);
+    const auto day = completeDay(text());
+    return day ? day : shortDay(text());
+}
+
+bool DateField::commit()
+{
+    if (const auto day = typedDay()) {
+        takeDay(*day);
+        return true;
+    }
+    setError((text().trimmed().isEmpty() ? QStringLiteral("Manca la data") : QStringLiteral("Data non valida")) +
+             QStringLiteral(": scrivi giorno, mese e anno, per esempio ") + textOf(m_day));
+    return false;
 }
 
 void DateField::takeDay(QDate day)
@@ -116,6 +126,7 @@ void DateField::takeDay(QDate day)
     m_day = day;
     if (text() != textOf(day))
         setText(textOf(day));
+    setError({});
     if (isAnother)
         Q_EMIT edited();
 }
@@ -126,14 +137,9 @@ void DateField::takeCompleteDay()
         takeDay(*day);
 }
 
-void DateField::takeTypedDay()
-{
-    takeDay(typedDay());
-}
-
 bool DateField::step(int key)
 {
-    const QDate day = typedDay();
+    const QDate day = typedDay().value_or(m_day);
     QDate other;
     switch (key) {
     case Qt::Key_Up:
@@ -171,7 +177,7 @@ void DateField::openCalendar()
 {
     if (m_popup == nullptr)
         makeCalendar();
-    m_days->setSelectedDate(typedDay());
+    m_days->setSelectedDate(typedDay().value_or(m_day));
     m_days->showSelectedDate();
     m_popup->popup(mapToGlobal(QPoint(0, height())));
     m_days->setFocus(Qt::PopupFocusReason);

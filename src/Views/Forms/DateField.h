@@ -2,9 +2,10 @@
 #pragma once
 
 #include "Calendar.h"
+#include "CheckedField.h"
 
-#include <QLineEdit>
 #include <QMenu>
+#include <optional>
 
 class QCalendarWidget;
 
@@ -12,19 +13,21 @@ namespace abissora {
 
 /// The day of an instant as dd/MM/yyyy: typed, stepped (Up and Down a day, Page Up and Page Down a month) or picked
 /// from a calendar (the mark at the end, Alt+Down, F4). Only the day is edited: another day keeps the time of day, the
-/// original day gives the original instant back to the millisecond. A text that is no day of the years 1 to 9999 leaves
-/// the day as it was.
-class DateField : public QLineEdit
+/// original day gives the original instant back to the millisecond. A text that is no day of the years 1 to 9999 is no
+/// value.
+class DateField : public CheckedField
 {
     Q_OBJECT
 
 public:
     explicit DateField(const Calendar& calendar, QWidget* parent = nullptr);
 
-    /// Emits nothing.
+    /// Tells only what becomes of an error.
     void setInstant(Instant instant);
-    /// With what is being typed, as far as it is a day.
+    /// With what is being typed; the last day that stood here while the text is none.
     [[nodiscard]] Instant instant() const;
+
+    bool commit() override;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -37,10 +40,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    [[nodiscard]] QDate typedDay() const;
+    [[nodiscard]] std::optional<QDate> typedDay() const;
     void takeDay(QDate day);
     void takeCompleteDay();
-    void takeTypedDay();
     bool step(int key);
     void openCalendar();
     void makeCalendar();

@@ -14,7 +14,6 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <limits>
 
@@ -37,14 +36,6 @@ QLineEdit* makeTextField(const char* objectName, const QString& placeholder = {}
     field->setMaxLength(std::numeric_limits<int>::max()); // a form shall not shorten what is stored
     field->setPlaceholderText(placeholder);
     return field;
-}
-
-void bringIntoView(QWidget* field)
-{
-    for (QWidget* around = field->parentWidget(); around != nullptr; around = around->parentWidget()) {
-        if (auto* area = qobject_cast<QScrollArea*>(around))
-            area->ensureWidgetVisible(field);
-    }
 }
 
 } // namespace
@@ -192,6 +183,16 @@ QLineEdit* EquipmentForm::firstEmptyRequiredField() const
     return nullptr;
 }
 
+DateField* EquipmentForm::firstInvalidDate() const
+{
+    DateField* first = nullptr;
+    for (DateField* field : {m_lastServiceDate, m_purchaseDate}) {
+        if (!field->commit())
+            first = field;
+    }
+    return first;
+}
+
 void EquipmentForm::followTypes()
 {
     const QList<EquipmentTypeModel> offered = m_context.types.filteredTypes();
@@ -216,9 +217,14 @@ void EquipmentForm::refresh()
 
 void EquipmentForm::saveEquipment()
 {
+    DateField* const invalidDate = firstInvalidDate();
     const EquipmentFormState entered = state();
     if (!entered.isFormValid()) {
         showAlert(QStringLiteral("Per favore, compila tutti i campi obbligatori."));
+        return;
+    }
+    if (invalidDate != nullptr) {
+        goTo(invalidDate);
         return;
     }
     save(entered, entered.calculateNextServiceDate(m_context.types, m_context.calendar, m_context.clock.now()));
@@ -233,10 +239,8 @@ void EquipmentForm::showAlert(const QString& message)
     alert->setMessage(message);
     alert->makeNotice();
     connect(alert, &QDialog::finished, this, [this] {
-        if (QLineEdit* const field = firstEmptyRequiredField()) {
-            field->setFocus(Qt::OtherFocusReason);
-            bringIntoView(field);
-        }
+        if (QLineEdit* const field = firstEmptyRequiredField())
+            goTo(field);
     });
     alert->open();
 }

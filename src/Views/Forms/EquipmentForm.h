@@ -45,6 +45,7 @@ private:
 
     [[nodiscard]] EquipmentFormState state() const;
     [[nodiscard]] QLineEdit* firstEmptyRequiredField() const;
+    [[nodiscard]] DateField* firstInvalidDate() const;
     void followTypes();
     void refresh();
     void saveEquipment();

@@ -28,7 +28,7 @@ namespace {
 void drawFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget)
 {
     if (isTextEdit(widget)) {
-        fields::drawFieldPanel(option, painter);
+        fields::drawFieldPanel(option, painter, widget);
         return;
     }
     const Tokens& tokens = Tokens::of(option.palette);
@@ -92,7 +92,7 @@ void AbissoraStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
     case PE_PanelLineEdit:
     case PE_FrameLineEdit:
         if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0)
-            fields::drawFieldPanel(*option, *painter);
+            fields::drawFieldPanel(*option, *painter, widget);
         return;
     case PE_Frame:
         return drawFrame(*option, *painter, widget);
@@ -210,7 +210,7 @@ void AbissoraStyle::drawComplexControl(ComplexControl control, const QStyleOptio
         break;
     case CC_SpinBox:
         if (const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option))
-            return fields::drawSpinBox(*spin, *painter);
+            return fields::drawSpinBox(*spin, *painter, widget);
         break;
     case CC_ScrollBar:
         if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))

@@ -11,6 +11,7 @@ namespace {
 
 constexpr const char* buttonProperty = "abissoraButtonLook";
 constexpr const char* selectionProperty = "abissoraSelectionLook";
+constexpr const char* invalidProperty = "abissoraInvalid";
 
 } // namespace
 
@@ -37,6 +38,17 @@ SelectionLook selectionLook(const QWidget* view)
 {
     const QVariant look = view != nullptr ? view->property(selectionProperty) : QVariant();
     return look.isValid() ? static_cast<SelectionLook>(look.toInt()) : SelectionLook::Row;
+}
+
+void setInvalidLook(QWidget& field, bool invalid)
+{
+    field.setProperty(invalidProperty, invalid);
+    field.update();
+}
+
+bool hasInvalidLook(const QWidget* field)
+{
+    return field != nullptr && field->property(invalidProperty).toBool();
 }
 
 } // namespace abissora

@@ -33,4 +33,8 @@ enum class SelectionLook {
 void setSelectionLook(QAbstractItemView& view, SelectionLook look);
 [[nodiscard]] SelectionLook selectionLook(const QWidget* view);
 
+/// A field that holds what cannot be taken stands in the colour of danger.
+void setInvalidLook(QWidget& field, bool invalid);
+[[nodiscard]] bool hasInvalidLook(const QWidget* field);
+
 } // namespace abissora

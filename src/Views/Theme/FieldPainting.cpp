@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FieldPainting.h"
 
+#include "ControlLook.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
@@ -49,13 +50,18 @@ void drawSpinButton(const QStyleOptionSpinBox& option, QPainter& painter, QStyle
 
 } // namespace
 
-void drawFieldPanel(const QStyleOption& option, QPainter& painter)
+void drawFieldPanel(const QStyleOption& option, QPainter& painter, const QWidget* widget)
 {
     const Tokens& tokens = Tokens::of(option.palette);
     const bool enabled = option.state & QStyle::State_Enabled;
+    const bool focused = option.state & QStyle::State_HasFocus;
+    const bool invalid = enabled && hasInvalidLook(widget);
+    const QColor border = invalid ? tokens.danger : tokens.strongBorder;
     drawPanel(painter, option.rect, metrics::controlRadius, enabled ? tokens.field : tokens.window,
-              enabled ? tokens.strongBorder : tokens.border);
-    if (option.state & QStyle::State_HasFocus)
+              enabled ? border : tokens.border);
+    if (focused && invalid)
+        drawPanel(painter, option.rect, metrics::controlRadius, {}, tokens.danger, metrics::focusRingWidth);
+    else if (focused)
         drawFocusRing(painter, option.rect, metrics::controlRadius, option.palette);
 }
 
@@ -63,7 +69,7 @@ void drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const Q
 {
     const Tokens& tokens = Tokens::of(option.palette);
     const bool enabled = option.state & QStyle::State_Enabled;
-    drawFieldPanel(option, painter);
+    drawFieldPanel(option, painter, widget);
     const QRect arrow = comboBoxPart(option, QStyle::SC_ComboBoxArrow);
     if (qobject_cast<const QDateTimeEdit*>(widget) == nullptr) {
         drawGlyph(painter, arrow, Glyph::ChevronUpDown, enabled ? tokens.text : tokens.disabled, 10);
@@ -128,9 +134,9 @@ QSize comboBoxSize(const QStyleOptionComboBox& option, QSize contents)
             controlHeight(option.fontMetrics)};
 }
 
-void drawSpinBox(const QStyleOptionSpinBox& option, QPainter& painter)
+void drawSpinBox(const QStyleOptionSpinBox& option, QPainter& painter, const QWidget* widget)
 {
-    drawFieldPanel(option, painter);
+    drawFieldPanel(option, painter, widget);
     if (option.buttonSymbols == QAbstractSpinBox::NoButtons)
         return;
     const bool side = sideBySide(option);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "CheckedField.h"
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
 #include "FormRow.h"
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void fieldsOfAFormStandInOneColumn();
     void aShortFieldKeepsItsWidth();
     void aHintStandsBelowTheField();
+    void theErrorOfAFieldStandsBelowIt();
     void largerTextFits();
 };
 
@@ -68,6 +70,37 @@ void tst_FormRow::aHintStandsBelowTheField()
     const QLabel* const hint = row.findChildren<QLabel*>().last();
     QVERIFY(hint->y() > line->geometry().bottom());
     QCOMPARE(hint->x(), line->x());
+}
+
+void tst_FormRow::theErrorOfAFieldStandsBelowIt()
+{
+    class Field final : public CheckedField
+    {
+    public:
+        bool commit() override
+        {
+            setError(text());
+            return text().isEmpty();
+        }
+    };
+    auto* const field = new Field;
+    FormRow row(QStringLiteral("Data"), field);
+    row.resize(520, 30);
+    activate(row);
+    const int height = row.sizeHint().height();
+    field->setText(QStringLiteral("Data non valida"));
+    QVERIFY(!field->commit());
+    QTRY_VERIFY(row.sizeHint().height() > height);
+    row.resize(520, row.sizeHint().height());
+    auto* const error = row.findChild<QLabel*>(QStringLiteral("error"));
+    QVERIFY(error && error->isVisible());
+    QCOMPARE(error->text(), QStringLiteral("Data non valida"));
+    QCOMPARE(error->x(), field->x());
+    QVERIFY(error->y() > field->geometry().bottom());
+    QCOMPARE(test::clippedTexts(row), QStringList());
+    field->clear();
+    QVERIFY(field->commit());
+    QVERIFY(!error->isVisible());
 }
 
 void tst_FormRow::largerTextFits()

@@ -89,6 +89,23 @@ private Q_SLOTS:
     }
 
     /// Correcting a digit in the middle leads through texts that are no numbers.
+    void whatIsNoAmountIsMarkedOnceItIsLeft()
+    {
+        CostField field;
+        field.show();
+        field.activateWindow();
+        field.setFocus();
+        QTRY_VERIFY(field.hasFocus());
+        QTest::keyClicks(&field, QStringLiteral("1.234.5"));
+        QVERIFY(field.error().isEmpty());
+        field.clearFocus();
+        QCOMPARE(field.text(), QStringLiteral("1.234.5"));
+        QCOMPARE(field.error(), QStringLiteral("Importo non valido: scrivi un numero, per esempio 45,50"));
+        QVERIFY(!field.commit());
+        QTest::keyClicks(&field, QStringLiteral("00"));
+        QVERIFY(field.error().isEmpty());
+    }
+
     void digitsCanBeReplacedOneByOne()
     {
         CostField field;

@@ -268,6 +268,31 @@ private Q_SLOTS:
         QCOMPARE(s.history(), QList<Maintenance>());
     }
 
+    void unfinishedDatesAreNotSaved()
+    {
+        Shown s;
+        QTest::keyClicks(&s.field<QLineEdit>("description"), QStringLiteral("Prova"));
+        s.typeDate("nextServiceDate", QStringLiteral("12/2027"));
+        auto& date = s.field<DateField>("date");
+        date.setFocus();
+        date.selectAll();
+        QTest::keyClick(&date, Qt::Key_Delete);
+        s.save();
+        QVERIFY(s.history().isEmpty());
+        QVERIFY(date.hasFocus());
+        QVERIFY(textOf(*s.form, QStringLiteral("dateError")).startsWith(QStringLiteral("Manca la data")));
+        s.typeDate("date", QStringLiteral("01/06/2026"));
+        QVERIFY(!isShown(*s.form, QStringLiteral("dateError")));
+        // The next date follows no more: what stands there unfinished is the person's own.
+        QCOMPARE(s.field<DateField>("nextServiceDate").text(), QStringLiteral("12/2027"));
+        s.save();
+        QVERIFY(s.history().isEmpty());
+        QVERIFY(s.field<DateField>("nextServiceDate").hasFocus());
+        s.typeDate("nextServiceDate", QStringLiteral("01/12/2027"));
+        s.save();
+        QCOMPARE(s.history().size(), 1);
+    }
+
     void cancellingChangesNothing()
     {
         Shown s;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "ControlLook.h"
 #include "DateField.h"
 
 #include "TestRunner.h"
@@ -246,15 +247,15 @@ private Q_SLOTS:
         QCOMPARE(edited.size(), 4);
     }
 
-    void nonsenseChangesNothing_data()
+    void nonsenseStaysAsItWasTyped_data()
     {
         QTest::addColumn<QString>("typed");
-        for (const char* typed : {"abc!", "", "31/02/2026", "00/01/2026", "1/13/2026", "01/01/0000", "15/06", "3",
+        for (const char* typed : {"abc!", "", " ", "31/02/2026", "00/01/2026", "1/13/2026", "01/01/0000", "15/06", "3",
                                   "15/06/12026", "٠١/٠١/٢٠٢٥"})
             QTest::newRow(typed) << QString::fromUtf8(typed);
     }
 
-    void nonsenseChangesNothing()
+    void nonsenseStaysAsItWasTyped()
     {
         QFETCH(QString, typed);
         Shown s;
@@ -265,10 +266,57 @@ private Q_SLOTS:
         s.field->selectAll();
         s.field->insert(typed);
         QCOMPARE(iso(s.field->instant()), given);
+        QVERIFY(s.field->error().isEmpty()); // it may become a day yet
         s.other->setFocus();
-        QCOMPARE(s.field->text(), QStringLiteral("15/06/2026"));
+        QCOMPARE(s.field->text(), typed);
+        QVERIFY(s.field->error().endsWith(QStringLiteral("scrivi giorno, mese e anno, per esempio 15/06/2026")));
+        QCOMPARE(s.field->accessibleDescription(), s.field->error());
+        QVERIFY(hasInvalidLook(s.field));
+        QVERIFY(!s.field->commit());
         QCOMPARE(iso(s.field->instant()), given);
         QVERIFY(edited.isEmpty());
+    }
+
+    void anErrorGoesWithADay_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::newRow("the day before") << "15062026";
+        QTest::newRow("another") << "16062026";
+        QTest::newRow("once it is left") << "1-2-26";
+    }
+
+    void anErrorGoesWithADay()
+    {
+        QFETCH(QString, typed);
+        Shown s;
+        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00Z")));
+        s.typeOver(QStringLiteral("31/02"));
+        s.other->setFocus();
+        QSignalSpy error(s.field, &CheckedField::errorChanged);
+        s.typeOver(typed);
+        s.other->setFocus();
+        QCOMPARE(error.size(), 1);
+        QVERIFY(s.field->error().isEmpty());
+        QVERIFY(!hasInvalidLook(s.field));
+    }
+
+    void anErrorGoesWithTheNextInstant()
+    {
+        Shown s;
+        s.typeOver(QStringLiteral("x"));
+        s.other->setFocus();
+        QVERIFY(!s.field->error().isEmpty());
+        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00Z")));
+        QVERIFY(s.field->error().isEmpty());
+    }
+
+    void steppingStartsFromTheLastDay()
+    {
+        Shown s;
+        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00Z")));
+        s.typeOver(QStringLiteral("x"));
+        QTest::keyClick(s.field, Qt::Key_Up);
+        QCOMPARE(s.field->text(), QStringLiteral("16/06/2026"));
     }
 
     void theWheelBelongsToWhatIsAround()

@@ -243,6 +243,31 @@ private Q_SLOTS:
         QCOMPARE(f.calendar.local(item.nextServiceDate).date(), QDate(2026, 2, 1));
     }
 
+    void anUnfinishedDateIsNotSaved()
+    {
+        ScreenFixture f(QList<Equipment>{});
+        Open o(f);
+        o.driver.type("name", QStringLiteral("Pinne"));
+        o.driver.type("brand", QStringLiteral("Mares"));
+        o.driver.type("purchaseDate", QStringLiteral("31/02/2026"));
+        o.driver.type("lastServiceDate", QStringLiteral("1/2"));
+        QTest::keyClick(&o.form, Qt::Key_Return, Qt::ControlModifier);
+        QVERIFY(o.form.isVisible());
+        QVERIFY(!o.driver.alert());
+        QVERIFY(f.equipment.equipment().isEmpty());
+        auto& date = o.driver.part<DateField>("purchaseDate");
+        QVERIFY(date.hasFocus());
+        QCOMPARE(date.selectedText(), QStringLiteral("31/02/2026"));
+        QCOMPARE(visibleTexts(o.form).filter(QStringLiteral("Data non valida")).size(), 2);
+
+        o.driver.type("purchaseDate", QStringLiteral("28/02/2026"));
+        o.driver.type("lastServiceDate", QStringLiteral("1/2/26"));
+        QTest::keyClick(&o.form, Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(f.equipment.equipment().size(), 1);
+        QCOMPARE(f.context.dates.abbreviatedDate(f.equipment.equipment().first().lastServiceDate),
+                 QStringLiteral("1 feb 2026"));
+    }
+
     void returnInAFieldSavesNothing()
     {
         ScreenFixture f;

@@ -85,7 +85,7 @@ void tst_Tokens::contrastOfPairs_data()
         pairs({"secondary text", &Tokens::secondaryText},
               {window, sidebar, surface, field, accentTint, selection, divider}, textContrast);
         pairs({"accent ink", &Tokens::accentInk}, {window, surface, field, accentTint}, textContrast);
-        pairs({"danger", &Tokens::danger}, {window, surface, selection, dangerTint}, textContrast);
+        pairs({"danger", &Tokens::danger}, {window, surface, field, selection, dangerTint}, textContrast);
         pairs({"ok", &Tokens::ok}, {window, surface, selection}, textContrast);
         pairs({"warning", &Tokens::warning}, {window, surface}, textContrast);
         pairs({"text on fill", &Tokens::onFill},
