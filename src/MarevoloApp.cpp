@@ -5,18 +5,24 @@
 #include "Theme.h"
 
 #include <QApplication>
+#include <QPointer>
 
 namespace abissora {
 
-MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories& directories)
+MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories& directories, const Product& product,
+                         HttpClient& http)
     : m_application(application)
     , m_directories(directories)
+    , m_product(product)
     , m_preferences(directories.preferences(), directories.backups(), m_clock)
     , m_documents(directories.maintenanceDocuments(), m_filePanel, m_ids, m_console)
     , m_equipment(StorageManager(m_preferences, m_console, m_clock, m_calendar, m_ids), m_documents, m_console, m_clock,
                   m_calendar)
     , m_settings(m_preferences, m_console)
     , m_types(m_preferences, m_symbols, m_console, m_ids)
+    , m_info(m_package, m_clock, m_calendar)
+    , m_checker(http, m_info, m_product)
+    , m_updates(m_checker, m_clock)
 {
     QApplication::setWindowIcon(applicationIcon());
     applyScheme();
@@ -30,6 +36,9 @@ void MarevoloApp::showMainWindow()
     MainWindow& window = mainWindow();
     if (!window.isVisible()) {
         window.show();
+        // After the first paint: connecting takes its time.
+        if (!std::exchange(m_hasStarted, true))
+            QMetaObject::invokeMethod(this, &MarevoloApp::checkForUpdatesAtStart, Qt::QueuedConnection);
         return;
     }
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
@@ -37,12 +46,32 @@ void MarevoloApp::showMainWindow()
     window.activateWindow();
 }
 
+QCoro::Task<> MarevoloApp::checkForUpdatesAtStart()
+{
+    if (!m_settings.checkForUpdatesOnLaunch())
+        co_return;
+    const QPointer<MarevoloApp> alive(this);
+    co_await m_updates.checkForUpdates();
+    if (alive && m_updates.availableUpdate())
+        Q_EMIT updateOffered(*m_updates.availableUpdate());
+}
+
 MainWindow& MarevoloApp::mainWindow()
 {
     if (!m_mainWindow) {
-        const AppContext context{
-            m_equipment, m_types,     m_settings, m_console,  m_clock,
-            m_ids,       m_documents, m_opener,   m_calendar, DateFormat(DateFormat::userLocale(), m_calendar)};
+        const AppContext context{m_equipment,
+                                 m_types,
+                                 m_settings,
+                                 m_updates,
+                                 m_console,
+                                 m_clock,
+                                 m_ids,
+                                 m_documents,
+                                 m_opener,
+                                 m_info,
+                                 m_product,
+                                 m_calendar,
+                                 DateFormat(DateFormat::userLocale(), m_calendar)};
         m_mainWindow = std::make_unique<MainWindow>(context, m_directories.windowStateFile());
     }
     return *m_mainWindow;

@@ -20,19 +20,29 @@ class MarevoloApp : public QObject
     Q_OBJECT
 
 public:
-    /// `application` must outlive it. Loads the register and the types.
-    MarevoloApp(QApplication& application, const ApplicationDirectories& directories);
+    /// Everything passed by reference must outlive it, except the directories and the product. Loads the register and
+    /// the types.
+    MarevoloApp(QApplication& application, const ApplicationDirectories& directories, const Product& product,
+                HttpClient& http);
     ~MarevoloApp() override;
 
-    /// Creates the main window at the first call and brings it forward at every other.
+    /// Shows the main window at the first call, which begins the check for updates if the person wants one at start,
+    /// and brings it forward at every other.
     void showMainWindow();
+    /// Created at the first call.
     [[nodiscard]] MainWindow& mainWindow();
 
+Q_SIGNALS:
+    /// The check at start found a newer release.
+    void updateOffered(const abissora::UpdateInfo& update);
+
 private:
+    QCoro::Task<> checkForUpdatesAtStart();
     void applyScheme();
 
     QApplication& m_application;
     ApplicationDirectories m_directories;
+    Product m_product;
     SystemClock m_clock;
     Calendar m_calendar;
     RandomIdGenerator m_ids;
@@ -45,7 +55,12 @@ private:
     EquipmentViewModel m_equipment;
     SettingsViewModel m_settings;
     EquipmentTypeViewModel m_types;
+    BuiltInPackageInformation m_package;
+    AppInfo m_info;
+    UpdateChecker m_checker;
+    UpdateCheckerViewModel m_updates;
     std::unique_ptr<MainWindow> m_mainWindow;
+    bool m_hasStarted = false;
 };
 
 } // namespace abissora

@@ -156,4 +156,13 @@ private:
     std::optional<QString> m_executablePath;
 };
 
+/// A release with these two texts.
+inline FakePackageInformation release(const QString& version, const QString& build)
+{
+    FakePackageInformation package;
+    package.set(QStringLiteral("CFBundleShortVersionString"), version);
+    package.set(QStringLiteral("CFBundleVersion"), build);
+    return package;
+}
+
 } // namespace abissora::test

@@ -74,13 +74,13 @@ def module_of(header):
 
 
 @rule("qt-modules", is_below_views, """
-Below Views only Qt Core is used, and Qt Network in Platform/HttpClient* alone: records, services and state objects run
+Below Views only Qt Core is used, and Qt Network in Platform/*HttpClient* alone: records, services and state objects run
 without a screen, in tests and tools. Fix: name colours and symbols (Models/NamedColor.h) and turn them into a QColor or
 a picture in Views/Theme; reach the network through Platform/HttpClient.h.
 """)
 def check_qt_modules(sources):
     for source in sources:
-        is_http_client = source.path.parent == Path("src/Platform") and source.path.name.startswith("HttpClient")
+        is_http_client = source.path.parent == Path("src/Platform") and "HttpClient" in source.path.name
         for number, name, _ in includes(source):
             module = module_of(name)
             if module == "other":

@@ -3,6 +3,7 @@
 
 #include "Equipment.h"
 #include "EquipmentTypeModel.h"
+#include "UpdateManifest.h"
 
 #include <string_view>
 #include <tuple>
@@ -78,6 +79,17 @@ struct Fields<EquipmentTypeModel>
         Field{"color", &EquipmentTypeModel::color},
         Field{"serviceIntervalDays", &EquipmentTypeModel::serviceIntervalDays},
         Field{"isActive", &EquipmentTypeModel::isActive},
+    };
+};
+
+template <>
+struct Fields<UpdateManifest>
+{
+    static constexpr std::tuple all{
+        Field{"version", &UpdateManifest::version},
+        Field{"build", &UpdateManifest::build},
+        Field{"downloadURL", &UpdateManifest::downloadURL},
+        Field{"releaseNotes", &UpdateManifest::releaseNotes},
     };
 };
 

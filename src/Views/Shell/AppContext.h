@@ -11,6 +11,7 @@
 #include "MaintenanceDocumentStore.h"
 #include "Opener.h"
 #include "SettingsViewModel.h"
+#include "UpdateCheckerViewModel.h"
 
 namespace abissora {
 
@@ -21,11 +22,14 @@ struct AppContext
     EquipmentViewModel& equipment;
     EquipmentTypeViewModel& types;
     SettingsViewModel& settings;
+    UpdateCheckerViewModel& updates;
     Console& console;
     const Clock& clock;
     IdGenerator& ids;
     MaintenanceDocumentStore& documents;
     Opener& opener;
+    const AppInfo& info;
+    const Product& product;
     Calendar calendar;
     DateFormat dates;
 };

@@ -6,6 +6,7 @@
 #include "Fakes.h"
 #include "MaintenanceDocumentStore.h"
 #include "RecordJson.h"
+#include "ScriptedHttpClient.h"
 #include "SymbolIcon.h"
 
 #include <QTemporaryDir>
@@ -36,9 +37,19 @@ public:
         , equipment(StorageManager(seeded(stored), console, clock, calendar, ids), documents, console, clock, calendar)
         , settings(preferences, console)
         , types(preferences, symbols, console, ids)
-        , context{
-              equipment, types,     settings, console,  clock,
-              ids,       documents, opener,   calendar, DateFormat(QLocale(QLocale::Italian, QLocale::Italy), calendar)}
+        , context{equipment,
+                  types,
+                  settings,
+                  updates,
+                  console,
+                  clock,
+                  ids,
+                  documents,
+                  opener,
+                  info,
+                  product,
+                  calendar,
+                  DateFormat(QLocale(QLocale::Italian, QLocale::Italy), calendar)}
     {
         console.clear();
     }
@@ -62,12 +73,19 @@ public:
     ScriptedFilePanel panel;
     RecordingOpener opener;
     ResourceSymbolLibrary symbols;
+    FakePackageInformation package = release(QStringLiteral("1.2.0"), QStringLiteral("42"));
+    AppInfo info{package, clock, calendar};
+    Product product{QStringLiteral("Abissora"), QUrl(QStringLiteral("https://abissora.example/")),
+                    QUrl(QStringLiteral("https://abissora.example/version.json"))};
+    ScriptedHttpClient http;
+    UpdateChecker checker{http, info, product};
     ApplicationDirectories directories;
     PreferencesStore preferences;
     MaintenanceDocumentStore documents;
     EquipmentViewModel equipment;
     SettingsViewModel settings;
     EquipmentTypeViewModel types;
+    UpdateCheckerViewModel updates{checker, clock};
     AppContext context;
 
 private:

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+namespace abissora {
+
+/// Who makes the program and where it lives on the web; chosen when the program is built, see cmake/Product.cmake.
+struct Product
+{
+    QString author;
+    QUrl websiteURL;  ///< https, ends in "/"
+    QUrl manifestURL; ///< the newest release in JSON; a constant of its own, not derived from the website
+
+    /// Ends the program when an address is none.
+    [[nodiscard]] static Product builtIn();
+};
+
+} // namespace abissora

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "Program.h"
+
+#include "AtomicFile.h"
+#include "CommandLine.h"
+#include "Display.h"
+#include "MainWindow.h"
+#include "MarevoloApp.h"
+#include "NetworkHttpClient.h"
+#include "SingleInstance.h"
+#include "Snapshot.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+#include <csignal>
+#include <cstdio>
+
+namespace abissora {
+
+namespace {
+
+void say(std::FILE* stream, const QString& text)
+{
+    std::fputs(qUtf8Printable(text), stream);
+}
+
+int fail(const QString& sentence)
+{
+    say(stderr, sentence + QLatin1Char('\n'));
+    return EXIT_FAILURE;
+}
+
+QStringList rawArguments(int argc, char** argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+/// --help and --version are answered without a screen, and so before the toolkit looks for one.
+bool answered(const QStringList& arguments)
+{
+    const auto asks = [&](const char* brief, const char* full) {
+        return arguments.contains(QLatin1String(brief)) || arguments.contains(QLatin1String(full));
+    };
+    if (asks("-h", "--help"))
+        say(stdout, CommandLine::helpText());
+    else if (asks("-v", "--version"))
+        say(stdout, CommandLine::versionText());
+    else
+        return false;
+    return true;
+}
+
+ApplicationDirectories directoriesFor(const CommandLine& commandLine)
+{
+    const QString chosen =
+        commandLine.dataDir.isEmpty() ? qEnvironmentVariable("ABISSORA_DATA_DIR") : commandLine.dataDir;
+    return chosen.isEmpty() ? ApplicationDirectories::standard() : ApplicationDirectories(chosen, true);
+}
+
+int run(QApplication& application, const CommandLine& commandLine, const Product& product)
+{
+    const ApplicationDirectories directories = directoriesFor(commandLine);
+    SingleInstance instance(directories.root());
+    if (!instance.acquire()) {
+        say(stderr,
+            QStringLiteral("Abissora è già aperta su questo registro: la sua finestra passa in primo piano.\n"));
+        return commandLine.snapshot.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
+
+    for (const QString& folder : {directories.preferences(), directories.maintenanceDocuments(), directories.backups()})
+        AtomicFile::removeLeftovers(folder);
+
+    NetworkHttpClient http;
+    MarevoloApp app(application, directories, product, http);
+    QObject::connect(&instance, &SingleInstance::activationRequested, &app, &MarevoloApp::showMainWindow);
+    if (commandLine.snapshot.isEmpty()) {
+        app.showMainWindow();
+        return QApplication::exec();
+    }
+    Snapshot snapshot(app.mainWindow(), commandLine.snapshot);
+    QObject::connect(&snapshot, &Snapshot::taken, &application, &QApplication::quit);
+    QObject::connect(&snapshot, &Snapshot::failed, &application, [&](const QString& reason) {
+        QApplication::exit(fail(QStringLiteral("Impossibile scrivere «%1»: %2").arg(commandLine.snapshot, reason)));
+    });
+    // Only drawn: no check for updates begins.
+    app.mainWindow().show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int runProgram(int argc, char** argv, const Product& product)
+{
+#ifdef SIGPIPE
+    // The log goes to standard output; whoever reads it may leave at any time.
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
+    const QStringList arguments = rawArguments(argc, argv);
+    if (answered(arguments))
+        return EXIT_SUCCESS;
+    if (!hasDisplay(arguments)) {
+        const bool drawsToFile = std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
+            return argument.startsWith(QLatin1String("--snapshot"));
+        });
+        if (!drawsToFile) {
+            say(stderr, noDisplayText());
+            return noDisplayStatus;
+        }
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+
+    QCoreApplication::setApplicationName(QStringLiteral("abissora"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("abissora"));
+    explainMissingDisplay();
+    QApplication application(argc, argv);
+    qInstallMessageHandler(nullptr);
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Abissora"));
+    QTranslator translator;
+    if (translator.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&translator);
+
+    const auto commandLine = CommandLine::parse(QCoreApplication::arguments().mid(1));
+    if (!commandLine)
+        return fail(commandLine.error() + QStringLiteral(" Con «--help» l'elenco delle opzioni."));
+    return run(application, *commandLine, product);
+}
+
+} // namespace abissora

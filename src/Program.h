@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Product.h"
+
+namespace abissora {
+
+/// The whole run of the program; gives its exit status.
+[[nodiscard]] int runProgram(int argc, char** argv, const Product& product);
+
+} // namespace abissora

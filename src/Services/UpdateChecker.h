@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AppInfo.h"
+#include "Product.h"
+#include "UpdateCheckError.h"
+#include "UpdateInfo.h"
+
+#include <variant>
+
+namespace abissora {
+
+/// An HttpError is a transport's failure, passed on as it is.
+using UpdateCheckFailure = std::variant<UpdateCheckError, HttpError>;
+/// The newer release; nothing when the running one is the newest.
+using UpdateCheckResult = tl::expected<std::optional<UpdateInfo>, UpdateCheckFailure>;
+
+/// Asks the website whether a newer release exists.
+class UpdateChecker
+{
+public:
+    /// Everything passed by reference must outlive it, and it must outlive the answer to a request.
+    UpdateChecker(HttpClient& http, const AppInfo& info, const Product& product);
+
+    [[nodiscard]] QCoro::Task<UpdateCheckResult> checkForUpdates() const;
+
+    /// 1 when `a` is newer than `b`, -1 when older, 0 when equal. Pieces between dots that are no numbers do not count.
+    [[nodiscard]] static int compareVersions(const QString& a, const QString& b);
+    /// Newer than the running program.
+    [[nodiscard]] bool isNewer(const QString& version, std::int64_t build) const;
+
+private:
+    [[nodiscard]] UpdateCheckResult judge(const HttpResponse& response) const;
+
+    HttpClient& m_http;
+    const AppInfo& m_info;
+    const Product& m_product;
+};
+
+} // namespace abissora

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "UpdateCheckerViewModel.h"
+
+#include <QPointer>
+
+namespace abissora {
+
+namespace {
+
+QString textFor(const UpdateCheckFailure& failure)
+{
+    if (const auto* error = std::get_if<UpdateCheckError>(&failure))
+        return error->errorDescription();
+    return QStringLiteral("Impossibile contattare il sito dell'applicazione.");
+}
+
+} // namespace
+
+UpdateCheckerViewModel::UpdateCheckerViewModel(const UpdateChecker& checker, const Clock& clock, QObject* parent)
+    : QObject(parent)
+    , m_checker(checker)
+    , m_clock(clock)
+{
+    for (const auto signal :
+         {&UpdateCheckerViewModel::isCheckingChanged, &UpdateCheckerViewModel::availableUpdateChanged,
+          &UpdateCheckerViewModel::lastErrorChanged, &UpdateCheckerViewModel::lastCheckedAtChanged})
+        connect(this, signal, this, &UpdateCheckerViewModel::changed);
+}
+
+QCoro::Task<std::optional<UpdateInfo>> UpdateCheckerViewModel::checkForUpdates()
+{
+    const QPointer<UpdateCheckerViewModel> alive(this);
+    setChecking(true);
+    setLastError(std::nullopt);
+    setAvailableUpdate(std::nullopt);
+
+    const UpdateCheckResult result = co_await m_checker.checkForUpdates();
+    if (!alive)
+        co_return std::nullopt;
+    if (result) {
+        setAvailableUpdate(*result);
+        setLastCheckedAt(m_clock.now());
+    } else {
+        setLastError(textFor(result.error()));
+    }
+    setChecking(false);
+    co_return result.value_or(std::nullopt);
+}
+
+void UpdateCheckerViewModel::clearAvailableUpdate()
+{
+    setAvailableUpdate(std::nullopt);
+}
+
+void UpdateCheckerViewModel::setChecking(bool checking)
+{
+    m_isChecking = checking;
+    Q_EMIT isCheckingChanged();
+}
+
+void UpdateCheckerViewModel::setAvailableUpdate(const std::optional<UpdateInfo>& update)
+{
+    m_availableUpdate = update;
+    Q_EMIT availableUpdateChanged();
+}
+
+void UpdateCheckerViewModel::setLastError(const std::optional<QString>& error)
+{
+    m_lastError = error;
+    Q_EMIT lastErrorChanged();
+}
+
+void UpdateCheckerViewModel::setLastCheckedAt(Instant instant)
+{
+    m_lastCheckedAt = instant;
+    Q_EMIT lastCheckedAtChanged();
+}
+
+} // namespace abissora
