@@ -127,7 +127,7 @@ void HelpIndexView::showSections()
     if (selected >= 0)
         m_list->setCurrentIndex(m_titles.index(selected));
     m_noResult->setText(QStringLiteral("Nessun risultato per\n\"%1\"").arg(m_index.searchText()));
-    m_pages->setCurrentIndex(sections.isEmpty() && !m_index.sections().isEmpty() ? 1 : 0);
+    m_pages->setCurrentIndex(sections.isEmpty() && !m_index.searchText().isEmpty() ? 1 : 0);
 }
 
 } // namespace abissora

@@ -23,8 +23,10 @@ public:
     /// Shows it from its top; the section that is shown already stays where it is.
     void setSection(const HelpSection& section);
 
-protected:
+    /// Nothing, whatever is asked for.
     QVariant loadResource(int type, const QUrl& name) override;
+
+protected:
     QMimeData* createMimeDataFromSelection() const override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

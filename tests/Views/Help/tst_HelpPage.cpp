@@ -1,0 +1,382 @@
+// SPDX-License-Identifier: MIT
+#include "ComponentTest.h"
+#include "Fakes.h"
+#include "HelpPage.h"
+#include "HelpPageFormat.h"
+#include "Tokens.h"
+
+#include <QClipboard>
+#include <QScrollBar>
+#include <QTextBlock>
+
+using namespace abissora;
+
+namespace {
+
+const char* const everyKind = "Un *testo* in **grassetto**\nsu due righe.\n"
+                              "### Passi\n"
+                              "3. Primo\n"
+                              "7. Secondo\n"
+                              "9. Terzo con `codice`\n"
+                              "> Una [citazione](https://abissora.example/a?b=c&d=e).\n"
+                              "- Uno\n"
+                              "- Due\n"
+                              "---\n"
+                              "```\n"
+                              "**uno**\n"
+                              "due\n"
+                              "```\n";
+
+HelpSection section(const QString& body)
+{
+    return {QStringLiteral("sezione-0"), QStringLiteral("Titolo"), body};
+}
+
+QString manyParagraphs()
+{
+    return QStringLiteral("Una riga di testo.\n\n").repeated(80);
+}
+
+struct Shown
+{
+    explicit Shown(const QString& body)
+        : page(opener)
+    {
+        page.resize(600, 400);
+        page.setSection(section(body));
+    }
+
+    test::RecordingOpener opener;
+    HelpPage page;
+};
+
+QTextCursor at(const HelpPage& page, const QString& text)
+{
+    return page.document()->find(text, 0, QTextDocument::FindCaseSensitively);
+}
+
+QColor inkOf(const HelpPage& page, const QString& text)
+{
+    return at(page, text).charFormat().foreground().color();
+}
+
+void sendKey(HelpPage& page, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    QTest::keyClick(&page, static_cast<Qt::Key>(key), modifiers);
+}
+
+} // namespace
+
+class tst_HelpPage : public test::ComponentTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        ComponentTest::initTestCase();
+        m_font = QApplication::font();
+    }
+    void cleanup()
+    {
+        applyTheme(*qApp, Scheme::Light);
+        QApplication::setFont(m_font);
+    }
+
+    void everythingIsCopiedAsItReads();
+    void aSelectionGoesAcrossBlocks();
+    void blocksHaveTheirBackdrops();
+    void textsHaveTheirDress();
+    void htmlIsText();
+    void picturesAreNeverLoaded();
+    void aLinkIsOpenedByAClick();
+    void aLinkIsOpenedByTheKeyboard();
+    void hostileLinksAreText();
+    void theSchemeSwitchesLive();
+    void theTextSizeFollowsTheApplication();
+    void theKeysScroll_data();
+    void theKeysScroll();
+    void shiftedKeysSelect();
+    void escapeIsLeftToOthers();
+    void anotherSectionIsShownFromItsTop();
+    void theSameSectionStaysWhereItIs();
+    void nothingIsWiderThanThePage_data();
+    void nothingIsWiderThanThePage();
+    void linesOfAWidePageStayReadable();
+    void itIsReadAsTextWithTheSectionsName();
+
+private:
+    QFont m_font;
+};
+
+void tst_HelpPage::everythingIsCopiedAsItReads()
+{
+    Shown shown(QString::fromUtf8(everyKind));
+    activate(shown.page);
+    QTest::keySequence(&shown.page, QKeySequence::SelectAll);
+    QTest::keySequence(&shown.page, QKeySequence::Copy);
+    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("Titolo\n"
+                                                                  "Un testo in grassetto\n"
+                                                                  "su due righe.\n"
+                                                                  "Passi\n"
+                                                                  "1. Primo\n"
+                                                                  "2. Secondo\n"
+                                                                  "3. Terzo con codice\n"
+                                                                  "Una citazione.\n"
+                                                                  "• Uno\n"
+                                                                  "• Due\n"
+                                                                  "\n"
+                                                                  "**uno**\n"
+                                                                  "due"));
+}
+
+void tst_HelpPage::aSelectionGoesAcrossBlocks()
+{
+    Shown shown(QString::fromUtf8(everyKind));
+    activate(shown.page);
+    const QRect first = shown.page.cursorRect(at(shown.page, QStringLiteral("Primo")));
+    const QRect last = shown.page.cursorRect(at(shown.page, QStringLiteral("Due")));
+    QWidget* const viewport = shown.page.viewport();
+    QTest::mousePress(viewport, Qt::LeftButton, {}, QPoint(35, first.center().y()));
+    QTest::mouseMove(viewport, last.center());
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, last.center());
+    shown.page.copy();
+    const QString copied = QGuiApplication::clipboard()->text();
+    QVERIFY2(copied.contains(QStringLiteral("2. Secondo\n3. Terzo con codice\nUna citazione.\n• Uno")),
+             qPrintable(copied));
+}
+
+void tst_HelpPage::blocksHaveTheirBackdrops()
+{
+    const Shown shown(QString::fromUtf8(everyKind));
+    using help::Backdrop;
+    QList<Backdrop> backdrops;
+    for (QTextBlock block = shown.page.document()->begin(); block.isValid(); block = block.next())
+        backdrops.append(help::backdropOf(block));
+    const QList<Backdrop> expected{Backdrop::None, Backdrop::None, Backdrop::AccentBar,  Backdrop::None,
+                                   Backdrop::None, Backdrop::None, Backdrop::QuotePanel, Backdrop::None,
+                                   Backdrop::None, Backdrop::Rule, Backdrop::CodePanel};
+    QCOMPARE(backdrops, expected);
+}
+
+void tst_HelpPage::textsHaveTheirDress()
+{
+    const Shown shown(QString::fromUtf8(everyKind));
+    const Tokens& tokens = Tokens::of(Scheme::Light);
+    const auto format = [&](const char* text) { return at(shown.page, QString::fromUtf8(text)).charFormat(); };
+    QVERIFY(format("testo").fontItalic());
+    QCOMPARE(format("grassetto").fontWeight(), static_cast<int>(QFont::Bold));
+    QCOMPARE(format("Passi").fontWeight(), static_cast<int>(QFont::DemiBold));
+    QCOMPARE(format("2.").fontWeight(), static_cast<int>(QFont::DemiBold));
+    QVERIFY(format("codice").font().families() != format("Terzo").font().families());
+    QCOMPARE(inkOf(shown.page, QStringLiteral("2.")), tokens.named(NamedColor::blue));
+    QCOMPARE(inkOf(shown.page, QStringLiteral("•")), tokens.named(NamedColor::blue));
+    QCOMPARE(inkOf(shown.page, QStringLiteral("Una ")), tokens.secondaryText);
+    QCOMPARE(inkOf(shown.page, QStringLiteral("citazione")), tokens.accentInk);
+    QVERIFY(format("Una ").font().pointSizeF() < format("Primo").font().pointSizeF());
+    QVERIFY(format("Titolo").font().pointSizeF() > format("Passi").font().pointSizeF());
+}
+
+void tst_HelpPage::htmlIsText()
+{
+    const QString html = QStringLiteral("<b>a</b> <script>alert(1)</script> <img src=\"x.png\"> &lt;i&gt;");
+    const Shown shown(html);
+    QVERIFY(shown.page.toPlainText().contains(
+        QStringLiteral("<b>a</b> <script>alert(1)</script> <img src=\"x.png\"> <i>")));
+}
+
+void tst_HelpPage::picturesAreNeverLoaded()
+{
+    Shown shown(
+        QStringLiteral("![una bombola](:/appicon/abissora.svg)\n\n- ![](file:///a.png)\n\n<img src=\"b.png\">"));
+    activate(shown.page);
+    QVERIFY(!shown.page.toPlainText().contains(QChar::ObjectReplacementCharacter));
+    QVERIFY(shown.page.toPlainText().contains(QStringLiteral("una bombola")));
+    QVERIFY(!shown.page.loadResource(QTextDocument::ImageResource, QUrl(QStringLiteral(":/appicon/abissora.svg")))
+                 .isValid());
+}
+
+void tst_HelpPage::aLinkIsOpenedByAClick()
+{
+    Shown shown(QString::fromUtf8(everyKind));
+    activate(shown.page);
+    const QPoint link = shown.page.cursorRect(at(shown.page, QStringLiteral("cita"))).center();
+    QTest::mouseClick(shown.page.viewport(), Qt::LeftButton, {}, link);
+    QCOMPARE(shown.opener.opened(), QList<QUrl>{QUrl(QStringLiteral("https://abissora.example/a?b=c&d=e"))});
+    QVERIFY2(shown.page.toPlainText().startsWith(QStringLiteral("Titolo")), "the page itself goes nowhere");
+}
+
+void tst_HelpPage::aLinkIsOpenedByTheKeyboard()
+{
+    Shown shown(QString::fromUtf8(everyKind));
+    activate(shown.page);
+    shown.page.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&shown.page, Qt::Key_Tab);
+    QTest::keyClick(&shown.page, Qt::Key_Return);
+    QCOMPARE(shown.opener.opened(), QList<QUrl>{QUrl(QStringLiteral("https://abissora.example/a?b=c&d=e"))});
+}
+
+void tst_HelpPage::hostileLinksAreText()
+{
+    Shown shown(QStringLiteral("[uno](javascript:alert(1)) [due](file:///etc/passwd)\n\n- [tre](data:text/html,a)\n"
+                               "1. [quattro](HELP.md)\n> [cinque](qrc:/a)"));
+    activate(shown.page);
+    for (const char* text : {"uno", "due", "tre", "quattro", "cinque"}) {
+        const QTextCursor link = at(shown.page, QString::fromUtf8(text));
+        QVERIFY(!link.isNull());
+        QVERIFY(!link.charFormat().isAnchor());
+        QTest::mouseClick(shown.page.viewport(), Qt::LeftButton, {}, shown.page.cursorRect(link).center());
+    }
+    QVERIFY(shown.opener.opened().isEmpty());
+}
+
+void tst_HelpPage::theSchemeSwitchesLive()
+{
+    Shown shown(QString::fromUtf8(everyKind) + manyParagraphs());
+    activate(shown.page);
+    QTextCursor selected = at(shown.page, QStringLiteral("Terzo"));
+    shown.page.setTextCursor(selected);
+    shown.page.verticalScrollBar()->setValue(70);
+    applyTheme(*qApp, Scheme::Dark);
+    QTRY_COMPARE(inkOf(shown.page, QStringLiteral("citazione")), Tokens::of(Scheme::Dark).accentInk);
+    QCOMPARE(shown.page.textCursor().selectedText(), QStringLiteral("Terzo"));
+    QCOMPARE(shown.page.verticalScrollBar()->value(), 70);
+
+    Shown fresh(QString::fromUtf8(everyKind) + manyParagraphs());
+    fresh.page.setTextCursor(at(fresh.page, QStringLiteral("Terzo")));
+    activate(fresh.page);
+    fresh.page.verticalScrollBar()->setValue(70);
+    QCOMPARE(shown.page.viewport()->grab().toImage(), fresh.page.viewport()->grab().toImage());
+}
+
+void tst_HelpPage::theTextSizeFollowsTheApplication()
+{
+    Shown shown(QString::fromUtf8(everyKind));
+    activate(shown.page);
+    const auto size = [&] { return at(shown.page, QStringLiteral("Primo")).charFormat().font().pointSizeF(); };
+    const qreal before = size();
+    QFont larger = m_font;
+    larger.setPointSizeF(m_font.pointSizeF() * 1.5);
+    QApplication::setFont(larger);
+    QTRY_COMPARE(size(), before * 1.5);
+    QApplication::setFont(m_font);
+    QTRY_COMPARE(size(), before);
+}
+
+void tst_HelpPage::theKeysScroll_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<bool>("isForward");
+    const auto row = [](const char* name, Qt::Key key, bool isForward, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::newRow(name) << static_cast<int>(key) << static_cast<int>(modifiers) << isForward;
+    };
+    row("down", Qt::Key_Down, true);
+    row("page down", Qt::Key_PageDown, true);
+    row("space", Qt::Key_Space, true);
+    row("end", Qt::Key_End, true);
+    row("up", Qt::Key_Up, false);
+    row("page up", Qt::Key_PageUp, false);
+    row("shift and space", Qt::Key_Space, false, Qt::ShiftModifier);
+    row("home", Qt::Key_Home, false);
+}
+
+void tst_HelpPage::theKeysScroll()
+{
+    QFETCH(const int, key);
+    QFETCH(const int, modifiers);
+    QFETCH(const bool, isForward);
+    Shown shown(manyParagraphs());
+    activate(shown.page);
+    QScrollBar& bar = *shown.page.verticalScrollBar();
+    const int middle = bar.maximum() / 2;
+    bar.setValue(middle);
+    sendKey(shown.page, key, static_cast<Qt::KeyboardModifiers>(modifiers));
+    QVERIFY(isForward ? bar.value() > middle : bar.value() < middle);
+    QVERIFY(!shown.page.textCursor().hasSelection());
+}
+
+void tst_HelpPage::shiftedKeysSelect()
+{
+    Shown shown(manyParagraphs());
+    activate(shown.page);
+    sendKey(shown.page, Qt::Key_Down, Qt::ShiftModifier);
+    sendKey(shown.page, Qt::Key_Down, Qt::ShiftModifier);
+    QVERIFY(shown.page.textCursor().selectedText().startsWith(QStringLiteral("Titolo\u2029Una riga di testo.\u2029")));
+    QCOMPARE(shown.page.verticalScrollBar()->value(), 0);
+}
+
+void tst_HelpPage::escapeIsLeftToOthers()
+{
+    Shown shown(manyParagraphs());
+    activate(shown.page);
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(&shown.page, &escape);
+    QVERIFY(!escape.isAccepted());
+}
+
+void tst_HelpPage::anotherSectionIsShownFromItsTop()
+{
+    Shown shown(manyParagraphs());
+    activate(shown.page);
+    shown.page.selectAll();
+    shown.page.verticalScrollBar()->setValue(200);
+    shown.page.setSection({QStringLiteral("sezione-1"), QStringLiteral("Altro"), manyParagraphs()});
+    QCOMPARE(shown.page.verticalScrollBar()->value(), 0);
+    QVERIFY(!shown.page.textCursor().hasSelection());
+    QVERIFY(shown.page.toPlainText().startsWith(QStringLiteral("Altro\n")));
+}
+
+void tst_HelpPage::theSameSectionStaysWhereItIs()
+{
+    Shown shown(manyParagraphs());
+    activate(shown.page);
+    shown.page.verticalScrollBar()->setValue(200);
+    shown.page.setSection(section(manyParagraphs()));
+    QCOMPARE(shown.page.verticalScrollBar()->value(), 200);
+}
+
+void tst_HelpPage::nothingIsWiderThanThePage_data()
+{
+    QTest::addColumn<QString>("body");
+    const QString word = QString(400, QLatin1Char('m'));
+    QTest::newRow("a long word") << word;
+    QTest::newRow("a long subheading") << QStringLiteral("### ") + word;
+    QTest::newRow("a long item") << QStringLiteral("- ") + word;
+    QTest::newRow("a long quote") << QStringLiteral("> ") + word;
+    QTest::newRow("a long line of code") << QStringLiteral("```\n") + word + QStringLiteral("\n```");
+    QTest::newRow("a long code span") << QLatin1Char('`') + word + QLatin1Char('`');
+    QTest::newRow("a thousand items") << QStringLiteral("1. a\n").repeated(1000);
+}
+
+void tst_HelpPage::nothingIsWiderThanThePage()
+{
+    QFETCH(const QString, body);
+    Shown shown(body);
+    activate(shown.page);
+    QCOMPARE(shown.page.horizontalScrollBar()->maximum(), 0);
+    QVERIFY(shown.page.document()->idealWidth() <= shown.page.viewport()->width());
+}
+
+void tst_HelpPage::linesOfAWidePageStayReadable()
+{
+    Shown shown(QStringLiteral("parola ").repeated(400));
+    shown.page.resize(1600, 600);
+    activate(shown.page);
+    QVERIFY(shown.page.document()->textWidth() < 900);
+    QCOMPARE(shown.page.horizontalScrollBar()->maximum(), 0);
+}
+
+void tst_HelpPage::itIsReadAsTextWithTheSectionsName()
+{
+    Shown shown(QString::fromUtf8(everyKind));
+    activate(shown.page);
+    QCOMPARE(nameOf(shown.page), QStringLiteral("Titolo"));
+    QAccessibleInterface* const page = QAccessible::queryAccessibleInterface(&shown.page);
+    QVERIFY(page->textInterface() != nullptr);
+    const QString text = page->textInterface()->text(0, page->textInterface()->characterCount());
+    QVERIFY2(text.contains(QStringLiteral("2.\tSecondo")), qPrintable(text));
+}
+
+ABISSORA_TEST(tst_HelpPage);
+#include "tst_HelpPage.moc"

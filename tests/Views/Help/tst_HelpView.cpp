@@ -1,0 +1,389 @@
+// SPDX-License-Identifier: MIT
+#include "ClippedTexts.h"
+#include "ComponentTest.h"
+#include "Fakes.h"
+#include "HelpPage.h"
+#include "HelpParts.h"
+#include "HelpView.h"
+#include "SearchField.h"
+
+#include <QAction>
+#include <QListView>
+#include <QToolButton>
+
+using namespace abissora;
+
+namespace {
+
+constexpr QSize smallest(880, 640);
+
+struct Shown
+{
+    explicit Shown(const QList<HelpSection>& sections = test::threeSections())
+        : view(sections, opener)
+        , search(*view.findChild<SearchField*>(QStringLiteral("helpSearch")))
+        , list(*view.findChild<QListView*>(QStringLiteral("helpSections")))
+        , page(*view.findChild<HelpPage*>())
+    {
+        view.resize(smallest);
+    }
+
+    [[nodiscard]] QStringList rows() const
+    {
+        QStringList titles;
+        for (int row = 0; row < list.model()->rowCount(); ++row)
+            titles.append(list.model()->index(row, 0).data().toString());
+        return titles;
+    }
+
+    [[nodiscard]] int selectedRow() const
+    {
+        const QModelIndexList rows = list.selectionModel()->selectedRows();
+        return rows.isEmpty() ? -1 : rows.first().row();
+    }
+
+    [[nodiscard]] QString pageTitle() const
+    {
+        return page.isVisible() ? page.toPlainText().section(QLatin1Char('\n'), 0, 0) : QString();
+    }
+
+    [[nodiscard]] QLabel* label(const QString& text) const
+    {
+        for (QLabel* label : view.findChildren<QLabel*>()) {
+            if (label->text() == text && label->isVisible())
+                return label;
+        }
+        return nullptr;
+    }
+
+    void type(const QString& text)
+    {
+        search.setFocus();
+        search.selectAll();
+        QTest::keyClicks(&search, text);
+    }
+
+    void click(int row)
+    {
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(list.model()->index(row, 0)).center());
+    }
+
+    test::RecordingOpener opener;
+    HelpView view;
+    SearchField& search;
+    QListView& list;
+    HelpPage& page;
+};
+
+} // namespace
+
+class tst_HelpView : public test::ComponentTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { applyTheme(*qApp, Scheme::Light); }
+
+    void opensAtTheFirstSection();
+    void aClickSelects();
+    void theArrowsSelect();
+    void aScreenReaderSelects();
+    void theSearchNarrowsTheIndex();
+    void theSelectionMovesToTheFirstMatchAndStays();
+    void nothingFoundIsSaid();
+    void blanksAroundTheSearchAreShownAsTyped();
+    void theSearchIsNoMarkup();
+    void afterNothingFoundTheReaderPicks();
+    void theClearMarkEmptiesTheSearch();
+    void everyNewViewStartsAfresh();
+    void aMissingGuideIsExplained();
+    void anEmptyGuideShowsTheEmptyState();
+    void theProgramsGuideIsShown();
+    void controlFGoesToTheSearch();
+    void escapeClearsTheSearchAndThenGoesOn();
+    void theTabKeyGoesInReadingOrder();
+    void everythingHasAName();
+    void noTextIsClipped_data();
+    void noTextIsClipped();
+    void theSchemeSwitchesLive();
+};
+
+void tst_HelpView::opensAtTheFirstSection()
+{
+    Shown shown;
+    activate(shown.view);
+    QVERIFY(shown.label(QStringLiteral("Aiuto")) != nullptr);
+    QVERIFY(shown.label(QStringLiteral("Guida all'uso di Abissora")) != nullptr);
+    QCOMPARE(shown.search.placeholderText(), QStringLiteral("Cerca nella guida…"));
+    QCOMPARE(shown.rows(), (QStringList{QStringLiteral("Primi passi"), QStringLiteral("Manutenzioni"),
+                                        QStringLiteral("Tipologie e qualità")}));
+    QCOMPARE(shown.selectedRow(), 0);
+    QCOMPARE(shown.pageTitle(), QStringLiteral("Primi passi"));
+}
+
+void tst_HelpView::aClickSelects()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.click(2);
+    QCOMPARE(shown.selectedRow(), 2);
+    QCOMPARE(shown.pageTitle(), QStringLiteral("Tipologie e qualità"));
+}
+
+void tst_HelpView::theArrowsSelect()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.list.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&shown.list, Qt::Key_Down);
+    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
+    QTest::keyClick(&shown.list, Qt::Key_End);
+    QCOMPARE(shown.pageTitle(), QStringLiteral("Tipologie e qualità"));
+}
+
+void tst_HelpView::aScreenReaderSelects()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.list.selectionModel()->select(shown.list.model()->index(1, 0), QItemSelectionModel::ClearAndSelect);
+    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
+}
+
+void tst_HelpView::theSearchNarrowsTheIndex()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.type(QStringLiteral("MANUTENZIONE"));
+    QCOMPARE(shown.rows(), (QStringList{QStringLiteral("Primi passi"), QStringLiteral("Manutenzioni")}));
+    QCOMPARE(shown.selectedRow(), 0);
+    shown.type(QStringLiteral("   "));
+    QCOMPARE(shown.rows().size(), qsizetype(3));
+}
+
+void tst_HelpView::theSelectionMovesToTheFirstMatchAndStays()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.type(QStringLiteral("scontrino"));
+    QCOMPARE(shown.rows(), QStringList{QStringLiteral("Manutenzioni")});
+    QCOMPARE(shown.selectedRow(), 0);
+    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
+    QTest::keyClick(&shown.search, Qt::Key_Escape);
+    QCOMPARE(shown.rows().size(), qsizetype(3));
+    QCOMPARE(shown.selectedRow(), 1);
+    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
+}
+
+void tst_HelpView::nothingFoundIsSaid()
+{
+    Shown shown;
+    activate(shown.view);
+    QVERIFY(shown.label(QStringLiteral("Seleziona un argomento")) == nullptr);
+    shown.type(QStringLiteral("rebreather"));
+    const QLabel* const said = shown.label(QStringLiteral("Nessun risultato per\n\"rebreather\""));
+    QVERIFY(said != nullptr);
+    QVERIFY(said->alignment().testFlag(Qt::AlignHCenter));
+    QVERIFY(!shown.list.isVisible());
+    QVERIFY(!shown.page.isVisible());
+    QVERIFY(shown.label(QStringLiteral("Seleziona un argomento")) != nullptr);
+    QVERIFY(shown.label(QStringLiteral("Scegli una sezione dall'indice a sinistra per leggere la guida.")) != nullptr);
+}
+
+void tst_HelpView::blanksAroundTheSearchAreShownAsTyped()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.type(QStringLiteral(" rebreather "));
+    QVERIFY(shown.label(QStringLiteral("Nessun risultato per\n\" rebreather \"")) != nullptr);
+}
+
+void tst_HelpView::theSearchIsNoMarkup()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.type(QStringLiteral("<b>%1</b>"));
+    const QLabel* const said = shown.label(QStringLiteral("Nessun risultato per\n\"<b>%1</b>\""));
+    QVERIFY(said != nullptr);
+    QCOMPARE(said->textFormat(), Qt::PlainText);
+}
+
+void tst_HelpView::afterNothingFoundTheReaderPicks()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.type(QStringLiteral("rebreather"));
+    QTest::keyClick(&shown.search, Qt::Key_Escape);
+    QCOMPARE(shown.rows().size(), qsizetype(3));
+    QCOMPARE(shown.selectedRow(), -1);
+    QVERIFY(!shown.page.isVisible());
+    QTest::keyClick(&shown.search, Qt::Key_Tab);
+    QVERIFY(shown.list.hasFocus());
+    QCOMPARE(shown.selectedRow(), -1);
+    shown.click(1);
+    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
+}
+
+void tst_HelpView::theClearMarkEmptiesTheSearch()
+{
+    Shown shown;
+    activate(shown.view);
+    auto* const action = shown.search.findChild<QAction*>(QStringLiteral("clear"));
+    QVERIFY(!action->isVisible());
+    shown.type(QStringLiteral("scontrino"));
+    QVERIFY(action->isVisible());
+    QCOMPARE(action->toolTip(), QStringLiteral("Cancella la ricerca"));
+    action->trigger();
+    QVERIFY(shown.search.text().isEmpty());
+    QVERIFY(!action->isVisible());
+    QCOMPARE(shown.rows().size(), qsizetype(3));
+}
+
+void tst_HelpView::everyNewViewStartsAfresh()
+{
+    {
+        Shown shown;
+        activate(shown.view);
+        shown.type(QStringLiteral("scontrino"));
+    }
+    const Shown again;
+    QVERIFY(again.search.text().isEmpty());
+    QCOMPARE(again.selectedRow(), 0);
+}
+
+void tst_HelpView::aMissingGuideIsExplained()
+{
+    Shown shown(HelpLoader::load(QStringLiteral(":/guide/none.md")));
+    activate(shown.view);
+    QCOMPARE(shown.rows(), QStringList{QStringLiteral("Guida non disponibile")});
+    QCOMPARE(shown.selectedRow(), 0);
+    QCOMPARE(shown.page.toPlainText(),
+             QStringLiteral("Guida non disponibile\nIl file HELP.md non è presente nel bundle dell'app.\nApri la "
+                            "cartella dell'app e verifica che la guida sia stata inclusa tra le risorse."));
+}
+
+void tst_HelpView::anEmptyGuideShowsTheEmptyState()
+{
+    Shown shown(QList<HelpSection>{});
+    activate(shown.view);
+    QVERIFY(shown.rows().isEmpty());
+    QVERIFY(shown.label(QStringLiteral("Seleziona un argomento")) != nullptr);
+    shown.type(QStringLiteral("a"));
+    QVERIFY(shown.label(QStringLiteral("Nessun risultato per\n\"a\"")) != nullptr);
+}
+
+void tst_HelpView::theProgramsGuideIsShown()
+{
+    test::RecordingOpener opener;
+    HelpView view(opener);
+    activate(view);
+    const auto* const list = view.findChild<QListView*>(QStringLiteral("helpSections"));
+    QCOMPARE(list->model()->rowCount(), static_cast<int>(HelpLoader::load().size()));
+}
+
+void tst_HelpView::controlFGoesToTheSearch()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.type(QStringLiteral("manu"));
+    shown.page.setFocus();
+    QTest::keySequence(&shown.page, QKeySequence::Find);
+    QVERIFY(shown.search.hasFocus());
+    QCOMPARE(shown.search.selectedText(), QStringLiteral("manu"));
+}
+
+void tst_HelpView::escapeClearsTheSearchAndThenGoesOn()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.type(QStringLiteral("manu"));
+    QTest::keyClick(&shown.search, Qt::Key_Escape);
+    QVERIFY(shown.search.text().isEmpty());
+    for (QWidget* widget : {static_cast<QWidget*>(&shown.search), static_cast<QWidget*>(&shown.list),
+                            static_cast<QWidget*>(&shown.page)}) {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(widget, &escape);
+        QVERIFY2(!escape.isAccepted(), qPrintable(widget->objectName()));
+    }
+}
+
+void tst_HelpView::theTabKeyGoesInReadingOrder()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.search.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&shown.search, Qt::Key_Tab);
+    QVERIFY(shown.list.hasFocus());
+    QTest::keyClick(&shown.list, Qt::Key_Tab);
+    QVERIFY(shown.page.hasFocus());
+    QTest::keyClick(&shown.page, Qt::Key_Backtab);
+    QVERIFY(shown.list.hasFocus());
+}
+
+void tst_HelpView::everythingHasAName()
+{
+    Shown shown;
+    activate(shown.view);
+    for (QWidget* widget : shown.view.findChildren<QWidget*>()) {
+        if (widget->focusPolicy() != Qt::NoFocus && widget->isVisible())
+            QVERIFY2(!nameOf(*widget).isEmpty(), widget->metaObject()->className());
+    }
+    QCOMPARE(roleOf(shown.search), QAccessible::EditableText);
+    QCOMPARE(roleOf(shown.list), QAccessible::List);
+    QCOMPARE(QAccessible::queryAccessibleInterface(&shown.list)->child(1)->text(QAccessible::Name),
+             QStringLiteral("Manutenzioni"));
+}
+
+void tst_HelpView::noTextIsClipped_data()
+{
+    QTest::addColumn<QString>("search");
+    QTest::newRow("a section") << QString();
+    QTest::newRow("nothing found") << QStringLiteral("rebreather");
+    QTest::newRow("nothing found for a long word") << QStringLiteral("lunghissimaparola").repeated(4);
+}
+
+void tst_HelpView::noTextIsClipped()
+{
+    QFETCH(const QString, search);
+    const QFont usual = QApplication::font();
+    for (const qreal factor : {1.0, 1.25}) {
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * factor);
+        QApplication::setFont(font);
+        Shown shown(HelpLoader::load());
+        activate(shown.view);
+        shown.type(search);
+        QCoreApplication::processEvents();
+        const QStringList clipped = test::clippedTexts(shown.view);
+        QStringList elided;
+        for (int row = 0; row < shown.list.model()->rowCount() && shown.list.isVisible(); ++row) {
+            const QModelIndex index = shown.list.model()->index(row, 0);
+            QStyleOptionViewItem option;
+            option.initFrom(&shown.list);
+            if (shown.list.itemDelegate()->sizeHint(option, index).width() > shown.list.viewport()->width())
+                elided.append(index.data().toString());
+        }
+        const QSize wanted = shown.view.minimumSizeHint();
+        QApplication::setFont(usual);
+        QCOMPARE(clipped, QStringList());
+        QCOMPARE(elided, QStringList());
+        QVERIFY(wanted.width() <= smallest.width() && wanted.height() <= smallest.height());
+    }
+}
+
+void tst_HelpView::theSchemeSwitchesLive()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.search.clearFocus();
+    applyTheme(*qApp, Scheme::Dark);
+    QCoreApplication::processEvents();
+    const QImage switched = shown.view.grab().toImage();
+    Shown fresh;
+    activate(fresh.view);
+    fresh.search.clearFocus();
+    QCoreApplication::processEvents();
+    QCOMPARE(switched, fresh.view.grab().toImage());
+}
+
+ABISSORA_TEST(tst_HelpView);
+#include "tst_HelpView.moc"
