@@ -76,7 +76,7 @@ void tst_InlineText::reads_data()
     row("emphasis across lines", "**a\nb**", "s{a\nb}");
     row("emphasis at the ends of lines", "**a**\n**b**", "s{a}{\n}s{b}");
     row("code across lines", "`a\nb`", "c{a\nb}");
-    row("a fence is a mark of code", "c{\na\n}");
+    row("a fence is a mark of code", "```\na\n```", "c{\na\n}");
     row("white space at both ends", "  a\t ", "{  a\t }");
     row("white space inside", "a   b\tc", "{a   b\tc}");
     row("white space at the ends of lines", "a  \n  b", "{a  \n  b}");
