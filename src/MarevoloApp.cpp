@@ -23,10 +23,13 @@ MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories
     , m_info(m_package, m_clock, m_calendar)
     , m_checker(http, m_info, m_product)
     , m_updates(m_checker, m_clock)
+    , m_dayWatch(m_equipment, m_clock, m_calendar)
 {
     QApplication::setWindowIcon(applicationIcon());
     applyScheme();
     connect(&m_settings, &SettingsViewModel::darkModeChanged, this, &MarevoloApp::applyScheme);
+    connect(&m_dayWatch, &DayWatch::dayChanged, &m_equipment, &EquipmentViewModel::refreshDates);
+    connect(&application, &QApplication::applicationStateChanged, &m_dayWatch, &DayWatch::check);
 }
 
 MarevoloApp::~MarevoloApp() = default;

@@ -3,6 +3,7 @@
 
 #include "AppContext.h"
 #include "ApplicationDirectories.h"
+#include "DayWatch.h"
 #include "DesktopFilePanel.h"
 #include "DesktopOpener.h"
 #include "MaintenanceDocumentStore.h"
@@ -59,6 +60,7 @@ private:
     AppInfo m_info;
     UpdateChecker m_checker;
     UpdateCheckerViewModel m_updates;
+    DayWatch m_dayWatch;
     std::unique_ptr<MainWindow> m_mainWindow;
     bool m_hasStarted = false;
 };

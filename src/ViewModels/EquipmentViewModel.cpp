@@ -166,10 +166,20 @@ QList<Equipment> EquipmentViewModel::overdueEquipment() const
     const Instant now = m_clock.now();
     QList<Equipment> overdue;
     for (const Equipment& item : m_equipment) {
-        if (item.isActive && item.daysUntilNextService(now, m_calendar) <= dueThresholdDays)
+        if (isDueSoon(item, item.daysUntilNextService(now, m_calendar)))
             overdue.append(item);
     }
     return overdue;
+}
+
+RegisterSummary EquipmentViewModel::summary() const
+{
+    return RegisterSummary::of(m_equipment, m_clock.now(), m_calendar);
+}
+
+void EquipmentViewModel::refreshDates()
+{
+    Q_EMIT equipmentChanged();
 }
 
 Equipment* EquipmentViewModel::find(const QUuid& id)

@@ -3,6 +3,7 @@
 
 #include "EquipmentFilter.h"
 #include "MaintenanceDocumentStore.h"
+#include "RegisterSummary.h"
 #include "StorageManager.h"
 
 #include <QObject>
@@ -56,6 +57,11 @@ public:
     [[nodiscard]] QList<Equipment> filteredEquipment() const;
     /// The active items due within dueThresholdDays, past ones included, in catalogue order.
     [[nodiscard]] QList<Equipment> overdueEquipment() const;
+    /// All figures of one moment, the due items among them. Says nothing to the log.
+    [[nodiscard]] RegisterSummary summary() const;
+
+    /// Notifies, so that whatever was counted from the present is read anew.
+    void refreshDates();
 
 Q_SIGNALS:
     void equipmentChanged();

@@ -11,5 +11,6 @@ namespace abissora::gallery {
 [[nodiscard]] QList<Scene> screenScenes();
 [[nodiscard]] QList<Scene> typeScenes();
 [[nodiscard]] QList<Scene> helpScenes();
+[[nodiscard]] QList<Scene> overviewScenes();
 
 } // namespace abissora::gallery

@@ -40,8 +40,7 @@ int main(int argc, char** argv)
     font.setPointSizeF(fixedPointSize);
     QApplication::setFont(font);
     using namespace abissora::gallery;
-    return render(controlScenes() + componentScenes() + sheetScenes() + screenScenes() + typeScenes() + helpScenes(),
-                  QDir(folder))
-               ? 0
-               : 1;
+    const QList<Scene> scenes = controlScenes() + componentScenes() + sheetScenes() + screenScenes() + typeScenes() +
+                                helpScenes() + overviewScenes();
+    return render(scenes, QDir(folder)) ? 0 : 1;
 }

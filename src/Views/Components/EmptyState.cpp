@@ -60,9 +60,9 @@ EmptyState::EmptyState(const QString& symbol, const QString& title, QWidget* par
     setTitle(title);
 }
 
-void EmptyState::setSymbol(const QString& name)
+void EmptyState::setSymbol(const QString& name, NamedColor color)
 {
-    m_icon->setIcon(symbolIcon(name, NamedColor::secondary));
+    m_icon->setIcon(symbolIcon(name, color));
 }
 
 void EmptyState::setTitle(const QString& title)

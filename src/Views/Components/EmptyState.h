@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "NamedColor.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -19,7 +21,7 @@ public:
     explicit EmptyState(QWidget* parent = nullptr);
     EmptyState(const QString& symbol, const QString& title, QWidget* parent = nullptr);
 
-    void setSymbol(const QString& name);
+    void setSymbol(const QString& name, NamedColor color = NamedColor::secondary);
     void setTitle(const QString& title);
     void setText(const QString& text);
     void setButtonText(const QString& text);

@@ -6,9 +6,11 @@
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
+#include "MaintenanceOverviewView.h"
 #include "Metrics.h"
 #include "SegmentedControl.h"
 #include "SidebarView.h"
+#include "StatisticsView.h"
 
 #include <QSplitter>
 #include <QStackedWidget>
@@ -184,11 +186,9 @@ QWidget* ContentView::makeListArea()
 
 QWidget* ContentView::makeScreen(int tab)
 {
-    const TabTitle title = tabTitles().at(tab);
-    auto* screen = new EmptyState;
-    screen->setSymbol(title.symbol);
-    screen->setTitle(title.text);
-    return screen;
+    if (tab == MaintenanceTab)
+        return new MaintenanceOverviewView(m_context);
+    return new StatisticsView(m_context);
 }
 
 void ContentView::showPage()

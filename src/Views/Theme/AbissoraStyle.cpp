@@ -192,7 +192,7 @@ void AbissoraStyle::drawControl(ControlElement element, const QStyleOption* opti
         return;
     case CE_ProgressBarContents:
         if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
-            return indicators::drawProgressBar(*bar, *painter);
+            return indicators::drawProgressBar(*bar, *painter, widget);
         break;
     default:
         break;

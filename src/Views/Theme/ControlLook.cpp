@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QProgressBar>
 #include <QVariant>
 
 namespace abissora {
@@ -12,6 +13,7 @@ namespace {
 constexpr const char* buttonProperty = "abissoraButtonLook";
 constexpr const char* selectionProperty = "abissoraSelectionLook";
 constexpr const char* invalidProperty = "abissoraInvalid";
+constexpr const char* barProperty = "abissoraBarColor";
 
 } // namespace
 
@@ -49,6 +51,18 @@ void setInvalidLook(QWidget& field, bool invalid)
 bool hasInvalidLook(const QWidget* field)
 {
     return field != nullptr && field->property(invalidProperty).toBool();
+}
+
+void setBarColor(QProgressBar& bar, NamedColor color)
+{
+    bar.setProperty(barProperty, static_cast<int>(color));
+    bar.update();
+}
+
+std::optional<NamedColor> barColor(const QWidget* bar)
+{
+    const QVariant color = bar != nullptr ? bar->property(barProperty) : QVariant();
+    return color.isValid() ? std::optional(static_cast<NamedColor>(color.toInt())) : std::nullopt;
 }
 
 } // namespace abissora

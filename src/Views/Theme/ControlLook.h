@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "NamedColor.h"
+
 #include <QtGlobal>
+#include <optional>
 
 class QAbstractButton;
 class QAbstractItemView;
+class QProgressBar;
 class QWidget;
 
 namespace abissora {
@@ -36,5 +40,9 @@ void setSelectionLook(QAbstractItemView& view, SelectionLook look);
 /// A field that holds what cannot be taken stands in the colour of danger.
 void setInvalidLook(QWidget& field, bool invalid);
 [[nodiscard]] bool hasInvalidLook(const QWidget* field);
+
+/// Progress bars have the accent colour until told otherwise.
+void setBarColor(QProgressBar& bar, NamedColor color);
+[[nodiscard]] std::optional<NamedColor> barColor(const QWidget* bar);
 
 } // namespace abissora

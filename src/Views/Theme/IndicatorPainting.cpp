@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "IndicatorPainting.h"
 
+#include "ControlLook.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "Tokens.h"
@@ -81,7 +82,7 @@ void drawSwitch(const QStyleOption& option, QPainter& painter, const QRectF& rec
     painter.restore();
 }
 
-void drawProgressBar(const QStyleOptionProgressBar& option, QPainter& painter)
+void drawProgressBar(const QStyleOptionProgressBar& option, QPainter& painter, const QWidget* widget)
 {
     const Tokens& tokens = Tokens::of(option.palette);
     const int range = option.maximum - option.minimum;
@@ -89,8 +90,9 @@ void drawProgressBar(const QStyleOptionProgressBar& option, QPainter& painter)
     QRectF bar(option.rect);
     bar.setHeight(std::min(barHeight, bar.height()));
     bar.moveCenter(QRectF(option.rect).center());
-    drawBar(painter, bar, share, option.state & QStyle::State_Enabled ? tokens.accentFill : tokens.disabled,
-            option.palette);
+    const std::optional<NamedColor> color = barColor(widget);
+    const QColor fill = color ? tokens.named(*color) : tokens.accentFill;
+    drawBar(painter, bar, share, option.state & QStyle::State_Enabled ? fill : tokens.disabled, option.palette);
 }
 
 void drawBar(QPainter& painter, const QRectF& rect, double share, const QColor& fill, const QPalette& palette)

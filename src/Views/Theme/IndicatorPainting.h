@@ -9,6 +9,7 @@ class QPalette;
 class QStyleOption;
 class QStyleOptionProgressBar;
 class QColor;
+class QWidget;
 
 namespace abissora::indicators {
 
@@ -21,7 +22,7 @@ void drawRadioButton(const QStyleOption& option, QPainter& painter);
 /// `position` runs from 0 (off) to 1 (on).
 void drawSwitch(const QStyleOption& option, QPainter& painter, const QRectF& rect, double position);
 
-void drawProgressBar(const QStyleOptionProgressBar& option, QPainter& painter);
+void drawProgressBar(const QStyleOptionProgressBar& option, QPainter& painter, const QWidget* widget);
 /// A rounded bar of which `share`, from 0 to 1, is filled.
 void drawBar(QPainter& painter, const QRectF& rect, double share, const QColor& fill, const QPalette& palette);
 

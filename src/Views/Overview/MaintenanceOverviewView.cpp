@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "MaintenanceOverviewView.h"
+
+#include "CardGrid.h"
+#include "DueList.h"
+#include "EmptyState.h"
+#include "EquipmentDetailSheet.h"
+#include "InkLabel.h"
+#include "Metrics.h"
+#include "ScreenPage.h"
+#include "StatCard.h"
+
+#include <QVBoxLayout>
+
+namespace abissora {
+
+MaintenanceOverviewView::MaintenanceOverviewView(const AppContext& context, QWidget* parent)
+    : QWidget(parent)
+    , m_context(context)
+    , m_update(*this, [this] { redraw(); })
+    , m_page(new ScreenPage(QStringLiteral("Panoramica Manutenzione")))
+    , m_total(new StatCard(QStringLiteral("Totale Articoli"), QStringLiteral("folder.fill"), NamedColor::blue))
+    , m_due(new StatCard(QStringLiteral("Manutenzioni Scadute"), QStringLiteral("exclamationmark.triangle.fill"),
+                         NamedColor::red))
+    , m_expiring(new StatCard(QStringLiteral("In Scadenza (30gg)"), QStringLiteral("clock.fill"), NamedColor::orange))
+    , m_inOrder(new StatCard(QStringLiteral("In Regola"), QStringLiteral("checkmark.circle.fill"), NamedColor::green))
+    , m_dueTitle(new InkLabel(TextStyle::Headline, &Tokens::text, QStringLiteral("Manutenzioni Scadute")))
+    , m_dueList(new DueList(*m_page))
+    , m_allInOrder(new EmptyState)
+{
+    setObjectName(QStringLiteral("maintenanceOverview"));
+    buildLayout();
+    connect(&context.equipment, &EquipmentViewModel::equipmentChanged, &m_update, &VisibleUpdate::schedule);
+    connect(&context.equipment, &EquipmentViewModel::equipmentChanged, this,
+            &MaintenanceOverviewView::forgetDeletedSelection);
+    connect(&context.types, &EquipmentTypeViewModel::typesChanged, &m_update, &VisibleUpdate::schedule);
+    connect(m_dueList, &DueList::chosen, this, &MaintenanceOverviewView::setSelectedEquipment);
+}
+
+void MaintenanceOverviewView::buildLayout()
+{
+    m_dueList->setObjectName(QStringLiteral("dueList"));
+    m_dueList->setAccessibleName(QStringLiteral("Manutenzioni Scadute"));
+    m_allInOrder->setObjectName(QStringLiteral("allInOrder"));
+    m_allInOrder->setSymbol(QStringLiteral("checkmark.circle.fill"), NamedColor::green);
+    m_allInOrder->setTitle(QStringLiteral("Tutte le attrezzature sono in regola!"));
+
+    auto* cards = new CardGrid(4);
+    for (StatCard* card : {m_total, m_due, m_expiring, m_inOrder})
+        cards->addWidget(card);
+
+    QVBoxLayout* const column = m_page->column();
+    column->addWidget(new InkLabel(TextStyle::LargeTitle, &Tokens::text, QStringLiteral("Panoramica Manutenzione")));
+    column->addLayout(cards);
+    column->addWidget(m_dueTitle);
+    column->addWidget(m_dueList);
+    column->addWidget(m_allInOrder, 1);
+    column->addStretch();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_page);
+}
+
+void MaintenanceOverviewView::setSelectedEquipment(const std::optional<Equipment>& equipment)
+{
+    if (m_sheet)
+        m_sheet->reject();
+    m_selectedEquipment = equipment;
+    if (!equipment)
+        return;
+    m_sheet = new EquipmentDetailSheet(m_context, *equipment, this);
+    m_sheet->setAttribute(Qt::WA_DeleteOnClose);
+    connect(m_sheet, &QDialog::finished, this, [this] {
+        m_sheet.clear();
+        m_selectedEquipment.reset();
+    });
+    m_sheet->open();
+}
+
+void MaintenanceOverviewView::forgetDeletedSelection()
+{
+    const QList<Equipment>& items = m_context.equipment.equipment();
+    const auto isSelected = [this](const Equipment& item) { return item.id == m_selectedEquipment->id; };
+    if (m_selectedEquipment && std::none_of(items.begin(), items.end(), isSelected))
+        setSelectedEquipment(std::nullopt);
+}
+
+void MaintenanceOverviewView::redraw()
+{
+    const RegisterSummary summary = m_context.equipment.summary();
+    m_total->setValue(QString::number(summary.total));
+    m_due->setValue(QString::number(summary.due.size()));
+    m_expiring->setValue(QString::number(summary.expiring));
+    m_inOrder->setValue(QString::number(summary.inOrder));
+
+    const bool anyDue = !summary.due.isEmpty();
+    m_dueTitle->setVisible(anyDue);
+    m_dueList->setVisible(anyDue);
+    m_allInOrder->setVisible(!anyDue);
+    m_dueList->setItems(summary.due, [&types = m_context.types](const Equipment& item) {
+        const auto type = types.getTypeByName(item.displayTypeName());
+        return type ? appearanceOf(*type) : builtInAppearance(item.type);
+    });
+}
+
+} // namespace abissora

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "StatisticsView.h"
+
+#include "CardGrid.h"
+#include "InkLabel.h"
+#include "Metrics.h"
+#include "ScreenPage.h"
+#include "StatCard.h"
+#include "TypeDistribution.h"
+
+#include <QVBoxLayout>
+
+namespace abissora {
+
+StatisticsView::StatisticsView(const AppContext& context, QWidget* parent)
+    : QWidget(parent)
+    , m_context(context)
+    , m_update(*this, [this] { redraw(); })
+    , m_total(new StatCard(QStringLiteral("Totale Attrezzatura"), QStringLiteral("list.bullet.circle.fill"),
+                           NamedColor::blue))
+    , m_active(new StatCard(QStringLiteral("Attrezzatura Attiva"), QStringLiteral("checkmark.circle.fill"),
+                            NamedColor::green))
+    , m_due(new StatCard(QStringLiteral("Manutenzioni Scadute"), QStringLiteral("exclamationmark.triangle.fill"),
+                         NamedColor::red))
+    , m_expiring(new StatCard(QStringLiteral("In Scadenza (30gg)"), QStringLiteral("clock.fill"), NamedColor::orange))
+    , m_inOrder(new StatCard(QStringLiteral("In Regola"), QStringLiteral("checkmark.seal.fill"), NamedColor::green))
+    , m_types(new StatCard(QStringLiteral("Tipologie"), QStringLiteral("folder.fill"), NamedColor::purple))
+    , m_distribution(new TypeDistribution)
+{
+    setObjectName(QStringLiteral("statistics"));
+    buildLayout();
+    connect(&context.equipment, &EquipmentViewModel::equipmentChanged, &m_update, &VisibleUpdate::schedule);
+    connect(&context.types, &EquipmentTypeViewModel::changed, &m_update, &VisibleUpdate::schedule);
+}
+
+void StatisticsView::buildLayout()
+{
+    m_distribution->setObjectName(QStringLiteral("distribution"));
+    m_distribution->setAccessibleName(QStringLiteral("Distribuzione per Tipo"));
+    auto* cards = new CardGrid(3);
+    for (StatCard* card : {m_total, m_active, m_due, m_expiring, m_inOrder, m_types})
+        cards->addWidget(card);
+
+    auto* page = new ScreenPage(QStringLiteral("Statistiche"));
+    page->column()->addLayout(cards);
+    page->column()->addWidget(
+        new InkLabel(TextStyle::Headline, &Tokens::text, QStringLiteral("Distribuzione per Tipo")));
+    page->column()->addWidget(m_distribution);
+    page->column()->addStretch();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(page);
+}
+
+void StatisticsView::redraw()
+{
+    const EquipmentViewModel& equipment = m_context.equipment;
+    const RegisterSummary summary = equipment.summary();
+    const QList<EquipmentTypeModel> types = m_context.types.filteredTypes();
+    m_total->setValue(QString::number(summary.total));
+    m_active->setValue(QString::number(summary.active));
+    m_due->setValue(QString::number(summary.due.size()));
+    m_expiring->setValue(QString::number(summary.expiring));
+    m_inOrder->setValue(QString::number(summary.inOrder));
+    m_types->setValue(QString::number(types.size()));
+
+    const QHash<QString, qsizetype> counts = activeItemsByTypeName(equipment.equipment());
+    QList<TypeDistribution::Share> shares;
+    for (const EquipmentTypeModel& type : types)
+        shares.append({type.name, appearanceOf(type), counts.value(type.name)});
+    m_distribution->setShares(shares, summary.total);
+}
+
+} // namespace abissora

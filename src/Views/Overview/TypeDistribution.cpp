@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "TypeDistribution.h"
+
+#include "ControlLook.h"
+#include "IconView.h"
+#include "Metrics.h"
+#include "SymbolIcon.h"
+#include "WrapLabel.h"
+
+#include <QGridLayout>
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+namespace abissora {
+
+namespace {
+
+enum Column { IconColumn, NameColumn, BarColumn, CountColumn };
+
+constexpr int iconWidth = 24;
+constexpr int nameWidth = 150;
+constexpr int countWidth = 40;
+constexpr int rowHeight = 21;
+
+} // namespace
+
+TypeDistribution::TypeDistribution(QWidget* parent)
+    : Card(parent)
+    , m_grid(new QGridLayout)
+    , m_nothing(
+          new WrapLabel(TextStyle::Body, &Tokens::secondaryText, QStringLiteral("Nessuna attrezzatura registrata")))
+{
+    m_nothing->setObjectName(QStringLiteral("noEquipment"));
+    content()->addWidget(m_nothing);
+    content()->addLayout(m_grid);
+    content()->setContentsMargins(metrics::spaceL, metrics::spaceM, metrics::spaceL, metrics::spaceM);
+    m_grid->setHorizontalSpacing(metrics::spaceM);
+    m_grid->setVerticalSpacing(metrics::spaceS);
+    m_grid->setColumnMinimumWidth(IconColumn, iconWidth);
+    m_grid->setColumnMinimumWidth(CountColumn, countWidth);
+    m_grid->setColumnStretch(BarColumn, 1);
+}
+
+void TypeDistribution::setShares(const QList<Share>& shares, qsizetype total)
+{
+    const qsizetype wanted = total > 0 ? shares.size() : 0;
+    m_nothing->setVisible(total == 0);
+    while (m_rows.size() < wanted)
+        addRow();
+    while (m_rows.size() > wanted)
+        removeRow();
+    for (qsizetype i = 0; i < wanted; ++i)
+        fill(m_rows.at(i), shares.at(i), total);
+}
+
+void TypeDistribution::addRow()
+{
+    const Row row{new IconView, new WrapLabel(TextStyle::Body, &Tokens::text), new QProgressBar,
+                  new InkLabel(TextStyle::Body, &Tokens::secondaryText)};
+    const auto number = static_cast<int>(m_rows.size());
+    row.name->setObjectName(QStringLiteral("typeName%1").arg(number));
+    row.name->setFixedWidth(withText(nameWidth, row.name->fontMetrics()));
+    row.bar->setObjectName(QStringLiteral("typeBar%1").arg(number));
+    row.bar->setTextVisible(false);
+    row.bar->setFixedHeight(rowHeight);
+    row.count->setObjectName(QStringLiteral("typeCount%1").arg(number));
+    row.count->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+
+    m_grid->addWidget(row.icon, number, IconColumn, Qt::AlignLeading | Qt::AlignVCenter);
+    m_grid->addWidget(row.name, number, NameColumn);
+    m_grid->addWidget(row.bar, number, BarColumn, Qt::AlignVCenter);
+    m_grid->addWidget(row.count, number, CountColumn);
+    m_rows.append(row);
+}
+
+void TypeDistribution::removeRow()
+{
+    const Row row = m_rows.takeLast();
+    for (QWidget* part : std::initializer_list<QWidget*>{row.icon, row.name, row.bar, row.count})
+        delete part;
+}
+
+void TypeDistribution::fill(const Row& row, const Share& share, qsizetype total)
+{
+    row.icon->setIcon(typeIcon(share.appearance.icon, share.appearance.color));
+    row.name->setText(share.name);
+    row.bar->setAccessibleName(share.name);
+    row.bar->setRange(0, static_cast<int>(total));
+    row.bar->setValue(static_cast<int>(share.count));
+    setBarColor(*row.bar, share.appearance.color);
+    row.count->setText(QString::number(share.count));
+}
+
+} // namespace abissora

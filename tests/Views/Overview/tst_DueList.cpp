@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: MIT
+#include "OverviewParts.h"
+#include "TestRunner.h"
+
+#include <QAccessible>
+#include <QScrollBar>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+constexpr int many = 3000;
+
+QScrollArea& page(QWidget& window)
+{
+    for (QWidget* above = part(window, QStringLiteral("dueList")).parentWidget(); above != nullptr;
+         above = above->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(above))
+            return *area;
+    }
+    qFatal("the list lies in no scroll area");
+}
+
+DueRow* rowOf(DueList& list, const QString& name)
+{
+    for (DueRow* row : list.rows()) {
+        if (row->equipment().name == name)
+            return row;
+    }
+    return nullptr;
+}
+
+DueRow* rowWithFocus()
+{
+    const QWidget* focused = QApplication::focusWidget();
+    return focused != nullptr ? qobject_cast<DueRow*>(focused->parentWidget()) : nullptr;
+}
+
+/// "name/button" of what has the focus.
+QString focusText()
+{
+    const DueRow* row = rowWithFocus();
+    return row == nullptr ? QStringLiteral("elsewhere")
+                          : row->equipment().name + QLatin1Char('/') + QApplication::focusWidget()->objectName();
+}
+
+void press(Qt::Key key)
+{
+    QTest::keyClick(QApplication::focusWidget(), key);
+}
+
+bool isInSight(const QWidget& widget, const QScrollArea& area)
+{
+    const QRect place(widget.mapTo(area.viewport(), QPoint()), widget.size());
+    return area.viewport()->rect().contains(place);
+}
+
+} // namespace
+
+class tst_DueList : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fewRowsExistHoweverManyItems()
+    {
+        ScreenFixture f(dueItems(many));
+        ShownTab s(f, ContentView::MaintenanceTab);
+        DueList& list = s.dueList();
+        QCOMPARE(list.itemCount(), many);
+        QVERIFY(list.rows().size() < 30);
+        const qsizetype widgets = list.findChildren<DueRow*>().size();
+        QScrollBar& bar = *page(s.window).verticalScrollBar();
+        for (int value = 0; value < bar.maximum(); value += bar.maximum() / 50)
+            bar.setValue(value);
+        QVERIFY(list.rows().size() < 30);
+        QVERIFY(list.findChildren<DueRow*>().size() < widgets + 15);
+    }
+
+    void whatIsInSightIsThere_data()
+    {
+        QTest::addColumn<double>("share");
+        QTest::newRow("top") << 0.0;
+        QTest::newRow("somewhere") << 0.37;
+        QTest::newRow("bottom") << 1.0;
+    }
+
+    void whatIsInSightIsThere()
+    {
+        QFETCH(double, share);
+        ScreenFixture f(dueItems(many));
+        ShownTab s(f, ContentView::MaintenanceTab);
+        QScrollArea& area = page(s.window);
+        area.verticalScrollBar()->setValue(static_cast<int>(area.verticalScrollBar()->maximum() * share));
+        DueList& list = s.dueList();
+        const QRect sight = QRect(list.mapFrom(area.viewport(), QPoint()), area.viewport()->size()) & list.rect();
+        QRegion covered;
+        for (const DueRow* row : list.rows()) {
+            const int index = row->equipment().name.mid(9).toInt();
+            QCOMPARE(row->accessibleName(), QStringLiteral("Articolo %1, Scaduto da %1 giorni").arg(index));
+            QCOMPARE(row->y(), index * (DueRow::rowHeight() + 1) + 1);
+            QCOMPARE(row->width(), list.width());
+            covered += row->geometry().adjusted(0, -1, 0, 1);
+        }
+        QVERIFY(sight.height() > 300);
+        QVERIFY(QRegion(sight).subtracted(covered).isEmpty());
+    }
+
+    void aLargerWindowShowsMoreRows()
+    {
+        ScreenFixture f(dueItems(many));
+        ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
+        const qsizetype before = s.dueList().rows().size();
+        s.window.resize(1200, 1000);
+        settleLayouts();
+        QVERIFY(s.dueList().rows().size() >= before + 4);
+        QCOMPARE(s.dueList().rows().first()->width(), s.dueList().width());
+    }
+
+    void tabWalksThroughEveryRow()
+    {
+        ScreenFixture f(dueItems(60));
+        ShownTab s(f, ContentView::MaintenanceTab);
+        rowOf(s.dueList(), QStringLiteral("Articolo 0"))->button(DueRow::AddMaintenance)->setFocus(Qt::TabFocusReason);
+        for (int i = 0; i < 60; ++i) {
+            QCOMPARE(focusText(), QStringLiteral("Articolo %1/addMaintenance").arg(i));
+            press(Qt::Key_Tab);
+            QCOMPARE(focusText(), QStringLiteral("Articolo %1/showDetails").arg(i));
+            QVERIFY(isInSight(*rowWithFocus(), page(s.window)));
+            press(Qt::Key_Tab);
+        }
+        QCOMPARE(focusText(), QStringLiteral("elsewhere"));
+        press(Qt::Key_Backtab);
+        for (int i = 59; i >= 0; --i) {
+            QCOMPARE(focusText(), QStringLiteral("Articolo %1/showDetails").arg(i));
+            press(Qt::Key_Backtab);
+            QCOMPARE(focusText(), QStringLiteral("Articolo %1/addMaintenance").arg(i));
+            press(Qt::Key_Backtab);
+        }
+        QCOMPARE(focusText(), QStringLiteral("elsewhere"));
+    }
+
+    void tabStartsAtTheFirstRowHoweverFarScrolled()
+    {
+        ScreenFixture f(dueItems(many));
+        ShownTab s(f, ContentView::MaintenanceTab);
+        QScrollArea& area = page(s.window);
+        area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum() / 2);
+        area.setFocus(Qt::TabFocusReason);
+        press(Qt::Key_Tab);
+        QCOMPARE(focusText(), QStringLiteral("Articolo 0/addMaintenance"));
+        QVERIFY(isInSight(*rowWithFocus(), area));
+    }
+
+    void keysWalkThroughTheRows()
+    {
+        ScreenFixture f(dueItems(many));
+        ShownTab s(f, ContentView::MaintenanceTab);
+        rowOf(s.dueList(), QStringLiteral("Articolo 0"))->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
+        const auto expect = [&](Qt::Key key, int index) {
+            press(key);
+            QCOMPARE(focusText(), QStringLiteral("Articolo %1/showDetails").arg(index));
+            QVERIFY(isInSight(*rowWithFocus(), page(s.window)));
+        };
+        expect(Qt::Key_Up, 0);
+        expect(Qt::Key_Down, 1);
+        expect(Qt::Key_Down, 2);
+        expect(Qt::Key_Up, 1);
+        expect(Qt::Key_End, many - 1);
+        expect(Qt::Key_Down, many - 1);
+        expect(Qt::Key_Up, many - 2);
+        expect(Qt::Key_Home, 0);
+        press(Qt::Key_PageDown);
+        const int page = rowWithFocus()->equipment().name.mid(9).toInt();
+        QVERIFY(page > 3);
+        expect(Qt::Key_PageDown, 2 * page);
+        expect(Qt::Key_PageUp, page);
+    }
+
+    /// A list that scrolls under the wheel does not take the focus away from where it is.
+    void scrollingKeepsTheFocus()
+    {
+        ScreenFixture f(dueItems(many));
+        ShownTab s(f, ContentView::MaintenanceTab);
+        rowOf(s.dueList(), QStringLiteral("Articolo 3"))->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
+        QScrollBar& bar = *page(s.window).verticalScrollBar();
+        bar.setValue(bar.maximum());
+        bar.setValue(bar.maximum() / 2);
+        QCOMPARE(focusText(), QStringLiteral("Articolo 3/showDetails"));
+        press(Qt::Key_Down);
+        QCOMPARE(focusText(), QStringLiteral("Articolo 4/showDetails"));
+        QVERIFY(isInSight(*rowWithFocus(), page(s.window)));
+    }
+
+    void theFocusStaysOnItsItem()
+    {
+        ScreenFixture f(dueItems(40));
+        ShownTab s(f, ContentView::MaintenanceTab);
+        rowOf(s.dueList(), QStringLiteral("Articolo 5"))->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
+        f.equipment.deleteEquipment(f.equipment.equipment().at(2));
+        settleLayouts();
+        QCOMPARE(focusText(), QStringLiteral("Articolo 5/showDetails"));
+        QCOMPARE(rowWithFocus()->y(), 4 * (DueRow::rowHeight() + 1) + 1);
+        QCOMPARE(rowTexts(s.dueList()).mid(2, 3), QStringList({QStringLiteral("Articolo 3, Scaduto da 3 giorni"),
+                                                               QStringLiteral("Articolo 4, Scaduto da 4 giorni"),
+                                                               QStringLiteral("Articolo 5, Scaduto da 5 giorni")}));
+        press(Qt::Key_Down);
+        QCOMPARE(focusText(), QStringLiteral("Articolo 6/showDetails"));
+    }
+
+    void theFocusStaysInThePlaceOfAnItemThatGoes_data()
+    {
+        QTest::addColumn<int>("focused");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("in the middle") << 2 << QStringLiteral("Articolo 3/addMaintenance");
+        QTest::newRow("the last") << 4 << QStringLiteral("Articolo 3/addMaintenance");
+    }
+
+    void theFocusStaysInThePlaceOfAnItemThatGoes()
+    {
+        QFETCH(int, focused);
+        QFETCH(QString, expected);
+        ScreenFixture f(dueItems(5));
+        ShownTab s(f, ContentView::MaintenanceTab);
+        const Equipment item = f.equipment.equipment().at(focused);
+        rowOf(s.dueList(), item.name)->button(DueRow::AddMaintenance)->setFocus(Qt::TabFocusReason);
+        f.equipment.deleteEquipment(item);
+        settleLayouts();
+        QCOMPARE(focusText(), expected);
+        QCOMPARE(s.dueList().rows().size(), 4);
+    }
+
+    void theLastRowGoesWhileItHasTheFocus()
+    {
+        ScreenFixture f(dueItems(1));
+        ShownTab s(f, ContentView::MaintenanceTab);
+        s.dueList().rows().first()->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
+        f.equipment.deleteEquipment(f.equipment.equipment().first());
+        settleLayouts();
+        QVERIFY(!isShown(s.window, QStringLiteral("dueList")));
+        QVERIFY(QApplication::focusWidget() != nullptr);
+        QVERIFY(QApplication::focusWidget()->isVisible());
+    }
+
+    void screenReadersFindAListOfRows()
+    {
+        ScreenFixture f(dueItems(4));
+        ShownTab s(f, ContentView::MaintenanceTab);
+        // Rows were made in another order than they stand in.
+        f.equipment.deleteEquipment(f.equipment.equipment().first());
+        f.equipment.addEquipment(makeItem(9, QStringLiteral("Nuovo"), EquipmentType::fins, f.inDays(12)));
+        settleLayouts();
+        QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&s.dueList());
+        QCOMPARE(list->role(), QAccessible::List);
+        QCOMPARE(list->text(QAccessible::Name), QStringLiteral("Manutenzioni Scadute"));
+        QStringList read;
+        for (int i = 0; i < list->childCount(); ++i) {
+            QAccessibleInterface* const row = list->child(i);
+            QCOMPARE(row->role(), QAccessible::ListItem);
+            QCOMPARE(list->indexOfChild(row), i);
+            QCOMPARE(row->parent(), list);
+            read.append(row->text(QAccessible::Name));
+        }
+        QCOMPARE(read, QStringList({QStringLiteral("Articolo 1, Scaduto da 1 giorni"),
+                                    QStringLiteral("Articolo 2, Scaduto da 2 giorni"),
+                                    QStringLiteral("Articolo 3, Scaduto da 3 giorni"),
+                                    QStringLiteral("Nuovo, Scaduto da 12 giorni")}));
+        QAccessibleInterface* const button =
+            QAccessible::queryAccessibleInterface(s.dueList().rows().first()->button(DueRow::AddMaintenance));
+        QCOMPARE(button->text(QAccessible::Name), QStringLiteral("Aggiungi Manutenzione"));
+        QCOMPARE(button->text(QAccessible::Description), QStringLiteral("Articolo 1"));
+    }
+
+    void aLongNameGivesWay()
+    {
+        QList<Equipment> items = dueItems(1);
+        items[0].name = QStringLiteral("<b>Erogatore</b>\n") + QString(400, QLatin1Char('x'));
+        ScreenFixture f(items);
+        ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
+        DueRow* const row = s.dueList().rows().first();
+        QCOMPARE(row->accessibleName(), items.at(0).name + QStringLiteral(", Scaduto da 0 giorni"));
+        QCOMPARE(row->height(), DueRow::rowHeight());
+        QVERIFY(isInSight(*row->button(DueRow::Details), page(s.window)));
+        QCOMPARE(page(s.window).horizontalScrollBar()->maximum(), 0);
+    }
+};
+
+ABISSORA_TEST(tst_DueList);
+
+#include "tst_DueList.moc"

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+#include "Alert.h"
+#include "ClippedTexts.h"
+#include "EquipmentDetailSheet.h"
+#include "EquipmentDetailView.h"
+#include "MaintenanceFormView.h"
+#include "MaintenanceOverviewView.h"
+#include "OverviewParts.h"
+#include "TestRunner.h"
+
+#include <QAccessible>
+#include <QSignalSpy>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+/// The overview of the three sample items, of which the second and the third are due.
+struct Shown : ShownTab
+{
+    explicit Shown(ScreenFixture& f, QSize size = {1280, 800})
+        : ShownTab(f, ContentView::MaintenanceTab, size)
+    {}
+
+    [[nodiscard]] MaintenanceOverviewView& view() { return *window.findChild<MaintenanceOverviewView*>(); }
+    [[nodiscard]] QAbstractButton& button(int row, DueRow::Part part)
+    {
+        return *dueList().rows().at(row)->button(part);
+    }
+    [[nodiscard]] EquipmentDetailSheet& sheet() { return openDialog<EquipmentDetailSheet>(window); }
+    [[nodiscard]] bool isSheetOpen() const { return isDialogOpen(window); }
+};
+
+} // namespace
+
+class tst_OverviewSheet : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void bothButtonsOpenTheItem_data()
+    {
+        QTest::addColumn<int>("part");
+        QTest::addColumn<bool>("byKeyboard");
+        QTest::newRow("add, clicked") << int(DueRow::AddMaintenance) << false;
+        QTest::newRow("details, clicked") << int(DueRow::Details) << false;
+        QTest::newRow("add, space bar") << int(DueRow::AddMaintenance) << true;
+        QTest::newRow("details, space bar") << int(DueRow::Details) << true;
+    }
+
+    void bothButtonsOpenTheItem()
+    {
+        QFETCH(int, part);
+        QFETCH(bool, byKeyboard);
+        ScreenFixture f;
+        Shown s(f);
+        QVERIFY(!s.view().selectedEquipment());
+        QAbstractButton& button = s.button(1, static_cast<DueRow::Part>(part));
+        if (byKeyboard) {
+            button.setFocus(Qt::TabFocusReason);
+            QTest::keyClick(&button, Qt::Key_Space);
+        } else {
+            QTest::mouseClick(&button, Qt::LeftButton);
+        }
+        settleLayouts();
+        QCOMPARE(s.view().selectedEquipment()->name, QStringLiteral("Computer Suunto EON Core"));
+        QCOMPARE(s.sheet().size(), QSize(750, 650));
+        QCOMPARE(textOf(s.sheet(), QStringLiteral("detailName")), QStringLiteral("Computer Suunto EON Core"));
+        QVERIFY(!s.window.content().selectedEquipment());
+        QVERIFY(!f.equipment.selectedEquipment());
+
+        QTest::keyClick(&s.sheet(), Qt::Key_Escape);
+        settleLayouts();
+        QVERIFY(!s.isSheetOpen());
+        QVERIFY(!s.view().selectedEquipment());
+        QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&button));
+        QVERIFY(s.window.findChildren<EquipmentDetailSheet*>().isEmpty());
+    }
+
+    void pressedByAScreenReaderTheFocusComesBackToo()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QAbstractButton& button = s.button(0, DueRow::Details);
+        QAccessible::queryAccessibleInterface(&button)->actionInterface()->doAction(
+            QAccessibleActionInterface::pressAction());
+        QTRY_VERIFY(s.isSheetOpen()); // the button shows itself pressed for a moment
+        settleLayouts();
+        click(s.sheet(), QStringLiteral("closeDetail"));
+        settleLayouts();
+        QVERIFY(!s.isSheetOpen());
+        QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&button));
+    }
+
+    void theSmallestWindowShowsTheWholeSheet()
+    {
+        ScreenFixture f;
+        Shown s(f, {1000, 700});
+        QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
+        settleLayouts();
+        QCOMPARE(s.sheet().size(), QSize(750, 650));
+        QVERIFY(s.window.geometry().contains(s.sheet().geometry()));
+        QCOMPARE(clippedTexts(s.sheet()), QStringList());
+    }
+
+    void deletedFromTheSheet()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
+        settleLayouts();
+        click(s.sheet(), QStringLiteral("deleteEquipment"));
+        click(openDialog<Alert>(s.sheet()), QStringLiteral("destructive"));
+        settleLayouts();
+        QVERIFY(!s.isSheetOpen());
+        QVERIFY(!s.view().selectedEquipment());
+        QCOMPARE(rowTexts(s.dueList()), QStringList(QStringLiteral("Computer Suunto EON Core, Scaduto da 15 giorni")));
+        QCOMPARE(f.equipment.equipment().size(), 2);
+        // What took its place in the list has the focus.
+        QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&s.button(0, DueRow::Details)));
+    }
+
+    void deletedElsewhere()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
+        settleLayouts();
+        s.sheet().detail().openMaintenanceForm(); // another sheet lies over it
+        settleLayouts();
+        f.equipment.deleteEquipment(*s.view().selectedEquipment());
+        settleLayouts();
+        QVERIFY(!s.isSheetOpen());
+        QVERIFY(!s.view().selectedEquipment());
+        QVERIFY(s.window.isEnabled());
+    }
+
+    void theRowLeavesWhileTheSheetIsOpen()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QTest::mouseClick(&s.button(1, DueRow::AddMaintenance), Qt::LeftButton);
+        settleLayouts();
+        click(s.sheet(), QStringLiteral("addMaintenance"));
+        settleLayouts();
+        auto& form = openDialog<MaintenanceFormView>(s.sheet());
+        part<QLineEdit>(form, QStringLiteral("description")).setText(QStringLiteral("Batteria"));
+        Q_EMIT part<QLineEdit>(form, QStringLiteral("description")).textEdited(QStringLiteral("Batteria"));
+        click(form, QStringLiteral("primary"));
+        settleLayouts();
+        QCOMPARE(rowTexts(s.dueList()), QStringList(QStringLiteral("GAV Scubapro Hydros, Scaduto da 30 giorni")));
+        QCOMPARE(s.sheet().detail().equipment().maintenanceHistory.size(), 1);
+        QTest::keyClick(&s.sheet(), Qt::Key_Escape);
+        settleLayouts();
+        QVERIFY(!s.view().selectedEquipment());
+        QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&s.button(0, DueRow::AddMaintenance)));
+    }
+
+    void theWholeListGoesWhileTheSheetIsOpen()
+    {
+        ScreenFixture f(dueItems(1));
+        Shown s(f);
+        QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
+        settleLayouts();
+        f.equipment.addMaintenance(f.equipment.equipment().first().id,
+                                   makeRecord(f, 1, 0, QStringLiteral("Revisione")));
+        settleLayouts();
+        QVERIFY(s.isSheetOpen());
+        QVERIFY(isShown(s.window, QStringLiteral("allInOrder")));
+        QTest::keyClick(&s.sheet(), Qt::Key_Escape);
+        settleLayouts();
+        QVERIFY(!s.isSheetOpen());
+        QVERIFY(QApplication::focusWidget() != nullptr);
+        QVERIFY(QApplication::focusWidget()->isVisible());
+        QCOMPARE(QApplication::focusWidget()->window(), static_cast<QWidget*>(&s.window));
+    }
+
+    void selectingNothingClosesAndAnotherItemReplaces()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        const auto& items = f.equipment.equipment();
+        s.view().setSelectedEquipment(items.at(0));
+        settleLayouts();
+        s.view().setSelectedEquipment(items.at(1));
+        settleLayouts();
+        QCOMPARE(s.window.findChildren<EquipmentDetailSheet*>().size(), 1);
+        QCOMPARE(s.view().selectedEquipment()->id, items.at(1).id);
+        QCOMPARE(textOf(s.sheet(), QStringLiteral("detailName")), items.at(1).name);
+        s.view().setSelectedEquipment(std::nullopt);
+        settleLayouts();
+        QVERIFY(!s.isSheetOpen());
+        QVERIFY(!s.view().selectedEquipment());
+    }
+
+    void theWindowEndsWithTheSheetOpen()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        s.view().setSelectedEquipment(f.equipment.equipment().first());
+        settleLayouts();
+        QVERIFY(s.isSheetOpen());
+    }
+};
+
+ABISSORA_TEST(tst_OverviewSheet);
+
+#include "tst_OverviewSheet.moc"

@@ -1,0 +1,349 @@
+// SPDX-License-Identifier: MIT
+#include "StatisticsView.h"
+
+#include "ClippedTexts.h"
+#include "ControlLook.h"
+#include "OverviewParts.h"
+#include "TestRunner.h"
+#include "Theme.h"
+#include "Tokens.h"
+
+#include <QAccessible>
+#include <QProgressBar>
+#include <QScrollBar>
+#include <random>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+QStringList cards(qsizetype total, qsizetype active, qsizetype due, qsizetype expiring, qsizetype inOrder,
+                  qsizetype types)
+{
+    return {
+        QStringLiteral("Totale Attrezzatura: %1").arg(total), QStringLiteral("Attrezzatura Attiva: %1").arg(active),
+        QStringLiteral("Manutenzioni Scadute: %1").arg(due),  QStringLiteral("In Scadenza (30gg): %1").arg(expiring),
+        QStringLiteral("In Regola: %1").arg(inOrder),         QStringLiteral("Tipologie: %1").arg(types)};
+}
+
+struct Shown : ShownTab
+{
+    explicit Shown(ScreenFixture& f, QSize size = {1280, 800})
+        : ShownTab(f, ContentView::StatisticsTab, size)
+    {}
+
+    [[nodiscard]] QScrollArea& page() { return *window.findChild<StatisticsView*>()->findChild<QScrollArea*>(); }
+    [[nodiscard]] QProgressBar& bar(int row)
+    {
+        return part<QProgressBar>(window, QStringLiteral("typeBar%1").arg(row));
+    }
+
+    /// "name count/total" of every row of the distribution.
+    [[nodiscard]] QStringList distribution()
+    {
+        QStringList rows;
+        for (int i = 0; isShown(window, QStringLiteral("typeName%1").arg(i)); ++i) {
+            const QProgressBar& shown = bar(i);
+            const QString count = textOf(window, QStringLiteral("typeCount%1").arg(i));
+            if (count != QString::number(shown.value()))
+                qFatal("bar and count differ in row %d", i);
+            rows.append(QStringLiteral("%1 %2/%3")
+                            .arg(textOf(window, QStringLiteral("typeName%1").arg(i)), count)
+                            .arg(shown.maximum()));
+        }
+        return rows;
+    }
+};
+
+EquipmentTypeModel type(int id, const QString& name, const QString& color)
+{
+    return {SequentialIds::at(30'000 + id), name, QStringLiteral("dive.tank"), color, 365, true};
+}
+
+} // namespace
+
+class tst_StatisticsView : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { applyTheme(*qApp, Scheme::Light); }
+
+    void freshSamples()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QCOMPARE(cardTexts(s.window), cards(3, 3, 2, 2, 1, 16));
+        const QStringList rows = s.distribution();
+        QCOMPARE(rows.size(), 16);
+        QCOMPARE(rows.first(), QStringLiteral("Altro 0/3"));
+        QCOMPARE(rows.last(), QStringLiteral("Torcia 0/3"));
+        QVERIFY(rows.contains(QStringLiteral("Erogatore 1/3")));
+        QVERIFY(rows.contains(QStringLiteral("GAV 1/3")));
+        QVERIFY(rows.contains(QStringLiteral("Computer Subacqueo 1/3")));
+    }
+
+    void emptyRegister()
+    {
+        ScreenFixture f(QList<Equipment>{});
+        Shown s(f);
+        QCOMPARE(cardTexts(s.window), cards(0, 0, 0, 0, 0, 16));
+        QCOMPARE(s.distribution(), QStringList());
+        QCOMPARE(textOf(s.window, QStringLiteral("noEquipment")), QStringLiteral("Nessuna attrezzatura registrata"));
+        f.equipment.addEquipment(makeItem(1, QStringLiteral("x"), EquipmentType::fins, f.inDays(31)));
+        settleLayouts();
+        QVERIFY(!isShown(s.window, QStringLiteral("noEquipment")));
+        QCOMPARE(s.distribution().size(), 16);
+        f.equipment.deleteEquipment(f.equipment.equipment().first());
+        settleLayouts();
+        QVERIFY(isShown(s.window, QStringLiteral("noEquipment")));
+        QCOMPARE(s.distribution(), QStringList());
+    }
+
+    void noTypes()
+    {
+        ScreenFixture f;
+        f.types.setTypes({});
+        Shown s(f);
+        QCOMPARE(cardTexts(s.window).last(), QStringLiteral("Tipologie: 0"));
+        QCOMPARE(s.distribution(), QStringList());
+        QVERIFY(!isShown(s.window, QStringLiteral("noEquipment")));
+    }
+
+    void whatCountsForAType()
+    {
+        ScreenFixture f(QList<Equipment>{});
+        f.types.setTypes({type(1, QStringLiteral("GAV"), QStringLiteral("orange")),
+                          type(2, QStringLiteral("gav"), QStringLiteral("blue")),
+                          type(3, QStringLiteral("Boa"), QStringLiteral("red")),
+                          type(4, QStringLiteral("Boa"), QStringLiteral("green")),
+                          type(5, QStringLiteral("Spenta"), QStringLiteral("green"))});
+        QList<EquipmentTypeModel> types = f.types.types();
+        types[4].isActive = false;
+        f.types.setTypes(types);
+        const auto add = [&f](int id, EquipmentType kind, const std::optional<QString>& custom, bool isActive) {
+            Equipment item = makeItem(id, QStringLiteral("x"), kind, f.inDays(40));
+            item.customTypeName = custom;
+            item.isActive = isActive;
+            f.equipment.addEquipment(item);
+        };
+        add(1, EquipmentType::bcd, std::nullopt, true);
+        add(2, EquipmentType::bcd, QString(), true); // an empty name counts as absent
+        add(3, EquipmentType::bcd, std::nullopt, false);
+        add(4, EquipmentType::bcd, QStringLiteral("Boa"), true);
+        add(5, EquipmentType::other, QStringLiteral("Spenta"), true);
+        add(6, EquipmentType::mask, std::nullopt, true);
+        Shown s(f);
+        // By name in code-point order; types of one name count the same items; inactive items are in the total only.
+        QCOMPARE(s.distribution(), QStringList({QStringLiteral("Boa 1/6"), QStringLiteral("Boa 1/6"),
+                                                QStringLiteral("GAV 2/6"), QStringLiteral("gav 0/6")}));
+        QCOMPARE(cardTexts(s.window), cards(6, 5, 0, 0, 6, 4));
+    }
+
+    void aThousandItems()
+    {
+        std::mt19937 random(11);
+        const auto draw = [&random](int from, int to) { return std::uniform_int_distribution(from, to)(random); };
+        const ScreenFixture zone;
+        QList<Equipment> items;
+        qsizetype active = 0;
+        qsizetype due = 0;
+        qsizetype expiring = 0;
+        qsizetype inOrder = 0;
+        qsizetype masks = 0;
+        qsizetype lamps = 0;
+        for (int i = 0; i < 1000; ++i) {
+            const int left = draw(-60, 60);
+            Equipment item =
+                makeItem(i, QStringLiteral("x"), static_cast<EquipmentType>(draw(0, 8)), zone.inDays(left));
+            item.isActive = draw(0, 4) != 0;
+            if (draw(0, 3) == 0)
+                item.customTypeName = QStringLiteral("Torcia");
+            active += item.isActive ? 1 : 0;
+            due += item.isActive && left <= 30 ? 1 : 0;
+            expiring += left >= 1 && left <= 30 ? 1 : 0;
+            inOrder += left >= 31 ? 1 : 0;
+            lamps += item.isActive && item.customTypeName ? 1 : 0;
+            masks += item.isActive && !item.customTypeName && item.type == EquipmentType::mask ? 1 : 0;
+            items.append(item);
+        }
+        ScreenFixture f(items);
+        Shown s(f);
+        QCOMPARE(cardTexts(s.window), cards(1000, active, due, expiring, inOrder, 16));
+        QVERIFY(s.distribution().contains(QStringLiteral("Torcia %1/1000").arg(lamps)));
+        QVERIFY(s.distribution().contains(QStringLiteral("Maschera %1/1000").arg(masks)));
+        s.window.content().setSelectedTab(ContentView::MaintenanceTab);
+        settleLayouts();
+        QCOMPARE(cardTexts(s.window), QStringList({QStringLiteral("Totale Articoli: 1000"),
+                                                   QStringLiteral("Manutenzioni Scadute: %1").arg(due),
+                                                   QStringLiteral("In Scadenza (30gg): %1").arg(expiring),
+                                                   QStringLiteral("In Regola: %1").arg(inOrder)}));
+    }
+
+    void typesAreFollowed()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        EquipmentTypeModel bcd = *f.types.getTypeByName(QStringLiteral("GAV"));
+        bcd.name = QStringLiteral("Gilet");
+        bcd.color = QStringLiteral("pink");
+        f.types.updateType(bcd);
+        settleLayouts();
+        QStringList rows = s.distribution();
+        QVERIFY(rows.contains(QStringLiteral("Gilet 0/3"))); // the item keeps the old name
+        QVERIFY(!rows.join(QLatin1Char(' ')).contains(QLatin1String("GAV")));
+        QCOMPARE(barColor(&s.bar(static_cast<int>(rows.indexOf(QStringLiteral("Gilet 0/3"))))),
+                 std::optional(NamedColor::pink));
+        f.types.deleteType(bcd);
+        settleLayouts();
+        rows = s.distribution();
+        QCOMPARE(rows.size(), 15);
+        QCOMPARE(cardTexts(s.window).last(), QStringLiteral("Tipologie: 15"));
+        f.types.setSearchText(QStringLiteral("tor"));
+        settleLayouts();
+        QCOMPARE(s.distribution(), QStringList({QStringLiteral("Computer Subacqueo 1/3"),
+                                                QStringLiteral("Erogatore 1/3"), QStringLiteral("Torcia 0/3")})
+                                       .filter(QStringLiteral("tor"), Qt::CaseInsensitive));
+        QCOMPARE(cardTexts(s.window).last(), QStringLiteral("Tipologie: %1").arg(s.distribution().size()));
+    }
+
+    void barsAreDrawnInTheColourOfTheType()
+    {
+        ScreenFixture f;
+        f.types.setTypes({type(1, QStringLiteral("GAV"), QStringLiteral("pink")),
+                          type(2, QStringLiteral("Zero"), QStringLiteral("green"))});
+        for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+            applyTheme(*qApp, scheme);
+            Shown s(f);
+            const QImage full = s.bar(0).grab().toImage();
+            const int middle = full.height() / 2;
+            const Tokens& tokens = Tokens::of(scheme);
+            QCOMPARE(full.pixelColor(full.width() / 6, middle), tokens.named(NamedColor::pink));
+            QCOMPARE(full.pixelColor(full.width() * 2 / 3, middle), tokens.divider);
+            const QImage none = s.bar(1).grab().toImage();
+            QCOMPARE(none.pixelColor(8, middle), tokens.divider);
+        }
+        applyTheme(*qApp, Scheme::Light);
+    }
+
+    void columns()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        const QWidget& card = part(s.window, QStringLiteral("distribution"));
+        const QLabel& name = part<QLabel>(s.window, QStringLiteral("typeName0"));
+        const auto left = [&card](const QWidget& widget) { return widget.mapTo(&card, QPoint()).x(); };
+        QCOMPARE(left(name), 16 + 24 + 12);
+        QVERIFY(name.width() >= 150);
+        QCOMPARE(left(s.bar(0)), left(name) + name.width() + 12);
+        const QWidget& count = part(s.window, QStringLiteral("typeCount0"));
+        QVERIFY(count.width() >= 40);
+        QCOMPARE(left(count) + count.width(), card.width() - 16);
+        for (int row = 1; row < 16; ++row) {
+            QCOMPARE(left(s.bar(row)), left(s.bar(0)));
+            QCOMPARE(s.bar(row).width(), s.bar(0).width());
+        }
+    }
+
+    void barsAreReadAsValues()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        const qsizetype row = s.distribution().indexOf(QStringLiteral("GAV 1/3"));
+        QAccessibleInterface* const bar = QAccessible::queryAccessibleInterface(&s.bar(static_cast<int>(row)));
+        QCOMPARE(bar->role(), QAccessible::ProgressBar);
+        QCOMPARE(bar->text(QAccessible::Name), QStringLiteral("GAV"));
+        QCOMPARE(bar->valueInterface()->currentValue().toInt(), 1);
+        QCOMPARE(bar->valueInterface()->maximumValue().toInt(), 3);
+        QAccessibleInterface* const card =
+            QAccessible::queryAccessibleInterface(&part(s.window, QStringLiteral("distribution")));
+        QCOMPARE(card->text(QAccessible::Name), QStringLiteral("Distribuzione per Tipo"));
+    }
+
+    void theKeyboardScrollsWhatIsBelow()
+    {
+        ScreenFixture f;
+        Shown s(f, {1000, 700});
+        QScrollBar& scrollBar = *s.page().verticalScrollBar();
+        QVERIFY(scrollBar.maximum() > 0);
+        part(s.window, QStringLiteral("tabSwitch")).findChild<QWidget*>()->setFocus();
+        part(s.window, QStringLiteral("sidebar")).setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&s.page()));
+        QCOMPARE(s.page().accessibleName(), QStringLiteral("Statistiche"));
+        QTest::keyClick(&s.page(), Qt::Key_Down);
+        QVERIFY(scrollBar.value() > 0);
+        QTest::keyClick(&s.page(), Qt::Key_End);
+        QCOMPARE(scrollBar.value(), scrollBar.maximum());
+        QTest::keyClick(&s.page(), Qt::Key_Home);
+        QCOMPARE(scrollBar.value(), 0);
+
+        s.window.resize(1000, 1100);
+        settleLayouts();
+        QCOMPARE(scrollBar.maximum(), 0);
+        QCOMPARE(s.page().focusPolicy(), Qt::NoFocus);
+    }
+
+    void aLongNameBreaks()
+    {
+        ScreenFixture f;
+        f.types.setTypes({type(1, QString(80, QLatin1Char('x')), QStringLiteral("red")),
+                          type(2, QStringLiteral("y"), QStringLiteral("red"))});
+        Shown s(f);
+        const QLabel& name = part<QLabel>(s.window, QStringLiteral("typeName0"));
+        QVERIFY(name.height() > part(s.window, QStringLiteral("typeName1")).height() * 2);
+        QCOMPARE(s.page().horizontalScrollBar()->maximum(), 0);
+    }
+
+    void theLogSaysNothingAndAHiddenScreenRests()
+    {
+        ScreenFixture f;
+        StatisticsView view(f.context);
+        const StatCard& total = *view.findChildren<StatCard*>().first();
+        view.show();
+        QCOMPARE(total.value(), QStringLiteral("3"));
+        view.hide();
+        f.console.clear();
+        f.types.resetToDefaults();
+        f.equipment.deleteEquipment(f.equipment.equipment().first());
+        settleLayouts();
+        QCOMPARE(total.value(), QStringLiteral("3"));
+        view.show();
+        settleLayouts();
+        QCOMPARE(total.value(), QStringLiteral("2"));
+        QCOMPARE(f.takeLog(), QStringList(QStringLiteral("🗑️ Eliminato equipaggiamento: Erogatore Apeks XTX50")));
+    }
+
+    void nothingIsClipped_data()
+    {
+        QTest::addColumn<double>("scale");
+        QTest::newRow("usual text") << 1.0;
+        QTest::newRow("larger text") << 1.25;
+    }
+
+    void nothingIsClipped()
+    {
+        QFETCH(double, scale);
+        const QFont usual = QApplication::font();
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * scale);
+        QApplication::setFont(font);
+        {
+            ScreenFixture f;
+            Shown s(f, {1000, 700});
+            auto& view = *s.window.findChild<StatisticsView*>();
+            QCOMPARE(clippedTexts(view), QStringList());
+            for (const StatCard* card : view.findChildren<StatCard*>()) {
+                QVERIFY2(card->width() >= card->minimumSizeHint().width(), qPrintable(card->title()));
+                QVERIFY2(card->height() >= card->minimumSizeHint().height(), qPrintable(card->title()));
+            }
+        }
+        QApplication::setFont(usual);
+    }
+};
+
+ABISSORA_TEST(tst_StatisticsView);
+
+#include "tst_StatisticsView.moc"
