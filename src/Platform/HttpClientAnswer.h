@@ -21,12 +21,7 @@ public:
     [[nodiscard]] Awaiter given() { return {this}; }
     [[nodiscard]] bool isGiven() const noexcept { return m_result.has_value(); }
 
-    void give(HttpResult result)
-    {
-        m_result = std::move(result);
-        if (m_waiting)
-            std::exchange(m_waiting, {}).resume();
-    }
+    void give(HttpResult result);
 
 private:
     std::optional<HttpResult> m_result;
