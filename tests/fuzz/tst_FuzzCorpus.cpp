@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "GuideProperties.h"
 #include "RecordProperties.h"
 #include "TestRunner.h"
 
@@ -8,7 +9,7 @@
 
 using namespace abissora;
 
-/// Every file is read as either kind of record, whichever it was kept for.
+/// Every file is read as each kind of record and as a guide, whichever it was kept for.
 class tst_FuzzCorpus : public test::TestCase
 {
     Q_OBJECT
@@ -30,9 +31,10 @@ private Q_SLOTS:
         QFETCH(QString, path);
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray json = file.readAll();
-        QCOMPARE(test::faultWithEquipment(json), QString());
-        QCOMPARE(test::faultWithTypes(json), QString());
+        const QByteArray text = file.readAll();
+        QCOMPARE(test::faultWithEquipment(text), QString());
+        QCOMPARE(test::faultWithTypes(text), QString());
+        QCOMPARE(test::faultWithGuide(text), QString());
     }
 };
 

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "GuideProperties.h"
+
+#include "HelpBlockParser.h"
+#include "HelpIndex.h"
+#include "HelpLoader.h"
+
+#include <algorithm>
+
+namespace abissora::test {
+
+namespace {
+
+/// Letters only: white space, digits and punctuation may belong to the markup.
+QString lettersOf(const QString& text)
+{
+    QString letters;
+    std::copy_if(text.begin(), text.end(), std::back_inserter(letters), [](QChar c) { return c.isLetter(); });
+    return letters;
+}
+
+/// All its texts, or nothing when it has none although it should.
+std::optional<QStringList> textsOf(const HelpBlock& block)
+{
+    struct Texts
+    {
+        std::optional<QStringList> operator()(const help::Subheading& b) const { return QStringList{b.text}; }
+        std::optional<QStringList> operator()(const help::Paragraph& b) const { return some(b.text); }
+        std::optional<QStringList> operator()(const help::Bullets& b) const { return some(b.items); }
+        std::optional<QStringList> operator()(const help::Numbered& b) const { return some(b.items); }
+        std::optional<QStringList> operator()(const help::Quote& b) const { return QStringList{b.text}; }
+        std::optional<QStringList> operator()(const help::Code& b) const { return QStringList{b.text}; }
+        std::optional<QStringList> operator()(const help::Divider&) const { return QStringList(); }
+
+        static std::optional<QStringList> some(const QString& text) { return some(QStringList(text)); }
+        static std::optional<QStringList> some(const QStringList& texts)
+        {
+            return texts.isEmpty() ? std::nullopt : std::optional(texts);
+        }
+    };
+    return std::visit(Texts(), block);
+}
+
+bool isListOfNumbers(const HelpBlock& block)
+{
+    return std::holds_alternative<help::Numbered>(block);
+}
+
+QString faultWithBody(const QString& body)
+{
+    const QList<HelpBlock> blocks = parseBlocks(body);
+    if (blocks != parseBlocks(body))
+        return QStringLiteral("the same body gives other blocks");
+    QString letters;
+    for (const HelpBlock& block : blocks) {
+        const std::optional<QStringList> texts = textsOf(block);
+        if (!texts)
+            return QStringLiteral("a block is empty");
+        letters += lettersOf(texts->join(QString()));
+    }
+    // An item whose number a tab follows keeps its text from its first space on.
+    if (std::none_of(blocks.begin(), blocks.end(), isListOfNumbers) && letters != lettersOf(body))
+        return QStringLiteral("the blocks hold other words than the body: ") + letters;
+    return {};
+}
+
+} // namespace
+
+QString faultWithGuide(const QByteArray& document)
+{
+    const QList<HelpSection> sections = HelpLoader::parse(QString::fromUtf8(document));
+    for (qsizetype i = 0; i < sections.size(); ++i) {
+        const HelpSection& section = sections.at(i);
+        if (section.id != QStringLiteral("sezione-%1").arg(i))
+            return QStringLiteral("a section has the wrong number: ") + section.id;
+        if (section.body.isEmpty() || section.title.toLower().startsWith(QLatin1String("indice")))
+            return QStringLiteral("a section should have been left out: ") + section.title;
+        if (const QString fault = faultWithBody(section.body); !fault.isEmpty())
+            return fault;
+    }
+    HelpIndex index(sections);
+    for (const HelpSection& section : sections) {
+        index.setSearchText(section.title);
+        if (index.filteredSections().isEmpty() && !section.title.isEmpty())
+            return QStringLiteral("a title is not found: ") + section.title;
+    }
+    return {};
+}
+
+} // namespace abissora::test
