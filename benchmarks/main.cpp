@@ -2,6 +2,7 @@
 // abissora-benchmark: how long the operations that a person waits for take. The last column is the time divided by
 // that of a fixed piece of plain work measured in the same run, so that figures of different machines and days can be
 // compared. Build it with the preset "release".
+#include "DayWatch.h"
 #include "EquipmentViewModel.h"
 #include "RecordJson.h"
 #include "Register.h"
@@ -50,6 +51,7 @@ public:
     }
 
     EquipmentViewModel* operator->() { return &*m_viewModel; }
+    const EquipmentViewModel& operator*() const { return *m_viewModel; }
 
 private:
     QTemporaryDir m_folder;
@@ -111,6 +113,10 @@ int main(int argc, char** argv)
 
     Catalogue catalogue(large, clock, Calendar());
     measureLists(report, catalogue);
+    report.measure("summary, 10,000 items", 51,
+                   [&] { sink = static_cast<std::size_t>(catalogue->summary().due.size()); });
+    DayWatch watch(*catalogue, clock, Calendar());
+    report.measure("DayWatch::check, 10,000 items", 51, [&] { watch.check(); });
     report.measure("updateEquipment, 10,000 items, saved and synced", 11,
                    [&] { catalogue->updateEquipment(large.front()); });
     return 0;

@@ -4,13 +4,16 @@
 #include "ContentView.h"
 #include "EquipmentTableView.h"
 #include "MainWindow.h"
+#include "MaintenanceOverviewView.h"
 #include "Register.h"
 #include "Report.h"
 #include "ScreenFixture.h"
+#include "StatisticsView.h"
 #include "Theme.h"
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QScrollBar>
 
 using namespace abissora;
@@ -23,6 +26,47 @@ void settle()
 {
     for (int pass = 0; pass < 5; ++pass)
         QCoreApplication::processEvents();
+}
+
+/// A screen made, shown in a size of its own and painted.
+template <typename Screen>
+std::unique_ptr<Screen> open(const test::ScreenFixture& fixture)
+{
+    auto screen = std::make_unique<Screen>(fixture.context);
+    screen->resize(1030, 720);
+    screen->show();
+    settle();
+    return screen;
+}
+
+struct OverviewTitles
+{
+    const char* open;
+    const char* redraw;
+    const char* page;
+    const char* jump;
+    const char* statistics;
+};
+
+void measureOverview(const Report& report, test::ScreenFixture& fixture, const OverviewTitles& titles)
+{
+    report.measure(titles.open, 21, [&] { open<MaintenanceOverviewView>(fixture); });
+    const auto overview = open<MaintenanceOverviewView>(fixture);
+    report.measure(titles.redraw, 21, [&] {
+        fixture.equipment.refreshDates();
+        settle();
+    });
+    auto& area = *overview->findChild<QScrollArea*>();
+    auto& bar = *area.verticalScrollBar();
+    report.measure(titles.page, 101, [&] {
+        bar.setValue((bar.value() + bar.pageStep()) % bar.maximum());
+        area.viewport()->repaint();
+    });
+    report.measure(titles.jump, 101, [&] {
+        bar.setValue(bar.value() > bar.maximum() / 2 ? 0 : bar.maximum());
+        area.viewport()->repaint();
+    });
+    report.measure(titles.statistics, 21, [&] { open<StatisticsView>(fixture); });
 }
 
 } // namespace
@@ -69,5 +113,16 @@ int main(int argc, char** argv)
         fixture.equipment.setSearchText({});
         settle();
     });
+    window.close();
+
+    measureOverview(report, fixture,
+                    {"overview opened, 10,000 items, about half of them due", "overview redrawn, 10,000 items",
+                     "overview scrolled by a page, 10,000 items, one frame",
+                     "overview scrolled from end to end, 10,000 items, one frame", "statistics opened, 10,000 items"});
+    test::ScreenFixture small(registerOf(300, test::FixedClock().now()));
+    measureOverview(report, small,
+                    {"overview opened, 300 items, about half of them due", "overview redrawn, 300 items",
+                     "overview scrolled by a page, 300 items, one frame",
+                     "overview scrolled from end to end, 300 items, one frame", "statistics opened, 300 items"});
     return 0;
 }

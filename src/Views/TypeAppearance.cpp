@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TypeAppearance.h"
 
+#include "EquipmentTypeViewModel.h"
+
 namespace abissora {
 
 TypeAppearance appearanceOf(const EquipmentTypeModel& type)
@@ -31,6 +33,12 @@ TypeAppearance builtInAppearance(EquipmentType type)
         break;
     }
     return {unknownTypeIcon, NamedColor::secondary};
+}
+
+TypeAppearance appearanceOf(const Equipment& item, const EquipmentTypeViewModel& types)
+{
+    const auto type = types.getTypeByName(item.displayTypeName());
+    return type ? appearanceOf(*type) : builtInAppearance(item.type);
 }
 
 } // namespace abissora

@@ -7,6 +7,8 @@
 
 namespace abissora {
 
+class EquipmentTypeViewModel;
+
 /// The picture and colour that stand for a kind of equipment.
 struct TypeAppearance
 {
@@ -22,5 +24,7 @@ inline const QString unknownTypeIcon = QStringLiteral("questionmark.circle.fill"
 [[nodiscard]] TypeAppearance appearanceOf(const EquipmentTypeModel& type);
 /// Of a built-in kind whose name no type record carries.
 [[nodiscard]] TypeAppearance builtInAppearance(EquipmentType type);
+/// Of the type record that the item names, else of its built-in kind.
+[[nodiscard]] TypeAppearance appearanceOf(const Equipment& item, const EquipmentTypeViewModel& types);
 
 } // namespace abissora

@@ -8,11 +8,10 @@ DetailContent DetailContent::of(const Equipment& item, const EquipmentTypeViewMo
 {
     const std::int64_t days = item.daysUntilNextService(now, calendar);
     const bool isDue = days <= dueThresholdDays;
-    const auto type = types.getTypeByName(item.displayTypeName());
     return {
         .name = item.name,
         .typeName = item.displayTypeName(),
-        .appearance = type ? appearanceOf(*type) : builtInAppearance(item.type),
+        .appearance = appearanceOf(item, types),
         .isActive = item.isActive,
         .isDue = isDue,
         .technicalDetails =

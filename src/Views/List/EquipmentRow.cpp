@@ -15,11 +15,10 @@ EquipmentRow EquipmentRowMaker::row(const Equipment& item) const
 {
     const std::int64_t days = item.daysUntilNextService(m_now, m_calendar);
     const bool isDue = days <= dueThresholdDays;
-    const auto type = m_types->getTypeByName(item.displayTypeName());
     return {
         .name = item.name,
         .typeName = item.displayTypeName(),
-        .appearance = type ? appearanceOf(*type) : builtInAppearance(item.type),
+        .appearance = appearanceOf(item, *m_types),
         .brand = item.brand,
         .model = item.model,
         .nextServiceDate = m_format.longDate(item.nextServiceDate),

@@ -97,10 +97,8 @@ void MaintenanceOverviewView::redraw()
     m_dueTitle->setVisible(anyDue);
     m_dueList->setVisible(anyDue);
     m_allInOrder->setVisible(!anyDue);
-    m_dueList->setItems(summary.due, [&types = m_context.types](const Equipment& item) {
-        const auto type = types.getTypeByName(item.displayTypeName());
-        return type ? appearanceOf(*type) : builtInAppearance(item.type);
-    });
+    m_dueList->setItems(summary.due,
+                        [&types = m_context.types](const Equipment& item) { return appearanceOf(item, types); });
 }
 
 } // namespace abissora

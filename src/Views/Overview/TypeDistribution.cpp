@@ -7,6 +7,7 @@
 #include "SymbolIcon.h"
 #include "WrapLabel.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QProgressBar>
 #include <QVBoxLayout>
@@ -59,7 +60,6 @@ void TypeDistribution::addRow()
                   new InkLabel(TextStyle::Body, &Tokens::secondaryText)};
     const auto number = static_cast<int>(m_rows.size());
     row.name->setObjectName(QStringLiteral("typeName%1").arg(number));
-    row.name->setFixedWidth(withText(nameWidth, row.name->fontMetrics()));
     row.bar->setObjectName(QStringLiteral("typeBar%1").arg(number));
     row.bar->setTextVisible(false);
     row.bar->setFixedHeight(rowHeight);
@@ -71,6 +71,19 @@ void TypeDistribution::addRow()
     m_grid->addWidget(row.bar, number, BarColumn, Qt::AlignVCenter);
     m_grid->addWidget(row.count, number, CountColumn);
     m_rows.append(row);
+    fitToText(row);
+}
+
+void TypeDistribution::fitToText(const Row& row)
+{
+    row.name->setFixedWidth(withText(nameWidth, QFontMetrics(abissora::font(TextStyle::Body))));
+}
+
+void TypeDistribution::changeEvent(QEvent* event)
+{
+    Card::changeEvent(event);
+    if (event->type() == QEvent::ApplicationFontChange || event->type() == QEvent::FontChange)
+        std::for_each(m_rows.begin(), m_rows.end(), fitToText);
 }
 
 void TypeDistribution::removeRow()

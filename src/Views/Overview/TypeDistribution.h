@@ -32,6 +32,9 @@ public:
     /// One row per share in this order; none, and a text instead, when `total` is 0.
     void setShares(const QList<Share>& shares, qsizetype total);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     struct Row
     {
@@ -43,6 +46,7 @@ private:
 
     void addRow();
     void removeRow();
+    static void fitToText(const Row& row);
     static void fill(const Row& row, const Share& share, qsizetype total);
 
     QGridLayout* m_grid;
