@@ -14,6 +14,7 @@
 #include <QScrollBar>
 #include <QStyleOption>
 #include <QTextDocumentFragment>
+#include <QTextFrame>
 #include <algorithm>
 
 namespace abissora {
@@ -34,7 +35,6 @@ HelpPage::HelpPage(Opener& opener, QWidget* parent)
     setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
     setFrameShape(QFrame::NoFrame);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    setLineWrapMode(QTextEdit::FixedPixelWidth);
     viewport()->setAutoFillBackground(false);
     connect(this, &QTextBrowser::anchorClicked, this, [&opener](const QUrl& url) { opener.open(url); });
 }
@@ -97,7 +97,7 @@ void HelpPage::paintEvent(QPaintEvent* event)
 void HelpPage::resizeEvent(QResizeEvent* event)
 {
     QTextBrowser::resizeEvent(event);
-    setLineWrapColumnOrWidth(std::min(viewport()->width(), widestPage));
+    limitLines();
 }
 
 void HelpPage::scrollContentsBy(int dx, int dy)
@@ -109,6 +109,18 @@ void HelpPage::scrollContentsBy(int dx, int dy)
 void HelpPage::write()
 {
     HelpPageWriter(*document(), Tokens::of(palette())).write(*m_section);
+    limitLines();
+}
+
+void HelpPage::limitLines()
+{
+    QTextFrame* const page = document()->rootFrame();
+    QTextFrameFormat format = page->frameFormat();
+    const int rightMargin = std::max(help::pageMargin, viewport()->width() - widestPage + help::pageMargin);
+    if (qRound(format.rightMargin()) == rightMargin)
+        return;
+    format.setRightMargin(rightMargin);
+    page->setFrameFormat(format);
 }
 
 void HelpPage::rewrite()

@@ -37,6 +37,7 @@ protected:
 private:
     void write();
     void rewrite();
+    void limitLines();
     [[nodiscard]] bool scrollBy(const QKeyEvent& event);
 
     std::optional<HelpSection> m_section;

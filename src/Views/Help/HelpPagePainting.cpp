@@ -12,6 +12,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 #include <QTextDocument>
+#include <QTextFrame>
 
 namespace abissora {
 
@@ -47,8 +48,9 @@ void paintQuoteIcon(QPainter& painter, const QRectF& panel, const QRectF& text, 
 void paintBackdrops(QPainter& painter, const QTextDocument& document, const QPalette& palette)
 {
     const Tokens& tokens = Tokens::of(palette);
-    const qreal left = document.documentMargin();
-    const qreal width = document.textWidth() - 2 * left;
+    const QTextFrameFormat page = document.rootFrame()->frameFormat();
+    const qreal left = page.leftMargin();
+    const qreal width = document.textWidth() - left - page.rightMargin();
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         const QRectF text = document.documentLayout()->blockBoundingRect(block);
         const QRectF panel(left, text.top() - help::panelPadding, width, text.height() + 2 * help::panelPadding);
