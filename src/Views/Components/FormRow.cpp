@@ -25,7 +25,8 @@ FormRow::FormRow(const QString& label, QWidget* field, QWidget* parent)
     auto* name = new QLabel(QString(label).replace(QLatin1Char('&'), QLatin1String("&&")));
     name->setForegroundRole(QPalette::PlaceholderText);
     name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    name->setBuddy(field);
+    if (!label.isEmpty())
+        name->setBuddy(field);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setHorizontalSpacing(metrics::spaceM);

@@ -5,8 +5,10 @@
 #include "FlowLayout.h"
 #include "InkLabel.h"
 #include "Metrics.h"
+#include "TypesAccessibility.h"
 
 #include <QButtonGroup>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 namespace abissora {
@@ -16,12 +18,15 @@ ColorChoice::ColorChoice(QWidget* parent)
     , m_swatches(new QButtonGroup(this))
     , m_label(new InkLabel(TextStyle::Caption, &Tokens::secondaryText))
 {
+    provideTypesAccessibility();
+    setAccessibleName(QStringLiteral("Colore"));
     m_label->setObjectName(QStringLiteral("colorLabel"));
     auto* flow = new FlowLayout(0, metrics::spaceXS);
     for (const AvailableColors color : allCases<AvailableColors>()) {
         auto* swatch = new ColorSwatch(color);
         swatch->setObjectName(caseName(color));
         m_swatches->addButton(swatch, static_cast<int>(color));
+        swatch->installEventFilter(this);
         flow->addWidget(swatch);
     }
     auto* layout = new QVBoxLayout(this);
@@ -37,7 +42,41 @@ void ColorChoice::setSelectedColor(AvailableColors color)
 {
     m_selectedColor = color;
     m_swatches->button(static_cast<int>(color))->setChecked(true);
+    for (QAbstractButton* swatch : m_swatches->buttons())
+        swatch->setFocusPolicy(swatch->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
     m_label->setText(rawValue(color));
+}
+
+QAbstractButton* ColorChoice::beside(QAbstractButton* swatch, int key) const
+{
+    const int forward = layoutDirection() == Qt::RightToLeft ? -1 : 1;
+    const int id = m_swatches->id(swatch);
+    switch (key) {
+    case Qt::Key_Left:
+        return m_swatches->button(id - forward);
+    case Qt::Key_Right:
+        return m_swatches->button(id + forward);
+    case Qt::Key_Up:
+        return m_swatches->button(id - 1);
+    case Qt::Key_Down:
+        return m_swatches->button(id + 1);
+    default:
+        return nullptr;
+    }
+}
+
+bool ColorChoice::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    // In reading order also where the swatches take several lines, which the buttons' own way does not do.
+    const int key = static_cast<const QKeyEvent*>(event)->key();
+    QAbstractButton* const next = beside(static_cast<QAbstractButton*>(watched), key);
+    if (next == nullptr)
+        return false;
+    next->setFocus(Qt::TabFocusReason);
+    next->click();
+    return true;
 }
 
 void ColorChoice::choose(AvailableColors color)

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class QAbstractButton;
 class QButtonGroup;
 
 namespace abissora {
@@ -26,7 +27,12 @@ public:
 Q_SIGNALS:
     void chosen(abissora::AvailableColors color);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    /// The swatch that the key leads to; null when it leads to none.
+    [[nodiscard]] QAbstractButton* beside(QAbstractButton* swatch, int key) const;
     void choose(AvailableColors color);
 
     QButtonGroup* m_swatches;

@@ -5,6 +5,7 @@
 #include "Painting.h"
 #include "SymbolIcon.h"
 #include "Tokens.h"
+#include "TypesAccessibility.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -24,6 +25,7 @@ DivingIconButton::DivingIconButton(DivingIcons icon, QWidget* parent)
     : IconButton(typeIcon(rawValue(icon)), displayName(icon), parent)
     , m_icon(icon)
 {
+    provideTypesAccessibility();
     setAccessibleDescription(category(icon));
     setCheckable(true);
     setAutoExclusive(true);

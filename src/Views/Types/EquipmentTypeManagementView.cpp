@@ -53,6 +53,7 @@ QWidget* EquipmentTypeManagementView::makeContent()
     m_add->setSymbol(QStringLiteral("plus"));
     m_count->setObjectName(QStringLiteral("typeCount"));
     m_reset->setObjectName(QStringLiteral("resetTypes"));
+    m_list->setAccessibleName(QStringLiteral("Tipologie Attrezzatura"));
     m_pages->addWidget(m_list);
     m_pages->addWidget(m_empty);
 

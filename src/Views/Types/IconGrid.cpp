@@ -4,6 +4,7 @@
 #include "DivingIconButton.h"
 #include "GridFocus.h"
 #include "Metrics.h"
+#include "TypesAccessibility.h"
 
 #include <QEvent>
 #include <QStyle>
@@ -21,6 +22,7 @@ IconGrid::IconGrid(QWidget* parent)
     : QWidget(parent)
     , m_focus(new GridFocus(GridFocus::TabStop::Cell, this))
 {
+    provideTypesAccessibility();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     for (const auto& [title, icons] : categorizedDivingIcons()) {
         Section section{new InkLabel(TextStyle::Caption, &Tokens::secondaryText, title), {}, {}};

@@ -15,6 +15,7 @@ IconPicker::IconPicker(QWidget* parent)
     , m_grid(new IconGrid)
     , m_nothing(new InkLabel(TextStyle::Body, &Tokens::secondaryText, QStringLiteral("Nessuna icona trovata")))
 {
+    m_grid->setAccessibleName(title());
     m_search->setObjectName(QStringLiteral("iconSearch"));
     m_nothing->setObjectName(QStringLiteral("noIcon"));
     m_nothing->setAlignment(Qt::AlignCenter);

@@ -4,6 +4,7 @@
 #include "GridFocus.h"
 #include "Separator.h"
 #include "TypeRow.h"
+#include "TypesAccessibility.h"
 
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -16,6 +17,7 @@ TypeList::TypeList(QWidget* parent)
     , m_rows(new QVBoxLayout)
     , m_focus(new GridFocus(GridFocus::TabStop::Row, this))
 {
+    provideTypesAccessibility();
     auto* rows = new QWidget;
     auto* layout = new QVBoxLayout(rows);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -6,6 +6,7 @@
 #include "Metrics.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
+#include "TypesAccessibility.h"
 #include "WrapLabel.h"
 
 #include <QHBoxLayout>
@@ -26,6 +27,7 @@ TypeRow::TypeRow(QWidget* parent)
     , m_edit(new LookButton(ButtonLook::Link, QStringLiteral("Modifica"), nullptr))
     , m_delete(new LookButton(ButtonLook::DestructiveLink, QStringLiteral("Elimina"), nullptr))
 {
+    provideTypesAccessibility();
     m_name->setObjectName(QStringLiteral("typeName"));
     m_interval->setObjectName(QStringLiteral("typeInterval"));
     m_edit->setObjectName(QStringLiteral("editType"));

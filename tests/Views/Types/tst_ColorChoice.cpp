@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "ColorChoice.h"
+#include "ColorSwatch.h"
+#include "TestRunner.h"
+#include "Theme.h"
+#include "Tokens.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace abissora;
+
+namespace {
+
+struct Shown
+{
+    Shown()
+    {
+        choice.resize(372, choice.heightForWidth(372));
+        choice.show();
+        choice.activateWindow();
+        if (!QTest::qWaitForWindowActive(&choice))
+            qFatal("the window does not become active");
+    }
+
+    ColorSwatch& swatch(AvailableColors color) { return *choice.findChild<ColorSwatch*>(caseName(color)); }
+    QString label() { return choice.findChild<QLabel*>(QStringLiteral("colorLabel"))->text(); }
+
+    ColorChoice choice;
+};
+
+} // namespace
+
+class tst_ColorChoice : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { applyTheme(*qApp, Scheme::Light); }
+
+    void thirteenColoursByTheirLabels()
+    {
+        Shown s;
+        QStringList labels;
+        for (ColorSwatch* swatch : s.choice.findChildren<ColorSwatch*>()) {
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(swatch);
+            QCOMPARE(accessible->role(), QAccessible::RadioButton);
+            QCOMPARE(swatch->toolTip(), accessible->text(QAccessible::Name));
+            labels.append(accessible->text(QAccessible::Name));
+        }
+        QCOMPARE(labels.join(QLatin1Char(',')), QStringLiteral("Blu,Rosso,Verde,Arancione,Viola,Grigio,Ciano,Indaco,"
+                                                               "Rosa,Giallo,Verde Acqua,Menta,Marrone"));
+        QAccessibleInterface* group = QAccessible::queryAccessibleInterface(&s.choice);
+        QCOMPARE(group->role(), QAccessible::Grouping);
+        QCOMPARE(group->text(QAccessible::Name), QStringLiteral("Colore"));
+    }
+
+    void settingEmitsNothing()
+    {
+        Shown s;
+        const QSignalSpy chosen(&s.choice, &ColorChoice::chosen);
+        s.choice.setSelectedColor(AvailableColors::teal);
+        QCOMPARE(s.choice.selectedColor(), AvailableColors::teal);
+        QVERIFY(s.swatch(AvailableColors::teal).isChecked());
+        QVERIFY(!s.swatch(AvailableColors::blue).isChecked());
+        QCOMPARE(s.label(), QStringLiteral("Verde Acqua"));
+        QCOMPARE(chosen.size(), 0);
+    }
+
+    void aClickEmitsOnce()
+    {
+        Shown s;
+        const QSignalSpy chosen(&s.choice, &ColorChoice::chosen);
+        QTest::mouseClick(&s.swatch(AvailableColors::brown), Qt::LeftButton);
+        QTest::mouseClick(&s.swatch(AvailableColors::brown), Qt::LeftButton);
+        QCOMPARE(chosen.size(), 1);
+        QCOMPARE(chosen.first().first().value<AvailableColors>(), AvailableColors::brown);
+        QCOMPARE(s.choice.selectedColor(), AvailableColors::brown);
+        QCOMPARE(s.label(), QStringLiteral("Marrone"));
+    }
+
+    void everyPixelOfASwatchAnswers()
+    {
+        Shown s;
+        ColorSwatch& swatch = s.swatch(AvailableColors::pink);
+        QTest::mouseClick(&swatch, Qt::LeftButton, {}, swatch.rect().bottomRight());
+        QCOMPARE(s.choice.selectedColor(), AvailableColors::pink);
+    }
+
+    void arrowKeysMoveTheChoice()
+    {
+        Shown s;
+        s.swatch(AvailableColors::blue).setFocus(Qt::TabFocusReason);
+        const QSignalSpy chosen(&s.choice, &ColorChoice::chosen);
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(s.choice.focusWidget(), Qt::Key_Right);
+        QCOMPARE(s.choice.selectedColor(), AvailableColors::orange);
+        QTest::keyClick(s.choice.focusWidget(), Qt::Key_Left);
+        QCOMPARE(s.choice.selectedColor(), AvailableColors::green);
+        QCOMPARE(chosen.size(), 4);
+        QCOMPARE(s.choice.focusWidget(), &s.swatch(AvailableColors::green));
+    }
+
+    void arrowKeysReachEveryColour_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::newRow("one line") << 372;
+        QTest::newRow("two lines") << 300;
+        QTest::newRow("three lines") << 150;
+    }
+    void arrowKeysReachEveryColour()
+    {
+        QFETCH(int, width);
+        Shown s;
+        s.choice.resize(width, s.choice.heightForWidth(width));
+        QCoreApplication::processEvents();
+        s.swatch(AvailableColors::blue).setFocus(Qt::TabFocusReason);
+        QList<AvailableColors> visited{s.choice.selectedColor()};
+        for (int i = 0; i < 12; ++i) {
+            QTest::keyClick(s.choice.focusWidget(), Qt::Key_Right);
+            visited.append(s.choice.selectedColor());
+        }
+        const auto all = allCases<AvailableColors>();
+        QCOMPARE(visited, QList<AvailableColors>(all.begin(), all.end()));
+        for (int i = 0; i < 12; ++i)
+            QTest::keyClick(s.choice.focusWidget(), Qt::Key_Left);
+        QCOMPARE(s.choice.selectedColor(), AvailableColors::blue);
+    }
+
+    void tabStopsAtTheChosenOneOnly()
+    {
+        Shown s;
+        s.choice.setSelectedColor(AvailableColors::indigo);
+        QStringList stops;
+        for (const ColorSwatch* swatch : s.choice.findChildren<ColorSwatch*>()) {
+            if (swatch->focusPolicy() & Qt::TabFocus)
+                stops.append(swatch->text());
+        }
+        QCOMPARE(stops, QStringList(QStringLiteral("Indaco")));
+    }
+
+    void theChosenOneLooksDifferent()
+    {
+        for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+            applyTheme(*qApp, scheme);
+            Shown s;
+            for (const AvailableColors color : allCases<AvailableColors>()) {
+                s.choice.setSelectedColor(color == AvailableColors::blue ? AvailableColors::red
+                                                                         : AvailableColors::blue);
+                s.swatch(color).setAttribute(Qt::WA_UnderMouse, false);
+                const QImage other = s.swatch(color).grab().toImage();
+                QCOMPARE(other.pixelColor(other.rect().center()).rgb(),
+                         Tokens::of(scheme).named(colorValue(color)).rgb());
+                s.choice.setSelectedColor(color);
+                QVERIFY2(s.swatch(color).grab().toImage() != other, qPrintable(caseName(color)));
+            }
+        }
+        applyTheme(*qApp, Scheme::Light);
+    }
+};
+
+ABISSORA_TEST(tst_ColorChoice);
+
+#include "tst_ColorChoice.moc"
