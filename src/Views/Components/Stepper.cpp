@@ -18,9 +18,10 @@ Stepper::Stepper(QWidget* parent)
     provideAccessibility();
     setButtonSymbols(PlusMinus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setFocusPolicy(Qt::StrongFocus); // not by the wheel, which then belongs to the scroll area around
     lineEdit()->setReadOnly(true);
     lineEdit()->setFocusPolicy(Qt::NoFocus);
+    // After the line edit's, which it passes on; not by the wheel, which then belongs to the scroll area around.
+    setFocusPolicy(Qt::StrongFocus);
     lineEdit()->setContextMenuPolicy(Qt::NoContextMenu);
     present(m_value);
 }

@@ -4,12 +4,14 @@
 #include "Buttons.h"
 #include "IconTile.h"
 #include "Metrics.h"
+#include "Painting.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
 #include "TypesAccessibility.h"
 #include "WrapLabel.h"
 
 #include <QHBoxLayout>
+#include <QPainter>
 
 namespace abissora {
 
@@ -60,6 +62,29 @@ void TypeRow::setType(const EquipmentTypeModel& type)
     setAccessibleName(type.name);
     for (LookButton* button : {m_edit, m_delete})
         button->setAccessibleDescription(type.name);
+}
+
+void TypeRow::setFirst(bool first)
+{
+    m_first = first;
+    update();
+}
+
+bool TypeRow::showsInOneLine(const QString& name, int width) const
+{
+    const QMargins margins = layout()->contentsMargins();
+    int room = width - margins.left() - margins.right();
+    for (const QWidget* beside : std::initializer_list<const QWidget*>{m_tile, m_edit, m_delete})
+        room -= beside->sizeHint().width() + layout()->spacing();
+    return !name.contains(QLatin1Char('\n')) && m_name->fontMetrics().horizontalAdvance(name) < room;
+}
+
+void TypeRow::paintEvent(QPaintEvent*)
+{
+    if (m_first)
+        return;
+    QPainter painter(this);
+    drawHorizontalHairline(painter, 0, width(), 0, Tokens::of(palette()).divider);
 }
 
 GridFocus::Row TypeRow::buttons() const

@@ -23,13 +23,22 @@ public:
     void setType(const EquipmentTypeModel& type);
     [[nodiscard]] const EquipmentTypeModel& type() const { return m_type; }
     [[nodiscard]] GridFocus::Row buttons() const;
+    /// The first row has no line above it.
+    void setFirst(bool first);
+
+    /// Whether a row of this width shows the name without breaking it; cheaper to ask than the height.
+    [[nodiscard]] bool showsInOneLine(const QString& name, int width) const;
 
 Q_SIGNALS:
     void editRequested();
     void deleteRequested();
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     EquipmentTypeModel m_type;
+    bool m_first = false;
     IconTile* m_tile;
     WrapLabel* m_name;
     WrapLabel* m_interval;
