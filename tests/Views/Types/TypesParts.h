@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "DivingIconButton.h"
+#include "EquipmentTypeFormView.h"
+#include "EquipmentTypeManagementView.h"
 #include "FormDriver.h"
 #include "ScreenFixture.h"
+#include "TypeRow.h"
 
 /// Opening and reading the type screens.
 namespace abissora::test {
@@ -59,6 +63,101 @@ void withLargerText(Check check)
     QApplication::setFont(larger);
     check();
     QApplication::setFont(usual);
+}
+
+/// The management screen.
+struct OpenManagement : OpenSheet<EquipmentTypeManagementView>
+{
+    explicit OpenManagement(ScreenFixture& f)
+        : OpenSheet(f.context)
+    {}
+
+    QList<TypeRow*> rows() const
+    {
+        QList<TypeRow*> shown;
+        for (TypeRow* row : sheet.findChildren<TypeRow*>()) {
+            if (row->isVisible())
+                shown.append(row);
+        }
+        return shown;
+    }
+
+    QStringList names() const
+    {
+        QStringList names;
+        for (const TypeRow* row : rows())
+            names.append(row->type().name);
+        return names;
+    }
+
+    TypeRow& row(const QString& name) const
+    {
+        for (TypeRow* row : rows()) {
+            if (row->type().name == name)
+                return *row;
+        }
+        qFatal("no row called %s", qPrintable(name));
+    }
+
+    void press(const QString& name, const char* button) const
+    {
+        auto& pressed = *row(name).findChild<QAbstractButton*>(QLatin1String(button));
+        pressed.setFocus(Qt::TabFocusReason);
+        QTest::keyClick(&pressed, Qt::Key_Return);
+    }
+
+    EquipmentTypeFormView* form() const
+    {
+        for (auto* form : sheet.findChildren<EquipmentTypeFormView*>()) {
+            if (form->isVisible())
+                return form;
+        }
+        return nullptr;
+    }
+
+    void search(const QString& text) const
+    {
+        driver.type("typeSearch", text);
+        settle();
+    }
+
+    static void settle()
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+};
+
+/// As the list orders them.
+inline QStringList defaultNames()
+{
+    return QStringLiteral("Altro,Bombola,Bussola,Cintura Zavorra,Computer Subacqueo,Erogatore,GAV,Kit Pronto Soccorso,"
+                          "Manometro,Maschera,Muta,Muta Stagna,Ossigeno,Pinne,Profondimetro,Torcia")
+        .split(QLatin1Char(','));
+}
+
+inline EquipmentTypeModel own(int id, const QString& name)
+{
+    return {SequentialIds::at(id), name, QStringLiteral("dive.reel"), QStringLiteral("teal"), 90, true};
+}
+
+/// The type form; given nothing it is for a new type.
+using TypeForm = OpenSheet<EquipmentTypeFormView>;
+inline const std::optional<EquipmentTypeModel> newType;
+
+inline EquipmentTypeModel boa()
+{
+    return {SequentialIds::at(900),
+            QStringLiteral("Boa segnasub"),
+            QStringLiteral("dive.compass"),
+            QStringLiteral("orange"),
+            365,
+            true};
+}
+
+inline DivingIconButton& cell(TypeForm& form, DivingIcons icon)
+{
+    return *form.sheet.findChild<DivingIconButton*>(rawValue(icon));
 }
 
 } // namespace abissora::test

@@ -3,98 +3,18 @@
 
 #include "Buttons.h"
 #include "ClippedTexts.h"
-#include "EquipmentTypeFormView.h"
 #include "SearchField.h"
 #include "TestRunner.h"
 #include "Theme.h"
 #include "TypeList.h"
-#include "TypeRow.h"
 #include "TypesParts.h"
 
 #include <QAccessible>
 #include <QAction>
-#include <QSignalSpy>
+#include <limits>
 
 using namespace abissora;
 using namespace abissora::test;
-
-namespace {
-
-struct Open : OpenSheet<EquipmentTypeManagementView>
-{
-    explicit Open(ScreenFixture& f)
-        : OpenSheet(f.context)
-    {}
-
-    QList<TypeRow*> rows() const
-    {
-        QList<TypeRow*> shown;
-        for (TypeRow* row : sheet.findChildren<TypeRow*>()) {
-            if (row->isVisible())
-                shown.append(row);
-        }
-        return shown;
-    }
-
-    QStringList names() const
-    {
-        QStringList names;
-        for (const TypeRow* row : rows())
-            names.append(row->type().name);
-        return names;
-    }
-
-    TypeRow& row(const QString& name) const
-    {
-        for (TypeRow* row : rows()) {
-            if (row->type().name == name)
-                return *row;
-        }
-        qFatal("no row called %s", qPrintable(name));
-    }
-
-    void press(const QString& name, const char* button) const
-    {
-        auto& pressed = *row(name).findChild<QAbstractButton*>(QLatin1String(button));
-        pressed.setFocus(Qt::TabFocusReason);
-        QTest::keyClick(&pressed, Qt::Key_Return);
-    }
-
-    EquipmentTypeFormView* form() const
-    {
-        for (auto* form : sheet.findChildren<EquipmentTypeFormView*>()) {
-            if (form->isVisible())
-                return form;
-        }
-        return nullptr;
-    }
-
-    void search(const QString& text) const
-    {
-        driver.type("typeSearch", text);
-        settle();
-    }
-
-    static void settle()
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCoreApplication::processEvents();
-    }
-};
-
-QStringList defaultNames()
-{
-    return QStringLiteral("Altro,Bombola,Bussola,Cintura Zavorra,Computer Subacqueo,Erogatore,GAV,Kit Pronto Soccorso,"
-                          "Manometro,Maschera,Muta,Muta Stagna,Ossigeno,Pinne,Profondimetro,Torcia")
-        .split(QLatin1Char(','));
-}
-
-EquipmentTypeModel own(int id, const QString& name)
-{
-    return {SequentialIds::at(id), name, QStringLiteral("dive.reel"), QStringLiteral("teal"), 90, true};
-}
-
-} // namespace
 
 class tst_EquipmentTypeManagementView : public TestCase
 {
@@ -106,7 +26,7 @@ private Q_SLOTS:
     void texts()
     {
         ScreenFixture f;
-        Open o(f);
+        OpenManagement o(f);
         QCOMPARE(o.sheet.windowTitle(), QStringLiteral("Gestione Tipologie"));
         QCOMPARE(o.sheet.windowModality(), Qt::WindowModal);
         QCOMPARE(o.sheet.cancelButton()->text(), QStringLiteral("Chiudi"));
@@ -121,7 +41,7 @@ private Q_SLOTS:
     void rowsByName()
     {
         ScreenFixture f;
-        Open o(f);
+        OpenManagement o(f);
         QCOMPARE(o.names(), defaultNames());
         const TypeRow& computer = o.row(QStringLiteral("Computer Subacqueo"));
         QCOMPARE(visibleLabels(computer),
@@ -137,7 +57,7 @@ private Q_SLOTS:
     void screenReadersKnowWhatAnActionIsAbout()
     {
         ScreenFixture f;
-        Open o(f);
+        OpenManagement o(f);
         TypeRow& row = o.row(QStringLiteral("GAV"));
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&row);
         QCOMPARE(accessible->role(), QAccessible::ListItem);
@@ -156,7 +76,7 @@ private Q_SLOTS:
         EquipmentTypeModel inactive = own(901, QStringLiteral("Boa"));
         inactive.isActive = false;
         f.types.addType(inactive);
-        Open o(f);
+        OpenManagement o(f);
         QCOMPARE(o.names(), defaultNames());
         o.search(QStringLiteral("boa"));
         QCOMPARE(o.names(), QStringList());
@@ -177,7 +97,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         ScreenFixture f;
-        Open o(f);
+        OpenManagement o(f);
         o.search(text);
         QTEST(o.names(), "found");
         QCOMPARE(o.driver.text("typeCount"), QStringLiteral("16 tipologie attive"));
@@ -187,9 +107,9 @@ private Q_SLOTS:
     void theCatalogueSearchNarrowsToo()
     {
         ScreenFixture f;
-        Open o(f);
+        OpenManagement o(f);
         f.types.setSearchText(QStringLiteral("muta"));
-        Open::settle();
+        OpenManagement::settle();
         QCOMPARE(o.names(), QStringList({QStringLiteral("Muta"), QStringLiteral("Muta Stagna")}));
         o.search(QStringLiteral("stagna"));
         QCOMPARE(o.names(), QStringList(QStringLiteral("Muta Stagna")));
@@ -199,7 +119,7 @@ private Q_SLOTS:
     void nothingFound()
     {
         ScreenFixture f;
-        Open o(f);
+        OpenManagement o(f);
         o.search(QStringLiteral("xyz"));
         QVERIFY(visibleLabels(o.sheet).contains(QStringLiteral("Nessuna tipologia trovata")));
         QCOMPARE(o.driver.part<QAbstractButton>("emptyStateButton").text(), QStringLiteral("Cancella ricerca"));
@@ -212,7 +132,7 @@ private Q_SLOTS:
     void clearingTheSearch()
     {
         ScreenFixture f;
-        Open o(f);
+        OpenManagement o(f);
         o.search(QStringLiteral("xyz"));
         auto& search = o.driver.part<SearchField>("typeSearch");
         QTest::keyClick(&search, Qt::Key_Escape);
@@ -224,164 +144,34 @@ private Q_SLOTS:
         QVERIFY(!o.sheet.isVisible());
     }
 
-    void anEmptyCatalogue()
-    {
-        ScreenFixture f;
-        f.types.setTypes({});
-        Open o(f);
-        QVERIFY(visibleLabels(o.sheet).contains(QStringLiteral("Nessuna tipologia trovata")));
-        QVERIFY(!o.driver.shows("emptyStateButton")); // there is no search to clear
-        QCOMPARE(o.driver.text("typeCount"), QStringLiteral("0 tipologie attive"));
-        o.driver.click("resetTypes");
-        Open::settle();
-        QCOMPARE(o.names(), defaultNames());
-    }
-
-    void addingAType()
-    {
-        ScreenFixture f;
-        Open o(f);
-        o.driver.part<QAbstractButton>("addType").setFocus();
-        o.driver.click("addType");
-        EquipmentTypeFormView* form = o.form();
-        QVERIFY(form);
-        QCOMPARE(form->windowTitle(), QStringLiteral("Nuova Tipologia"));
-        QCOMPARE(form->windowModality(), Qt::WindowModal);
-        QCOMPARE(form->parentWidget(), &o.sheet);
-        const FormDriver driver(*form);
-        driver.type("name", QStringLiteral("Boa"));
-        driver.save();
-        Open::settle();
-        QCOMPARE(o.names().size(), 17);
-        QCOMPARE(o.names().at(1), QStringLiteral("Boa"));
-        QCOMPARE(f.types.types().last().name, QStringLiteral("Boa"));
-        QCOMPARE(o.driver.text("typeCount"), QStringLiteral("17 tipologie attive"));
-        QCOMPARE(o.sheet.focusWidget()->objectName(), QStringLiteral("addType"));
-    }
-
-    void editingKeepsTheFocusOnTheType()
-    {
-        ScreenFixture f;
-        Open o(f);
-        o.press(QStringLiteral("Bussola"), "editType");
-        EquipmentTypeFormView* form = o.form();
-        QVERIFY(form);
-        QCOMPARE(form->windowTitle(), QStringLiteral("Modifica Tipologia"));
-        const FormDriver driver(*form);
-        QCOMPARE(driver.part<QLineEdit>("name").text(), QStringLiteral("Bussola"));
-        driver.type("name", QStringLiteral("Zaino"));
-        driver.save();
-        Open::settle();
-        QCOMPARE(o.names().last(), QStringLiteral("Zaino"));
-        QVERIFY(!o.names().contains(QStringLiteral("Bussola")));
-        const TypeRow& row = o.row(QStringLiteral("Zaino"));
-        QCOMPARE(o.sheet.focusWidget(), row.buttons().first());
-        QCOMPARE(row.visibleRegion().boundingRect(), row.rect()); // it was scrolled to
-    }
-
-    void deletingAsksFirst()
-    {
-        ScreenFixture f;
-        Open o(f);
-        const QList<EquipmentTypeModel> before = f.types.types();
-        o.press(QStringLiteral("Pinne"), "deleteType");
-        Alert* alert = o.driver.alert();
-        QVERIFY(alert);
-        QCOMPARE(alert->windowModality(), Qt::WindowModal);
-        QCOMPARE(alert->windowTitle(), QStringLiteral("Conferma Eliminazione"));
-        QCOMPARE(alert->message(), QStringLiteral("Sei sicuro di voler eliminare la tipologia 'Pinne'?"));
-        QCOMPARE(alert->safeButton()->text(), QStringLiteral("Annulla"));
-        QCOMPARE(alert->destructiveButton()->text(), QStringLiteral("Elimina"));
-        QTest::keyClick(alert, Qt::Key_Escape);
-        Open::settle();
-        QCOMPARE(f.types.types(), before);
-        QCOMPARE(o.sheet.focusWidget(), o.row(QStringLiteral("Pinne")).buttons().last());
-
-        o.press(QStringLiteral("Pinne"), "deleteType");
-        QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
-        Open::settle();
-        QVERIFY(!f.types.getTypeByName(QStringLiteral("Pinne")));
-        QCOMPARE(f.types.types().size(), 15);
-        QCOMPARE(o.driver.text("typeCount"), QStringLiteral("15 tipologie attive"));
-        QCOMPARE(o.sheet.focusWidget(), o.row(QStringLiteral("Profondimetro")).buttons().last()); // the next one
-    }
-
-    void theQuestionWithoutAType()
-    {
-        QCOMPARE(EquipmentTypeManagementView::deletionQuestion(std::nullopt),
-                 QStringLiteral("Sei sicuro di voler eliminare questa tipologia?"));
-    }
-
-    void theFocusSurvivesTheLastRow()
-    {
-        ScreenFixture f;
-        f.types.setTypes({own(1, QStringLiteral("A")), own(2, QStringLiteral("B"))});
-        Open o(f);
-        o.press(QStringLiteral("B"), "deleteType");
-        QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
-        Open::settle();
-        QCOMPARE(o.sheet.focusWidget(), o.row(QStringLiteral("A")).buttons().last());
-        o.press(QStringLiteral("A"), "deleteType");
-        QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
-        Open::settle();
-        QCOMPARE(o.sheet.focusWidget()->objectName(), QStringLiteral("typeSearch"));
-    }
-
-    void deletingOneOfTwins()
-    {
-        ScreenFixture f;
-        f.types.setTypes({own(1, QStringLiteral("Boa")), own(2, QStringLiteral("Boa"))});
-        Open o(f);
-        QTest::mouseClick(o.rows().last()->buttons().last(), Qt::LeftButton);
-        QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
-        QCOMPARE(f.types.types(), QList<EquipmentTypeModel>({own(1, QStringLiteral("Boa"))}));
-    }
-
-    void resettingAsksNothing()
-    {
-        ScreenFixture f;
-        f.types.setTypes({own(1, QStringLiteral("Boa"))});
-        f.types.saveTypes();
-        QVERIFY(f.preferences.setInteger(EquipmentTypeViewModel::iconVersionKey, 3));
-        Open o(f);
-        QCOMPARE(o.names(), QStringList(QStringLiteral("Boa")));
-        o.driver.click("resetTypes");
-        QVERIFY(!o.driver.alert());
-        Open::settle();
-        QCOMPARE(o.names(), defaultNames());
-        QCOMPARE(f.preferences.integer(EquipmentTypeViewModel::iconVersionKey), std::optional<std::int64_t>(4));
-        QVERIFY(!f.preferences.data(EquipmentTypeViewModel::typesKey).value()->contains("Boa"));
-        QCOMPARE(o.sheet.focusWidget()->objectName(), QStringLiteral("resetTypes"));
-    }
-
     void theListLives()
     {
         ScreenFixture f;
-        Open o(f);
+        OpenManagement o(f);
         f.types.addType(own(901, QStringLiteral("Boa")));
-        Open::settle();
+        OpenManagement::settle();
         QVERIFY(o.names().contains(QStringLiteral("Boa")));
         EquipmentTypeModel changed = own(901, QStringLiteral("Boa"));
         changed.serviceIntervalDays = 120;
         f.types.updateType(changed);
-        Open::settle();
+        OpenManagement::settle();
         QVERIFY(visibleLabels(o.row(QStringLiteral("Boa"))).contains(QStringLiteral("Intervallo: 120 giorni")));
         f.types.deleteType(changed);
-        Open::settle();
+        OpenManagement::settle();
         QCOMPARE(o.names(), defaultNames());
         f.types.setTypes({});
-        Open::settle();
+        OpenManagement::settle();
         QVERIFY(visibleLabels(o.sheet).contains(QStringLiteral("Nessuna tipologia trovata")));
     }
 
     void tabFollowsTheReadingOrder()
     {
         ScreenFixture f;
-        Open o(f);
+        OpenManagement o(f);
         const QString expected = QStringLiteral("typeSearch addType editType deleteType resetTypes cancel");
         QCOMPARE(tabOrder(o.sheet).join(QLatin1Char(' ')), expected);
         f.types.addType(own(901, QStringLiteral("Boa"))); // rows that come later stand in the order too
-        Open::settle();
+        OpenManagement::settle();
         o.row(QStringLiteral("Altro")).buttons().first()->setFocus();
         QTest::keyClick(o.sheet.focusWidget(), Qt::Key_End);
         QCOMPARE(o.sheet.focusWidget(), o.row(QStringLiteral("Torcia")).buttons().last());
@@ -392,7 +182,7 @@ private Q_SLOTS:
     void arrowKeysReachEveryRow()
     {
         ScreenFixture f;
-        Open o(f);
+        OpenManagement o(f);
         o.rows().first()->buttons().last()->setFocus(Qt::TabFocusReason);
         for (const TypeRow* row : o.rows()) {
             QCOMPARE(o.sheet.focusWidget(), row->buttons().last());
@@ -404,39 +194,6 @@ private Q_SLOTS:
         QVERIFY(o.form());
     }
 
-    void hostileNames_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("quotes") << QStringLiteral("L'\"erogatore\"");
-        QTest::newRow("markup") << QStringLiteral("<b>Boa</b>&nbsp;<img src=x>");
-        QTest::newRow("access key") << QStringLiteral("&Boa && Mare");
-        QTest::newRow("place markers") << QStringLiteral("%1 %2 %L1");
-        QTest::newRow("right to left") << QStringLiteral(u"\u202e\u05d0\u05d1 GAV");
-        QTest::newRow("long") << QString(5'000, QLatin1Char('n'));
-        QTest::newRow("empty") << QString();
-    }
-    void hostileNames()
-    {
-        QFETCH(QString, name);
-        ScreenFixture f;
-        f.types.setTypes({own(1, name)});
-        Open o(f);
-        const auto* label = o.rows().first()->findChild<QLabel*>(QStringLiteral("typeName"));
-        QCOMPARE(label->text(), name);
-        QCOMPARE(label->textFormat(), Qt::PlainText);
-        for (const QAbstractButton* button : o.rows().first()->buttons())
-            QCOMPARE(button->size(), button->sizeHint());
-        QTest::mouseClick(o.rows().first()->buttons().last(), Qt::LeftButton);
-        Alert* alert = o.driver.alert();
-        QCOMPARE(alert->message(),
-                 QLatin1String("Sei sicuro di voler eliminare la tipologia '") + name + QLatin1String("'?"));
-        QVERIFY(o.window.geometry().contains(alert->geometry()));
-        const QWidget* safe = alert->safeButton();
-        QVERIFY(alert->rect().contains(QRect(safe->mapTo(alert, QPoint()), safe->size())));
-        QTest::mouseClick(alert->destructiveButton(), Qt::LeftButton);
-        QCOMPARE(f.types.types(), QList<EquipmentTypeModel>());
-    }
-
     void unusualRecords()
     {
         ScreenFixture f;
@@ -445,7 +202,7 @@ private Q_SLOTS:
         type.color = QStringLiteral("Verde Acqua");
         type.serviceIntervalDays = std::numeric_limits<std::int64_t>::min();
         f.types.setTypes({type});
-        Open o(f);
+        OpenManagement o(f);
         QVERIFY(visibleLabels(*o.rows().first()).contains(QStringLiteral("Intervallo: -9223372036854775808 giorni")));
     }
 
@@ -456,7 +213,7 @@ private Q_SLOTS:
         for (int i = 0; i < 600; ++i)
             types.append(own(i + 1, QStringLiteral("Tipo %1").arg(i, 3, 10, QLatin1Char('0'))));
         f.types.setTypes(types);
-        Open o(f);
+        OpenManagement o(f);
         QVERIFY2(o.rows().size() < 40, "rows are made when they come into sight");
         o.rows().first()->buttons().first()->setFocus(Qt::TabFocusReason);
         const auto shows = [&o](const QString& name) {
@@ -482,7 +239,7 @@ private Q_SLOTS:
         moved.name = QStringLiteral("Verricello");
         o.rows().first()->buttons().last()->setFocus();
         f.types.updateType(moved);
-        Open::settle();
+        OpenManagement::settle();
         QVERIFY(shows(QStringLiteral("Verricello")));
     }
 
@@ -491,7 +248,7 @@ private Q_SLOTS:
         ScreenFixture f;
         f.types.setTypes({own(1, QStringLiteral("A")), own(2, QStringLiteral("B").repeated(300)),
                           own(3, QStringLiteral("C\nC")), own(4, QStringLiteral("D"))});
-        Open o(f);
+        OpenManagement o(f);
         QCOMPARE(o.rows().size(), 4);
         QCOMPARE(clippedTexts(o.sheet), QStringList());
         QVERIFY(o.rows().at(1)->height() > 2 * o.rows().at(0)->height());
@@ -513,7 +270,7 @@ private Q_SLOTS:
         const auto check = [] {
             ScreenFixture f;
             f.types.addType(own(901, QStringLiteral("Dispositivo di segnalazione ").repeated(6)));
-            Open o(f);
+            OpenManagement o(f);
             QCOMPARE(clippedTexts(o.sheet).join(QLatin1Char('|')), QString());
             QVERIFY(o.sheet.width() < 1000 && o.sheet.height() < 700);
             o.search(QStringLiteral("xyz"));

@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: MIT
+#include "Buttons.h"
+#include "SearchField.h"
+#include "Stepper.h"
+#include "TestRunner.h"
+#include "Theme.h"
+#include "TypesParts.h"
+
+#include <QSignalSpy>
+#include <functional>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+/// The type as it stands in the catalogue after its form was saved.
+EquipmentTypeModel savedAs(ScreenFixture& f, const EquipmentTypeModel& type, const std::function<void(TypeForm&)>& edit)
+{
+    f.types.setTypes(f.types.getDefaultTypes() + QList<EquipmentTypeModel>{type});
+    TypeForm form(f.context, std::optional(type));
+    edit(form);
+    form.driver.save();
+    if (form.sheet.isVisible())
+        qFatal("the form did not save");
+    return f.types.types().last();
+}
+
+} // namespace
+
+class tst_TypeSaving : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { applyTheme(*qApp, Scheme::Light); }
+
+    void addingAType()
+    {
+        ScreenFixture f;
+        const QList<EquipmentTypeModel> before = f.types.types();
+        const int ids = f.ids.count();
+        TypeForm o(f.context, newType);
+        o.driver.type("name", QStringLiteral("Boa"));
+        QTest::mouseClick(&o.driver.part<QAbstractButton>("teal"), Qt::LeftButton);
+        QTest::mouseClick(&cell(o, DivingIcons::reel), Qt::LeftButton);
+        auto& interval = o.driver.part<Stepper>("interval");
+        interval.setFocus();
+        QTest::keyClick(&interval, Qt::Key_Up);
+        const QSignalSpy changed(&f.types, &EquipmentTypeViewModel::typesChanged);
+        o.driver.save();
+        QVERIFY(!o.sheet.isVisible());
+        QCOMPARE(changed.size(), 1);
+        QCOMPARE(f.types.types(), before + QList<EquipmentTypeModel>(
+                                               {{SequentialIds::at(ids + 1), QStringLiteral("Boa"),
+                                                 QStringLiteral("dive.reel"), QStringLiteral("teal"), 395, true}}));
+        const auto stored = f.preferences.data(EquipmentTypeViewModel::typesKey);
+        QVERIFY(stored.value()->endsWith(
+            R"("name":"Boa","icon":"dive.reel","color":"teal","serviceIntervalDays":395,"isActive":true}])"));
+    }
+
+    void editingReplacesTheType()
+    {
+        ScreenFixture f;
+        const EquipmentTypeModel saved = savedAs(f, boa(), [](TypeForm& form) {
+            form.driver.type("name", QStringLiteral("Pallone"));
+            QTest::mouseClick(&form.driver.part<QAbstractButton>("mint"), Qt::LeftButton);
+        });
+        EquipmentTypeModel expected = boa();
+        expected.name = QStringLiteral("Pallone");
+        expected.color = QStringLiteral("mint");
+        QCOMPARE(saved, expected);
+        QCOMPARE(f.types.types().size(), 17);
+    }
+
+    void editingNothingKeepsTheType()
+    {
+        ScreenFixture f;
+        QCOMPARE(savedAs(f, boa(), [](TypeForm&) {}), boa());
+    }
+
+    void theNameIsStoredAsTyped()
+    {
+        ScreenFixture f;
+        QCOMPARE(savedAs(f, boa(), [](TypeForm& form) { form.driver.type("name", QStringLiteral("  Boa  ")); }).name,
+                 QStringLiteral("  Boa  "));
+    }
+
+    void longAndHostileNamesSurvive_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("long") << QString(40'000, QLatin1Char('n'));
+        QTest::newRow("markup") << QStringLiteral("<b>Boa</b> &amp; <img src=x>");
+        QTest::newRow("right to left") << QStringLiteral(u"\u0645\u0646\u0638\u0645 \u202e\u05d0\u05d1");
+        QTest::newRow("place markers") << QStringLiteral("%1 '%2' \"%n\"");
+        QTest::newRow("line break") << QStringLiteral("Boa\nrossa");
+        QTest::newRow("emoji") << QStringLiteral(u"\U0001F93F Boa");
+    }
+    void longAndHostileNamesSurvive()
+    {
+        QFETCH(QString, name);
+        ScreenFixture f;
+        EquipmentTypeModel type = boa();
+        type.name = name;
+        const EquipmentTypeModel saved = savedAs(f, type, [&name](TypeForm& form) {
+            QCOMPARE(form.driver.part<QLineEdit>("name").text(), name);
+            QCOMPARE(form.driver.text("previewName"), name);
+            QCOMPARE(form.driver.part<QLabel>("previewName").textFormat(), Qt::PlainText);
+            QVERIFY(form.sheet.width() < 1000 && form.sheet.height() < 700);
+        });
+        QCOMPARE(saved, type);
+    }
+
+    void anInactiveTypeIsActiveAfterwards()
+    {
+        ScreenFixture f;
+        EquipmentTypeModel inactive = boa();
+        inactive.isActive = false;
+        QCOMPARE(savedAs(f, inactive, [](TypeForm&) {}), boa());
+    }
+
+    void anUnknownIconIsReplaced()
+    {
+        ScreenFixture f;
+        EquipmentTypeModel type = boa();
+        type.icon = QStringLiteral("compass.drawing");
+        const EquipmentTypeModel saved =
+            savedAs(f, type, [](TypeForm& form) { QVERIFY(cell(form, DivingIcons::regulator).isChecked()); });
+        QCOMPARE(saved.icon, QStringLiteral("dive.regulator"));
+    }
+
+    void twoTypesMayCarryOneName()
+    {
+        ScreenFixture f;
+        TypeForm o(f.context, newType);
+        o.driver.type("name", QStringLiteral("GAV"));
+        o.driver.save();
+        QCOMPARE(f.types.types().size(), 17);
+        QCOMPARE(f.types.getTypeByName(QStringLiteral("GAV"))->icon, QStringLiteral("dive.bcd"));
+    }
+
+    void aTypeThatIsGoneIsNotSaved()
+    {
+        ScreenFixture f;
+        const QList<EquipmentTypeModel> before = f.types.types();
+        TypeForm o(f.context, std::optional(boa()));
+        o.driver.save();
+        QVERIFY(!o.sheet.isVisible());
+        QCOMPARE(f.types.types(), before);
+    }
+
+    void onlyAValidFormSaves_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("valid");
+        QTest::newRow("nothing") << QString() << false;
+        QTest::newRow("spaces") << QStringLiteral("    ") << false;
+        QTest::newRow("a name") << QStringLiteral(" B") << true;
+    }
+    void onlyAValidFormSaves()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, valid);
+        ScreenFixture f;
+        TypeForm o(f.context, newType);
+        o.driver.type("name", QStringLiteral("x"));
+        o.driver.type("name", name);
+        QCOMPARE(o.sheet.primaryButton()->isEnabled(), valid);
+        QCOMPARE(o.driver.shows("invalidName"), !valid);
+        QTest::keyClick(&o.driver.part<QLineEdit>("name"), Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(o.sheet.isVisible(), !valid);
+        QCOMPARE(f.types.types().size(), valid ? 17 : 16);
+    }
+
+    void intervalSteps_data()
+    {
+        QTest::addColumn<qint64>("stored");
+        QTest::addColumn<qint64>("up");
+        QTest::addColumn<qint64>("down");
+        QTest::newRow("odd") << qint64(365) << qint64(395) << qint64(335);
+        QTest::newRow("shortest") << qint64(30) << qint64(60) << qint64(30);
+        QTest::newRow("longest") << qint64(730) << qint64(730) << qint64(700);
+        QTest::newRow("near the end") << qint64(725) << qint64(730) << qint64(695);
+        QTest::newRow("near the start") << qint64(31) << qint64(61) << qint64(30);
+        QTest::newRow("too short") << qint64(10) << qint64(30) << qint64(10);
+        QTest::newRow("negative") << qint64(-3) << qint64(30) << qint64(-3);
+        QTest::newRow("too long") << qint64(2000) << qint64(2000) << qint64(730);
+    }
+    void intervalSteps()
+    {
+        QFETCH(qint64, stored);
+        QFETCH(qint64, up);
+        QFETCH(qint64, down);
+        ScreenFixture f;
+        EquipmentTypeModel type = boa();
+        type.serviceIntervalDays = stored;
+        const auto stepped = [&](std::optional<Qt::Key> key) {
+            return savedAs(f, type,
+                           [key](TypeForm& form) {
+                               auto& interval = form.driver.part<Stepper>("interval");
+                               interval.setFocus();
+                               if (key)
+                                   QTest::keyClick(&interval, *key);
+                           })
+                .serviceIntervalDays;
+        };
+        QCOMPARE(qint64(stepped(std::nullopt)), stored);
+        QCOMPARE(qint64(stepped(Qt::Key_Up)), up);
+        QCOMPARE(qint64(stepped(Qt::Key_Down)), down);
+    }
+
+    void leavingSavesNothing()
+    {
+        ScreenFixture f;
+        const QList<EquipmentTypeModel> before = f.types.types();
+        for (const bool byKey : {true, false}) {
+            TypeForm o(f.context, newType);
+            o.driver.type("name", QStringLiteral("Boa"));
+            if (byKey)
+                QTest::keyClick(&o.driver.part<QLineEdit>("name"), Qt::Key_Escape);
+            else
+                o.driver.cancel();
+            QVERIFY(!o.sheet.isVisible());
+        }
+        QCOMPARE(f.types.types(), before);
+    }
+
+    void returnInAFieldSavesNothing()
+    {
+        ScreenFixture f;
+        TypeForm o(f.context, newType);
+        o.driver.type("name", QStringLiteral("Boa"));
+        QTest::keyClick(&o.driver.part<QLineEdit>("name"), Qt::Key_Return);
+        o.driver.type("iconSearch", QStringLiteral("bomb"));
+        QTest::keyClick(&o.driver.part<SearchField>("iconSearch"), Qt::Key_Return);
+        QVERIFY(o.sheet.isVisible());
+    }
+
+    void searchingChangesNothing()
+    {
+        ScreenFixture f;
+        const EquipmentTypeModel saved = savedAs(f, boa(), [](TypeForm& form) {
+            form.driver.type("iconSearch", QStringLiteral("xyz"));
+            QVERIFY(form.driver.shows("noIcon"));
+        });
+        QCOMPARE(saved, boa());
+    }
+};
+
+ABISSORA_TEST(tst_TypeSaving);
+
+#include "tst_TypeSaving.moc"
