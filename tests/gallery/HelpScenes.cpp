@@ -31,12 +31,7 @@ public:
         list->setCurrentIndex(list->model()->index(row, 0));
     }
 
-    void search(const QString& text)
-    {
-        auto* field = findChild<QLineEdit*>(QStringLiteral("helpSearch"));
-        field->setText(text);
-        Q_EMIT field->textEdited(text);
-    }
+    void search(const QString& text) { findChild<QLineEdit*>(QStringLiteral("helpSearch"))->setText(text); }
 };
 
 QList<HelpSection> everyKindOfBlock()

@@ -45,7 +45,8 @@ HelpIndexView::HelpIndexView(HelpIndex& index, QWidget* parent)
     layout->setSpacing(metrics::spaceM - 1);
     layout->addWidget(m_search);
     layout->addWidget(m_pages, 1);
-    connect(m_search, &QLineEdit::textEdited, this, &HelpIndexView::search);
+    // A screen reader or a dictation sets the text, which is no edit to the field.
+    connect(m_search, &QLineEdit::textChanged, this, &HelpIndexView::search);
     showSections();
 }
 

@@ -89,6 +89,7 @@ private Q_SLOTS:
     void theArrowsSelect();
     void aScreenReaderSelects();
     void theSearchNarrowsTheIndex();
+    void aSearchThatIsDictatedCounts();
     void theSelectionMovesToTheFirstMatchAndStays();
     void nothingFoundIsSaid();
     void blanksAroundTheSearchAreShownAsTyped();
@@ -158,6 +159,14 @@ void tst_HelpView::theSearchNarrowsTheIndex()
     QCOMPARE(shown.selectedRow(), 0);
     shown.type(QStringLiteral("   "));
     QCOMPARE(shown.rows().size(), qsizetype(3));
+}
+
+void tst_HelpView::aSearchThatIsDictatedCounts()
+{
+    Shown shown;
+    activate(shown.view);
+    QAccessible::queryAccessibleInterface(&shown.search)->setText(QAccessible::Value, QStringLiteral("scontrino"));
+    QCOMPARE(shown.rows(), QStringList{QStringLiteral("Manutenzioni")});
 }
 
 void tst_HelpView::theSelectionMovesToTheFirstMatchAndStays()

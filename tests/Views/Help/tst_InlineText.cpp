@@ -2,6 +2,7 @@
 #include "InlineText.h"
 #include "TestRunner.h"
 
+#include <QRandomGenerator>
 #include <QTest>
 
 using namespace abissora;
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void leavesAsItIsWritten();
     void refusesTheLink_data();
     void refusesTheLink();
+    void takesAnyText();
     void takesWhatIsVeryLong_data();
     void takesWhatIsVeryLong();
 };
@@ -198,6 +200,32 @@ void tst_InlineText::refusesTheLink()
     for (const InlineRun& run : runs)
         QVERIFY2(run.link.isEmpty(), qPrintable(run.link.toString()));
     QVERIFY(described(runs).contains(QStringLiteral("testo")));
+}
+
+/// Letters survive whatever marks stand around them: nothing that was written is lost, but for addresses.
+void tst_InlineText::takesAnyText()
+{
+    const QStringList units{
+        QStringLiteral("*"),  QStringLiteral("**"), QStringLiteral("_"),    QStringLiteral("`"),
+        QStringLiteral("["),  QStringLiteral("]"),  QStringLiteral("("),    QStringLiteral(")"),
+        QStringLiteral("!"),  QStringLiteral("<"),  QStringLiteral(">"),    QStringLiteral("\\"),
+        QStringLiteral("\n"), QStringLiteral(" "),  QStringLiteral("#"),    QStringLiteral("- "),
+        QStringLiteral("1."), QStringLiteral("~"),  QStringLiteral("|"),    QStringLiteral("\t"),
+        QStringLiteral("a"),  QStringLiteral("è"),  QStringLiteral("🤿"), QStringLiteral("\u2009")};
+    QRandomGenerator random(20261121);
+    for (int i = 0; i < 3000; ++i) {
+        QString text;
+        for (int length = random.bounded(1, 30); length > 0; --length)
+            text += units.at(random.bounded(static_cast<int>(units.size())));
+        QString read;
+        for (const InlineRun& run : readInline(text)) {
+            QVERIFY2(!run.text.isEmpty() && run.link.isEmpty(), qPrintable(text));
+            read += run.text;
+        }
+        const bool hasAddress = text.contains(QLatin1Char('('));
+        QVERIFY2(hasAddress || read.count(QLatin1Char('a')) == text.count(QLatin1Char('a')), qPrintable(text));
+        QVERIFY2(hasAddress || read.count(QLatin1Char('\n')) == text.count(QLatin1Char('\n')), qPrintable(text));
+    }
 }
 
 void tst_InlineText::takesWhatIsVeryLong_data()
