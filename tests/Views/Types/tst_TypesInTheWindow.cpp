@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "ContentView.h"
+#include "EditEquipmentView.h"
+#include "EquipmentDetailView.h"
+#include "EquipmentListView.h"
+#include "EquipmentTableView.h"
+#include "FilterMenu.h"
+#include "IconTile.h"
+#include "MainWindow.h"
+#include "SidebarView.h"
+#include "SymbolIcon.h"
+#include "TestRunner.h"
+#include "Theme.h"
+#include "TypeAppearance.h"
+#include "TypesParts.h"
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+Equipment buoy()
+{
+    Equipment item = makeItem(1, QStringLiteral("Boa rossa"), EquipmentType::other, {});
+    item.customTypeName = QStringLiteral("Boa");
+    return item;
+}
+
+QImage picture(QWidget& widget)
+{
+    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    widget.render(&image, {}, {}, {}); // without what is behind it
+    return image;
+}
+
+/// The main window with an item of a type of one's own in its detail pane.
+struct Shown
+{
+    Shown()
+        : fixture(QList<Equipment>{buoy()})
+    {
+        fixture.types.addType(own(900, QStringLiteral("Boa")));
+        window = std::make_unique<MainWindow>(fixture.context, fixture.directories.windowStateFile());
+        window->resize(1280, 800);
+        window->show();
+        window->activateWindow();
+        window->content().setSelectedEquipment(fixture.equipment.equipment().first());
+        settle();
+    }
+
+    static void settle() { QCoreApplication::processEvents(); }
+
+    QStringList sidebar() const
+    {
+        const auto* model = window->findChild<SidebarView*>()->model();
+        QStringList texts;
+        for (int row = 0; row < model->rowCount(); ++row)
+            texts.append(model->index(row, 0).data().toString());
+        return texts;
+    }
+
+    QStringList filterMenu() const
+    {
+        auto* menu = window->findChild<FilterMenu*>();
+        Q_EMIT menu->aboutToShow();
+        QStringList texts;
+        for (const QAction* action : menu->actions())
+            texts.append(action->text());
+        return texts;
+    }
+
+    EquipmentRow row() const { return window->findChild<EquipmentTableView*>()->equipmentModel().row(0); }
+    QString rowText() const { return window->findChild<EquipmentTableView*>()->model()->index(0, 0).data().toString(); }
+
+    EquipmentDetailView& detail() const { return *window->findChild<EquipmentDetailView*>(); }
+    QString detailType() const { return detail().findChild<QLabel*>(QStringLiteral("detailType"))->text(); }
+    QImage detailPicture() const { return picture(*detail().findChild<IconTile*>()); }
+
+    ScreenFixture fixture;
+    std::unique_ptr<MainWindow> window;
+};
+
+QImage pictureOf(const Shown& s, const TypeAppearance& appearance)
+{
+    const int side = s.detail().findChild<IconTile*>()->width();
+    IconTile tile(side);
+    tile.setIcon(typeIcon(appearance.icon, appearance.color), appearance.color);
+    tile.resize(side, side);
+    return picture(tile);
+}
+
+const TypeAppearance ownLook{QStringLiteral("dive.reel"), NamedColor::teal};
+const TypeAppearance fallback{QStringLiteral("questionmark.circle.fill"), NamedColor::secondary};
+
+} // namespace
+
+class tst_TypesInTheWindow : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { applyTheme(*qApp, Scheme::Light); }
+
+    void anOwnTypeIsShownEverywhere()
+    {
+        const Shown s;
+        QVERIFY(s.sidebar().contains(QStringLiteral("Boa")));
+        QVERIFY(s.filterMenu().contains(QStringLiteral("Boa")));
+        QCOMPARE(s.row().appearance, ownLook);
+        QCOMPARE(s.rowText(), QStringLiteral("Boa rossa\nBoa"));
+        QCOMPARE(s.detailType(), QStringLiteral("Boa"));
+        QCOMPARE(s.detailPicture(), pictureOf(s, ownLook));
+    }
+
+    void everyScreenFallsBackAtOnce_data()
+    {
+        using Change = std::function<void(EquipmentTypeViewModel&)>;
+        QTest::addColumn<Change>("change");
+        QTest::newRow("deleted") << Change([](auto& types) { types.deleteType(own(900, {})); });
+        QTest::newRow("renamed") << Change([](auto& types) { types.updateType(own(900, QStringLiteral("Pallone"))); });
+        QTest::newRow("deactivated") << Change([](auto& types) {
+            EquipmentTypeModel inactive = own(900, QStringLiteral("Boa"));
+            inactive.isActive = false;
+            types.updateType(inactive);
+        });
+        QTest::newRow("reset") << Change([](auto& types) { types.resetToDefaults(); });
+    }
+    void everyScreenFallsBackAtOnce()
+    {
+        QFETCH(std::function<void(EquipmentTypeViewModel&)>, change);
+        Shown s;
+        const QList<Equipment> before = s.fixture.equipment.equipment();
+        const auto stored = s.fixture.preferences.data(StorageManager::equipmentKey);
+        change(s.fixture.types);
+        Shown::settle();
+        QVERIFY(!s.sidebar().contains(QStringLiteral("Boa")));
+        QVERIFY(!s.filterMenu().contains(QStringLiteral("Boa")));
+        QCOMPARE(s.row().appearance, fallback);
+        QCOMPARE(s.rowText(), QStringLiteral("Boa rossa\nBoa"));
+        QCOMPARE(s.detailType(), QStringLiteral("Boa"));
+        QCOMPARE(s.detailPicture(), pictureOf(s, fallback));
+        QCOMPARE(s.fixture.equipment.equipment(), before);
+        QCOMPARE(s.fixture.preferences.data(StorageManager::equipmentKey), stored);
+
+        EditEquipmentView form(s.fixture.context, before.first(), s.window.get());
+        form.open();
+        const FormDriver driver(form);
+        QCOMPARE(driver.chosenType(), QStringLiteral("Boa"));
+        QVERIFY(!driver.shows("interval"));
+    }
+
+    void anOpenFormKeepsTheNameOfADeletedType()
+    {
+        Shown s;
+        EditEquipmentView form(s.fixture.context, s.fixture.equipment.equipment().first(), s.window.get());
+        form.open();
+        const FormDriver driver(form);
+        QVERIFY(driver.shows("interval"));
+        s.fixture.types.deleteType(own(900, {}));
+        Shown::settle();
+        QCOMPARE(driver.chosenType(), QStringLiteral("Boa"));
+        QVERIFY(!driver.shows("interval"));
+        driver.save();
+        QCOMPARE(s.fixture.equipment.equipment().first().customTypeName, std::optional(QStringLiteral("Boa")));
+    }
+
+    void aNewLookIsShownAtOnce()
+    {
+        Shown s;
+        EquipmentTypeModel changed = own(900, QStringLiteral("Boa"));
+        changed.icon = QStringLiteral("wrench.fill");
+        changed.color = QStringLiteral("pink");
+        s.fixture.types.updateType(changed);
+        Shown::settle();
+        QCOMPARE(s.row().appearance, appearanceOf(changed));
+        QCOMPARE(s.detailPicture(), pictureOf(s, appearanceOf(changed)));
+    }
+
+    void sheetOverSheet()
+    {
+        Shown s;
+        s.window->resize(1000, 700);
+        QWidget* const opener = s.window->findChild<EquipmentTableView*>();
+        opener->setFocus();
+        auto* management = new EquipmentTypeManagementView(s.fixture.context, s.window.get());
+        management->setAttribute(Qt::WA_DeleteOnClose);
+        management->open();
+        const FormDriver screen(*management);
+        screen.part<QAbstractButton>("addType").setFocus();
+        screen.click("addType");
+        auto* form = management->findChild<EquipmentTypeFormView*>();
+        QVERIFY(form && form->isVisible() && form->isModal());
+        for (const QWidget* sheet : {static_cast<QWidget*>(management), static_cast<QWidget*>(form)})
+            QVERIFY(s.window->geometry().contains(sheet->geometry()));
+        const FormDriver fields(*form);
+        QTest::keyClick(&fields.part<QLineEdit>("name"), Qt::Key_Escape);
+        QVERIFY(management->isVisible());
+        QCOMPARE(management->focusWidget()->objectName(), QStringLiteral("addType"));
+        QTest::keyClick(management, Qt::Key_Escape);
+        QVERIFY(!management->isVisible());
+        QCOMPARE(s.window->focusWidget(), opener);
+    }
+
+    void closingTheWindowWithSheetsOpenIsSafe()
+    {
+        Shown s;
+        auto* management = new EquipmentTypeManagementView(s.fixture.context, s.window.get());
+        management->open();
+        FormDriver(*management).click("addType");
+        s.window.reset();
+        QCOMPARE(s.fixture.types.types().size(), 17);
+    }
+};
+
+ABISSORA_TEST(tst_TypesInTheWindow);
+
+#include "tst_TypesInTheWindow.moc"
