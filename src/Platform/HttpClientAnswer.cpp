@@ -3,9 +3,9 @@
 
 namespace abissora {
 
-void HttpClientAnswer::give(HttpResult result)
+void HttpClientAnswer::give(const HttpResult& result)
 {
-    m_result.emplace(std::move(result));
+    m_result.emplace(result);
     if (m_waiting)
         std::exchange(m_waiting, {}).resume();
 }

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] Awaiter given() { return {this}; }
     [[nodiscard]] bool isGiven() const noexcept { return m_result.has_value(); }
 
-    void give(HttpResult result);
+    void give(const HttpResult& result);
 
 private:
     std::optional<HttpResult> m_result;
