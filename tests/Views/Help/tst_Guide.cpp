@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "HelpBlockParser.h"
+#include "HelpLoader.h"
+#include "InlineText.h"
+#include "TestRunner.h"
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+
+using namespace abissora;
+
+namespace {
+
+/// A block's texts with inline markup.
+QStringList markedTexts(const HelpBlock& block)
+{
+    struct Texts
+    {
+        QStringList operator()(const help::Paragraph& b) const { return {b.text}; }
+        QStringList operator()(const help::Bullets& b) const { return b.items; }
+        QStringList operator()(const help::Numbered& b) const { return b.items; }
+        QStringList operator()(const help::Quote& b) const { return {b.text}; }
+        QStringList operator()(const help::Subheading&) const { return {}; }
+        QStringList operator()(const help::Code&) const { return {}; }
+        QStringList operator()(const help::Divider&) const { return {}; }
+    };
+    return std::visit(Texts(), block);
+}
+
+QList<InlineRun> allRuns()
+{
+    QList<InlineRun> runs;
+    for (const HelpSection& section : HelpLoader::load()) {
+        for (const HelpBlock& block : parseBlocks(section.body)) {
+            for (const QString& text : markedTexts(block))
+                runs += readInline(text);
+        }
+    }
+    return runs;
+}
+
+} // namespace
+
+/// The guide that comes with the program. Strong emphasis in it quotes a text of the screens, letter by letter.
+class tst_Guide : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void hasItsSections();
+    void usesEveryKindOfBlock();
+    void leavesNoMarkupUnread();
+    void namesNoRawHtml();
+};
+
+void tst_Guide::hasItsSections()
+{
+    QSet<QString> titles;
+    const QList<HelpSection> sections = HelpLoader::load();
+    for (const HelpSection& section : sections)
+        titles.insert(section.title);
+    QVERIFY(sections.size() >= 12);
+    QCOMPARE(titles.size(), sections.size());
+    QVERIFY(!titles.contains(QStringLiteral("Guida non disponibile")));
+    QVERIFY2(!titles.contains(QStringLiteral("Introduzione")), "nothing stands before the first heading");
+}
+
+void tst_Guide::usesEveryKindOfBlock()
+{
+    QSet<std::size_t> kinds;
+    for (const HelpSection& section : HelpLoader::load()) {
+        for (const HelpBlock& block : parseBlocks(section.body))
+            kinds.insert(block.index());
+    }
+    QCOMPARE(kinds.size(), static_cast<qsizetype>(std::variant_size_v<HelpBlock>));
+}
+
+void tst_Guide::leavesNoMarkupUnread()
+{
+    for (const InlineRun& run : allRuns()) {
+        if (!run.isCode)
+            QVERIFY2(!run.text.contains(QRegularExpression(QStringLiteral("[*`_\\]\\[]"))), qPrintable(run.text));
+    }
+}
+
+void tst_Guide::namesNoRawHtml()
+{
+    for (const InlineRun& run : allRuns())
+        QVERIFY2(!run.text.contains(QRegularExpression(QStringLiteral("</?[a-z]"))), qPrintable(run.text));
+}
+
+ABISSORA_TEST(tst_Guide);
+#include "tst_Guide.moc"
