@@ -4,6 +4,7 @@ deleted; the item deactivated and at last deleted; the stored state after each s
 
 import json
 import os
+import re
 
 from gi.repository import Atspi
 
@@ -43,6 +44,11 @@ def item(data):
     return next(entry for entry in stored(data) if entry["name"] == NAME)
 
 
+def dates(data):
+    stored_item = item(data)
+    return stored_item["lastServiceDate"], stored_item["nextServiceDate"]
+
+
 def select(program):
     program.key("ctrl+f")
     program.type("apeks")
@@ -66,8 +72,12 @@ def journey(run, data):
     assert [entry["cost"] for entry in history] == [1234.5, 12.5, 0]
     assert [entry["date"][:10] for entry in history] == ["2026-05-10", "2025-02-03", "2026-03-20"]
     assert all(entry["isCompleted"] is True and entry["type"] == "Manutenzione Annuale" for entry in history)
+    assert [entry["nextServiceDate"][:10] for entry in history] == ["2027-05-10", "2026-02-03", "2027-03-20"]
+    # The time of day is the moment of the entry; whole seconds are stored.
+    assert all(re.fullmatch(r"T\d\d:\d\d:\d\dZ", entry[key][10:])
+               for entry in history for key in ("date", "nextServiceDate")), history
     # Each new record gives the item its dates, an older one too.
-    assert item(data)["lastServiceDate"] == history[2]["date"]
+    assert dates(data) == (history[2]["date"], history[2]["nextServiceDate"])
 
     # The newest record stands first; changing it makes its dates count again.
     press(program, "Modifica", 1)  # the first one edits the item
@@ -77,7 +87,8 @@ def journey(run, data):
     program.key("ctrl+Return")
     program.find(Atspi.Role.LABEL, "Revisione completa")
     assert item(data)["maintenanceHistory"][0]["description"] == "Revisione completa"
-    assert item(data)["lastServiceDate"] == history[0]["date"]
+    assert dates(data) == (history[0]["date"], history[0]["nextServiceDate"])
+    assert item(data)["maintenanceHistory"][0] == history[0] | {"description": "Revisione completa"}
 
     press(program, "Elimina", 1)
     program.find_anywhere(Atspi.Role.LABEL, "Elimina Manutenzione")
@@ -87,7 +98,8 @@ def journey(run, data):
     program.find(Atspi.Role.LABEL, "Inattivo")
     kept = item(data)
     assert [entry["description"] for entry in kept["maintenanceHistory"]] == ["Pulizia degli stadi", "Prova"]
-    assert kept["lastServiceDate"] == history[2]["date"]
+    assert kept["maintenanceHistory"] == history[1:]
+    assert dates(data) == (history[2]["date"], history[2]["nextServiceDate"])
     assert kept["isActive"] is False
     program.close()
 

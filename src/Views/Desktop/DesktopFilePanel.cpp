@@ -1,23 +1,91 @@
 // SPDX-License-Identifier: MIT
 #include "DesktopFilePanel.h"
 
+#include "Alert.h"
+
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QMimeDatabase>
 #include <QStandardPaths>
 
 namespace abissora {
 
+namespace {
+
+/// In the program's language; the system's description of a type is in the user's.
+QString filterFor(const QString& contentType)
+{
+    const QMimeType type = QMimeDatabase().mimeTypeForName(contentType);
+    const QString name =
+        contentType == QLatin1String("application/pdf") ? QStringLiteral("Documenti PDF") : type.comment();
+    return QStringLiteral("%1 (%2)").arg(name, type.globPatterns().join(QLatin1Char(' ')));
+}
+
+/// Takes no typed path of another content either; a file without an extension is judged by what it holds.
+class OpenDialog final : public QFileDialog
+{
+public:
+    OpenDialog(QWidget* parent, const FilePanelRequest& request)
+        : QFileDialog(parent, request.title)
+        , m_contentTypes(request.contentTypes)
+    {
+        QStringList filters;
+        for (const QString& type : request.contentTypes)
+            filters.append(filterFor(type));
+        setAcceptMode(AcceptOpen);
+        setFileMode(ExistingFile);
+        setNameFilters(filters);
+        setLabelText(Accept, request.confirmLabel);
+        // File dialogs have no line for a message; screen readers read it as the dialog's description.
+        setAccessibleDescription(request.message);
+    }
+
+protected:
+    void accept() override
+    {
+        const QStringList files = selectedFiles();
+        const bool chosen = !files.isEmpty() && QFileInfo(files.first()).isFile();
+        if (!chosen || isWanted(files.first()))
+            QFileDialog::accept();
+        else
+            refuse(QFileInfo(files.first()).fileName());
+    }
+
+private:
+    [[nodiscard]] bool isWanted(const QString& path) const
+    {
+        const QMimeType type = QMimeDatabase().mimeTypeForFile(path);
+        return std::any_of(m_contentTypes.begin(), m_contentTypes.end(),
+                           [&type](const QString& wanted) { return type.inherits(wanted); });
+    }
+
+    void refuse(const QString& name)
+    {
+        auto* notice = new Alert(this);
+        notice->setAttribute(Qt::WA_DeleteOnClose);
+        notice->setTitle(windowTitle());
+        notice->setMessage(QStringLiteral("«%1» non è un documento PDF.").arg(name));
+        notice->makeNotice();
+        notice->open();
+    }
+
+    QStringList m_contentTypes;
+};
+
+} // namespace
+
 std::optional<QString> DesktopFilePanel::pickFile(const FilePanelRequest& request)
 {
-    QFileDialog dialog(QApplication::activeWindow(), request.title);
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setMimeTypeFilters(request.contentTypes);
-    dialog.setLabelText(QFileDialog::Accept, request.confirmLabel);
-    // File dialogs have no line for a message; screen readers read it as the dialog's description.
-    dialog.setAccessibleDescription(request.message);
-    dialog.setDirectory(m_lastFolder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                                               : m_lastFolder);
+    OpenDialog dialog(QApplication::activeWindow(), request);
+    for (const QString& folder :
+         {m_lastFolder, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), QDir::homePath()}) {
+        if (!folder.isEmpty() && QFileInfo(folder).isDir()) {
+            dialog.setDirectory(folder);
+            break;
+        }
+    }
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     m_lastFolder = dialog.directory().path();
