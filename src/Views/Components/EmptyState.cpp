@@ -41,6 +41,7 @@ EmptyState::EmptyState(QWidget* parent)
     m_text->hide();
     m_button->hide();
     m_button->setObjectName(QStringLiteral("emptyStateButton"));
+    setFocusProxy(m_button);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceXL);
     layout->setSpacing(metrics::spaceM);

@@ -151,6 +151,11 @@ void EquipmentListView::focusSearch()
     m_search->selectAll();
 }
 
+void EquipmentListView::focusContent()
+{
+    m_content->currentWidget()->setFocus(Qt::OtherFocusReason);
+}
+
 void EquipmentListView::redraw()
 {
     const EquipmentViewModel& equipment = m_context.equipment;

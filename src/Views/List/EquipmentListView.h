@@ -41,6 +41,8 @@ public:
     [[nodiscard]] QUuid refreshID() const { return m_refreshID; }
 
     void focusSearch();
+    /// The table; while it has no rows, the button in its place.
+    void focusContent();
 
 Q_SIGNALS:
     /// The person selected an item, or none.

@@ -40,15 +40,28 @@ void EquipmentTableView::showEquipment(const QList<Equipment>& equipment, const 
                                        const std::optional<QUuid>& selected)
 {
     const int scrolled = verticalScrollBar()->value();
-    const int column = currentIndex().isValid() ? currentIndex().column() : 0;
+    const QModelIndex before = currentIndex();
+    const std::optional<QUuid> current =
+        before.isValid() ? std::optional(m_model.equipment().at(before.row()).id) : std::nullopt;
+    const int rowBefore = before.row();
+    const int column = std::max(0, before.column());
     {
         const QScopedValueRollback silent(m_silent, true);
         m_model.setEquipment(equipment, rows);
-        const int row = selected ? m_model.rowOf(*selected) : -1;
-        if (row >= 0)
+        if (const int row = selected ? m_model.rowOf(*selected) : -1; row >= 0)
             setCurrentIndex(m_model.index(row, column));
+        else if (current)
+            keepPlace(*current, rowBefore, column);
     }
     verticalScrollBar()->setValue(scrolled);
+}
+
+void EquipmentTableView::keepPlace(const QUuid& id, int rowBefore, int column)
+{
+    const int row = m_model.rowOf(id);
+    const int place = row >= 0 ? row : std::min(rowBefore, m_model.rowCount() - 1);
+    if (place >= 0)
+        selectionModel()->setCurrentIndex(m_model.index(place, column), QItemSelectionModel::NoUpdate);
 }
 
 void EquipmentTableView::showSelected(const std::optional<QUuid>& id)
@@ -90,6 +103,11 @@ void EquipmentTableView::keyPressEvent(QKeyEvent* event)
             requestActions(current);
         else
             selectRow(current.row());
+        return;
+    }
+    const bool moves = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    if (current.isValid() && moves && event->modifiers() == Qt::NoModifier && !selectionModel()->hasSelection()) {
+        selectRow(current.row()); // where the keyboard stands, not past it
         return;
     }
     if (current.isValid() && event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {

@@ -18,7 +18,8 @@ public:
 
     [[nodiscard]] EquipmentTableModel& equipmentModel() { return m_model; }
 
-    /// Replaces the rows, keeping the scroll position. The row of `selected` stays selected; emits nothing.
+    /// Replaces the rows, keeping the scroll position and the current row. The row of `selected` stays selected; emits
+    /// nothing.
     void showEquipment(const QList<Equipment>& equipment, const EquipmentRowMaker& rows,
                        const std::optional<QUuid>& selected);
     /// Selects the item's row, or none; emits nothing.
@@ -45,6 +46,8 @@ protected:
 private:
     [[nodiscard]] bool isOnActionButton(const QModelIndex& index, QPoint position) const;
     void requestActions(const QModelIndex& index);
+    /// The keyboard goes on from the item, or from its row once it is gone.
+    void keepPlace(const QUuid& id, int rowBefore, int column);
     void setHover(const QModelIndex& index, bool onActionButton);
     void adjustToText();
 

@@ -100,7 +100,10 @@ void ContentView::showDetail()
     } else if (m_selectedEquipment) {
         m_detail->setEquipment(*m_selectedEquipment);
     }
+    const bool focusGoes = !m_selectedEquipment && m_detailPane->isAncestorOf(window()->focusWidget());
     m_detailPane->setVisible(m_selectedEquipment.has_value());
+    if (focusGoes)
+        m_list->focusContent();
 }
 
 void ContentView::findInList()

@@ -26,6 +26,7 @@ MainWindow::MainWindow(const AppContext& context, const QString& stateFile, QWid
     setWindowTitle(QStringLiteral("Abissora"));
     setMinimumSize(minimumWindowSize);
     setCentralWidget(m_content);
+    m_content->list().focusContent();
     buildMenuBar();
     m_state.restore(*this, m_content->splitters());
 }

@@ -99,6 +99,42 @@ private Q_SLOTS:
         QCOMPARE(f.equipment.equipment().size(), 3);
     }
 
+    void deletingByKeyboardGoesOnFromTheSameRow()
+    {
+        ScreenFixture f;
+        EquipmentListView view(f.context);
+        view.show();
+        settle();
+        auto& table = part<EquipmentTableView>(view, "equipmentTable");
+        QSignalSpy selected(&view, &EquipmentListView::equipmentSelected);
+        for (const int row : {1, 1, 0}) {
+            table.selectionModel()->setCurrentIndex(table.model()->index(row, 2), QItemSelectionModel::NoUpdate);
+            QTest::keyClick(&table, Qt::Key_Delete);
+            press(*openAlert(view), QStringLiteral("Elimina"));
+            settle();
+            QCOMPARE(table.currentIndex().row(), std::min(row, table.model()->rowCount() - 1));
+        }
+        QCOMPARE(table.model()->rowCount(), 0);
+        QVERIFY(selected.isEmpty());
+    }
+
+    void theCurrentRowFollowsItsItem()
+    {
+        ScreenFixture f;
+        EquipmentListView view(f.context);
+        view.show();
+        settle();
+        auto& table = part<EquipmentTableView>(view, "equipmentTable");
+        table.selectionModel()->setCurrentIndex(table.model()->index(1, 0), QItemSelectionModel::NoUpdate);
+        f.equipment.setSearchText(QStringLiteral("scubapro"));
+        settle();
+        QCOMPARE(table.currentIndex().row(), 0);
+        f.equipment.setSearchText({});
+        settle();
+        QCOMPARE(table.currentIndex().row(), 1);
+        QVERIFY(!table.selectionModel()->hasSelection());
+    }
+
     void hostileNamesAreShownAsTheyAre()
     {
         ScreenFixture f(QList<Equipment>{});

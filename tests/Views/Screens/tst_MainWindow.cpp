@@ -61,6 +61,26 @@ private Q_SLOTS:
         QCOMPARE(s.window.minimumSize(), QSize(1000, 700));
     }
 
+    void theKeyboardStartsInTheTable()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QTRY_VERIFY(s.table().hasFocus());
+        QVERIFY(s.table().selectionModel()->selectedRows().isEmpty());
+        QVERIFY(!s.window.content().selectedEquipment());
+        QTest::keyClick(&s.table(), Qt::Key_Down);
+        QCOMPARE(s.window.content().selectedEquipment()->name, QStringLiteral("Computer Suunto EON Core"));
+        QTest::keyClick(&s.table(), Qt::Key_Down);
+        QCOMPARE(s.window.content().selectedEquipment()->name, QStringLiteral("GAV Scubapro Hydros"));
+    }
+
+    void theKeyboardStartsAtTheFirstItemToAdd()
+    {
+        ScreenFixture f(QList<Equipment>{});
+        Shown s(f);
+        QTRY_VERIFY(s.window.findChild<QWidget*>(QStringLiteral("emptyStateButton"))->hasFocus());
+    }
+
     void menus()
     {
         ScreenFixture f;
