@@ -13,13 +13,36 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QStyle>
 
 namespace abissora {
+
+namespace {
+
+/// Ends in an ellipsis where it has no room; the tool tip then has all of it.
+class ChipText final : public QLabel
+{
+public:
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        return {fontMetrics().averageCharWidth() * 4, QLabel::minimumSizeHint().height()};
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                              fontMetrics().elidedText(text(), Qt::ElideRight, width()), foregroundRole());
+    }
+};
+
+} // namespace
 
 Chip::Chip(QWidget* parent)
     : QFrame(parent)
     , m_icon(new IconView({}, metrics::iconSize))
-    , m_text(new QLabel)
+    , m_text(new ChipText)
     , m_clear(new IconButton(symbolIcon(QStringLiteral("xmark.circle.fill"), NamedColor::secondary), {}))
 {
     provideAccessibility();
@@ -46,6 +69,7 @@ void Chip::setIcon(const QIcon& icon)
 void Chip::setText(const QString& text)
 {
     m_text->setText(text);
+    m_text->setToolTip(text);
     setAccessibleName(text);
 }
 

@@ -3,48 +3,44 @@
 
 #include "Buttons.h"
 #include "Chip.h"
-#include "FlowLayout.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
 #include "WrapLabel.h"
 
-#include <QHBoxLayout>
+#include <QVBoxLayout>
 
 namespace abissora {
 
 ListHeader::ListHeader(QWidget* parent)
     : QWidget(parent)
+    , m_line(new QHBoxLayout)
+    , m_title(new WrapLabel(TextStyle::Title, &Tokens::text, QStringLiteral("Attrezzatura Subacquea")))
+    , m_refresh(new PlainButton(QStringLiteral("Aggiorna")))
+    , m_add(new PrimaryButton(QStringLiteral("Aggiungi")))
     , m_chip(new Chip)
 {
-    auto* title = new WrapLabel(TextStyle::Title, &Tokens::text, QStringLiteral("Attrezzatura Subacquea"));
-    title->setObjectName(QStringLiteral("listTitle"));
-    auto* refresh = new PlainButton(QStringLiteral("Aggiorna"));
-    refresh->setObjectName(QStringLiteral("refreshButton"));
-    refresh->setSymbol(QStringLiteral("arrow.clockwise"));
-    auto* add = new PrimaryButton(QStringLiteral("Aggiungi"));
-    add->setObjectName(QStringLiteral("addButton"));
-    add->setSymbol(QStringLiteral("plus"));
+    m_title->setObjectName(QStringLiteral("listTitle"));
+    m_refresh->setObjectName(QStringLiteral("refreshButton"));
+    m_refresh->setSymbol(QStringLiteral("arrow.clockwise"));
+    m_add->setObjectName(QStringLiteral("addButton"));
+    m_add->setSymbol(QStringLiteral("plus"));
     m_chip->setObjectName(QStringLiteral("filterChip"));
     m_chip->hide();
 
-    auto* titleAndChip = new FlowLayout(metrics::spaceM, metrics::spaceXS);
-    titleAndChip->addWidget(title);
-    titleAndChip->addWidget(m_chip);
-    // The flow layout begins at its top; on one line it stands level with the buttons.
-    auto* centred = new QVBoxLayout;
-    centred->addStretch();
-    centred->addLayout(titleAndChip);
-    centred->addStretch();
-    auto* layout = new QHBoxLayout(this);
+    m_line->setSpacing(metrics::spaceS);
+    m_line->addWidget(m_title);
+    m_line->addWidget(m_chip, 0, Qt::AlignVCenter);
+    m_line->addStretch(1);
+    m_line->addWidget(m_refresh);
+    m_line->addWidget(m_add);
+    auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(metrics::spaceS);
-    layout->addLayout(centred, 1);
-    layout->addWidget(refresh);
-    layout->addWidget(add);
+    layout->setSpacing(metrics::spaceXS);
+    layout->addLayout(m_line);
 
-    connect(refresh, &QAbstractButton::clicked, this, &ListHeader::refreshClicked);
-    connect(add, &QAbstractButton::clicked, this, &ListHeader::addClicked);
+    connect(m_refresh, &QAbstractButton::clicked, this, &ListHeader::refreshClicked);
+    connect(m_add, &QAbstractButton::clicked, this, &ListHeader::addClicked);
     connect(m_chip, &Chip::clearClicked, this, &ListHeader::clearFilterClicked);
 }
 
@@ -57,6 +53,27 @@ void ListHeader::setFilter(const std::optional<QString>& typeName, const Equipme
     const TypeAppearance look = type ? appearanceOf(*type) : TypeAppearance{unknownTypeIcon, NamedColor::primary};
     m_chip->setIcon(typeIcon(look.icon, look.color));
     m_chip->setText(QStringLiteral("Filtro: ") + *typeName);
+    placeChip();
+}
+
+void ListHeader::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    placeChip();
+}
+
+void ListHeader::placeChip()
+{
+    int wanted = 0;
+    for (const QWidget* part : std::initializer_list<QWidget*>{m_title, m_chip, m_refresh, m_add})
+        wanted += part->sizeHint().width() + metrics::spaceS;
+    const bool beside = wanted <= width();
+    if (beside == (m_line->indexOf(m_chip) >= 0))
+        return;
+    if (beside)
+        m_line->insertWidget(1, m_chip, 0, Qt::AlignVCenter);
+    else
+        static_cast<QVBoxLayout*>(layout())->addWidget(m_chip, 0, Qt::AlignLeft);
 }
 
 } // namespace abissora

@@ -5,11 +5,16 @@
 
 #include <QWidget>
 
+class QHBoxLayout;
+
 namespace abissora {
 
 class Chip;
+class LookButton;
+class WrapLabel;
 
-/// The title, the chip of the active type filter and the buttons above the register's table.
+/// The title, the chip of the active type filter and the buttons above the register's table. Where the chip has no room
+/// beside the title it stands on a line of its own.
 class ListHeader : public QWidget
 {
     Q_OBJECT
@@ -25,7 +30,16 @@ Q_SIGNALS:
     void refreshClicked();
     void clearFilterClicked();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void placeChip();
+
+    QHBoxLayout* m_line;
+    WrapLabel* m_title;
+    LookButton* m_refresh;
+    LookButton* m_add;
     Chip* m_chip;
 };
 
