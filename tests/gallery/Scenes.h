@@ -9,6 +9,7 @@ namespace abissora::gallery {
 [[nodiscard]] QList<Scene> componentScenes();
 [[nodiscard]] QList<Scene> sheetScenes();
 [[nodiscard]] QList<Scene> screenScenes();
+[[nodiscard]] QList<Scene> detailScenes();
 [[nodiscard]] QList<Scene> typeScenes();
 [[nodiscard]] QList<Scene> helpScenes();
 [[nodiscard]] QList<Scene> overviewScenes();

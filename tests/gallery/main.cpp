@@ -40,7 +40,7 @@ int main(int argc, char** argv)
     font.setPointSizeF(fixedPointSize);
     QApplication::setFont(font);
     using namespace abissora::gallery;
-    const QList<Scene> scenes = controlScenes() + componentScenes() + sheetScenes() + screenScenes() + typeScenes() +
-                                helpScenes() + overviewScenes();
+    const QList<Scene> scenes = controlScenes() + componentScenes() + sheetScenes() + screenScenes() + detailScenes() +
+                                typeScenes() + helpScenes() + overviewScenes();
     return render(scenes, QDir(folder)) ? 0 : 1;
 }
