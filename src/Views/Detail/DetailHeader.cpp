@@ -39,7 +39,7 @@ DetailHeader::DetailHeader(QWidget* parent)
     texts->addWidget(m_state);
     texts->addStretch();
     auto* row = new QHBoxLayout;
-    row->setSpacing(metrics::spaceM + 2);
+    row->setSpacing(metrics::spaceM);
     row->addWidget(m_tile);
     row->addLayout(texts, 1);
     row->addWidget(m_badge);

@@ -23,7 +23,7 @@ DueBadge::DueBadge(QWidget* parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(metrics::spaceS + 2, metrics::spaceS, metrics::spaceS + 2, metrics::spaceS);
+    layout->setContentsMargins(metrics::spaceS, metrics::spaceS, metrics::spaceS, metrics::spaceS);
     layout->setSpacing(metrics::spaceXS / 2);
     auto* sign = new IconView(symbolIcon(QStringLiteral("exclamationmark.triangle.fill"), NamedColor::red), signSide);
     layout->addWidget(sign, 0, Qt::AlignHCenter);

@@ -87,6 +87,13 @@ QScrollArea* EquipmentDetailView::makeBody()
     area->setFocusPolicy(Qt::NoFocus);
     area->viewport()->setAutoFillBackground(false);
     content->setAutoFillBackground(false);
+    // The scroll bar stands in the margin: the cards keep their width when it comes and goes.
+    const QScrollBar* const bar = area->verticalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, layout, [bar, layout](int, int maximum) {
+        QMargins margins = layout->contentsMargins();
+        margins.setRight(maximum > 0 ? std::max(0, sideMargin - bar->sizeHint().width()) : sideMargin);
+        layout->setContentsMargins(margins);
+    });
     return area;
 }
 

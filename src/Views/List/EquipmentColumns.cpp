@@ -8,13 +8,15 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QTableView>
+#include <numeric>
 
 namespace abissora {
 
 namespace {
 
-/// Shares of the width that the texts may take, what each column needs to be read whole as a rule, and the least that
-/// it is squeezed to.
+constexpr std::size_t columnCount = EquipmentTableModel::ColumnCount;
+
+/// Share of the spare width, what the column needs to be read whole as a rule, and the least that it is squeezed to.
 struct ColumnWidth
 {
     int share;
@@ -22,9 +24,36 @@ struct ColumnWidth
     int least;
 };
 
-constexpr std::array<ColumnWidth, EquipmentTableModel::ColumnCount> widths{
-    ColumnWidth{30, 170, 86}, ColumnWidth{14, 74, 50}, ColumnWidth{14, 74, 50},
-    ColumnWidth{20, 146, 74}, ColumnWidth{0, 86, 72},  ColumnWidth{0, 66, 44}};
+constexpr std::array<ColumnWidth, columnCount> widths{ColumnWidth{30, 170, 95}, ColumnWidth{14, 74, 42},
+                                                      ColumnWidth{14, 74, 42},  ColumnWidth{20, 146, 94},
+                                                      ColumnWidth{0, 86, 70},   ColumnWidth{0, 66, 50}};
+
+/// Which columns give way together, the first ones first.
+constexpr std::array<std::array<EquipmentTableModel::Column, 2>, 3> stages{
+    {{EquipmentTableModel::BrandColumn, EquipmentTableModel::ModelColumn},
+     {EquipmentTableModel::StateColumn, EquipmentTableModel::ActionsColumn},
+     {EquipmentTableModel::NameColumn, EquipmentTableModel::NextServiceColumn}}};
+
+using Widths = std::array<int, columnCount>;
+
+/// Takes from the columns what the viewport lacks.
+void squeeze(Widths& columns, const Widths& least, int lack)
+{
+    for (const auto& stage : stages) {
+        int room = 0;
+        for (const std::size_t column : stage)
+            room += columns.at(column) - least.at(column);
+        int taken = std::min(lack, room);
+        lack -= taken;
+        for (const std::size_t column : stage) {
+            const int own = columns.at(column) - least.at(column);
+            const int loss = room > 0 ? taken * own / room : 0;
+            columns.at(column) -= loss;
+            taken -= loss;
+            room -= own;
+        }
+    }
+}
 
 } // namespace
 
@@ -48,27 +77,26 @@ bool EquipmentColumns::eventFilter(QObject* watched, QEvent* event)
 void EquipmentColumns::layOut()
 {
     const QFontMetrics text(font(TextStyle::Body));
-    int usual = 0;
-    int least = 0;
+    Widths columns{};
+    Widths least{};
     int shares = 0;
-    for (const ColumnWidth& column : widths) {
-        usual += withText(column.usual, text);
-        least += withText(column.least, text);
-        shares += column.share;
+    for (std::size_t i = 0; i < columnCount; ++i) {
+        columns.at(i) = withText(widths.at(i).usual, text);
+        least.at(i) = withText(widths.at(i).least, text);
+        shares += widths.at(i).share;
     }
-    const int width = m_table.viewport()->width();
-    const int spare = std::max(0, width - usual);
-    const int squeezed = std::clamp(width - least, 0, usual - least); // of what lies between least and usual
+    const int spare = m_table.viewport()->width() - std::accumulate(columns.begin(), columns.end(), 0);
+    if (spare < 0)
+        squeeze(columns, least, -spare);
     int given = 0;
-    for (int column = EquipmentTableModel::ColumnCount - 1; column > 0; --column) {
-        const ColumnWidth& own = widths.at(static_cast<std::size_t>(column));
-        const int most = withText(own.usual, text) - withText(own.least, text);
-        const int columnWidth =
-            withText(own.least, text) + most * squeezed / (usual - least) + spare * own.share / shares;
-        m_table.setColumnWidth(column, columnWidth);
-        given += columnWidth;
+    for (std::size_t i = columnCount - 1; i > 0; --i) {
+        const int extra = std::max(0, spare) * widths.at(i).share / shares;
+        given += extra;
+        columns.at(i) += extra;
     }
-    m_table.setColumnWidth(0, std::max(width, least) - given);
+    columns.front() += std::max(0, spare) - given; // with what the divisions left over
+    for (std::size_t i = 0; i < columnCount; ++i)
+        m_table.setColumnWidth(static_cast<int>(i), columns.at(i));
 }
 
 } // namespace abissora

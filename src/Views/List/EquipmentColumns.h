@@ -8,8 +8,8 @@ class QTableView;
 namespace abissora {
 
 /// Keeps the columns of the register's table together as wide as its viewport. Spare width goes to names, makes, models
-/// and dates by fixed shares; in a narrow viewport every column gives way, down to a least width below which the table
-/// scrolls.
+/// and dates by fixed shares. In a narrow viewport makes and models give way first, names and dates last, each down to
+/// a least width; below that the table scrolls. A date's least width holds its abbreviated form.
 class EquipmentColumns : public QObject
 {
     Q_OBJECT

@@ -22,6 +22,7 @@ EquipmentRow EquipmentRowMaker::row(const Equipment& item) const
         .brand = item.brand,
         .model = item.model,
         .nextServiceDate = m_format.longDate(item.nextServiceDate),
+        .nextServiceDateAbbreviated = m_format.abbreviatedDate(item.nextServiceDate),
         .remaining = isDue ? QStringLiteral("SCADUTO!") : QStringLiteral("%1 giorni").arg(days),
         .isDue = isDue,
         .isActive = item.isActive,

@@ -17,7 +17,8 @@ struct EquipmentRow
     QString brand;
     QString model;
     QString nextServiceDate;
-    QString remaining; ///< "113 giorni", or "SCADUTO!"
+    QString nextServiceDateAbbreviated; ///< for where the whole date has no room
+    QString remaining;                  ///< "113 giorni", or "SCADUTO!"
     bool isDue = false;
     bool isActive = true;
     QString state; ///< "Attivo" or "Inattivo"

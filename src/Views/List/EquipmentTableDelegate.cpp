@@ -48,7 +48,7 @@ void paintName(QPainter& painter, const QRect& cell, const EquipmentRow& row, co
 {
     const QRect icon(cell.left(), cell.top() + (cell.height() - typeIconSize) / 2, typeIconSize, typeIconSize);
     typeIcon(row.appearance.icon, row.appearance.color).paint(&painter, icon);
-    drawTwoLines(painter, cell.adjusted(typeIconSize + metrics::spaceM, 0, 0, 0),
+    drawTwoLines(painter, cell.adjusted(typeIconSize + metrics::spaceS, 0, 0, 0),
                  {row.name, font(TextStyle::BodyMedium), tokens.text},
                  {row.typeName, font(TextStyle::Caption), tokens.secondaryText});
 }
@@ -57,7 +57,9 @@ void paintNextService(QPainter& painter, const QRect& cell, const EquipmentRow& 
 {
     QFont due = font(TextStyle::Caption);
     due.setBold(true);
-    drawTwoLines(painter, cell, {row.nextServiceDate, font(TextStyle::Body), tokens.text},
+    const QFont body = font(TextStyle::Body);
+    const bool fits = QFontMetrics(body).horizontalAdvance(row.nextServiceDate) <= cell.width();
+    drawTwoLines(painter, cell, {fits ? row.nextServiceDate : row.nextServiceDateAbbreviated, body, tokens.text},
                  row.isDue ? Line{row.remaining, due, tokens.danger}
                            : Line{row.remaining, font(TextStyle::Caption), tokens.secondaryText});
 }
@@ -100,7 +102,7 @@ void EquipmentTableDelegate::paint(QPainter* painter, const QStyleOptionViewItem
     paintBackground(*painter, option, index);
     painter->setRenderHint(QPainter::Antialiasing);
     const Tokens& tokens = Tokens::of(option.palette);
-    const QRect cell = option.rect.adjusted(metrics::spaceS, 0, -metrics::spaceS, 0);
+    const QRect cell = option.rect.adjusted(metrics::spaceS, 0, -metrics::spaceXS, 0);
     const EquipmentRow row = m_model.row(index.row());
     const bool focused = showsFocusRing(option);
     if (focused && index.column() != EquipmentTableModel::ActionsColumn)

@@ -7,6 +7,7 @@
 #include "Tokens.h"
 #include "TypeScale.h"
 
+#include <QHeaderView>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
@@ -64,6 +65,17 @@ QSize itemSize(const QStyleOptionViewItem& option, QSize contents)
     return contents.expandedTo({0, withText(leastRowHeight, option.fontMetrics)});
 }
 
+/// A text that is too wide, in two lines where there is room for them.
+QString headerText(const QString& text, const QFontMetrics& metrics, QSize room)
+{
+    const auto elided = [&](const QString& line) { return metrics.elidedText(line, Qt::ElideRight, room.width()); };
+    const qsizetype space = text.indexOf(QLatin1Char(' '));
+    const bool twoLines = metrics.horizontalAdvance(text) > room.width() && space > 0 &&
+                          metrics.height() + metrics.lineSpacing() <= room.height();
+    return twoLines ? QString(elided(text.left(space)) + QLatin1Char('\n') + elided(text.mid(space + 1)))
+                    : elided(text);
+}
+
 void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter)
 {
     const Tokens& tokens = Tokens::of(option.palette);
@@ -77,7 +89,10 @@ void drawHeaderLabel(const QStyleOptionHeader& option, QPainter& painter, const 
 {
     const Tokens& tokens = Tokens::of(option.palette);
     const bool enabled = option.state & QStyle::State_Enabled;
-    QRect place = option.rect;
+    QRect place = option.rect.adjusted(0, 0, metrics::spaceXS, 0);
+    if (const auto* header = qobject_cast<const QHeaderView*>(widget);
+        header != nullptr && header->orientation() == Qt::Horizontal)
+        place = QRect(place.left(), 0, place.width(), header->height()); // two lines want all of the height
     if (option.sortIndicator != QStyleOptionHeader::None) {
         const QRect mark(place.right() - metrics::spaceM, place.top(), metrics::spaceM, place.height());
         drawGlyph(painter, QStyle::visualRect(option.direction, place, mark),
@@ -88,11 +103,9 @@ void drawHeaderLabel(const QStyleOptionHeader& option, QPainter& painter, const 
     QPalette ink = option.palette;
     ink.setColor(QPalette::ButtonText, enabled ? tokens.secondaryText : tokens.disabled);
     const Qt::Alignment alignment = QStyle::visualAlignment(option.direction, option.textAlignment);
-    const QString text = option.fontMetrics.elidedText(option.text, Qt::ElideRight, place.width());
-    Q_UNUSED(widget)
     style.drawItemText(&painter, QStyle::visualRect(option.direction, option.rect, place),
-                       static_cast<int>((alignment & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter), ink, enabled, text,
-                       QPalette::ButtonText);
+                       static_cast<int>((alignment & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter), ink, enabled,
+                       headerText(option.text, option.fontMetrics, place.size()), QPalette::ButtonText);
 }
 
 } // namespace abissora::itemviews

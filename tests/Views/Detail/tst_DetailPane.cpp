@@ -8,7 +8,9 @@
 #include "EquipmentListView.h"
 #include "EquipmentTableView.h"
 #include "MainWindow.h"
+#include "Metrics.h"
 #include "TestRunner.h"
+#include "TypeScale.h"
 
 #include <QScrollArea>
 #include <QScrollBar>
@@ -76,6 +78,7 @@ private Q_SLOTS:
         QVERIFY(!s.isPaneShown());
         QVERIFY(!s.window.content().selectedEquipment());
         QVERIFY(s.table().selectionModel()->selectedRows().isEmpty());
+        QVERIFY(s.table().hasFocus());
     }
 
     void deletingClearsTheSelection()
@@ -84,11 +87,16 @@ private Q_SLOTS:
         Shown s(f);
         s.select(0);
         click(s.window, QStringLiteral("deleteEquipment"));
-        click(openDialog<Alert>(s.window), QStringLiteral("destructive"));
+        auto& alert = openDialog<Alert>(s.window);
+        alert.activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), &alert);
+        click(alert, QStringLiteral("destructive"));
         settle();
         QVERIFY(!s.isPaneShown());
         QVERIFY(!s.window.content().selectedEquipment());
         QCOMPARE(s.table().model()->rowCount(), 2);
+        QTRY_VERIFY(s.table().hasFocus());
+        QCOMPARE(s.table().currentIndex().row(), 0); // goes on from where the item was
     }
 
     void anotherItemIsShownFromItsTop()
@@ -134,6 +142,12 @@ private Q_SLOTS:
             settle();
         QCOMPARE(s.window.size(), QSize(1000, 700));
         QCOMPARE(s.table().horizontalScrollBar()->maximum(), 0);
+        const QFontMetrics text(font(TextStyle::Body));
+        for (int month = 1; month <= 12; ++month) {
+            const Instant day = f.calendar.instant(QDate(2026, month, 28), QTime(12, 0)).value();
+            QVERIFY(text.horizontalAdvance(f.context.dates.abbreviatedDate(day)) + metrics::spaceS + metrics::spaceXS <=
+                    s.table().columnWidth(EquipmentTableModel::NextServiceColumn));
+        }
         QCOMPARE(clippedTexts(s.window.content().list()), QStringList());
     }
 
