@@ -47,7 +47,9 @@ protected:
     {
         const QStringList files = selectedFiles();
         const bool chosen = !files.isEmpty() && QFileInfo(files.first()).isFile();
-        if (!chosen || isWanted(files.first()))
+        // A dialog of the platform's own keeps to the filter by itself, and has closed by now.
+        const bool isOwn = findChild<QWidget*>(QStringLiteral("fileNameEdit")) != nullptr;
+        if (!chosen || !isOwn || isWanted(files.first()))
             QFileDialog::accept();
         else
             refuse(QFileInfo(files.first()).fileName());
