@@ -28,6 +28,46 @@ void settle()
         QCoreApplication::processEvents();
 }
 
+void measureMainWindow(const Report& report, QApplication& application, test::ScreenFixture& fixture)
+{
+    MainWindow window(fixture.context, fixture.directories.windowStateFile());
+    window.resize(1280, 800);
+    window.show();
+    settle();
+
+    auto& table = *window.findChild<EquipmentTableView*>();
+    auto& bar = *table.verticalScrollBar();
+    report.measure("scroll 10,000 rows by a page, one frame", 101, [&] {
+        bar.setValue((bar.value() + bar.pageStep()) % bar.maximum());
+        table.viewport()->repaint();
+    });
+    report.measure("scroll 10,000 rows by a wheel notch, one frame", 101, [&] {
+        bar.setValue((bar.value() + 60) % bar.maximum());
+        table.viewport()->repaint();
+    });
+
+    bool dark = false;
+    report.measure("switch the scheme with the main window open", 21, [&] {
+        dark = !dark;
+        applyTheme(application, dark ? Scheme::Dark : Scheme::Light);
+        settle();
+        window.repaint();
+    });
+
+    auto& search = *window.findChild<QLineEdit*>(QStringLiteral("search"));
+    search.setText(QStringLiteral("e"));
+    report.measure("a letter typed into the search of 10,000 items, painted", 21, [&] {
+        Q_EMIT search.textEdited(search.text());
+        settle();
+    });
+    fixture.equipment.setSearchText({});
+    settle();
+    report.measure("a search of 10,000 items cleared, painted", 21, [&] {
+        fixture.equipment.setSearchText({});
+        settle();
+    });
+}
+
 /// A screen made, shown in a size of its own and painted.
 template <typename Screen>
 std::unique_ptr<Screen> open(const test::ScreenFixture& fixture)
@@ -76,45 +116,8 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     applyTheme(application, Scheme::Light);
     test::ScreenFixture fixture(registerOf(10'000, test::FixedClock().now()));
-    MainWindow window(fixture.context, fixture.directories.windowStateFile());
-    window.resize(1280, 800);
-    window.show();
-    settle();
-
     const Report report(medianOf(51, reference));
-    auto& table = *window.findChild<EquipmentTableView*>();
-    auto& bar = *table.verticalScrollBar();
-    report.measure("scroll 10,000 rows by a page, one frame", 101, [&] {
-        bar.setValue((bar.value() + bar.pageStep()) % bar.maximum());
-        table.viewport()->repaint();
-    });
-    report.measure("scroll 10,000 rows by a wheel notch, one frame", 101, [&] {
-        bar.setValue((bar.value() + 60) % bar.maximum());
-        table.viewport()->repaint();
-    });
-
-    bool dark = false;
-    report.measure("switch the scheme with the main window open", 21, [&] {
-        dark = !dark;
-        applyTheme(application, dark ? Scheme::Dark : Scheme::Light);
-        settle();
-        window.repaint();
-    });
-
-    auto& search = *window.findChild<QLineEdit*>(QStringLiteral("search"));
-    search.setText(QStringLiteral("e"));
-    report.measure("a letter typed into the search of 10,000 items, painted", 21, [&] {
-        Q_EMIT search.textEdited(search.text());
-        settle();
-    });
-    fixture.equipment.setSearchText({});
-    settle();
-    report.measure("a search of 10,000 items cleared, painted", 21, [&] {
-        fixture.equipment.setSearchText({});
-        settle();
-    });
-    window.close();
-
+    measureMainWindow(report, application, fixture);
     measureOverview(report, fixture,
                     {"overview opened, 10,000 items, about half of them due", "overview redrawn, 10,000 items",
                      "overview scrolled by a page, 10,000 items, one frame",
