@@ -8,6 +8,7 @@
 #include "Metrics.h"
 #include "Painting.h"
 #include "SearchField.h"
+#include "SheetWindow.h"
 #include "SymbolIcon.h"
 #include "Tokens.h"
 #include "TypeScale.h"
@@ -60,7 +61,9 @@ void HelpIndexView::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     const Tokens& tokens = Tokens::of(palette());
-    painter.fillRect(rect(), tokens.sidebar);
+    const qreal radius = qobject_cast<const SheetWindow*>(window()) != nullptr ? metrics::sheetRadius - 1 : 0;
+    // Its lower left corner is the sheet's; the others lie outside.
+    drawPanel(painter, QRectF(rect()).adjusted(0, -radius, radius, 0), radius, tokens.sidebar, {});
     drawVerticalHairline(painter, 0, height(), width() - hairlineWidth(painter), tokens.border);
 }
 
