@@ -5,9 +5,16 @@ namespace abissora {
 
 void HttpClientAnswer::give(const HttpResult& result)
 {
+    if (m_result)
+        return;
     m_result.emplace(result);
     if (m_waiting)
         std::exchange(m_waiting, {}).resume();
+}
+
+void HttpClientAnswer::cancel()
+{
+    give(tl::unexpected(HttpError{HttpError::Kind::Cancelled, QStringLiteral("The request was cancelled")}));
 }
 
 } // namespace abissora

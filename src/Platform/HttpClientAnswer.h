@@ -21,7 +21,9 @@ public:
     [[nodiscard]] Awaiter given() { return {this}; }
     [[nodiscard]] bool isGiven() const noexcept { return m_result.has_value(); }
 
+    /// The first counts.
     void give(const HttpResult& result);
+    void cancel();
 
 private:
     std::optional<HttpResult> m_result;

@@ -38,7 +38,8 @@ HttpClientTransfer::HttpClientTransfer(QNetworkRequest request, const HttpLimits
 
 void HttpClientTransfer::cancel()
 {
-    finish(tl::unexpected(HttpError{HttpError::Kind::Cancelled, QStringLiteral("The request was cancelled")}));
+    end();
+    m_answer.cancel();
 }
 
 void HttpClientTransfer::readBody()
@@ -62,13 +63,16 @@ void HttpClientTransfer::handleFinished()
         finish(HttpResponse{status(), m_body});
 }
 
-void HttpClientTransfer::finish(HttpResult result)
+void HttpClientTransfer::finish(const HttpResult& result)
 {
-    if (m_answer.isGiven())
-        return;
+    end();
+    m_answer.give(result);
+}
+
+void HttpClientTransfer::end()
+{
     m_deadline.stop();
     m_reply->disconnect(this); // the connection ends when this object goes away
-    m_answer.give(std::move(result));
 }
 
 bool HttpClientTransfer::isCutShort() const

@@ -25,7 +25,8 @@ public:
 private:
     void readBody();
     void handleFinished();
-    void finish(HttpResult result);
+    void finish(const HttpResult& result);
+    void end();
     [[nodiscard]] bool isCutShort() const;
     [[nodiscard]] int status() const;
 

@@ -17,7 +17,7 @@ public:
     ~ScriptedHttpClient() override
     {
         while (!m_open.isEmpty())
-            answer(tl::unexpected(HttpError{HttpError::Kind::Cancelled, QStringLiteral("cancelled")}));
+            m_open.takeFirst()->cancel();
     }
 
     [[nodiscard]] QCoro::Task<HttpResult> get(QUrl url) override

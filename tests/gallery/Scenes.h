@@ -13,5 +13,6 @@ namespace abissora::gallery {
 [[nodiscard]] QList<Scene> typeScenes();
 [[nodiscard]] QList<Scene> helpScenes();
 [[nodiscard]] QList<Scene> overviewScenes();
+[[nodiscard]] QList<Scene> updateScenes();
 
 } // namespace abissora::gallery

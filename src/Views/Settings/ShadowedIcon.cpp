@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "ShadowedIcon.h"
+
+#include "Painting.h"
+#include "SymbolIcon.h"
+#include "Tokens.h"
+
+#include <QPainter>
+
+namespace abissora {
+
+namespace {
+
+// Parts of the icon's side; its picture is a rounded square with a little air around it.
+constexpr qreal air = 6.0 / 128;
+constexpr qreal cornerRadius = 27.0 / 128;
+constexpr qreal blur = 0.11;
+constexpr qreal drop = 0.045;
+constexpr int layers = 48;
+constexpr qreal darkness = 0.022;
+
+} // namespace
+
+ShadowedIcon::ShadowedIcon(int side, QWidget* parent)
+    : QWidget(parent)
+    , m_icon(applicationIcon())
+    , m_side(side)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize ShadowedIcon::sizeHint() const
+{
+    const int whole = m_side + 2 * qCeil(m_side * (blur + drop - air));
+    return {whole, whole};
+}
+
+void ShadowedIcon::paintEvent(QPaintEvent*)
+{
+    QRect place(0, 0, m_side, m_side);
+    place.moveCenter(rect().center());
+    const qreal inset = m_side * air;
+    const QRectF square = QRectF(place).adjusted(inset, inset, -inset, -inset).translated(0, m_side * drop);
+
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    // From the faint rim inward; every layer adds a little.
+    QColor ink = Tokens::of(palette()).scrim;
+    ink.setAlphaF(static_cast<float>(ink.alphaF() * darkness));
+    painter.setBrush(ink);
+    for (int layer = 0; layer < layers; ++layer) {
+        const qreal reach = m_side * blur * (1 - 2.0 * layer / layers);
+        const qreal radius = std::max(m_side * cornerRadius + reach, 0.0);
+        painter.drawRoundedRect(square.adjusted(-reach, -reach, reach, reach), radius, radius);
+    }
+    m_icon.paint(&painter, place);
+}
+
+} // namespace abissora

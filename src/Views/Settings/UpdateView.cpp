@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "UpdateView.h"
+
+#include "Alert.h"
+#include "Buttons.h"
+#include "ForeignText.h"
+#include "GroupBox.h"
+#include "IconView.h"
+#include "Metrics.h"
+#include "ReleaseNotes.h"
+#include "SymbolIcon.h"
+#include "WrapLabel.h"
+
+#include <QHBoxLayout>
+#include <QPointer>
+#include <QShortcut>
+
+namespace abissora {
+
+namespace {
+
+constexpr int contentWidth = 480;
+constexpr int iconSide = 52;
+constexpr qsizetype longestVersion = 80;
+constexpr qsizetype longestNotes = 100'000;
+constexpr qsizetype longestAddress = 300;
+
+/// Any other scheme may start any program on this machine.
+bool opensInBrowser(const QUrl& url)
+{
+    const bool isWeb = url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
+    return isWeb && !url.host().isEmpty();
+}
+
+} // namespace
+
+UpdateView::UpdateView(const AppContext& context, const UpdateInfo& update, QWidget* parent)
+    : QWidget(parent)
+    , m_update(update)
+    , m_opener(context.opener)
+    , m_address(opensInBrowser(update.downloadURL) ? update.downloadURL : context.product.websiteURL)
+    , m_download(new PrimaryButton(QStringLiteral("Scarica la nuova versione")))
+{
+    setObjectName(QStringLiteral("updateView"));
+    auto* title = new InkLabel(TextStyle::Title, &Tokens::text, QStringLiteral("Aggiornamento disponibile"));
+    UpdateInfo shown = update;
+    shown.version = shownLine(update.version, longestVersion);
+    auto* version = new WrapLabel(TextStyle::Body, &Tokens::secondaryText,
+                                  QStringLiteral("Nuova versione · ") + shown.versionAndBuild());
+    version->setObjectName(QStringLiteral("newVersion"));
+    version->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    auto* later = new PlainButton(QStringLiteral("Più tardi"));
+    later->setObjectName(QStringLiteral("later"));
+    m_download->setObjectName(QStringLiteral("download"));
+    m_download->setSymbol(QStringLiteral("arrow.down.circle"));
+    connect(later, &QAbstractButton::clicked, this, &UpdateView::closeRequested);
+    connect(m_download, &QAbstractButton::clicked, this, &UpdateView::download);
+    auto* escape = new QShortcut(QKeySequence::Cancel, this);
+    escape->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(escape, &QShortcut::activated, this, &UpdateView::closeRequested);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(metrics::spaceM);
+    buttons->addStretch();
+    buttons->addWidget(later);
+    buttons->addWidget(m_download);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceL);
+    layout->setSpacing(metrics::spaceS);
+    layout->addWidget(new IconView(symbolIcon(QStringLiteral("arrow.down.circle.fill"), NamedColor::blue), iconSide), 0,
+                      Qt::AlignHCenter);
+    layout->addWidget(title, 0, Qt::AlignHCenter);
+    layout->addWidget(version);
+    layout->addSpacing(metrics::spaceS);
+    layout->addWidget(makeNotes(), 1);
+    layout->addSpacing(metrics::spaceS);
+    layout->addLayout(buttons);
+    setMinimumWidth(withText(contentWidth, fontMetrics()));
+    setFocusProxy(m_download);
+}
+
+void UpdateView::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    setFocus();
+}
+
+GroupBox* UpdateView::makeNotes() const
+{
+    const QString title = QStringLiteral("Novità in questa versione");
+    QString text = shownText(m_update.releaseNotes.value_or(QString()), longestNotes);
+    if (text.trimmed().isEmpty())
+        text = QStringLiteral("Consulta il sito dell'applicazione per i dettagli del rilascio.");
+    auto* notes = new ReleaseNotes(text);
+    notes->setObjectName(QStringLiteral("releaseNotes"));
+    notes->setAccessibleName(title);
+    auto* box = new GroupBox(title, QStringLiteral("sparkles"));
+    box->content()->addWidget(notes, 1);
+    return box;
+}
+
+void UpdateView::download()
+{
+    const QPointer<UpdateView> alive(this);
+    const bool opened = m_opener.open(m_address);
+    if (!alive)
+        return;
+    if (opened) {
+        Q_EMIT closeRequested();
+        return;
+    }
+    auto* notice = new Alert(this);
+    notice->setAttribute(Qt::WA_DeleteOnClose);
+    notice->setTitle(QStringLiteral("Pagina non aperta"));
+    notice->setMessage(QStringLiteral("Il sistema non ha aperto la pagina: forse manca un browser. L'indirizzo è:\n%1")
+                           .arg(shownLine(m_address.toString(QUrl::FullyEncoded), longestAddress)));
+    notice->makeNotice();
+    notice->open();
+}
+
+} // namespace abissora

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "AboutRow.h"
+#include "AboutView.h"
+#include "ClippedTexts.h"
+#include "ScreenFixture.h"
+#include "ShadowedIcon.h"
+#include "TestRunner.h"
+#include "Theme.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QSignalSpy>
+
+using namespace abissora;
+
+class tst_AboutView : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { applyTheme(*qApp, Scheme::Light); }
+
+    void saysWhatTheProgramIs()
+    {
+        test::ScreenFixture f;
+        f.product.author = QStringLiteral("Ada Marini");
+        QFile program(f.folder.filePath(QStringLiteral("program")));
+        QVERIFY(program.open(QIODevice::WriteOnly));
+        QVERIFY(program.setFileTime(QDateTime(QDate(2025, 3, 7), QTime(17, 45), Qt::UTC),
+                                    QFileDevice::FileModificationTime));
+        f.package.setExecutablePath(program.fileName());
+
+        const AboutView view(f.context);
+        QStringList texts;
+        for (const QLabel* label : view.findChildren<QLabel*>())
+            texts.append(label->text());
+        QVERIFY(texts.contains(QStringLiteral("Abissora")));
+        QVERIFY(texts.contains(QStringLiteral("Gestione attrezzatura subacquea e manutenzioni")));
+        QCOMPARE(
+            rows(view),
+            QStringList({QStringLiteral("Versione=1.2.0 (build 42)"), QStringLiteral("Data Build=07/03/2025 18:45"),
+                         QStringLiteral("Sviluppato da=Ada Marini"), QStringLiteral("Copyright=© 2026 Ada Marini")}));
+    }
+
+    void whatIsNotKnownIsADash()
+    {
+        test::ScreenFixture f;
+        f.package = {};
+        const AboutView view(f.context);
+        QCOMPARE(rows(view).mid(0, 2),
+                 QStringList({QStringLiteral("Versione=— (build —)"), QStringLiteral("Data Build=—")}));
+    }
+
+    void valuesCanBeSelectedByKeyboardAndAreNamed()
+    {
+        test::ScreenFixture f;
+        AboutView view(f.context);
+        view.show();
+        view.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&view));
+        const QList<AboutRow*> rows = view.findChildren<AboutRow*>();
+        rows.last()->findChildren<QLabel*>().last()->setFocus();
+        for (const AboutRow* row : rows) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            auto* value = qobject_cast<QLabel*>(QApplication::focusWidget());
+            QVERIFY(value != nullptr);
+            QCOMPARE(value->text(), row->value());
+            QCOMPARE(value->textFormat(), Qt::PlainText);
+            value->setSelection(0, int(value->text().size()));
+            QCOMPARE(value->selectedText(), row->value());
+            const auto relations = QAccessible::queryAccessibleInterface(value)->relations(QAccessible::Label);
+            QCOMPARE(relations.size(), 1);
+            QCOMPARE(relations.first().first->text(QAccessible::Name), row->label());
+        }
+    }
+
+    void nothingIsClipped()
+    {
+        const QFont before = QApplication::font();
+        for (const double factor : {1.0, 1.25}) {
+            QFont larger = before;
+            larger.setPointSizeF(before.pointSizeF() * factor);
+            QApplication::setFont(larger);
+            test::ScreenFixture f;
+            AboutView view(f.context);
+            view.show();
+            QVERIFY(QTest::qWaitForWindowExposed(&view));
+            QCOMPARE(test::clippedTexts(view), QStringList());
+        }
+        QApplication::setFont(before);
+    }
+
+    void theIconIsDrawnOnAShadowInBothSchemes()
+    {
+        for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+            applyTheme(*qApp, scheme);
+            ShadowedIcon icon(96);
+            icon.resize(icon.sizeHint());
+            const QImage image = icon.grab().toImage();
+            const QColor ground = icon.palette().color(QPalette::Window);
+            QCOMPARE(image.pixelColor(0, 0), ground);
+            QVERIFY(image.pixelColor(image.width() / 2, image.height() / 2) != ground);
+            // Below the picture's lower edge.
+            const QColor shadow = image.pixelColor(image.width() / 2, (image.height() + 96) / 2);
+            QVERIFY(shadow != ground && shadow.lightness() < ground.lightness());
+        }
+        applyTheme(*qApp, Scheme::Light);
+    }
+
+private:
+    static QStringList rows(const AboutView& view)
+    {
+        QStringList rows;
+        for (const AboutRow* row : view.findChildren<AboutRow*>())
+            rows.append(row->label() + QLatin1Char('=') + row->value());
+        return rows;
+    }
+};
+
+ABISSORA_TEST(tst_AboutView);
+#include "tst_AboutView.moc"

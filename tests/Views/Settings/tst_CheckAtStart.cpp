@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include "LocalServer.h"
+#include "MainWindow.h"
+#include "MarevoloApp.h"
+#include "NetworkHttpClient.h"
+#include "ScriptedHttpClient.h"
+#include "TestRunner.h"
+
+#include <QApplication>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace abissora;
+
+namespace {
+
+const QByteArray newer(R"({"version":"999.0","build":57,"downloadURL":"https://abissora.example/"})");
+const QByteArray older = QByteArray(newer).replace("999.0", "0.0.1");
+
+Product productAt(const QUrl& manifest)
+{
+    return {QStringLiteral("Autrice"), QUrl(QStringLiteral("https://abissora.example/")), manifest};
+}
+
+const Product product = productAt(QUrl(QStringLiteral("https://abissora.example/version.json")));
+
+} // namespace
+
+/// The whole application on a folder of its own.
+class tst_CheckAtStart : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        test::TestCase::init();
+        m_folder.emplace();
+        m_http.emplace();
+    }
+
+    void cleanup()
+    {
+        m_app.reset();
+        m_http.reset();
+    }
+
+    void asksNobodyUntilToldTo()
+    {
+        start();
+        m_app->showMainWindow();
+        QVERIFY(QTest::qWaitForWindowExposed(&m_app->mainWindow()));
+        handleEverything();
+        m_app->mainWindow().close();
+        m_app->showMainWindow();
+        handleEverything();
+        QCOMPARE(m_http->requested(), QList<QUrl>());
+    }
+
+    void asksNobodyWhileOnlyDrawn()
+    {
+        wantCheckAtStart(true);
+        start();
+        m_app->mainWindow().show();
+        QVERIFY(QTest::qWaitForWindowExposed(&m_app->mainWindow()));
+        handleEverything();
+        QCOMPARE(m_http->requested(), QList<QUrl>());
+    }
+
+    void asksOnceWhenTheWindowIsFirstShown()
+    {
+        wantCheckAtStart(true);
+        start();
+        QCOMPARE(m_http->requested(), QList<QUrl>());
+        m_app->showMainWindow();
+        QTRY_COMPARE(m_http->requested(), QList<QUrl>({product.manifestURL}));
+        m_app->mainWindow().close();
+        m_app->showMainWindow();
+        m_app->showMainWindow();
+        handleEverything();
+        QCOMPARE(m_http->requested().size(), 1);
+    }
+
+    void offersWhatItFinds()
+    {
+        wantCheckAtStart(true);
+        start();
+        QSignalSpy offered(&*m_app, &MarevoloApp::updateOffered);
+        m_app->showMainWindow();
+        QTRY_COMPARE(m_http->open(), 1);
+        m_http->answer(200, newer);
+        QCOMPARE(offered.size(), 1);
+        QCOMPARE(offered.first().first().value<UpdateInfo>().id(), QStringLiteral("999.0-57"));
+    }
+
+    void isSilentOtherwise_data()
+    {
+        QTest::addColumn<HttpResult>("answer");
+        QTest::newRow("older") << HttpResult(HttpResponse{200, older});
+        QTest::newRow("status") << HttpResult(HttpResponse{500, newer});
+        QTest::newRow("manifest") << HttpResult(HttpResponse{200, QByteArray("{}")});
+        QTest::newRow("transport") << HttpResult(tl::unexpected(HttpError{}));
+    }
+
+    void isSilentOtherwise()
+    {
+        QFETCH(HttpResult, answer);
+        wantCheckAtStart(true);
+        start();
+        QSignalSpy offered(&*m_app, &MarevoloApp::updateOffered);
+        m_app->showMainWindow();
+        QTRY_COMPARE(m_http->open(), 1);
+        const auto windows = QApplication::topLevelWidgets().size();
+        m_http->answer(answer);
+        handleEverything();
+        QCOMPARE(offered.size(), 0);
+        QCOMPARE(QApplication::topLevelWidgets().size(), windows);
+    }
+
+    void mayEndMeanwhile_data()
+    {
+        QTest::addColumn<bool>("closedFirst");
+        QTest::newRow("window closed") << true;
+        QTest::newRow("program ended") << false;
+    }
+
+    void mayEndMeanwhile()
+    {
+        QFETCH(bool, closedFirst);
+        wantCheckAtStart(true);
+        start();
+        m_app->showMainWindow();
+        QTRY_COMPARE(m_http->open(), 1);
+        if (closedFirst)
+            m_app->mainWindow().close();
+        else
+            m_app.reset();
+        m_http->answer(200, newer);
+        handleEverything();
+    }
+
+    void mayEndWhileTheServerHangs()
+    {
+        test::LocalServer server;
+        server.next(test::LocalServer::hangsAfter("HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\n{"));
+        wantCheckAtStart(true);
+        NetworkHttpClient http;
+        MarevoloApp app(*qApp, directories(), productAt(server.url()), http);
+        app.showMainWindow();
+        QTRY_COMPARE(server.requests().size(), 1);
+    }
+
+private:
+    [[nodiscard]] ApplicationDirectories directories() const { return ApplicationDirectories(m_folder->path(), true); }
+
+    void start() { m_app.emplace(*qApp, directories(), product, *m_http); }
+
+    void wantCheckAtStart(bool want) const
+    {
+        const SystemClock clock;
+        const ApplicationDirectories folders = directories();
+        PreferencesStore preferences(folders.preferences(), folders.backups(), clock);
+        StandardOutput console;
+        SettingsViewModel(preferences, console).setCheckForUpdatesOnLaunch(want);
+    }
+
+    static void handleEverything()
+    {
+        for (int pass = 0; pass < 5; ++pass)
+            QCoreApplication::processEvents();
+    }
+
+    std::optional<QTemporaryDir> m_folder;
+    std::optional<test::ScriptedHttpClient> m_http;
+    std::optional<MarevoloApp> m_app;
+};
+
+ABISSORA_TEST(tst_CheckAtStart);
+#include "tst_CheckAtStart.moc"
