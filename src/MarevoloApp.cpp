@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "MarevoloApp.h"
 
+#include "AppWindows.h"
+#include "BringForward.h"
 #include "MainWindow.h"
 #include "Theme.h"
 
@@ -44,9 +46,7 @@ void MarevoloApp::showMainWindow()
             QMetaObject::invokeMethod(this, &MarevoloApp::checkForUpdatesAtStart, Qt::QueuedConnection);
         return;
     }
-    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-    window.raise();
-    window.activateWindow();
+    bringForward(window);
 }
 
 QCoro::Task<> MarevoloApp::checkForUpdatesAtStart()
@@ -62,22 +62,32 @@ QCoro::Task<> MarevoloApp::checkForUpdatesAtStart()
 MainWindow& MarevoloApp::mainWindow()
 {
     if (!m_mainWindow) {
-        const AppContext context{m_equipment,
-                                 m_types,
-                                 m_settings,
-                                 m_updates,
-                                 m_console,
-                                 m_clock,
-                                 m_ids,
-                                 m_documents,
-                                 m_opener,
-                                 m_info,
-                                 m_product,
-                                 m_calendar,
-                                 DateFormat(DateFormat::userLocale(), m_calendar)};
-        m_mainWindow = std::make_unique<MainWindow>(context, m_directories.windowStateFile());
+        m_mainWindow = std::make_unique<MainWindow>(context(), m_directories.windowStateFile());
+        m_windows = std::make_unique<AppWindows>(context());
+        m_windows->setMainWindow(m_mainWindow.get());
+        connect(m_mainWindow.get(), &MainWindow::aboutRequested, m_windows.get(), &AppWindows::openAbout);
+        connect(m_mainWindow.get(), &MainWindow::helpRequested, m_windows.get(), &AppWindows::openHelp);
+        connect(m_mainWindow.get(), &MainWindow::closed, m_windows.get(), &AppWindows::closeAll);
+        connect(this, &MarevoloApp::updateOffered, m_windows.get(), &AppWindows::openUpdate);
     }
     return *m_mainWindow;
+}
+
+AppContext MarevoloApp::context()
+{
+    return {m_equipment,
+            m_types,
+            m_settings,
+            m_updates,
+            m_console,
+            m_clock,
+            m_ids,
+            m_documents,
+            m_opener,
+            m_info,
+            m_product,
+            m_calendar,
+            DateFormat(DateFormat::userLocale(), m_calendar)};
 }
 
 void MarevoloApp::applyScheme()

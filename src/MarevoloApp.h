@@ -13,6 +13,7 @@ class QApplication;
 
 namespace abissora {
 
+class AppWindows;
 class MainWindow;
 
 /// The entry: the only place that creates services and state objects, in the order in which the program starts.
@@ -39,6 +40,7 @@ Q_SIGNALS:
 
 private:
     QCoro::Task<> checkForUpdatesAtStart();
+    [[nodiscard]] AppContext context();
     void applyScheme();
 
     QApplication& m_application;
@@ -62,6 +64,7 @@ private:
     UpdateCheckerViewModel m_updates;
     DayWatch m_dayWatch;
     std::unique_ptr<MainWindow> m_mainWindow;
+    std::unique_ptr<AppWindows> m_windows;
     bool m_hasStarted = false;
 };
 

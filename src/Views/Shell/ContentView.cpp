@@ -9,6 +9,7 @@
 #include "MaintenanceOverviewView.h"
 #include "Metrics.h"
 #include "SegmentedControl.h"
+#include "SettingsView.h"
 #include "SidebarView.h"
 #include "StatisticsView.h"
 
@@ -198,10 +199,7 @@ void ContentView::showPage()
 {
     if (m_sidebar->selectedSidebarItem() == sidebar::settings) {
         if (!m_settings) {
-            auto* settings = new EmptyState;
-            settings->setSymbol(QStringLiteral("gear"));
-            settings->setTitle(QStringLiteral("Impostazioni"));
-            m_settings = settings;
+            m_settings = new SettingsView(m_context);
             m_pages->addWidget(m_settings);
         }
         m_pages->setCurrentWidget(m_settings);

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow.h"
 
+#include "CloseShortcut.h"
 #include "ContentView.h"
 #include "EditMenu.h"
 #include "EquipmentListView.h"
 #include "SymbolIcon.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QMenuBar>
 
 namespace abissora {
@@ -35,6 +37,8 @@ void MainWindow::closeEvent(QCloseEvent* event)
 {
     m_state.save(*this, m_content->splitters());
     QMainWindow::closeEvent(event);
+    if (event->isAccepted())
+        Q_EMIT closed();
 }
 
 void MainWindow::buildMenuBar()
@@ -48,7 +52,7 @@ void MainWindow::buildMenuBar()
     connect(refresh, &QAction::triggered, &m_content->list(), &EquipmentListView::refresh);
     file->addSeparator();
     QAction* close = file->addAction(QStringLiteral("&Chiudi"));
-    close->setShortcut(QKeySequence::Close);
+    close->setShortcut(closeKey());
     connect(close, &QAction::triggered, this, &QWidget::close);
     QAction* quit = file->addAction(QStringLiteral("&Esci"));
     quit->setShortcut(QKeySequence::Quit);
@@ -63,9 +67,12 @@ void MainWindow::buildMenuBar()
     menuBar()->addMenu(edit);
 
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Aiuto"));
-    QAction* aboutQt = help->addAction(QStringLiteral("Informazioni su &Qt"));
-    aboutQt->setMenuRole(QAction::AboutQtRole);
-    connect(aboutQt, &QAction::triggered, qApp, &QApplication::aboutQt);
+    QAction* guide = help->addAction(symbolIcon(QStringLiteral("lightbulb")), QStringLiteral("Abissora &Help"));
+    guide->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Question), QKeySequence(QKeySequence::HelpContents)});
+    connect(guide, &QAction::triggered, this, &MainWindow::helpRequested);
+    QAction* about = help->addAction(QStringLiteral("&Informazioni su Abissora"));
+    about->setMenuRole(QAction::AboutRole);
+    connect(about, &QAction::triggered, this, &MainWindow::aboutRequested);
 }
 
 } // namespace abissora

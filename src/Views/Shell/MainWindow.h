@@ -20,6 +20,12 @@ public:
 
     [[nodiscard]] ContentView& content() { return *m_content; }
 
+Q_SIGNALS:
+    void aboutRequested();
+    void helpRequested();
+    /// The window was closed by the person.
+    void closed();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
 

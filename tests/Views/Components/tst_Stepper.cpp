@@ -21,6 +21,7 @@ private Q_SLOTS:
     void typedTextChangesNothing();
     void theProgramsValueIsNoEdit();
     void aValueOutsideTheRangeIsShownAsItIs();
+    void tabReachesIt();
     void theWheelNeedsTheFocus();
     void itShowsValueAndUnit();
     void theWidestValueFits();
@@ -141,6 +142,12 @@ void tst_Stepper::aValueOutsideTheRangeIsShownAsItIs()
     const auto stepper = reminder(400);
     QCOMPARE(stepper->value(), 400);
     QCOMPARE(stepper->text(), QStringLiteral("400 giorni"));
+}
+
+void tst_Stepper::tabReachesIt()
+{
+    const auto stepper = reminder(30);
+    QCOMPARE(stepper->focusPolicy(), Qt::StrongFocus);
 }
 
 void tst_Stepper::theWheelNeedsTheFocus()

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "InformationGroup.h"
+
+#include "Buttons.h"
+#include "Metrics.h"
+#include "SettingsInfoRow.h"
+#include "WrapLabel.h"
+
+#include <QHBoxLayout>
+
+namespace abissora {
+
+InformationGroup::InformationGroup(const AppContext& context, QWidget* parent)
+    : SettingsGroupBox(QStringLiteral("Informazioni"), QStringLiteral("info.circle"), parent)
+    , m_context(context)
+    , m_version(addRow(QStringLiteral("Versione")))
+    , m_buildDate(addRow(QStringLiteral("Data Build")))
+    , m_author(addRow(QStringLiteral("Sviluppato da")))
+    , m_copyright(addRow(QStringLiteral("Copyright")))
+    , m_types(addRow(QStringLiteral("Tipologie disponibili")))
+    , m_update([this] { redraw(); })
+{
+    content()->addWidget(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText,
+                                       QStringLiteral("Icone: Game Icons (CC BY 3.0), MDI, Icon-Park, Lucide")));
+    content()->addLayout(makeWebsiteLine());
+    connect(&context.types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
+    redraw();
+}
+
+SettingsInfoRow* InformationGroup::addRow(const QString& label)
+{
+    auto* row = new SettingsInfoRow(label);
+    content()->addWidget(row);
+    return row;
+}
+
+QLayout* InformationGroup::makeWebsiteLine()
+{
+    const QUrl address = m_context.product.websiteURL;
+    const QString caption = QStringLiteral("— sito dell'applicazione");
+    auto* link = new LinkButton(address.host());
+    link->setObjectName(QStringLiteral("website"));
+    link->setAccessibleDescription(caption);
+    connect(link, &QAbstractButton::clicked, this, [this, address] { (void)m_context.opener.open(address); });
+    auto* line = new QHBoxLayout;
+    line->setContentsMargins(-metrics::spaceXS, 0, 0, 0); // the link's own padding
+    line->setSpacing(0);
+    line->addWidget(link);
+    line->addWidget(new InkLabel(TextStyle::Body, &Tokens::secondaryText, caption), 1);
+    return line;
+}
+
+void InformationGroup::showEvent(QShowEvent* event)
+{
+    redraw(); // the year and the file's date may have moved on since
+    SettingsGroupBox::showEvent(event);
+}
+
+void InformationGroup::redraw()
+{
+    const AppInfo& info = m_context.info;
+    const QString author = m_context.product.author;
+    m_version->setValue(info.version() + QStringLiteral(" (build ") + info.build() + QLatin1Char(')'));
+    m_buildDate->setValue(info.buildDate());
+    m_author->setValue(author);
+    m_copyright->setValue(QStringLiteral("© ") + info.year() + QLatin1Char(' ') + author);
+    m_types->setValue(QString::number(m_context.types.filteredTypes().size()));
+}
+
+} // namespace abissora

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AppContext.h"
+#include "CoalescedUpdate.h"
+#include "SettingsGroupBox.h"
+
+namespace abissora {
+
+class SettingsInfoRow;
+
+/// What the program says of itself, its credits and its website.
+class InformationGroup : public SettingsGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit InformationGroup(const AppContext& context, QWidget* parent = nullptr);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    [[nodiscard]] SettingsInfoRow* addRow(const QString& label);
+    [[nodiscard]] QLayout* makeWebsiteLine();
+    void redraw();
+
+    AppContext m_context;
+    SettingsInfoRow* m_version;
+    SettingsInfoRow* m_buildDate;
+    SettingsInfoRow* m_author;
+    SettingsInfoRow* m_copyright;
+    SettingsInfoRow* m_types;
+    CoalescedUpdate m_update;
+};
+
+} // namespace abissora

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "SettingsView.h"
+
+#include "Buttons.h"
+#include "EquipmentTypeManagementView.h"
+#include "HelpSheet.h"
+#include "IconView.h"
+#include "InformationGroup.h"
+#include "Metrics.h"
+#include "PreferenceGroups.h"
+#include "SymbolIcon.h"
+#include "TypesGroup.h"
+#include "UpdateSheet.h"
+#include "UpdatesGroup.h"
+
+#include <QHideEvent>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+namespace abissora {
+
+namespace {
+
+constexpr int columnWidth = 704;
+constexpr int headerIconSide = 32;
+
+} // namespace
+
+SettingsView::SettingsView(const AppContext& context, QWidget* parent)
+    : QScrollArea(parent)
+    , m_context(context)
+    , m_updates(new UpdatesGroup(context.settings, context.updates))
+{
+    setObjectName(QStringLiteral("settings"));
+    setAccessibleName(QStringLiteral("Impostazioni"));
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+
+    auto* column = new QWidget;
+    column->setMaximumWidth(withText(columnWidth, fontMetrics()));
+    auto* groups = new QVBoxLayout(column);
+    groups->setContentsMargins(0, metrics::spaceM, 0, metrics::spaceXL);
+    groups->setSpacing(metrics::spaceL);
+    groups->addWidget(makeHeader());
+    addGroups(groups);
+    groups->addStretch();
+
+    auto* page = new QWidget;
+    auto* layout = new QHBoxLayout(page);
+    layout->setContentsMargins(metrics::spaceXL, 0, metrics::spaceXL, 0);
+    layout->addStretch(1);
+    layout->addWidget(column, 1000);
+    layout->addStretch(1);
+    setWidget(page);
+    page->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+
+    connect(&context.updates, &UpdateCheckerViewModel::availableUpdateChanged, this, &SettingsView::offerUpdate);
+}
+
+QWidget* SettingsView::makeHeader()
+{
+    auto* header = new QWidget;
+    auto* layout = new QGridLayout(header);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setHorizontalSpacing(metrics::spaceM);
+    layout->setVerticalSpacing(0);
+    layout->setColumnStretch(1, 1);
+    layout->addWidget(new IconView(symbolIcon(QStringLiteral("gear"), NamedColor::blue), headerIconSide), 0, 0, 2, 1);
+    layout->addWidget(new InkLabel(TextStyle::Title, &Tokens::text, QStringLiteral("Impostazioni")), 0, 1);
+    layout->addWidget(
+        new InkLabel(TextStyle::Body, &Tokens::secondaryText, QStringLiteral("Configura la tua esperienza")), 1, 1);
+    return header;
+}
+
+void SettingsView::addGroups(QVBoxLayout* groups)
+{
+    auto* types = new TypesGroup(m_context.types);
+    connect(types, &TypesGroup::manageRequested, this, &SettingsView::manageTypes);
+
+    auto* help = new SettingsGroupBox(QStringLiteral("Aiuto"), QStringLiteral("book"));
+    help->addText(QStringLiteral(
+        "Guida all'uso completa del programma: funzioni, manutenzioni, allegati PDF e domande frequenti"));
+    auto* openHelp = new PlainButton(QStringLiteral("Apri la Guida"));
+    openHelp->setObjectName(QStringLiteral("openHelp"));
+    openHelp->setSymbol(QStringLiteral("book.fill"));
+    help->addLine(openHelp);
+    connect(openHelp, &QAbstractButton::clicked, this, &SettingsView::showHelp);
+
+    auto* restore = new SettingsGroupBox(QStringLiteral("Ripristino"), QStringLiteral("arrow.counterclockwise"));
+    auto* reset = new DestructiveButton(QStringLiteral("Ripristina Impostazioni Default"));
+    reset->setObjectName(QStringLiteral("resetSettings"));
+    restore->addLine(reset);
+    restore->addExplanation(QStringLiteral("Ripristina tutte le impostazioni ai valori predefiniti"), reset);
+    connect(reset, &QAbstractButton::clicked, this, &SettingsView::resetToDefaults);
+
+    groups->addWidget(types);
+    groups->addWidget(new NotificationsGroup(m_context.settings));
+    groups->addWidget(m_updates);
+    groups->addWidget(new GeneralGroup(m_context.settings));
+    groups->addWidget(new AppearanceGroup(m_context.settings));
+    groups->addWidget(help);
+    groups->addWidget(new InformationGroup(m_context));
+    groups->addWidget(restore);
+}
+
+bool SettingsView::showingTypeManagement() const
+{
+    return qobject_cast<EquipmentTypeManagementView*>(m_sheet) != nullptr && m_sheet->isVisible();
+}
+
+bool SettingsView::showingHelp() const
+{
+    return qobject_cast<HelpSheet*>(m_sheet) != nullptr && m_sheet->isVisible();
+}
+
+void SettingsView::manageTypes()
+{
+    openSheet(new EquipmentTypeManagementView(m_context, window()));
+}
+
+void SettingsView::showHelp()
+{
+    openSheet(new HelpSheet(m_context.opener, window()));
+}
+
+void SettingsView::offerUpdate()
+{
+    const std::optional<UpdateInfo>& update = m_context.updates.availableUpdate();
+    auto* const offer = qobject_cast<UpdateSheet*>(m_sheet);
+    const bool isCovered = m_sheet && m_sheet->isVisible();
+    if (!update && offer != nullptr) {
+        offer->close();
+    } else if (update && !isCovered && isVisible()) {
+        auto* sheet = new UpdateSheet(m_context, *update, window());
+        connect(sheet, &QDialog::finished, &m_context.updates, &UpdateCheckerViewModel::clearAvailableUpdate);
+        openSheet(sheet);
+    }
+}
+
+void SettingsView::resetToDefaults()
+{
+    m_context.settings.resetToDefaults();
+    m_context.types.resetToDefaults();
+}
+
+void SettingsView::openSheet(SheetWindow* sheet)
+{
+    m_sheet = sheet;
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    // An update found while another sheet stood here waits for its turn.
+    connect(sheet, &QDialog::finished, this, &SettingsView::offerUpdate, Qt::QueuedConnection);
+    sheet->open();
+}
+
+void SettingsView::showEvent(QShowEvent* event)
+{
+    QScrollArea::showEvent(event);
+    // An update found by the check at start is offered here as well.
+    if (!event->spontaneous())
+        QMetaObject::invokeMethod(this, &SettingsView::offerUpdate, Qt::QueuedConnection);
+}
+
+void SettingsView::hideEvent(QHideEvent* event)
+{
+    if (!event->spontaneous())
+        m_updates->forgetFeedback();
+    QScrollArea::hideEvent(event);
+}
+
+} // namespace abissora

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "UpdatesGroup.h"
+
+#include "CheckButton.h"
+#include "IconLabel.h"
+#include "Metrics.h"
+#include "SymbolIcon.h"
+#include "ToggleSwitch.h"
+
+#include <QHBoxLayout>
+#include <QPointer>
+
+namespace abissora {
+
+UpdatesGroup::UpdatesGroup(SettingsViewModel& settings, UpdateCheckerViewModel& updates, QWidget* parent)
+    : SettingsGroupBox(QStringLiteral("Aggiornamenti"), QStringLiteral("arrow.down.circle"), parent)
+    , m_settings(settings)
+    , m_updates(updates)
+    , m_onLaunch(new ToggleSwitch(QStringLiteral("Controlla aggiornamenti all'avvio")))
+    , m_check(new CheckButton)
+    , m_feedback(new IconLabel)
+{
+    m_onLaunch->setObjectName(QStringLiteral("checkForUpdatesOnLaunch"));
+    m_check->setObjectName(QStringLiteral("checkForUpdates"));
+    m_feedback->setObjectName(QStringLiteral("checkFeedback"));
+    m_feedback->setWordWrap(true);
+    addLine(m_onLaunch);
+    addExplanation(
+        QStringLiteral("Se attivo, all'avvio l'app verifica sul sito se esiste una versione più recente e la propone."),
+        m_onLaunch);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(metrics::spaceM);
+    line->addWidget(m_check);
+    line->addWidget(m_feedback, 1);
+    content()->addLayout(line);
+
+    setFeedback(std::nullopt, false);
+    redraw();
+    connect(m_onLaunch, &QAbstractButton::clicked, &settings, &SettingsViewModel::setCheckForUpdatesOnLaunch);
+    connect(m_check, &CheckButton::checkRequested, this, &UpdatesGroup::checkForUpdatesNow);
+    connect(&settings, &SettingsViewModel::changed, this, &UpdatesGroup::redraw);
+    connect(&updates, &UpdateCheckerViewModel::isCheckingChanged, this, &UpdatesGroup::redraw);
+}
+
+QCoro::Task<> UpdatesGroup::checkForUpdatesNow()
+{
+    const QPointer<UpdatesGroup> alive(this);
+    const std::optional<UpdateInfo> update = co_await m_updates.checkForUpdates();
+    if (!alive)
+        co_return;
+    if (update) {
+        setFeedback(QStringLiteral("Versione ") + update->versionAndBuild() + QStringLiteral(" disponibile"), false);
+    } else if (const std::optional<QString> error = m_updates.lastError()) {
+        setFeedback(error, true);
+    } else {
+        setFeedback(QStringLiteral("Hai già l'ultima versione"), false);
+    }
+}
+
+void UpdatesGroup::forgetFeedback()
+{
+    setFeedback(std::nullopt, false);
+}
+
+void UpdatesGroup::setFeedback(const std::optional<QString>& text, bool isError)
+{
+    m_checkFeedback = text;
+    m_feedbackIsError = isError;
+    m_feedback->setText(text.value_or(QString()));
+    m_feedback->setIcon(isError ? symbolIcon(QStringLiteral("exclamationmark.triangle"), NamedColor::red)
+                                : symbolIcon(QStringLiteral("checkmark.circle"), NamedColor::green));
+    m_feedback->setVisible(text.has_value());
+}
+
+void UpdatesGroup::redraw()
+{
+    m_onLaunch->setChecked(m_settings.checkForUpdatesOnLaunch());
+    m_check->setChecking(m_updates.isChecking());
+}
+
+} // namespace abissora

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "AppWindows.h"
+
+#include "AboutView.h"
+#include "BringForward.h"
+#include "HelpWindow.h"
+#include "TitlelessWindow.h"
+#include "UpdateView.h"
+
+namespace abissora {
+
+AppWindows::AppWindows(const AppContext& context, QObject* parent)
+    : QObject(parent)
+    , m_context(context)
+{}
+
+AppWindows::~AppWindows()
+{
+    delete m_about;
+    delete m_help;
+    for (const QPointer<QWidget>& window : std::as_const(m_updates))
+        delete window;
+}
+
+void AppWindows::openAbout()
+{
+    if (!m_about) {
+        m_about = new TitlelessWindow(QStringLiteral("Informazioni su Abissora"), new AboutView(m_context));
+        m_about->setObjectName(QStringLiteral("aboutWindow"));
+    }
+    bringForward(*m_about, m_mainWindow);
+}
+
+void AppWindows::openHelp()
+{
+    if (!m_help)
+        m_help = new HelpWindow(m_context.opener);
+    bringForward(*m_help, m_mainWindow);
+}
+
+void AppWindows::openUpdate(const UpdateInfo& update)
+{
+    QPointer<QWidget>& window = m_updates[update];
+    if (!window) {
+        auto* view = new UpdateView(m_context, update);
+        window = new TitlelessWindow(QStringLiteral("Aggiornamento disponibile"), view);
+        window->setObjectName(QStringLiteral("updateWindow"));
+        connect(view, &UpdateView::closeRequested, window, &QWidget::close);
+    }
+    bringForward(*window, m_mainWindow);
+}
+
+void AppWindows::closeAll()
+{
+    for (QWidget* window : {m_about.data(), m_help.data()})
+        if (window != nullptr)
+            window->close();
+    for (const QPointer<QWidget>& window : std::as_const(m_updates))
+        if (window)
+            window->close();
+}
+
+} // namespace abissora

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+namespace abissora {
+
+class Opener;
+
+/// The guide in a window of its own. It deletes itself when it closes, so that it opens afresh.
+class HelpWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// `opener` must outlive it.
+    explicit HelpWindow(Opener& opener);
+};
+
+} // namespace abissora

@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+#include "PreferenceGroups.h"
+#include "ScreenFixture.h"
+#include "SegmentedControl.h"
+#include "Stepper.h"
+#include "TestRunner.h"
+#include "ToggleSwitch.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QVBoxLayout>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+/// The three groups below one another, shown and active.
+struct Shown
+{
+    explicit Shown(ScreenFixture& f)
+    {
+        auto* layout = new QVBoxLayout(&page);
+        layout->addWidget(new NotificationsGroup(f.settings));
+        layout->addWidget(new GeneralGroup(f.settings));
+        layout->addWidget(new AppearanceGroup(f.settings));
+        page.show();
+        page.activateWindow();
+        QCoreApplication::processEvents();
+    }
+
+    ToggleSwitch& toggle(const char* name) { return *page.findChild<ToggleSwitch*>(QLatin1String(name)); }
+    Stepper& days() { return *page.findChild<Stepper*>(QStringLiteral("reminderDays")); }
+    SegmentedControl& interval()
+    {
+        return *page.findChild<SegmentedControl*>(QStringLiteral("defaultServiceInterval"));
+    }
+    QLineEdit& currency() { return *page.findChild<QLineEdit*>(QStringLiteral("currencySymbol")); }
+    QStringList segments()
+    {
+        QStringList texts;
+        for (const QAbstractButton* segment : interval().findChildren<QAbstractButton*>())
+            texts.append(segment->text() + (segment->isChecked() ? QStringLiteral("*") : QString()));
+        return texts;
+    }
+
+    QWidget page;
+};
+
+QByteArray stored(const ScreenFixture& f, const char* key)
+{
+    QFile file(f.preferences.path(QLatin1String(key)));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
+}
+
+} // namespace
+
+class tst_PreferenceGroups : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void anEmptyStoreShowsTheDefaults()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QVERIFY(s.toggle("notificationsEnabled").isChecked());
+        QCOMPARE(s.days().text(), QStringLiteral("30 giorni"));
+        QCOMPARE(s.segments(),
+                 QStringList({QStringLiteral("6 Mesi"), QStringLiteral("1 Anno*"), QStringLiteral("2 Anni")}));
+        QCOMPARE(s.currency().text(), QStringLiteral("€"));
+        QCOMPARE(s.currency().placeholderText(), QStringLiteral("Simbolo"));
+        QVERIFY(!s.toggle("darkMode").isChecked());
+    }
+
+    void showingThemStoresNothing()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        f.settings.setReminderDays(44);
+        for (const char* key : {"notificationsEnabled", "defaultServiceInterval", "currencySymbol", "darkMode"})
+            QVERIFY2(!QFile::exists(f.preferences.path(QLatin1String(key))), key);
+        QCOMPARE(s.days().text(), QStringLiteral("44 giorni"));
+    }
+
+    void aSwitchStoresAtOnce_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::addColumn<QByteArray>("first");
+        QTest::addColumn<QByteArray>("second");
+        QTest::newRow("notifications") << QByteArray("notificationsEnabled") << QByteArray("false")
+                                       << QByteArray("true");
+        QTest::newRow("dark mode") << QByteArray("darkMode") << QByteArray("true") << QByteArray("false");
+    }
+
+    void aSwitchStoresAtOnce()
+    {
+        QFETCH(const QByteArray, name);
+        QFETCH(const QByteArray, first);
+        QFETCH(const QByteArray, second);
+        ScreenFixture f;
+        Shown s(f);
+        const QSignalSpy changed(&f.settings, &SettingsViewModel::changed);
+        QTest::mouseClick(&s.toggle(name.constData()), Qt::LeftButton);
+        QCOMPARE(stored(f, name.constData()), first);
+        QCOMPARE(changed.size(), 1);
+        s.toggle(name.constData()).setFocus();
+        QTest::keyClick(&s.toggle(name.constData()), Qt::Key_Space);
+        QCOMPARE(stored(f, name.constData()), second);
+        QCOMPARE(changed.size(), 2);
+    }
+
+    void theReminderMovesBySevenWithinItsRange_data()
+    {
+        QTest::addColumn<qint64>("from");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<qint64>("to");
+        QTest::newRow("30 up") << qint64{30} << int(Qt::Key_Up) << qint64{37};
+        QTest::newRow("30 down") << qint64{30} << int(Qt::Key_Down) << qint64{23};
+        QTest::newRow("7 down") << qint64{7} << int(Qt::Key_Down) << qint64{7};
+        QTest::newRow("90 up") << qint64{90} << int(Qt::Key_Up) << qint64{90};
+        QTest::newRow("86 up") << qint64{86} << int(Qt::Key_Up) << qint64{90};
+    }
+
+    void theReminderMovesBySevenWithinItsRange()
+    {
+        QFETCH(const qint64, from);
+        QFETCH(const int, key);
+        QFETCH(const qint64, to);
+        ScreenFixture f;
+        f.settings.setReminderDays(from);
+        Shown s(f);
+        s.days().setFocus();
+        QTest::keyClick(&s.days(), static_cast<Qt::Key>(key));
+        QCOMPARE(f.settings.reminderDays(), to);
+        QCOMPARE(s.days().text(), QStringLiteral("%1 giorni").arg(to));
+    }
+
+    void everySegmentStoresItsDays()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        const QSignalSpy changed(&f.settings, &SettingsViewModel::changed);
+        const QList<QAbstractButton*> segments = s.interval().findChildren<QAbstractButton*>();
+        QTest::mouseClick(segments.at(0), Qt::LeftButton);
+        QCOMPARE(f.settings.defaultServiceInterval(), 180);
+        QTest::mouseClick(segments.at(2), Qt::LeftButton);
+        QCOMPARE(f.settings.defaultServiceInterval(), 730);
+        QTest::keyClick(segments.at(2), Qt::Key_Left);
+        QCOMPARE(f.settings.defaultServiceInterval(), 365);
+        QCOMPARE(changed.size(), 3);
+    }
+
+    void anIntervalOfItsOwnLeavesNoSegmentChosen()
+    {
+        ScreenFixture f;
+        f.settings.setDefaultServiceInterval(200);
+        Shown s(f);
+        QCOMPARE(s.interval().currentIndex(), -1);
+        QVERIFY(s.segments().filter(QStringLiteral("*")).isEmpty());
+        QCOMPARE(f.settings.defaultServiceInterval(), 200);
+    }
+
+    void everyLetterOfTheCurrencyIsStored()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        const QSignalSpy changed(&f.settings, &SettingsViewModel::currencySymbolChanged);
+        s.currency().setFocus();
+        s.currency().selectAll();
+        QTest::keyClicks(&s.currency(), QStringLiteral("CHF"));
+        QCOMPARE(stored(f, "currencySymbol"), QByteArray("\"CHF\""));
+        QCOMPARE(changed.size(), 3);
+        QTest::keyClick(&s.currency(), Qt::Key_Home);
+        QTest::keyClicks(&s.currency(), QStringLiteral("x"));
+        QCOMPARE(s.currency().text(), QStringLiteral("xCHF"));
+        QCOMPARE(s.currency().cursorPosition(), 1);
+        s.currency().selectAll();
+        QTest::keyClick(&s.currency(), Qt::Key_Delete);
+        QCOMPARE(f.settings.currencySymbol(), QString());
+    }
+
+    void aChangeFromElsewhereIsShown()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        f.settings.setNotificationsEnabled(false);
+        f.settings.setReminderDays(14);
+        f.settings.setDefaultServiceInterval(180);
+        f.settings.setCurrencySymbol(QStringLiteral("$"));
+        f.settings.setDarkMode(true);
+        QVERIFY(!s.toggle("notificationsEnabled").isChecked());
+        QCOMPARE(s.days().value(), 14);
+        QCOMPARE(s.interval().currentIndex(), 0);
+        QCOMPARE(s.currency().text(), QStringLiteral("$"));
+        QVERIFY(s.toggle("darkMode").isChecked());
+    }
+
+    void whatCannotBeStoredIsNotShownAsStored()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        // A folder in the file's place: the write fails whoever runs the test.
+        QVERIFY(QDir().mkpath(f.preferences.path(QStringLiteral("darkMode"))));
+        QTest::mouseClick(&s.toggle("darkMode"), Qt::LeftButton);
+        QVERIFY(!s.toggle("darkMode").isChecked());
+        QVERIFY(f.takeLog().join(QLatin1Char('\n')).startsWith(QStringLiteral("Error saving settings: ")));
+    }
+
+    void everyControlIsNamedByItsCaption()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        const auto name = [](QWidget& widget) {
+            return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
+        };
+        QCOMPARE(name(s.toggle("notificationsEnabled")), QStringLiteral("Abilita Notifiche"));
+        QCOMPARE(name(s.days()), QStringLiteral("Giorni di anticipo"));
+        QCOMPARE(name(s.interval()), QStringLiteral("Intervallo Tagliando Default"));
+        QCOMPARE(name(s.currency()), QStringLiteral("Simbolo Valuta"));
+        QCOMPARE(name(s.toggle("darkMode")), QStringLiteral("Modalità Scura"));
+    }
+};
+
+ABISSORA_TEST(tst_PreferenceGroups);
+#include "tst_PreferenceGroups.moc"

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "EquipmentTypeManagementView.h"
+#include "ShownSettings.h"
+#include "TestRunner.h"
+#include "UpdateSheet.h"
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+const QByteArray newer = R"({"version":"1.3.0","build":57,"downloadURL":"https://abissora.example/1.3.0"})";
+const QByteArray current = R"({"version":"1.2.0","build":42,"downloadURL":"https://abissora.example/"})";
+
+QImage iconOf(IconLabel& label)
+{
+    return label.grab().toImage().copy(0, 0, 20, label.height());
+}
+
+bool hasInk(const QImage& image, auto isInk)
+{
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (isInk(image.pixelColor(x, y)))
+                return true;
+    return false;
+}
+
+} // namespace
+
+class tst_SettingsUpdates : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aNewerReleaseIsOfferedAndTold()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        s.click("checkForUpdates");
+        QCOMPARE(f.http.requested().size(), 1);
+        f.http.answer(200, newer);
+        QCoreApplication::processEvents();
+        QCOMPARE(s.updates().checkFeedback(), std::optional(QStringLiteral("Versione 1.3.0 (build 57) disponibile")));
+        QVERIFY(!s.updates().feedbackIsError());
+        QVERIFY(s.feedback().isVisible());
+        auto* offer = s.sheet<UpdateSheet>();
+        QVERIFY(offer != nullptr);
+        offer->reject();
+        QVERIFY(!f.updates.availableUpdate());
+        QCoreApplication::processEvents();
+        QVERIFY(s.sheet<UpdateSheet>() == nullptr);
+        QCOMPARE(s.feedback().text(), QStringLiteral("Versione 1.3.0 (build 57) disponibile"));
+    }
+
+    void theCurrentReleaseIsTold()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        s.click("checkForUpdates");
+        f.http.answer(200, current);
+        QCOMPARE(s.feedback().text(), QStringLiteral("Hai già l'ultima versione"));
+        QVERIFY(!s.updates().feedbackIsError());
+        QVERIFY(s.sheet<UpdateSheet>() == nullptr);
+        QVERIFY(hasInk(iconOf(s.feedback()), [](const QColor& c) { return c.green() > c.red() + 40; }));
+    }
+
+    void aFailureIsTold_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("the server fails") << 500 << QStringLiteral("Il server non ha risposto correttamente.");
+        QTest::newRow("no manifest") << 200 << QStringLiteral("Il file di aggiornamento sul sito non è valido.");
+        QTest::newRow("no answer") << 0 << QStringLiteral("Impossibile contattare il sito dell'applicazione.");
+    }
+
+    void aFailureIsTold()
+    {
+        QFETCH(const int, status);
+        QFETCH(const QString, text);
+        ScreenFixture f;
+        ShownSettings s(f);
+        s.click("checkForUpdates");
+        if (status == 0)
+            f.http.answer(tl::unexpected(HttpError{HttpError::Kind::Transfer, QStringLiteral("Connection refused")}));
+        else
+            f.http.answer(status, "{}");
+        QCOMPARE(s.feedback().text(), text);
+        QVERIFY(s.updates().feedbackIsError());
+        QVERIFY(hasInk(iconOf(s.feedback()), [](const QColor& c) { return c.red() > c.green() + 40; }));
+    }
+
+    void whileACheckIsUnderWay()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        QAbstractButton& check = s.button("checkForUpdates");
+        const int width = check.width();
+        check.setFocus();
+        s.click("checkForUpdates");
+        QCOMPARE(check.text(), QStringLiteral("Verifica in corso…"));
+        QCOMPARE(check.width(), width);
+        QVERIFY(check.hasFocus());
+        s.click("checkForUpdates");
+        QCOMPARE(f.http.requested().size(), 1);
+        f.http.answer(200, current);
+        QCoreApplication::processEvents();
+        QCOMPARE(check.text(), QStringLiteral("Controlla aggiornamenti ora"));
+        s.click("checkForUpdates");
+        QCOMPARE(f.http.requested().size(), 2);
+        f.http.answer(200, current);
+    }
+
+    void theViewMayGoWhileACheckIsUnderWay()
+    {
+        ScreenFixture f;
+        {
+            ShownSettings s(f);
+            s.click("checkForUpdates");
+        }
+        f.http.answer(200, newer);
+        QVERIFY(f.updates.availableUpdate());
+    }
+
+    void leavingForgetsTheFeedback()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        s.click("checkForUpdates");
+        f.http.answer(500, {});
+        QVERIFY(s.feedback().isVisible());
+        s.view->hide();
+        s.view->show();
+        QVERIFY(!s.feedback().isVisible());
+        QVERIFY(!s.updates().checkFeedback());
+    }
+
+    void anOfferFoundBeforeIsShownOnComing()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        s.view->hide();
+        f.updates.checkForUpdates();
+        f.http.answer(200, newer);
+        QCoreApplication::processEvents();
+        QVERIFY(s.sheet<UpdateSheet>() == nullptr);
+        s.view->show();
+        QCoreApplication::processEvents();
+        QVERIFY(s.sheet<UpdateSheet>() != nullptr);
+    }
+
+    void anOfferWaitsForAnotherSheet()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        s.click("manageTypes");
+        auto* types = s.sheet<EquipmentTypeManagementView>();
+        QVERIFY(types != nullptr);
+        f.updates.checkForUpdates();
+        f.http.answer(200, newer);
+        QCoreApplication::processEvents();
+        QVERIFY(s.sheet<UpdateSheet>() == nullptr);
+        types->reject();
+        QCoreApplication::processEvents();
+        QVERIFY(s.sheet<UpdateSheet>() != nullptr);
+    }
+};
+
+ABISSORA_TEST(tst_SettingsUpdates);
+#include "tst_SettingsUpdates.moc"

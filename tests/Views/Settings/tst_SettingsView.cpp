@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+#include "ClippedTexts.h"
+#include "EquipmentTypeManagementView.h"
+#include "HelpSheet.h"
+#include "ShownSettings.h"
+#include "TestRunner.h"
+
+#include <QApplication>
+#include <QScrollBar>
+
+using namespace abissora;
+using namespace abissora::test;
+
+class tst_SettingsView : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyTextIsThere()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        const QStringList texts = s.texts();
+        for (const char* text :
+             {"Impostazioni",
+              "Configura la tua esperienza",
+              "Tipologie Attrezzatura",
+              "Gestisci le tipologie di attrezzatura disponibili per la categorizzazione",
+              "16 tipologie attive",
+              "Gestisci Tipologie",
+              "Notifiche",
+              "Abilita Notifiche",
+              "Giorni di anticipo",
+              "Aggiornamenti",
+              "Controlla aggiornamenti all'avvio",
+              "Se attivo, all'avvio l'app verifica sul sito se esiste una versione più recente e la propone.",
+              "Controlla aggiornamenti ora",
+              "Impostazioni Generali",
+              "Intervallo Tagliando Default",
+              "6 Mesi",
+              "1 Anno",
+              "2 Anni",
+              "Simbolo Valuta",
+              "Aspetto",
+              "Modalità Scura",
+              "Aiuto",
+              "Guida all'uso completa del programma: funzioni, manutenzioni, allegati PDF e domande frequenti",
+              "Apri la Guida",
+              "Informazioni",
+              "Versione",
+              "Data Build",
+              "Sviluppato da",
+              "Copyright",
+              "Tipologie disponibili",
+              "Icone: Game Icons (CC BY 3.0), MDI, Icon-Park, Lucide",
+              "abissora.example",
+              "— sito dell'applicazione",
+              "Ripristino",
+              "Ripristina Impostazioni Default",
+              "Ripristina tutte le impostazioni ai valori predefiniti"})
+            QVERIFY2(texts.contains(QString::fromUtf8(text)), text);
+        QVERIFY(!s.feedback().isVisible());
+    }
+
+    void groupsStandInTheirOrder()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        QStringList titles;
+        QList<SettingsGroupBox*> groups = s.view->findChildren<SettingsGroupBox*>();
+        std::sort(groups.begin(), groups.end(), [](auto* a, auto* b) { return a->y() < b->y(); });
+        for (const SettingsGroupBox* group : groups)
+            titles.append(group->title());
+        QCOMPARE(titles, QStringList({QStringLiteral("Tipologie Attrezzatura"), QStringLiteral("Notifiche"),
+                                      QStringLiteral("Aggiornamenti"), QStringLiteral("Impostazioni Generali"),
+                                      QStringLiteral("Aspetto"), QStringLiteral("Aiuto"),
+                                      QStringLiteral("Informazioni"), QStringLiteral("Ripristino")}));
+    }
+
+    void itSaysWhatIsRunning()
+    {
+        ScreenFixture f;
+        f.product.author = QStringLiteral("Sub Mare");
+        ShownSettings s(f);
+        QCOMPARE(
+            s.information(),
+            QStringList({QStringLiteral("Versione: 1.2.0 (build 42)"),
+                         QStringLiteral("Data Build: ") + f.info.buildDate(), QStringLiteral("Sviluppato da: Sub Mare"),
+                         QStringLiteral("Copyright: © 2026 Sub Mare"), QStringLiteral("Tipologie disponibili: 16")}));
+        f.clock.advance(std::chrono::hours(24 * 365));
+        s.view->hide();
+        s.view->show();
+        QCOMPARE(s.information().at(3), QStringLiteral("Copyright: © 2027 Sub Mare"));
+    }
+
+    void theCountsFollowTheTypes()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        f.types.deleteType(f.types.types().first());
+        QCoreApplication::processEvents();
+        QVERIFY(s.texts().contains(QStringLiteral("15 tipologie attive")));
+        QCOMPARE(s.information().last(), QStringLiteral("Tipologie disponibili: 15"));
+    }
+
+    void theWebsiteOpensOutside()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        s.click("website");
+        QCOMPARE(f.opener.opened(), QList<QUrl>({QUrl(QStringLiteral("https://abissora.example/"))}));
+    }
+
+    void sheetsOpenAndGiveTheFocusBack()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        s.button("manageTypes").setFocus();
+        s.click("manageTypes");
+        QVERIFY(s.view->showingTypeManagement());
+        s.sheet<EquipmentTypeManagementView>()->reject();
+        QCoreApplication::processEvents();
+        QVERIFY(!s.view->showingTypeManagement());
+        QVERIFY(s.button("manageTypes").hasFocus());
+        s.button("openHelp").setFocus();
+        s.click("openHelp");
+        QVERIFY(s.view->showingHelp());
+        QTest::keyClick(s.sheet<HelpSheet>(), Qt::Key_Escape);
+        QCoreApplication::processEvents();
+        QVERIFY(!s.view->showingHelp());
+        QVERIFY(s.button("openHelp").hasFocus());
+    }
+
+    void resetAsksNothing()
+    {
+        ScreenFixture f;
+        f.settings.setReminderDays(44);
+        f.settings.setDarkMode(true);
+        f.settings.setCurrencySymbol(QStringLiteral("$"));
+        EquipmentTypeModel own = f.types.types().first();
+        own.id = SequentialIds::at(900);
+        own.name = QStringLiteral("Scooter");
+        f.types.addType(own);
+        QVERIFY(f.preferences.setInteger(EquipmentTypeViewModel::iconVersionKey, 3));
+        ShownSettings s(f);
+        s.click("resetSettings");
+        QCOMPARE(f.settings.reminderDays(), 30);
+        QCOMPARE(f.settings.darkMode(), false);
+        QCOMPARE(f.settings.currencySymbol(), QStringLiteral("€"));
+        QCOMPARE(f.types.types().size(), 16);
+        QCOMPARE(f.types.getTypeByName(QStringLiteral("Scooter")), std::nullopt);
+        QCOMPARE(f.preferences.integer(EquipmentTypeViewModel::iconVersionKey), std::optional<std::int64_t>(4));
+        for (const char* key : {"notificationsEnabled", "reminderDays", "defaultServiceInterval", "currencySymbol",
+                                "darkMode", "checkForUpdatesOnLaunch"})
+            QVERIFY2(QFile::exists(f.preferences.path(QLatin1String(key))), key);
+    }
+
+    void tabOrderIsReadingOrder()
+    {
+        ScreenFixture f;
+        ShownSettings s(f, {900, 1600});
+        s.button("manageTypes").setFocus();
+        QStringList order;
+        int lastY = -1;
+        for (int i = 0; i < 11; ++i) {
+            QWidget* focused = QApplication::focusWidget();
+            order.append(focused->objectName().isEmpty() ? focused->parentWidget()->objectName()
+                                                         : focused->objectName());
+            const int y = focused->mapTo(&s.window, QPoint()).y();
+            QVERIFY2(y > lastY, qPrintable(order.last()));
+            lastY = y;
+            QTest::keyClick(focused, Qt::Key_Tab);
+        }
+        QCOMPARE(order,
+                 QStringList({QStringLiteral("manageTypes"), QStringLiteral("notificationsEnabled"),
+                              QStringLiteral("reminderDays"), QStringLiteral("checkForUpdatesOnLaunch"),
+                              QStringLiteral("checkForUpdates"), QStringLiteral("defaultServiceInterval"),
+                              QStringLiteral("currencySymbol"), QStringLiteral("darkMode"), QStringLiteral("openHelp"),
+                              QStringLiteral("website"), QStringLiteral("resetSettings")}));
+    }
+
+    void theFocusIsAlwaysInView()
+    {
+        ScreenFixture f;
+        ShownSettings s(f, {772, 500});
+        s.button("manageTypes").setFocus();
+        for (int i = 0; i < 10; ++i)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QVERIFY(s.button("resetSettings").hasFocus());
+        QVERIFY(s.view->viewport()->rect().contains(
+            s.button("resetSettings").mapTo(s.view->viewport(), s.button("resetSettings").rect().center())));
+    }
+
+    void nothingIsCutOff_data()
+    {
+        QTest::addColumn<double>("textSize");
+        QTest::newRow("usual text") << 1.0;
+        QTest::newRow("larger text") << 1.25;
+    }
+
+    void nothingIsCutOff()
+    {
+        QFETCH(const double, textSize);
+        const QFont usual = QApplication::font();
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * textSize);
+        QApplication::setFont(font);
+        {
+            ScreenFixture f;
+            ShownSettings s(f, {772, 700});
+            s.click("checkForUpdates");
+            f.http.answer(tl::unexpected(HttpError{}));
+            QCoreApplication::processEvents();
+            QCOMPARE(clippedTexts(*s.view), QStringList());
+            QCOMPARE(s.view->horizontalScrollBar()->maximum(), 0);
+        }
+        QApplication::setFont(usual);
+    }
+};
+
+ABISSORA_TEST(tst_SettingsView);
+#include "tst_SettingsView.moc"
