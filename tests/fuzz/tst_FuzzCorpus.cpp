@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "GuideProperties.h"
+#include "ManifestProperties.h"
 #include "RecordProperties.h"
 #include "TestRunner.h"
 
@@ -9,7 +10,7 @@
 
 using namespace abissora;
 
-/// Every file is read as each kind of record and as a guide, whichever it was kept for.
+/// Every file is read as each kind of record, as a manifest and as a guide, whichever it was kept for.
 class tst_FuzzCorpus : public test::TestCase
 {
     Q_OBJECT
@@ -34,6 +35,7 @@ private Q_SLOTS:
         const QByteArray text = file.readAll();
         QCOMPARE(test::faultWithEquipment(text), QString());
         QCOMPARE(test::faultWithTypes(text), QString());
+        QCOMPARE(test::faultWithManifest(text), QString());
         QCOMPARE(test::faultWithGuide(text), QString());
     }
 };

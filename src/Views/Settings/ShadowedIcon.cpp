@@ -16,8 +16,8 @@ constexpr qreal air = 6.0 / 128;
 constexpr qreal cornerRadius = 27.0 / 128;
 constexpr qreal blur = 0.11;
 constexpr qreal drop = 0.045;
-constexpr int layers = 48;
-constexpr qreal darkness = 0.022;
+constexpr int layers = 40;
+constexpr qreal darkness = 1.6;
 
 } // namespace
 
@@ -45,13 +45,15 @@ void ShadowedIcon::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    // From the faint rim inward; every layer adds a little.
-    QColor ink = Tokens::of(palette()).scrim;
-    ink.setAlphaF(static_cast<float>(ink.alphaF() * darkness));
-    painter.setBrush(ink);
+    // From the faint rim inward. Opaque: what is translucent and faint vanishes on a dark ground.
+    const QColor ground = palette().color(QPalette::Window);
+    const QColor scrim = Tokens::of(palette()).scrim;
+    const QColor ink = QColor::fromRgb(scrim.rgb());
     for (int layer = 0; layer < layers; ++layer) {
-        const qreal reach = m_side * blur * (1 - 2.0 * layer / layers);
+        const qreal inward = qreal(layer) / layers;
+        const qreal reach = m_side * blur * (1 - 2 * inward);
         const qreal radius = std::max(m_side * cornerRadius + reach, 0.0);
+        painter.setBrush(mix(ground, ink, scrim.alphaF() * darkness * inward * inward));
         painter.drawRoundedRect(square.adjusted(-reach, -reach, reach, reach), radius, radius);
     }
     m_icon.paint(&painter, place);
