@@ -7,9 +7,13 @@ import json
 import os
 import threading
 
+from gi.repository import Atspi
+
 from program import until
 
-NEWER = {"version": "999.0", "build": 57, "downloadURL": "https://abissora.example/", "releaseNotes": "Novità"}
+NEWER = {"version": "999.0", "build": 57, "downloadURL": "https://abissora.example/",
+         "releaseNotes": "<b>Novità</b>\nRiga due"}
+OLDER = dict(NEWER, version="0.0.1")
 
 
 class Website(http.server.ThreadingHTTPServer):
@@ -36,27 +40,49 @@ class Answering(http.server.BaseHTTPRequestHandler):
         pass
 
 
-def want_check_at_start(data):
-    with open(os.path.join(data, "preferences", "checkForUpdatesOnLaunch.json"), "w", encoding="utf-8") as file:
-        file.write("true")
-
-
 def journey(run, data):
     website = Website()
     os.environ["ABISSORA_JOURNEY_MANIFEST"] = f"http://127.0.0.1:{website.server_port}/version.json"
 
+    def asked(times):
+        until(f"{times} requests", lambda: len(website.asked) == times)
+
+    # Nobody is asked; then the person asks, by hand, and wants it at every start.
     program = run()
     program.wait_for_rows(["Computer Suunto EON Core", "GAV Scubapro Hydros", "Erogatore Apeks XTX50"])
-    program.close()
+    program.select_in_sidebar("Impostazioni")
+    check = program.find(Atspi.Role.PUSH_BUTTON, "Controlla aggiornamenti ora")
     assert website.asked == [], website.asked
+    website.says(500, NEWER)
+    program.press(check)
+    program.find(Atspi.Role.LABEL, "Il server non ha risposto correttamente.")
+    website.says(200, OLDER)
+    program.press(program.find(Atspi.Role.PUSH_BUTTON, "Controlla aggiornamenti ora"))
+    program.find(Atspi.Role.LABEL, "Hai già l'ultima versione")
+    asked(2)
+    program.find(Atspi.Role.CHECK_BOX, "Controlla aggiornamenti all'avvio").get_component_iface().grab_focus()
+    program.key("space")
+    setting = os.path.join(data, "preferences", "checkForUpdatesOnLaunch.json")
+    until("the stored setting", lambda: os.path.exists(setting))
+    program.close()
 
-    want_check_at_start(data)
-    answers = [(200, NEWER), (200, dict(NEWER, version="0.0.1")), (200, {}), (500, NEWER)]
-    for count, (status, manifest) in enumerate(answers, start=1):
+    # The next start offers what it finds, and says nothing of what it does not.
+    website.says(200, NEWER)
+    program = run()
+    program.find_anywhere(Atspi.Role.LABEL, "Nuova versione · 999.0 (build 57)")
+    notes = program.find_anywhere(Atspi.Role.TEXT, "Novità in questa versione").get_text_iface()
+    assert notes.get_text(0, notes.get_character_count()) == NEWER["releaseNotes"]
+    program.press(program.find_anywhere(Atspi.Role.PUSH_BUTTON, "Più tardi"))
+    until("the main window alone", lambda: len(program.windows()) == 1)
+    asked(3)
+    program.close()
+
+    for count, (status, manifest) in enumerate([(200, OLDER), (200, {}), (500, NEWER)], start=4):
         website.says(status, manifest)
         program = run()
-        until("a request", lambda: len(website.asked) == count)
+        asked(count)
         program.select_in_sidebar("GAV")
         program.wait_for_rows(["GAV Scubapro Hydros"])
+        assert len(program.windows()) == 1
         program.close()
         assert website.asked == ["/version.json"] * count, website.asked
