@@ -23,7 +23,11 @@ SegmentedControl::SegmentedControl(Purpose purpose, QWidget* parent)
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(3, 3, 3, 3);
     layout->setSpacing(2);
-    connect(m_group, &QButtonGroup::idClicked, this, &SegmentedControl::click);
+    // Not idClicked, which leaves out a screen reader's choosing.
+    connect(m_group, &QButtonGroup::idToggled, this, [this](int index, bool chosen) {
+        if (chosen)
+            choose(index);
+    });
 }
 
 void SegmentedControl::addSegment(const QString& symbol, const QString& text)
@@ -61,7 +65,7 @@ void SegmentedControl::setCurrentIndex(int index)
     }
 }
 
-void SegmentedControl::click(int index)
+void SegmentedControl::choose(int index)
 {
     if (index == m_current)
         return;

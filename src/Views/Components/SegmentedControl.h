@@ -40,7 +40,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void click(int index);
+    void choose(int index);
 
     Purpose m_purpose;
     QButtonGroup* m_group;

@@ -2,8 +2,8 @@
 #include "PreferenceGroups.h"
 
 #include "SegmentedControl.h"
+#include "SettingsSwitch.h"
 #include "Stepper.h"
-#include "ToggleSwitch.h"
 
 #include <QLineEdit>
 #include <limits>
@@ -36,25 +36,25 @@ int segmentOf(std::int64_t days)
 NotificationsGroup::NotificationsGroup(SettingsViewModel& settings, QWidget* parent)
     : SettingsGroupBox(QStringLiteral("Notifiche"), QStringLiteral("bell"), parent)
     , m_settings(settings)
-    , m_enabled(new ToggleSwitch(QStringLiteral("Abilita Notifiche")))
     , m_reminderDays(new Stepper)
 {
-    m_enabled->setObjectName(QStringLiteral("notificationsEnabled"));
+    auto* enabled =
+        new SettingsSwitch(QStringLiteral("Abilita Notifiche"), settings, &SettingsViewModel::notificationsEnabled,
+                           &SettingsViewModel::setNotificationsEnabled);
+    enabled->setObjectName(QStringLiteral("notificationsEnabled"));
     m_reminderDays->setObjectName(QStringLiteral("reminderDays"));
     m_reminderDays->setRange(7, 90);
     m_reminderDays->setSingleStep(7);
     m_reminderDays->setSuffix(QStringLiteral(" giorni"));
-    addLine(m_enabled);
+    addLine(enabled);
     addLine(QStringLiteral("Giorni di anticipo"), m_reminderDays);
     redraw();
-    connect(m_enabled, &QAbstractButton::clicked, &settings, &SettingsViewModel::setNotificationsEnabled);
     connect(m_reminderDays, &Stepper::edited, &settings, &SettingsViewModel::setReminderDays);
     connect(&settings, &SettingsViewModel::changed, this, &NotificationsGroup::redraw);
 }
 
 void NotificationsGroup::redraw()
 {
-    m_enabled->setChecked(m_settings.notificationsEnabled());
     m_reminderDays->setValue(m_settings.reminderDays());
 }
 
@@ -77,7 +77,11 @@ GeneralGroup::GeneralGroup(SettingsViewModel& settings, QWidget* parent)
     connect(m_interval, &SegmentedControl::activated, &settings, [&settings](int segment) {
         settings.setDefaultServiceInterval(intervals.at(static_cast<std::size_t>(segment)).days);
     });
-    connect(m_currency, &QLineEdit::textEdited, &settings, &SettingsViewModel::setCurrencySymbol);
+    // Not textEdited, which leaves out what a screen reader puts in.
+    connect(m_currency, &QLineEdit::textChanged, &settings, [&settings](const QString& symbol) {
+        if (symbol != settings.currencySymbol())
+            settings.setCurrencySymbol(symbol);
+    });
     connect(&settings, &SettingsViewModel::changed, this, &GeneralGroup::redraw);
 }
 
@@ -90,19 +94,11 @@ void GeneralGroup::redraw()
 
 AppearanceGroup::AppearanceGroup(SettingsViewModel& settings, QWidget* parent)
     : SettingsGroupBox(QStringLiteral("Aspetto"), QStringLiteral("paintbrush"), parent)
-    , m_settings(settings)
-    , m_darkMode(new ToggleSwitch(QStringLiteral("Modalità Scura")))
 {
-    m_darkMode->setObjectName(QStringLiteral("darkMode"));
-    addLine(m_darkMode);
-    redraw();
-    connect(m_darkMode, &QAbstractButton::clicked, &settings, &SettingsViewModel::setDarkMode);
-    connect(&settings, &SettingsViewModel::changed, this, &AppearanceGroup::redraw);
-}
-
-void AppearanceGroup::redraw()
-{
-    m_darkMode->setChecked(m_settings.darkMode());
+    auto* darkMode = new SettingsSwitch(QStringLiteral("Modalità Scura"), settings, &SettingsViewModel::darkMode,
+                                        &SettingsViewModel::setDarkMode);
+    darkMode->setObjectName(QStringLiteral("darkMode"));
+    addLine(darkMode);
 }
 
 } // namespace abissora

@@ -10,7 +10,6 @@ namespace abissora {
 
 class SegmentedControl;
 class Stepper;
-class ToggleSwitch;
 
 /// Each of these groups shows some preferences as they are stored and stores every edit at once.
 
@@ -26,7 +25,6 @@ private:
     void redraw();
 
     SettingsViewModel& m_settings;
-    ToggleSwitch* m_enabled;
     Stepper* m_reminderDays;
 };
 
@@ -53,12 +51,6 @@ class AppearanceGroup : public SettingsGroupBox
 public:
     /// `settings` must outlive it.
     explicit AppearanceGroup(SettingsViewModel& settings, QWidget* parent = nullptr);
-
-private:
-    void redraw();
-
-    SettingsViewModel& m_settings;
-    ToggleSwitch* m_darkMode;
 };
 
 } // namespace abissora

@@ -4,8 +4,8 @@
 #include "CheckButton.h"
 #include "IconLabel.h"
 #include "Metrics.h"
+#include "SettingsSwitch.h"
 #include "SymbolIcon.h"
-#include "ToggleSwitch.h"
 
 #include <QHBoxLayout>
 #include <QPointer>
@@ -14,20 +14,21 @@ namespace abissora {
 
 UpdatesGroup::UpdatesGroup(SettingsViewModel& settings, UpdateCheckerViewModel& updates, QWidget* parent)
     : SettingsGroupBox(QStringLiteral("Aggiornamenti"), QStringLiteral("arrow.down.circle"), parent)
-    , m_settings(settings)
     , m_updates(updates)
-    , m_onLaunch(new ToggleSwitch(QStringLiteral("Controlla aggiornamenti all'avvio")))
     , m_check(new CheckButton)
     , m_feedback(new IconLabel)
 {
-    m_onLaunch->setObjectName(QStringLiteral("checkForUpdatesOnLaunch"));
+    auto* onLaunch =
+        new SettingsSwitch(QStringLiteral("Controlla aggiornamenti all'avvio"), settings,
+                           &SettingsViewModel::checkForUpdatesOnLaunch, &SettingsViewModel::setCheckForUpdatesOnLaunch);
+    onLaunch->setObjectName(QStringLiteral("checkForUpdatesOnLaunch"));
     m_check->setObjectName(QStringLiteral("checkForUpdates"));
     m_feedback->setObjectName(QStringLiteral("checkFeedback"));
     m_feedback->setWordWrap(true);
-    addLine(m_onLaunch);
+    addLine(onLaunch);
     addExplanation(
         QStringLiteral("Se attivo, all'avvio l'app verifica sul sito se esiste una versione più recente e la propone."),
-        m_onLaunch);
+        onLaunch);
     auto* line = new QHBoxLayout;
     line->setSpacing(metrics::spaceM);
     line->addWidget(m_check);
@@ -36,9 +37,7 @@ UpdatesGroup::UpdatesGroup(SettingsViewModel& settings, UpdateCheckerViewModel& 
 
     setFeedback(std::nullopt, false);
     redraw();
-    connect(m_onLaunch, &QAbstractButton::clicked, &settings, &SettingsViewModel::setCheckForUpdatesOnLaunch);
     connect(m_check, &CheckButton::checkRequested, this, &UpdatesGroup::checkForUpdatesNow);
-    connect(&settings, &SettingsViewModel::changed, this, &UpdatesGroup::redraw);
     connect(&updates, &UpdateCheckerViewModel::isCheckingChanged, this, &UpdatesGroup::redraw);
 }
 
@@ -74,7 +73,6 @@ void UpdatesGroup::setFeedback(const std::optional<QString>& text, bool isError)
 
 void UpdatesGroup::redraw()
 {
-    m_onLaunch->setChecked(m_settings.checkForUpdatesOnLaunch());
     m_check->setChecking(m_updates.isChecking());
 }
 

@@ -9,7 +9,6 @@ namespace abissora {
 
 class CheckButton;
 class IconLabel;
-class ToggleSwitch;
 
 /// The check at start and the check at once, with one line about how the last one ended.
 class UpdatesGroup : public SettingsGroupBox
@@ -31,9 +30,7 @@ private:
     void setFeedback(const std::optional<QString>& text, bool isError);
     void redraw();
 
-    SettingsViewModel& m_settings;
     UpdateCheckerViewModel& m_updates;
-    ToggleSwitch* m_onLaunch;
     CheckButton* m_check;
     IconLabel* m_feedback;
     std::optional<QString> m_checkFeedback;

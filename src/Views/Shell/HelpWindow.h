@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QWidget>
+#include <QMainWindow>
 
 namespace abissora {
 
 class Opener;
 
 /// The guide in a window of its own. It deletes itself when it closes, so that it opens afresh.
-class HelpWindow : public QWidget
+class HelpWindow : public QMainWindow
 {
     Q_OBJECT
 

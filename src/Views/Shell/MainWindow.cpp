@@ -56,6 +56,7 @@ void MainWindow::buildMenuBar()
     connect(close, &QAction::triggered, this, &QWidget::close);
     QAction* quit = file->addAction(QStringLiteral("&Esci"));
     quit->setShortcut(QKeySequence::Quit);
+    quit->setShortcutContext(Qt::ApplicationShortcut);
     quit->setMenuRole(QAction::QuitRole);
     connect(quit, &QAction::triggered, qApp, &QApplication::closeAllWindows);
 
@@ -69,6 +70,7 @@ void MainWindow::buildMenuBar()
     QMenu* help = menuBar()->addMenu(QStringLiteral("&Aiuto"));
     QAction* guide = help->addAction(symbolIcon(QStringLiteral("lightbulb")), QStringLiteral("Abissora &Help"));
     guide->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Question), QKeySequence(QKeySequence::HelpContents)});
+    guide->setShortcutContext(Qt::ApplicationShortcut);
     connect(guide, &QAction::triggered, this, &MainWindow::helpRequested);
     QAction* about = help->addAction(QStringLiteral("&Informazioni su Abissora"));
     about->setMenuRole(QAction::AboutRole);

@@ -9,7 +9,7 @@
 #include "Tokens.h"
 #include "WindowShape.h"
 
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -17,7 +17,7 @@
 namespace abissora {
 
 TitlelessWindow::TitlelessWindow(const QString& title, QWidget* content)
-    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint)
+    : QDialog(nullptr, Qt::Window | Qt::FramelessWindowHint)
 {
     setWindowTitle(title);
     setAttribute(Qt::WA_DeleteOnClose);
@@ -38,19 +38,11 @@ TitlelessWindow::TitlelessWindow(const QString& title, QWidget* content)
     setTabOrder(content, close);
 }
 
-void TitlelessWindow::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape)
-        close();
-    else
-        QWidget::keyPressEvent(event);
-}
-
 void TitlelessWindow::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && windowHandle() != nullptr)
         windowHandle()->startSystemMove();
-    QWidget::mousePressEvent(event);
+    QDialog::mousePressEvent(event);
 }
 
 void TitlelessWindow::paintEvent(QPaintEvent*)
@@ -62,7 +54,7 @@ void TitlelessWindow::paintEvent(QPaintEvent*)
 
 void TitlelessWindow::resizeEvent(QResizeEvent* event)
 {
-    QWidget::resizeEvent(event);
+    QDialog::resizeEvent(event);
     if (!windowsCanBeTranslucent())
         setMask(roundedRegion(rect(), metrics::sheetRadius));
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QWidget>
+#include <QDialog>
 
 namespace abissora {
 
 /// A window of its own without a title bar, as large as its content: rounded, with a mark to close it in a corner,
 /// moved by dragging its ground, closed by Escape too. It deletes itself when it closes.
-class TitlelessWindow : public QWidget
+class TitlelessWindow : public QDialog
 {
     Q_OBJECT
 
@@ -16,7 +16,6 @@ public:
     TitlelessWindow(const QString& title, QWidget* content);
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

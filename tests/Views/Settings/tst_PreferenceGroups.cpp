@@ -115,6 +115,22 @@ private Q_SLOTS:
         QCOMPARE(changed.size(), 2);
     }
 
+    void whatAScreenReaderDoesIsStoredToo()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QAccessibleInterface* dark = QAccessible::queryAccessibleInterface(&s.toggle("darkMode"));
+        dark->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(f.settings.darkMode());
+        QAccessibleInterface* symbol = QAccessible::queryAccessibleInterface(&s.currency());
+        symbol->setText(QAccessible::Value, QStringLiteral("USD"));
+        QCOMPARE(f.settings.currencySymbol(), QStringLiteral("USD"));
+        QAccessibleInterface* years =
+            QAccessible::queryAccessibleInterface(s.interval().findChildren<QAbstractButton*>().at(2));
+        years->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(f.settings.defaultServiceInterval(), 730);
+    }
+
     void theReminderMovesBySevenWithinItsRange_data()
     {
         QTest::addColumn<qint64>("from");
