@@ -4,6 +4,8 @@
 #include "InlineText.h"
 #include "TestRunner.h"
 
+#include <QDirIterator>
+#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
@@ -40,6 +42,41 @@ QList<InlineRun> allRuns()
     return runs;
 }
 
+/// The string literals of one source file; those that follow each other are one.
+QStringList literalsOf(const QString& source)
+{
+    static const QRegularExpression comment(QStringLiteral("^\\s*//.*$"), QRegularExpression::MultilineOption);
+    static const QRegularExpression literals(QStringLiteral("\"((?:[^\"\\\\\\n]|\\\\.)*)\"(\\s*)"));
+    QString code = source;
+    code.remove(comment);
+    QStringList found;
+    qsizetype end = -1;
+    for (const QRegularExpressionMatch& match : literals.globalMatch(code)) {
+        const QString text = match.captured(1).replace(QLatin1String("\\\""), QLatin1String("\""));
+        if (match.capturedStart() == end)
+            found.last() += text;
+        else
+            found.append(text);
+        end = match.capturedEnd();
+    }
+    return found;
+}
+
+QSet<QString> programTexts()
+{
+    QSet<QString> texts;
+    QDirIterator files(QStringLiteral(PROGRAM_SOURCES), {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        if (!file.open(QIODevice::ReadOnly))
+            qFatal("%s cannot be read", qPrintable(file.fileName()));
+        for (const QString& text : literalsOf(QString::fromUtf8(file.readAll())))
+            texts.insert(QString(text).remove(QLatin1Char('&'))); // mnemonics
+    }
+    return texts;
+}
+
 } // namespace
 
 /// The guide that comes with the program. Strong emphasis in it quotes a text of the screens, letter by letter.
@@ -50,6 +87,8 @@ class tst_Guide : public test::TestCase
 private Q_SLOTS:
     void hasItsSections();
     void usesEveryKindOfBlock();
+    void quotesTheScreensExactly_data();
+    void quotesTheScreensExactly();
     void leavesNoMarkupUnread();
     void namesNoRawHtml();
 };
@@ -74,6 +113,25 @@ void tst_Guide::usesEveryKindOfBlock()
             kinds.insert(block.index());
     }
     QCOMPARE(kinds.size(), static_cast<qsizetype>(std::variant_size_v<HelpBlock>));
+}
+
+void tst_Guide::quotesTheScreensExactly_data()
+{
+    QTest::addColumn<QString>("quoted");
+    QSet<QString> known;
+    for (const InlineRun& run : allRuns()) {
+        if (run.isStrong && !known.contains(run.text)) {
+            known.insert(run.text);
+            QTest::newRow(qPrintable(run.text)) << run.text;
+        }
+    }
+}
+
+void tst_Guide::quotesTheScreensExactly()
+{
+    QFETCH(const QString, quoted);
+    static const QSet<QString> texts = programTexts();
+    QVERIFY2(texts.contains(quoted), "no text of the program reads like this");
 }
 
 void tst_Guide::leavesNoMarkupUnread()
