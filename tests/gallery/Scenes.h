@@ -7,6 +7,7 @@ namespace abissora::gallery {
 
 [[nodiscard]] QList<Scene> controlScenes();
 [[nodiscard]] QList<Scene> componentScenes();
+[[nodiscard]] QList<Scene> settingsScenes();
 [[nodiscard]] QList<Scene> sheetScenes();
 [[nodiscard]] QList<Scene> screenScenes();
 [[nodiscard]] QList<Scene> detailScenes();

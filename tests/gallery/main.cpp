@@ -41,6 +41,6 @@ int main(int argc, char** argv)
     QApplication::setFont(font);
     using namespace abissora::gallery;
     const QList<Scene> scenes = controlScenes() + componentScenes() + sheetScenes() + screenScenes() + detailScenes() +
-                                typeScenes() + helpScenes() + overviewScenes() + updateScenes();
+                                typeScenes() + helpScenes() + overviewScenes() + settingsScenes() + updateScenes();
     return render(scenes, QDir(folder)) ? 0 : 1;
 }

@@ -82,6 +82,10 @@ void HelpIndexView::buildList()
     m_list->setItemDelegate(new HelpSectionDelegate(m_list));
     m_list->setModel(&m_titles);
     connect(m_list->selectionModel(), &QItemSelectionModel::selectionChanged, this, &HelpIndexView::selectRow);
+    // The row that the keyboard stands on need not be selected.
+    connect(m_list, &QListView::activated, this, [this](const QModelIndex& row) {
+        m_list->selectionModel()->select(row, QItemSelectionModel::ClearAndSelect);
+    });
 }
 
 QWidget* HelpIndexView::makeNoResult()

@@ -87,6 +87,7 @@ private Q_SLOTS:
     void opensAtTheFirstSection();
     void aClickSelects();
     void theArrowsSelect();
+    void enterSelectsTheRowOfTheKeyboard();
     void aScreenReaderSelects();
     void theSearchNarrowsTheIndex();
     void aSearchThatIsDictatedCounts();
@@ -140,6 +141,19 @@ void tst_HelpView::theArrowsSelect()
     QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
     QTest::keyClick(&shown.list, Qt::Key_End);
     QCOMPARE(shown.pageTitle(), QStringLiteral("Tipologie e qualità"));
+}
+
+void tst_HelpView::enterSelectsTheRowOfTheKeyboard()
+{
+    Shown shown;
+    activate(shown.view);
+    shown.type(QStringLiteral("rebreather"));
+    shown.type(QStringLiteral("scontrino"));
+    QCOMPARE(shown.selectedRow(), -1);
+    shown.list.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&shown.list, Qt::Key_Return);
+    QCOMPARE(shown.selectedRow(), 0);
+    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
 }
 
 void tst_HelpView::aScreenReaderSelects()
