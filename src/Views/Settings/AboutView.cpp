@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "AboutView.h"
 
-#include "AboutRow.h"
 #include "Card.h"
 #include "InkLabel.h"
 #include "Metrics.h"
+#include "ProgramFacts.h"
 #include "Separator.h"
+#include "SettingsInfoRow.h"
 #include "ShadowedIcon.h"
 
 #include <QVBoxLayout>
@@ -19,20 +20,14 @@ constexpr int iconSide = 104;
 
 Card* makeRows(const AppContext& context)
 {
-    const AppInfo& info = context.info;
-    const QString& author = context.product.author;
-    const QList<std::pair<QString, QString>> rows{
-        {QStringLiteral("Versione"), info.version() + QStringLiteral(" (build ") + info.build() + QLatin1Char(')')},
-        {QStringLiteral("Data Build"), info.buildDate()},
-        {QStringLiteral("Sviluppato da"), author},
-        {QStringLiteral("Copyright"), QStringLiteral("© ") + info.year() + QLatin1Char(' ') + author},
-    };
     auto* card = new Card;
-    card->content()->setSpacing(metrics::spaceXS / 2);
-    for (const auto& [label, value] : rows) {
-        if (label != rows.first().first)
+    card->content()->setSpacing(metrics::spaceS - 2);
+    for (const ProgramFact& fact : programFacts(context)) {
+        if (!card->findChildren<SettingsInfoRow*>().isEmpty())
             card->content()->addWidget(new Separator(Separator::Weight::Divider));
-        card->content()->addWidget(new AboutRow(label, value));
+        auto* row = new SettingsInfoRow(fact.label, &Tokens::secondaryText, TextStyle::Callout);
+        row->setValue(fact.value);
+        card->content()->addWidget(row);
     }
     return card;
 }

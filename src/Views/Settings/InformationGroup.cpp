@@ -3,6 +3,7 @@
 
 #include "Buttons.h"
 #include "Metrics.h"
+#include "ProgramFacts.h"
 #include "SettingsInfoRow.h"
 #include "WrapLabel.h"
 
@@ -13,13 +14,12 @@ namespace abissora {
 InformationGroup::InformationGroup(const AppContext& context, QWidget* parent)
     : SettingsGroupBox(QStringLiteral("Informazioni"), QStringLiteral("info.circle"), parent)
     , m_context(context)
-    , m_version(addRow(QStringLiteral("Versione")))
-    , m_buildDate(addRow(QStringLiteral("Data Build")))
-    , m_author(addRow(QStringLiteral("Sviluppato da")))
-    , m_copyright(addRow(QStringLiteral("Copyright")))
-    , m_types(addRow(QStringLiteral("Tipologie disponibili")))
+    , m_types(nullptr)
     , m_update([this] { redraw(); })
 {
+    for (const ProgramFact& fact : programFacts(context))
+        m_facts.append(addRow(fact.label));
+    m_types = addRow(QStringLiteral("Tipologie disponibili"));
     content()->addWidget(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText,
                                        QStringLiteral("Icone: Game Icons (CC BY 3.0), MDI, Icon-Park, Lucide")));
     content()->addLayout(makeWebsiteLine());
@@ -43,8 +43,8 @@ QLayout* InformationGroup::makeWebsiteLine()
     link->setAccessibleDescription(caption);
     connect(link, &QAbstractButton::clicked, this, [this, address] { (void)m_context.opener.open(address); });
     auto* line = new QHBoxLayout;
-    line->setContentsMargins(-metrics::spaceXS, 0, 0, 0); // the link's own padding
     line->setSpacing(0);
+    line->addSpacing(-metrics::spaceXS); // the link's own padding
     line->addWidget(link);
     line->addWidget(new InkLabel(TextStyle::Body, &Tokens::secondaryText, caption), 1);
     return line;
@@ -58,12 +58,9 @@ void InformationGroup::showEvent(QShowEvent* event)
 
 void InformationGroup::redraw()
 {
-    const AppInfo& info = m_context.info;
-    const QString author = m_context.product.author;
-    m_version->setValue(info.version() + QStringLiteral(" (build ") + info.build() + QLatin1Char(')'));
-    m_buildDate->setValue(info.buildDate());
-    m_author->setValue(author);
-    m_copyright->setValue(QStringLiteral("© ") + info.year() + QLatin1Char(' ') + author);
+    const QList<ProgramFact> facts = programFacts(m_context);
+    for (qsizetype i = 0; i < facts.size(); ++i)
+        m_facts.at(i)->setValue(facts.at(i).value);
     m_types->setValue(QString::number(m_context.types.filteredTypes().size()));
 }
 

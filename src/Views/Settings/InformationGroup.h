@@ -21,15 +21,12 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    [[nodiscard]] SettingsInfoRow* addRow(const QString& label);
+    SettingsInfoRow* addRow(const QString& label);
     [[nodiscard]] QLayout* makeWebsiteLine();
     void redraw();
 
     AppContext m_context;
-    SettingsInfoRow* m_version;
-    SettingsInfoRow* m_buildDate;
-    SettingsInfoRow* m_author;
-    SettingsInfoRow* m_copyright;
+    QList<SettingsInfoRow*> m_facts;
     SettingsInfoRow* m_types;
     CoalescedUpdate m_update;
 };

@@ -4,6 +4,7 @@
 #include "Metrics.h"
 #include "WrapLabel.h"
 
+#include <QAbstractButton>
 #include <QHBoxLayout>
 
 namespace abissora {
@@ -28,8 +29,12 @@ void SettingsGroupBox::addExplanation(const QString& text, QWidget* control)
 
 void SettingsGroupBox::addLine(QWidget* control)
 {
-    content()->addWidget(
-        control, 0, control->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed ? Qt::AlignLeft : Qt::Alignment());
+    content()->addWidget(control);
+}
+
+void SettingsGroupBox::addButton(QAbstractButton* button)
+{
+    content()->addWidget(button, 0, Qt::AlignLeft);
 }
 
 void SettingsGroupBox::addLine(const QString& caption, QWidget* control)

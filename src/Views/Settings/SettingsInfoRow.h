@@ -12,7 +12,7 @@ class SettingsInfoRow : public QWidget
 
 public:
     explicit SettingsInfoRow(const QString& label, InkLabel::Ink valueColor = &Tokens::secondaryText,
-                             QWidget* parent = nullptr);
+                             TextStyle style = TextStyle::Body, QWidget* parent = nullptr);
 
     [[nodiscard]] QString label() const { return m_label->text(); }
     [[nodiscard]] QString value() const { return m_value->text(); }

@@ -86,13 +86,13 @@ void SettingsView::addGroups(QVBoxLayout* groups)
     auto* openHelp = new PlainButton(QStringLiteral("Apri la Guida"));
     openHelp->setObjectName(QStringLiteral("openHelp"));
     openHelp->setSymbol(QStringLiteral("book.fill"));
-    help->addLine(openHelp);
+    help->addButton(openHelp);
     connect(openHelp, &QAbstractButton::clicked, this, &SettingsView::showHelp);
 
     auto* restore = new SettingsGroupBox(QStringLiteral("Ripristino"), QStringLiteral("arrow.counterclockwise"));
     auto* reset = new DestructiveButton(QStringLiteral("Ripristina Impostazioni Default"));
     reset->setObjectName(QStringLiteral("resetSettings"));
-    restore->addLine(reset);
+    restore->addButton(reset);
     restore->addExplanation(QStringLiteral("Ripristina tutte le impostazioni ai valori predefiniti"), reset);
     connect(reset, &QAbstractButton::clicked, this, &SettingsView::resetToDefaults);
 

@@ -31,8 +31,10 @@ UpdatesGroup::UpdatesGroup(SettingsViewModel& settings, UpdateCheckerViewModel& 
         onLaunch);
     auto* line = new QHBoxLayout;
     line->setSpacing(metrics::spaceM);
+    m_check->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     line->addWidget(m_check);
     line->addWidget(m_feedback, 1);
+    line->addStretch(); // in the place of no feedback
     content()->addLayout(line);
 
     setFeedback(std::nullopt, false);

@@ -1,81 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
-#include "Fakes.h"
-#include "HelpPage.h"
-#include "HelpParts.h"
-#include "HelpView.h"
-#include "SearchField.h"
+#include "ShownHelp.h"
 
 #include <QAction>
-#include <QListView>
 #include <QToolButton>
 
 using namespace abissora;
-
-namespace {
-
-constexpr QSize smallest(880, 640);
-
-struct Shown
-{
-    explicit Shown(const QList<HelpSection>& sections = test::threeSections())
-        : view(sections, opener)
-        , search(*view.findChild<SearchField*>(QStringLiteral("helpSearch")))
-        , list(*view.findChild<QListView*>(QStringLiteral("helpSections")))
-        , page(*view.findChild<HelpPage*>())
-    {
-        view.resize(smallest);
-    }
-
-    [[nodiscard]] QStringList rows() const
-    {
-        QStringList titles;
-        for (int row = 0; row < list.model()->rowCount(); ++row)
-            titles.append(list.model()->index(row, 0).data().toString());
-        return titles;
-    }
-
-    [[nodiscard]] int selectedRow() const
-    {
-        const QModelIndexList rows = list.selectionModel()->selectedRows();
-        return rows.isEmpty() ? -1 : rows.first().row();
-    }
-
-    [[nodiscard]] QString pageTitle() const
-    {
-        return page.isVisible() ? page.toPlainText().section(QLatin1Char('\n'), 0, 0) : QString();
-    }
-
-    [[nodiscard]] QLabel* label(const QString& text) const
-    {
-        for (QLabel* label : view.findChildren<QLabel*>()) {
-            if (label->text() == text && label->isVisible())
-                return label;
-        }
-        return nullptr;
-    }
-
-    void type(const QString& text)
-    {
-        search.setFocus();
-        search.selectAll();
-        QTest::keyClicks(&search, text);
-    }
-
-    void click(int row)
-    {
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(list.model()->index(row, 0)).center());
-    }
-
-    test::RecordingOpener opener;
-    HelpView view;
-    SearchField& search;
-    QListView& list;
-    HelpPage& page;
-};
-
-} // namespace
+using test::ShownHelp;
+using test::smallest;
 
 class tst_HelpView : public test::ComponentTest
 {
@@ -112,7 +45,7 @@ private Q_SLOTS:
 
 void tst_HelpView::opensAtTheFirstSection()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     QVERIFY(shown.label(QStringLiteral("Aiuto")) != nullptr);
     QVERIFY(shown.label(QStringLiteral("Guida all'uso di Abissora")) != nullptr);
@@ -125,7 +58,7 @@ void tst_HelpView::opensAtTheFirstSection()
 
 void tst_HelpView::aClickSelects()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.click(2);
     QCOMPARE(shown.selectedRow(), 2);
@@ -134,7 +67,7 @@ void tst_HelpView::aClickSelects()
 
 void tst_HelpView::theArrowsSelect()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.list.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&shown.list, Qt::Key_Down);
@@ -145,7 +78,7 @@ void tst_HelpView::theArrowsSelect()
 
 void tst_HelpView::enterSelectsTheRowOfTheKeyboard()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.type(QStringLiteral("rebreather"));
     shown.type(QStringLiteral("scontrino"));
@@ -158,7 +91,7 @@ void tst_HelpView::enterSelectsTheRowOfTheKeyboard()
 
 void tst_HelpView::aScreenReaderSelects()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.list.selectionModel()->select(shown.list.model()->index(1, 0), QItemSelectionModel::ClearAndSelect);
     QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
@@ -166,7 +99,7 @@ void tst_HelpView::aScreenReaderSelects()
 
 void tst_HelpView::theSearchNarrowsTheIndex()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.type(QStringLiteral("MANUTENZIONE"));
     QCOMPARE(shown.rows(), (QStringList{QStringLiteral("Primi passi"), QStringLiteral("Manutenzioni")}));
@@ -177,7 +110,7 @@ void tst_HelpView::theSearchNarrowsTheIndex()
 
 void tst_HelpView::aSearchThatIsDictatedCounts()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     QAccessible::queryAccessibleInterface(&shown.search)->setText(QAccessible::Value, QStringLiteral("scontrino"));
     QCOMPARE(shown.rows(), QStringList{QStringLiteral("Manutenzioni")});
@@ -185,7 +118,7 @@ void tst_HelpView::aSearchThatIsDictatedCounts()
 
 void tst_HelpView::theSelectionMovesToTheFirstMatchAndStays()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.type(QStringLiteral("scontrino"));
     QCOMPARE(shown.rows(), QStringList{QStringLiteral("Manutenzioni")});
@@ -199,7 +132,7 @@ void tst_HelpView::theSelectionMovesToTheFirstMatchAndStays()
 
 void tst_HelpView::nothingFoundIsSaid()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     QVERIFY(shown.label(QStringLiteral("Seleziona un argomento")) == nullptr);
     shown.type(QStringLiteral("rebreather"));
@@ -214,7 +147,7 @@ void tst_HelpView::nothingFoundIsSaid()
 
 void tst_HelpView::blanksAroundTheSearchAreShownAsTyped()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.type(QStringLiteral(" rebreather "));
     QVERIFY(shown.label(QStringLiteral("Nessun risultato per\n\" rebreather \"")) != nullptr);
@@ -222,7 +155,7 @@ void tst_HelpView::blanksAroundTheSearchAreShownAsTyped()
 
 void tst_HelpView::theSearchIsNoMarkup()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.type(QStringLiteral("<b>%1</b>"));
     const QLabel* const said = shown.label(QStringLiteral("Nessun risultato per\n\"<b>%1</b>\""));
@@ -232,7 +165,7 @@ void tst_HelpView::theSearchIsNoMarkup()
 
 void tst_HelpView::afterNothingFoundTheReaderPicks()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.type(QStringLiteral("rebreather"));
     QTest::keyClick(&shown.search, Qt::Key_Escape);
@@ -248,7 +181,7 @@ void tst_HelpView::afterNothingFoundTheReaderPicks()
 
 void tst_HelpView::theClearMarkEmptiesTheSearch()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     auto* const action = shown.search.findChild<QAction*>(QStringLiteral("clear"));
     QVERIFY(!action->isVisible());
@@ -264,18 +197,18 @@ void tst_HelpView::theClearMarkEmptiesTheSearch()
 void tst_HelpView::everyNewViewStartsAfresh()
 {
     {
-        Shown shown;
+        ShownHelp shown;
         activate(shown.view);
         shown.type(QStringLiteral("scontrino"));
     }
-    const Shown again;
+    const ShownHelp again;
     QVERIFY(again.search.text().isEmpty());
     QCOMPARE(again.selectedRow(), 0);
 }
 
 void tst_HelpView::aMissingGuideIsExplained()
 {
-    Shown shown(HelpLoader::load(QStringLiteral(":/guide/none.md")));
+    ShownHelp shown(HelpLoader::load(QStringLiteral(":/guide/none.md")));
     activate(shown.view);
     QCOMPARE(shown.rows(), QStringList{QStringLiteral("Guida non disponibile")});
     QCOMPARE(shown.selectedRow(), 0);
@@ -286,7 +219,7 @@ void tst_HelpView::aMissingGuideIsExplained()
 
 void tst_HelpView::anEmptyGuideShowsTheEmptyState()
 {
-    Shown shown(QList<HelpSection>{});
+    ShownHelp shown(QList<HelpSection>{});
     activate(shown.view);
     QVERIFY(shown.rows().isEmpty());
     QVERIFY(shown.label(QStringLiteral("Seleziona un argomento")) != nullptr);
@@ -305,7 +238,7 @@ void tst_HelpView::theProgramsGuideIsShown()
 
 void tst_HelpView::controlFGoesToTheSearch()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.type(QStringLiteral("manu"));
     shown.page.setFocus();
@@ -316,7 +249,7 @@ void tst_HelpView::controlFGoesToTheSearch()
 
 void tst_HelpView::escapeClearsTheSearchAndThenGoesOn()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.type(QStringLiteral("manu"));
     QTest::keyClick(&shown.search, Qt::Key_Escape);
@@ -331,7 +264,7 @@ void tst_HelpView::escapeClearsTheSearchAndThenGoesOn()
 
 void tst_HelpView::theTabKeyGoesInReadingOrder()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.search.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&shown.search, Qt::Key_Tab);
@@ -344,7 +277,7 @@ void tst_HelpView::theTabKeyGoesInReadingOrder()
 
 void tst_HelpView::everythingHasAName()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     for (QWidget* widget : shown.view.findChildren<QWidget*>()) {
         if (widget->focusPolicy() != Qt::NoFocus && widget->isVisible())
@@ -372,7 +305,7 @@ void tst_HelpView::noTextIsClipped()
         QFont font = usual;
         font.setPointSizeF(usual.pointSizeF() * factor);
         QApplication::setFont(font);
-        Shown shown(HelpLoader::load());
+        ShownHelp shown(HelpLoader::load());
         activate(shown.view);
         shown.type(search);
         QCoreApplication::processEvents();
@@ -395,13 +328,13 @@ void tst_HelpView::noTextIsClipped()
 
 void tst_HelpView::theSchemeSwitchesLive()
 {
-    Shown shown;
+    ShownHelp shown;
     activate(shown.view);
     shown.search.clearFocus();
     applyTheme(*qApp, Scheme::Dark);
     QCoreApplication::processEvents();
     const QImage switched = shown.view.grab().toImage();
-    Shown fresh;
+    ShownHelp fresh;
     activate(fresh.view);
     fresh.search.clearFocus();
     QCoreApplication::processEvents();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "AboutRow.h"
 #include "AboutView.h"
 #include "ClippedTexts.h"
 #include "ScreenFixture.h"
+#include "SettingsInfoRow.h"
 #include "ShadowedIcon.h"
 #include "TestRunner.h"
 #include "Theme.h"
@@ -58,9 +58,9 @@ private Q_SLOTS:
         view.show();
         view.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&view));
-        const QList<AboutRow*> rows = view.findChildren<AboutRow*>();
+        const QList<SettingsInfoRow*> rows = view.findChildren<SettingsInfoRow*>();
         rows.last()->findChildren<QLabel*>().last()->setFocus();
-        for (const AboutRow* row : rows) {
+        for (const SettingsInfoRow* row : rows) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             auto* value = qobject_cast<QLabel*>(QApplication::focusWidget());
             QVERIFY(value != nullptr);
@@ -111,7 +111,7 @@ private:
     static QStringList rows(const AboutView& view)
     {
         QStringList rows;
-        for (const AboutRow* row : view.findChildren<AboutRow*>())
+        for (const SettingsInfoRow* row : view.findChildren<SettingsInfoRow*>())
             rows.append(row->label() + QLatin1Char('=') + row->value());
         return rows;
     }
