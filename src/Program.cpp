@@ -118,7 +118,6 @@ int runProgram(int argc, char** argv, const Product& product)
     explainMissingDisplay();
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Abissora"));
     QTranslator translator;
     if (translator.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&translator);
