@@ -200,7 +200,7 @@ private Q_SLOTS:
         row(QStringLiteral("https://è.example/perché"), true);
         row(QStringLiteral("ftp://abissora.example/a.deb"), true);
         row(QStringLiteral("mailto:info@abissora.example"), true);
-        row(QStringLiteral("file:///tmp/a"), true);
+        row(QStringLiteral("file:///a"), true);
         row(QStringLiteral("scarica.html"), true);
         row(QString(), false);
         row(QStringLiteral(" "), false);

@@ -3,6 +3,7 @@
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
 #include "FormRow.h"
+#include "ScaledText.h"
 #include "Stepper.h"
 
 #include <QLabel>
@@ -105,17 +106,11 @@ void tst_FormRow::theErrorOfAFieldStandsBelowIt()
 
 void tst_FormRow::largerTextFits()
 {
-    const QFont before = QApplication::font();
-    QFont larger = before;
-    larger.setPointSizeF(larger.pointSizeF() * 1.25);
-    QApplication::setFont(larger);
-    {
-        FormRow row(QStringLiteral("Intervallo Tagliando"), new QLineEdit);
-        row.resize(420, row.sizeHint().height());
-        activate(row);
-        QCOMPARE(test::clippedTexts(row), QStringList());
-    }
-    QApplication::setFont(before);
+    const test::ScaledText larger(1.25);
+    FormRow row(QStringLiteral("Intervallo Tagliando"), new QLineEdit);
+    row.resize(420, row.sizeHint().height());
+    activate(row);
+    QCOMPARE(test::clippedTexts(row), QStringList());
 }
 
 ABISSORA_TEST(tst_FormRow);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentDetailView.h"
+#include "ScaledText.h"
 
 #include "Alert.h"
 #include "Buttons.h"
@@ -352,25 +353,19 @@ private Q_SLOTS:
     void nothingIsCutOff()
     {
         QFETCH(qreal, size);
-        const QFont usual = QApplication::font();
-        QFont larger = usual;
-        larger.setPointSizeF(usual.pointSizeF() * size);
-        QApplication::setFont(larger);
-        {
-            const ScreenFixture f;
-            Maintenance record = makeRecord(f, 1, 1, QStringLiteral("Sostituzione degli anelli di tenuta e prova"));
-            record.cost = 1234.5;
-            record.performedBy = QString(60, QLatin1Char('W'));
-            Shown s({record}, 3);
-            s.item.name = QString(70, QLatin1Char('W'));
-            s.item.serialNumber = QString(50, QLatin1Char('8'));
-            s.item.notes = QString(200, QLatin1Char('n'));
-            s.f.equipment.updateEquipment(s.item);
-            s.view->resize(s.view->minimumWidth(), 2400);
-            settle();
-            QCOMPARE(clippedTexts(*s.view), QStringList());
-        }
-        QApplication::setFont(usual);
+        const ScaledText scaled(size);
+        const ScreenFixture f;
+        Maintenance record = makeRecord(f, 1, 1, QStringLiteral("Sostituzione degli anelli di tenuta e prova"));
+        record.cost = 1234.5;
+        record.performedBy = QString(60, QLatin1Char('W'));
+        Shown s({record}, 3);
+        s.item.name = QString(70, QLatin1Char('W'));
+        s.item.serialNumber = QString(50, QLatin1Char('8'));
+        s.item.notes = QString(200, QLatin1Char('n'));
+        s.f.equipment.updateEquipment(s.item);
+        s.view->resize(s.view->minimumWidth(), 2400);
+        settle();
+        QCOMPARE(clippedTexts(*s.view), QStringList());
     }
 
     void asASheet()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "MaintenanceFormView.h"
+#include "ScaledText.h"
 
 #include "Buttons.h"
 #include "ClippedTexts.h"
@@ -340,15 +341,9 @@ private Q_SLOTS:
 
     void nothingIsCutOffWithLargerText()
     {
-        const QFont usual = QApplication::font();
-        QFont larger = usual;
-        larger.setPointSizeF(usual.pointSizeF() * 1.25);
-        QApplication::setFont(larger);
-        {
-            Shown s;
-            QCOMPARE(clippedTexts(*s.form), QStringList());
-        }
-        QApplication::setFont(usual);
+        const ScaledText scaled(1.25);
+        Shown s;
+        QCOMPARE(clippedTexts(*s.form), QStringList());
     }
 };
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentFormView.h"
+#include "ScaledText.h"
 
 #include "ClippedTexts.h"
 #include "FormDriver.h"
@@ -372,19 +373,13 @@ private Q_SLOTS:
 
     void nothingIsCutOffWithLargerText()
     {
-        const QFont usual = QApplication::font();
-        QFont larger = usual;
-        larger.setPointSizeF(usual.pointSizeF() * 1.25);
-        QApplication::setFont(larger);
-        {
-            ScreenFixture f;
-            Open o(f);
-            QCOMPARE(clippedTexts(o.form).join(QLatin1Char('|')), QString());
-            for (const char* field : {"purchaseDate", "lastServiceDate", "name", "type"})
-                QVERIFY(o.driver.part<QWidget>(field).height() >= o.driver.part<QWidget>(field).sizeHint().height());
-            QVERIFY(o.form.width() < 1000 && o.form.height() < 700);
-        }
-        QApplication::setFont(usual);
+        const ScaledText scaled(1.25);
+        ScreenFixture f;
+        Open o(f);
+        QCOMPARE(clippedTexts(o.form).join(QLatin1Char('|')), QString());
+        for (const char* field : {"purchaseDate", "lastServiceDate", "name", "type"})
+            QVERIFY(o.driver.part<QWidget>(field).height() >= o.driver.part<QWidget>(field).sizeHint().height());
+        QVERIFY(o.form.width() < 1000 && o.form.height() < 700);
     }
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
+#include "ScaledText.h"
 #include "ShownHelp.h"
 
 #include <QAction>
@@ -300,11 +301,8 @@ void tst_HelpView::noTextIsClipped_data()
 void tst_HelpView::noTextIsClipped()
 {
     QFETCH(const QString, search);
-    const QFont usual = QApplication::font();
     for (const qreal factor : {1.0, 1.25}) {
-        QFont font = usual;
-        font.setPointSizeF(usual.pointSizeF() * factor);
-        QApplication::setFont(font);
+        const test::ScaledText scaled(factor);
         ShownHelp shown(HelpLoader::load());
         activate(shown.view);
         shown.type(search);
@@ -319,7 +317,6 @@ void tst_HelpView::noTextIsClipped()
                 elided.append(index.data().toString());
         }
         const QSize wanted = shown.view.minimumSizeHint();
-        QApplication::setFont(usual);
         QCOMPARE(clipped, QStringList());
         QCOMPARE(elided, QStringList());
         QVERIFY(wanted.width() <= smallest.width() && wanted.height() <= smallest.height());

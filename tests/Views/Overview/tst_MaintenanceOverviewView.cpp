@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "MaintenanceOverviewView.h"
+#include "ScaledText.h"
 
 #include "ClippedTexts.h"
 #include "IconTile.h"
@@ -266,38 +267,28 @@ private Q_SLOTS:
     void nothingIsClipped()
     {
         QFETCH(double, scale);
-        const QFont usual = QApplication::font();
-        QFont font = usual;
-        font.setPointSizeF(usual.pointSizeF() * scale);
-        QApplication::setFont(font);
-        {
-            ScreenFixture f;
-            ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
-            QCOMPARE(s.window.size(), QSize(1000, 700));
-            auto& view = *s.window.findChild<MaintenanceOverviewView*>();
-            QCOMPARE(clippedTexts(view), QStringList());
-            for (const StatCard* card : view.findChildren<StatCard*>()) {
-                QVERIFY2(card->width() >= card->minimumSizeHint().width(), qPrintable(card->title()));
-                QVERIFY2(card->height() >= card->minimumSizeHint().height(), qPrintable(card->title()));
-            }
+        const ScaledText scaled(scale);
+        ScreenFixture f;
+        ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
+        QCOMPARE(s.window.size(), QSize(1000, 700));
+        auto& view = *s.window.findChild<MaintenanceOverviewView*>();
+        QCOMPARE(clippedTexts(view), QStringList());
+        for (const StatCard* card : view.findChildren<StatCard*>()) {
+            QVERIFY2(card->width() >= card->minimumSizeHint().width(), qPrintable(card->title()));
+            QVERIFY2(card->height() >= card->minimumSizeHint().height(), qPrintable(card->title()));
         }
-        QApplication::setFont(usual);
     }
 
     /// Rows that exist follow a change of the text size while the screen is shown.
     void textSizeChangesWhileShown()
     {
-        const QFont usual = QApplication::font();
         ScreenFixture f;
         ShownTab s(f, ContentView::MaintenanceTab);
-        QFont font = usual;
-        font.setPointSizeF(usual.pointSizeF() * 2);
-        QApplication::setFont(font);
+        const ScaledText twice(2);
         settleLayouts();
         QCOMPARE(s.dueList().rows().at(1)->height(), DueRow::rowHeight());
         QCOMPARE(s.dueList().rows().at(1)->y(), DueRow::rowHeight() + 2);
         QVERIFY(s.dueList().rows().at(1)->geometry().bottom() < s.dueList().height());
-        QApplication::setFont(usual);
     }
 };
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "ScaledText.h"
 #include "StatisticsView.h"
 
 #include "ClippedTexts.h"
@@ -326,21 +327,15 @@ private Q_SLOTS:
     void nothingIsClipped()
     {
         QFETCH(double, scale);
-        const QFont usual = QApplication::font();
-        QFont font = usual;
-        font.setPointSizeF(usual.pointSizeF() * scale);
-        QApplication::setFont(font);
-        {
-            ScreenFixture f;
-            Shown s(f, {1000, 700});
-            auto& view = *s.window.findChild<StatisticsView*>();
-            QCOMPARE(clippedTexts(view), QStringList());
-            for (const StatCard* card : view.findChildren<StatCard*>()) {
-                QVERIFY2(card->width() >= card->minimumSizeHint().width(), qPrintable(card->title()));
-                QVERIFY2(card->height() >= card->minimumSizeHint().height(), qPrintable(card->title()));
-            }
+        const ScaledText scaled(scale);
+        ScreenFixture f;
+        Shown s(f, {1000, 700});
+        auto& view = *s.window.findChild<StatisticsView*>();
+        QCOMPARE(clippedTexts(view), QStringList());
+        for (const StatCard* card : view.findChildren<StatCard*>()) {
+            QVERIFY2(card->width() >= card->minimumSizeHint().width(), qPrintable(card->title()));
+            QVERIFY2(card->height() >= card->minimumSizeHint().height(), qPrintable(card->title()));
         }
-        QApplication::setFont(usual);
     }
 };
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow.h"
+#include "ScaledText.h"
 
 #include "ContentView.h"
 #include "EquipmentListView.h"
@@ -213,26 +214,19 @@ private Q_SLOTS:
 
     void nothingIsCutOffWithLargerText()
     {
-        const QFont usual = QApplication::font();
-        QFont larger = usual;
-        larger.setPointSizeF(usual.pointSizeF() * 1.25);
-        QApplication::setFont(larger);
-        {
-            ScreenFixture f;
-            Shown s(f);
-            s.window.resize(s.window.minimumSize());
-            QCoreApplication::processEvents();
-            for (const QWidget* widget : s.window.findChildren<QWidget*>()) {
-                const bool text = widget->inherits("QLabel") || widget->inherits("QAbstractButton");
-                if (!text || !widget->isVisible() || qobject_cast<const QLineEdit*>(widget->parentWidget()))
-                    continue;
-                const QByteArray who =
-                    widget->metaObject()->className() + QByteArray(" ") + widget->objectName().toUtf8();
-                QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), who.constData());
-                QVERIFY2(widget->height() >= widget->minimumSizeHint().height(), who.constData());
-            }
+        const ScaledText scaled(1.25);
+        ScreenFixture f;
+        Shown s(f);
+        s.window.resize(s.window.minimumSize());
+        QCoreApplication::processEvents();
+        for (const QWidget* widget : s.window.findChildren<QWidget*>()) {
+            const bool text = widget->inherits("QLabel") || widget->inherits("QAbstractButton");
+            if (!text || !widget->isVisible() || qobject_cast<const QLineEdit*>(widget->parentWidget()))
+                continue;
+            const QByteArray who = widget->metaObject()->className() + QByteArray(" ") + widget->objectName().toUtf8();
+            QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), who.constData());
+            QVERIFY2(widget->height() >= widget->minimumSizeHint().height(), who.constData());
         }
-        QApplication::setFont(usual);
     }
 
     void sizeIsKeptAcrossStarts()

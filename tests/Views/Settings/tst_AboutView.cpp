@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AboutView.h"
 #include "ClippedTexts.h"
+#include "ScaledText.h"
 #include "ScreenFixture.h"
 #include "SettingsInfoRow.h"
 #include "ShadowedIcon.h"
@@ -76,18 +77,14 @@ private Q_SLOTS:
 
     void nothingIsClipped()
     {
-        const QFont before = QApplication::font();
         for (const double factor : {1.0, 1.25}) {
-            QFont larger = before;
-            larger.setPointSizeF(before.pointSizeF() * factor);
-            QApplication::setFont(larger);
+            const test::ScaledText scaled(factor);
             test::ScreenFixture f;
             AboutView view(f.context);
             view.show();
             QVERIFY(QTest::qWaitForWindowExposed(&view));
             QCOMPARE(test::clippedTexts(view), QStringList());
         }
-        QApplication::setFont(before);
     }
 
     void theIconIsDrawnOnAShadowInBothSchemes()

@@ -2,6 +2,7 @@
 #include "ClippedTexts.h"
 #include "EquipmentTypeManagementView.h"
 #include "HelpSheet.h"
+#include "ScaledText.h"
 #include "ShownSettings.h"
 #include "TestRunner.h"
 
@@ -203,20 +204,14 @@ private Q_SLOTS:
     void nothingIsCutOff()
     {
         QFETCH(const double, textSize);
-        const QFont usual = QApplication::font();
-        QFont font = usual;
-        font.setPointSizeF(usual.pointSizeF() * textSize);
-        QApplication::setFont(font);
-        {
-            ScreenFixture f;
-            ShownSettings s(f, {772, 700});
-            s.click("checkForUpdates");
-            f.http.answer(tl::unexpected(HttpError{}));
-            QCoreApplication::processEvents();
-            QCOMPARE(clippedTexts(*s.view), QStringList());
-            QCOMPARE(s.view->horizontalScrollBar()->maximum(), 0);
-        }
-        QApplication::setFont(usual);
+        const ScaledText scaled(textSize);
+        ScreenFixture f;
+        ShownSettings s(f, {772, 700});
+        s.click("checkForUpdates");
+        f.http.answer(tl::unexpected(HttpError{}));
+        QCoreApplication::processEvents();
+        QCOMPARE(clippedTexts(*s.view), QStringList());
+        QCOMPARE(s.view->horizontalScrollBar()->maximum(), 0);
     }
 };
 

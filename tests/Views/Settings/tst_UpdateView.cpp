@@ -4,6 +4,7 @@
 #include "ClippedTexts.h"
 #include "GroupBox.h"
 #include "ReleaseNotes.h"
+#include "ScaledText.h"
 #include "ScreenFixture.h"
 #include "TestRunner.h"
 #include "Theme.h"
@@ -228,15 +229,11 @@ private Q_SLOTS:
 
     void nothingIsClipped()
     {
-        const QFont before = QApplication::font();
         for (const double factor : {1.0, 1.25}) {
-            QFont larger = before;
-            larger.setPointSizeF(before.pointSizeF() * factor);
-            QApplication::setFont(larger);
+            const test::ScaledText scaled(factor);
             const Offer o;
             QCOMPARE(test::clippedTexts(o.view), QStringList());
         }
-        QApplication::setFont(before);
     }
 };
 

@@ -5,6 +5,7 @@
 #include "EquipmentTypeFormView.h"
 #include "EquipmentTypeManagementView.h"
 #include "FormDriver.h"
+#include "ScaledText.h"
 #include "ScreenFixture.h"
 #include "TypeRow.h"
 
@@ -57,12 +58,8 @@ inline QStringList tabOrder(const QWidget& root)
 template <typename Check>
 void withLargerText(Check check)
 {
-    const QFont usual = QApplication::font();
-    QFont larger = usual;
-    larger.setPointSizeF(usual.pointSizeF() * 1.25);
-    QApplication::setFont(larger);
+    const ScaledText larger(1.25);
     check();
-    QApplication::setFont(usual);
 }
 
 /// The management screen.
