@@ -21,7 +21,7 @@ namespace abissora {
 EquipmentListView::EquipmentListView(const AppContext& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
-    , m_update([this] { redraw(); })
+    , m_update(*this, [this] { redraw(); })
     , m_refreshID(context.ids.next())
     , m_header(new ListHeader)
     , m_search(new SearchField(QStringLiteral("Cerca attrezzatura...")))
@@ -36,7 +36,6 @@ EquipmentListView::EquipmentListView(const AppContext& context, QWidget* parent)
     setObjectName(QStringLiteral("equipmentList"));
     buildLayout();
     connectControls();
-    redraw();
 }
 
 void EquipmentListView::buildLayout()
@@ -69,8 +68,8 @@ void EquipmentListView::buildLayout()
 void EquipmentListView::connectControls()
 {
     EquipmentViewModel& equipment = m_context.equipment;
-    connect(&equipment, &EquipmentViewModel::changed, &m_update, &CoalescedUpdate::schedule);
-    connect(&m_context.types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
+    connect(&equipment, &EquipmentViewModel::changed, &m_update, &VisibleUpdate::schedule);
+    connect(&m_context.types, &EquipmentTypeViewModel::changed, &m_update, &VisibleUpdate::schedule);
 
     connect(m_header, &ListHeader::addClicked, this, &EquipmentListView::addRequested);
     connect(m_header, &ListHeader::refreshClicked, this, &EquipmentListView::refresh);

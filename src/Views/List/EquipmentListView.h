@@ -2,7 +2,7 @@
 #pragma once
 
 #include "AppContext.h"
-#include "CoalescedUpdate.h"
+#include "VisibleUpdate.h"
 
 #include <QWidget>
 
@@ -60,7 +60,7 @@ private:
     void deleteConfirmed();
 
     AppContext m_context;
-    CoalescedUpdate m_update;
+    VisibleUpdate m_update;
     std::optional<Equipment> m_selectedEquipment;
     std::optional<Equipment> m_equipmentToDelete;
     QUuid m_refreshID;

@@ -90,7 +90,7 @@ private Q_SLOTS:
         QVERIFY(r.s.window.content().selectedEquipment().has_value());
     }
 
-    /// One reading of the list's filter for a change, nothing while the day is the same.
+    /// Nothing while the day is the same; a hidden list reads its filter when it is shown, once.
     void theLogIsNotFlooded()
     {
         Running r(ContentView::MaintenanceTab);
@@ -101,6 +101,10 @@ private Q_SLOTS:
         }
         QCOMPARE(r.f.takeLog(), QStringList());
         r.passADay();
+        r.passADay();
+        QCOMPARE(r.f.takeLog().filter(QStringLiteral("FILTRO ATTIVO")).size(), 0);
+        r.s.window.content().setSelectedTab(ContentView::ListTab);
+        settle();
         QCOMPARE(r.f.takeLog().filter(QStringLiteral("FILTRO ATTIVO")).size(), 1);
     }
 };

@@ -27,6 +27,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         EquipmentListView view(f.context);
+        view.show();
         QAbstractItemModelTester tester(part<EquipmentTableView>(view, "equipmentTable").model(),
                                         QAbstractItemModelTester::FailureReportingMode::Fatal);
         QCOMPARE(names(view),
@@ -47,6 +48,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         EquipmentListView view(f.context);
+        view.show();
         const auto* model = part<EquipmentTableView>(view, "equipmentTable").model();
         QStringList titles;
         for (int column = 0; column < model->columnCount(); ++column)
@@ -75,6 +77,7 @@ private Q_SLOTS:
         ScreenFixture f(QList<Equipment>{});
         f.equipment.addEquipment(makeItem(1, QStringLiteral("X"), EquipmentType::fins, f.inDays(days)));
         EquipmentListView view(f.context);
+        view.show();
         QCOMPARE(cell(view, 0, 3).section(QLatin1Char('\n'), 1), expected);
     }
 
@@ -87,6 +90,7 @@ private Q_SLOTS:
         f.equipment.addEquipment(makeItem(2, QStringLiteral("Jacket"), EquipmentType::bcd, f.inDays(91)));
         f.types.deleteType(*f.types.getTypeByName(QStringLiteral("GAV")));
         EquipmentListView view(f.context);
+        view.show();
         auto& model = part<EquipmentTableView>(view, "equipmentTable").equipmentModel();
         QCOMPARE(model.row(0).typeName, QStringLiteral("Faro"));
         QCOMPARE(model.row(0).appearance,
@@ -166,6 +170,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         EquipmentListView view(f.context);
+        view.show();
         auto& menu = part<FilterMenu>(view, "filterMenu");
         Q_EMIT menu.aboutToShow();
         QStringList entries;
@@ -199,6 +204,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         EquipmentListView view(f.context);
+        view.show();
         settle();
         const QUuid before = view.refreshID();
         QSignalSpy reset(part<EquipmentTableView>(view, "equipmentTable").model(), &QAbstractItemModel::modelReset);
@@ -212,6 +218,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         EquipmentListView view(f.context);
+        view.show();
         view.resize(800, 600);
         view.show();
         settle();
@@ -242,6 +249,7 @@ private Q_SLOTS:
             many.append(makeItem(i, QStringLiteral("Pinne n. %1").arg(i), EquipmentType::fins, clockOnly.inDays(i)));
         ScreenFixture f(many);
         EquipmentListView view(f.context);
+        view.show();
         view.resize(900, 600);
         view.show();
         settle();
@@ -259,6 +267,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         EquipmentListView view(f.context);
+        view.show();
         auto& table = part<EquipmentTableView>(view, "equipmentTable");
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&table);
         QCOMPARE(accessible->role(), QAccessible::Table);
