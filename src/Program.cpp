@@ -39,19 +39,30 @@ QStringList rawArguments(int argc, char** argv)
     return arguments;
 }
 
+bool answered(bool help, bool version)
+{
+    if (help)
+        say(stdout, CommandLine::helpText());
+    else if (version)
+        say(stdout, CommandLine::versionText());
+    return help || version;
+}
+
 /// --help and --version are answered without a screen, and so before the toolkit looks for one.
 bool answered(const QStringList& arguments)
 {
     const auto asks = [&](const char* brief, const char* full) {
         return arguments.contains(QLatin1String(brief)) || arguments.contains(QLatin1String(full));
     };
-    if (asks("-h", "--help"))
-        say(stdout, CommandLine::helpText());
-    else if (asks("-v", "--version"))
-        say(stdout, CommandLine::versionText());
-    else
-        return false;
-    return true;
+    return answered(asks("-h", "--help"), asks("-v", "--version"));
+}
+
+/// A name that is being looked up cannot be given up, and the toolkit would wait for the answer before it ends: many
+/// seconds where nobody answers. Nothing else is left to do by now.
+[[noreturn]] void endAtOnce(int status)
+{
+    std::fflush(nullptr);
+    std::_Exit(status);
 }
 
 ApplicationDirectories directoriesFor(const CommandLine& commandLine)
@@ -61,7 +72,7 @@ ApplicationDirectories directoriesFor(const CommandLine& commandLine)
     return chosen.isEmpty() ? ApplicationDirectories::standard() : ApplicationDirectories(chosen, true);
 }
 
-int run(QApplication& application, const CommandLine& commandLine, const Product& product)
+int run(QApplication& application, const CommandLine& commandLine, const Product& product, HttpClient& http)
 {
     const ApplicationDirectories directories = directoriesFor(commandLine);
     SingleInstance instance(directories.root());
@@ -74,7 +85,6 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
     for (const QString& folder : {directories.preferences(), directories.maintenanceDocuments(), directories.backups()})
         AtomicFile::removeLeftovers(folder);
 
-    NetworkHttpClient http;
     MarevoloApp app(application, directories, product, http);
     QObject::connect(&instance, &SingleInstance::activationRequested, &app, &MarevoloApp::showMainWindow);
     if (commandLine.snapshot.isEmpty()) {
@@ -125,7 +135,14 @@ int runProgram(int argc, char** argv, const Product& product)
     const auto commandLine = CommandLine::parse(QCoreApplication::arguments().mid(1));
     if (!commandLine)
         return fail(commandLine.error() + QStringLiteral(" Con «--help» l'elenco delle opzioni."));
-    return run(application, *commandLine, product);
+    if (answered(commandLine->help, commandLine->version)) // "-hv"
+        return EXIT_SUCCESS;
+
+    NetworkHttpClient http;
+    const int status = run(application, *commandLine, product, http);
+    if (http.isBusy())
+        endAtOnce(status);
+    return status;
 }
 
 } // namespace abissora

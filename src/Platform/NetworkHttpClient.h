@@ -27,6 +27,9 @@ public:
 
     [[nodiscard]] QCoro::Task<HttpResult> get(QUrl url) override;
 
+    /// A request is under way, or was until the events that are being handled.
+    [[nodiscard]] bool isBusy() const { return !m_transfers.children().isEmpty(); }
+
     [[nodiscard]] static QNetworkRequest request(const QUrl& url);
 
 private:

@@ -288,6 +288,7 @@ private Q_SLOTS:
         auto second = client->get(server.url());
         QTRY_COMPARE(server.requests().size(), 2);
         QVERIFY(!first.isReady() && !second.isReady());
+        QVERIFY(client->isBusy());
         client.reset();
         QVERIFY(first.isReady() && second.isReady());
         QCOMPARE(failure(QCoro::waitFor(first)), HttpError::Kind::Cancelled);
@@ -299,10 +300,12 @@ private Q_SLOTS:
         LocalServer server;
         server.next(LocalServer::answers("200 OK", body));
         NetworkHttpClient client(patient);
+        QVERIFY(!client.isBusy());
         bool answered = false;
         const auto ask = [&]() -> QCoro::Task<> { answered = (co_await client.get(server.url())).has_value(); };
         ask();
         QTRY_VERIFY(answered);
+        QTRY_VERIFY(!client.isBusy());
     }
 
     void requestsAtTheSameTimeAreApart()

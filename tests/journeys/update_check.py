@@ -86,3 +86,10 @@ def journey(run, data):
         assert len(program.windows()) == 1
         program.close()
         assert website.asked == ["/version.json"] * count, website.asked
+
+    # A name that nobody answers for keeps nobody waiting at the end.
+    os.environ["ABISSORA_JOURNEY_MANIFEST"] = "http://abissora.example/version.json"
+    os.environ["ABISSORA_JOURNEY_NO_NAMES"] = "1"
+    program = run()
+    program.wait_for_lines(["looking a name up"])
+    program.close()
