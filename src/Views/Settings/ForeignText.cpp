@@ -5,6 +5,8 @@ namespace abissora {
 
 namespace {
 
+constexpr qsizetype longestVersion = 80;
+
 bool isShown(char32_t character)
 {
     if (character == U'\n' || character == U'\t')
@@ -36,6 +38,13 @@ QString shownText(const QString& text, qsizetype longest)
 QString shownLine(const QString& text, qsizetype longest)
 {
     return shownText(shortened(text, longest).simplified(), longest);
+}
+
+QString shownRelease(const UpdateInfo& update)
+{
+    UpdateInfo shown = update;
+    shown.version = shownLine(update.version, longestVersion);
+    return shown.versionAndBuild();
 }
 
 } // namespace abissora

@@ -21,7 +21,6 @@ namespace {
 
 constexpr int contentWidth = 480;
 constexpr int iconSide = 52;
-constexpr qsizetype longestVersion = 80;
 constexpr qsizetype longestNotes = 100'000;
 constexpr qsizetype longestAddress = 300;
 
@@ -43,10 +42,8 @@ UpdateView::UpdateView(const AppContext& context, const UpdateInfo& update, QWid
 {
     setObjectName(QStringLiteral("updateView"));
     auto* title = new InkLabel(TextStyle::Title, &Tokens::text, QStringLiteral("Aggiornamento disponibile"));
-    UpdateInfo shown = update;
-    shown.version = shownLine(update.version, longestVersion);
     auto* version = new WrapLabel(TextStyle::Body, &Tokens::secondaryText,
-                                  QStringLiteral("Nuova versione · ") + shown.versionAndBuild());
+                                  QStringLiteral("Nuova versione · ") + shownRelease(update));
     version->setObjectName(QStringLiteral("newVersion"));
     version->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     auto* later = new PlainButton(QStringLiteral("Più tardi"));

@@ -2,12 +2,12 @@
 #include "UpdatesGroup.h"
 
 #include "CheckButton.h"
+#include "ForeignText.h"
 #include "IconLabel.h"
-#include "Metrics.h"
 #include "SettingsSwitch.h"
 #include "SymbolIcon.h"
 
-#include <QHBoxLayout>
+#include <QBoxLayout>
 #include <QPointer>
 
 namespace abissora {
@@ -29,13 +29,9 @@ UpdatesGroup::UpdatesGroup(SettingsViewModel& settings, UpdateCheckerViewModel& 
     addExplanation(
         QStringLiteral("Se attivo, all'avvio l'app verifica sul sito se esiste una versione più recente e la propone."),
         onLaunch);
-    auto* line = new QHBoxLayout;
-    line->setSpacing(metrics::spaceM);
     m_check->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    line->addWidget(m_check);
-    line->addWidget(m_feedback, 1);
-    line->addStretch(); // in the place of no feedback
-    content()->addLayout(line);
+    addButton(m_check);
+    content()->addWidget(m_feedback);
 
     setFeedback(std::nullopt, false);
     redraw();
@@ -50,7 +46,7 @@ QCoro::Task<> UpdatesGroup::checkForUpdatesNow()
     if (!alive)
         co_return;
     if (update) {
-        setFeedback(QStringLiteral("Versione ") + update->versionAndBuild() + QStringLiteral(" disponibile"), false);
+        setFeedback(QStringLiteral("Versione ") + shownRelease(*update) + QStringLiteral(" disponibile"), false);
     } else if (const std::optional<QString> error = m_updates.lastError()) {
         setFeedback(error, true);
     } else {

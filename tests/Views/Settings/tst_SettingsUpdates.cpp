@@ -53,6 +53,30 @@ private Q_SLOTS:
         QCOMPARE(s.feedback().text(), QStringLiteral("Versione 1.3.0 (build 57) disponibile"));
     }
 
+    void aHostileVersionIsToldInShort()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        s.click("checkForUpdates");
+        const QByteArray version("9.\\u202E" + QByteArray(100'000, 'x'));
+        f.http.answer(200, QByteArray(newer).replace("\"1.3.0\"", QByteArray('"' + version + '"')));
+        QCoreApplication::processEvents();
+        QVERIFY(s.feedback().text().startsWith(QStringLiteral("Versione 9.xx")));
+        QVERIFY(s.feedback().text().endsWith(QStringLiteral("… (build 57) disponibile")));
+        QVERIFY(s.feedback().text().size() < 150);
+    }
+
+    void theFeedbackStandsUnderTheButton()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        s.click("checkForUpdates");
+        f.http.answer(200, current);
+        QCoreApplication::processEvents();
+        QVERIFY(s.feedback().y() > s.button("checkForUpdates").geometry().bottom());
+        QCOMPARE(s.feedback().x(), s.button("checkForUpdates").x());
+    }
+
     void theCurrentReleaseIsTold()
     {
         ScreenFixture f;
