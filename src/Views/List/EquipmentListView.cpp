@@ -75,7 +75,11 @@ void EquipmentListView::connectControls()
     connect(m_header, &ListHeader::refreshClicked, this, &EquipmentListView::refresh);
     connect(m_header, &ListHeader::clearFilterClicked, this,
             [&equipment] { equipment.setFilterTypeName(std::nullopt); });
-    connect(m_search, &SearchField::textEdited, &equipment, &EquipmentViewModel::setSearchText);
+    // Not textEdited, which leaves out what a screen reader or a dictation puts in.
+    connect(m_search, &SearchField::textChanged, &equipment, [&equipment](const QString& text) {
+        if (text != equipment.searchText())
+            equipment.setSearchText(text);
+    });
 
     connect(m_filterMenu, &QMenu::aboutToShow, this,
             [this] { m_filterMenu->setEntries(m_context.types.filteredTypes(), isNarrowed()); });

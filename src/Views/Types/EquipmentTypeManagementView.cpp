@@ -79,14 +79,14 @@ QWidget* EquipmentTypeManagementView::makeContent()
 void EquipmentTypeManagementView::connectControls()
 {
     connect(&m_context.types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
-    connect(m_search, &SearchField::textEdited, this, &EquipmentTypeManagementView::redraw);
+    // A screen reader or a dictation sets the text, which is no edit to the field.
+    connect(m_search, &SearchField::textChanged, this, &EquipmentTypeManagementView::redraw);
     connect(m_add, &QAbstractButton::clicked, this, [this] { openForm(std::nullopt); });
     connect(m_list, &TypeList::editRequested, this, &EquipmentTypeManagementView::openForm);
     connect(m_list, &TypeList::deleteRequested, this, &EquipmentTypeManagementView::confirmDeletion);
     connect(m_empty, &EmptyState::buttonClicked, this, [this] {
-        m_search->clear();
         m_search->setFocus(Qt::OtherFocusReason);
-        redraw();
+        m_search->clear();
     });
     connect(m_reset, &QAbstractButton::clicked, &m_context.types, &EquipmentTypeViewModel::resetToDefaults);
 }

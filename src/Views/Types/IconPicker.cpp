@@ -23,7 +23,8 @@ IconPicker::IconPicker(QWidget* parent)
     content()->addWidget(m_search);
     content()->addWidget(m_grid);
     content()->addWidget(m_nothing);
-    connect(m_search, &SearchField::textEdited, this, &IconPicker::filter);
+    // A screen reader or a dictation sets the text, which is no edit to the field.
+    connect(m_search, &SearchField::textChanged, this, &IconPicker::filter);
 }
 
 void IconPicker::filter(const QString& searchIconText)

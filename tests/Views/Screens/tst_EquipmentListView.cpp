@@ -119,6 +119,17 @@ private Q_SLOTS:
         QCOMPARE(part<QLabel>(view, "dueCount").text(), QStringLiteral("⚠️ 2 manutenzioni scadute"));
     }
 
+    void whatAScreenReaderPutsInFilters()
+    {
+        ScreenFixture f;
+        EquipmentListView view(f.context);
+        view.show();
+        QAccessible::queryAccessibleInterface(&part<QLineEdit>(view, "search"))
+            ->setText(QAccessible::Value, QStringLiteral("scuba"));
+        settle();
+        QCOMPARE(names(view), QStringList(QStringLiteral("GAV Scubapro Hydros")));
+    }
+
     void emptyStateClearsTheFilters()
     {
         ScreenFixture f;

@@ -54,6 +54,15 @@ private Q_SLOTS:
         QCOMPARE(actions, QStringList({QStringLiteral("Modifica"), QStringLiteral("Elimina")}));
     }
 
+    void whatAScreenReaderPutsInFilters()
+    {
+        ScreenFixture f;
+        OpenManagement o(f);
+        QAccessible::queryAccessibleInterface(&o.driver.part<SearchField>("typeSearch"))
+            ->setText(QAccessible::Value, QStringLiteral("erog"));
+        QCOMPARE(o.names(), QStringList(QStringLiteral("Erogatore")));
+    }
+
     void screenReadersKnowWhatAnActionIsAbout()
     {
         ScreenFixture f;
