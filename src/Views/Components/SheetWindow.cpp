@@ -7,6 +7,7 @@
 #include "Tokens.h"
 #include "WindowShape.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QEvent>
 #include <QLayout>
@@ -27,8 +28,10 @@ SheetWindow::SheetWindow(QWidget* parent)
     setWindowModality(Qt::WindowModal);
     if (windowsCanBeTranslucent())
         setAttribute(Qt::WA_TranslucentBackground);
-    if (QWidget* const below = mainWindow())
+    if (QWidget* const below = mainWindow()) {
         below->installEventFilter(this);
+        takeOverCommands(*below);
+    }
 }
 
 SheetWindow::~SheetWindow()
@@ -68,6 +71,14 @@ QWidget* SheetWindow::mainWindow() const
     while (qobject_cast<SheetWindow*>(window) != nullptr && window->parentWidget() != nullptr)
         window = window->parentWidget()->window();
     return window;
+}
+
+void SheetWindow::takeOverCommands(const QWidget& below)
+{
+    for (QAction* action : below.actions()) {
+        if (action->shortcutContext() == Qt::ApplicationShortcut)
+            addAction(action);
+    }
 }
 
 void SheetWindow::place()

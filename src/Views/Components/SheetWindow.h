@@ -9,7 +9,7 @@ namespace abissora {
 class Scrim;
 
 /// A rounded window-modal dialog without a frame, centred over the window it belongs to, which it dims. When it closes,
-/// the focus goes back to where it was.
+/// the focus goes back to where it was. That window's own actions that hold in the whole application hold here, too.
 class SheetWindow : public QDialog
 {
     Q_OBJECT
@@ -33,6 +33,7 @@ protected:
 
 private:
     [[nodiscard]] QWidget* mainWindow() const;
+    void takeOverCommands(const QWidget& below);
     void place();
     void cover();
     void uncover();

@@ -36,7 +36,7 @@ QSize HelpSheet::preferredSize() const
 
 QWidget* HelpSheet::firstFocus() const
 {
-    return m_view->findChild<QWidget*>(QStringLiteral("search"));
+    return m_view->findChild<QWidget*>(QStringLiteral("helpSearch"));
 }
 
 } // namespace abissora

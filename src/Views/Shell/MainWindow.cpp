@@ -72,6 +72,7 @@ void MainWindow::buildMenuBar()
     guide->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Question), QKeySequence(QKeySequence::HelpContents)});
     guide->setShortcutContext(Qt::ApplicationShortcut);
     connect(guide, &QAction::triggered, this, &MainWindow::helpRequested);
+    addAction(guide); // so that sheets take it over
     QAction* about = help->addAction(QStringLiteral("&Informazioni su Abissora"));
     about->setMenuRole(QAction::AboutRole);
     connect(about, &QAction::triggered, this, &MainWindow::aboutRequested);

@@ -62,6 +62,24 @@ private Q_SLOTS:
         QCOMPARE(s.window.minimumSize(), QSize(1000, 700));
     }
 
+    void theGuideOpensFromAFormToo()
+    {
+        ScreenFixture f;
+        Shown s(f);
+        QSignalSpy asked(&s.window, &MainWindow::helpRequested);
+        s.window.content().addEquipment();
+        QCoreApplication::processEvents();
+        QWidget* const form = QApplication::activeWindow();
+        QVERIFY(form != &s.window);
+        QTest::keyClick(form, Qt::Key_F1);
+        QCOMPARE(asked.size(), 1);
+        QTest::keyClick(form, Qt::Key_Question, Qt::ControlModifier);
+        QCOMPARE(asked.size(), 2);
+        QTest::keyClick(form, Qt::Key_N, Qt::ControlModifier);
+        QTest::keyClick(form, Qt::Key_Q, Qt::ControlModifier);
+        QVERIFY(s.window.isVisible() && form->isVisible());
+    }
+
     void theKeyboardStartsInTheTable()
     {
         ScreenFixture f;

@@ -126,6 +126,7 @@ private Q_SLOTS:
         s.button("openHelp").setFocus();
         s.click("openHelp");
         QVERIFY(s.view->showingHelp());
+        QCOMPARE(s.sheet<HelpSheet>()->focusWidget()->objectName(), QStringLiteral("helpSearch"));
         QTest::keyClick(s.sheet<HelpSheet>(), Qt::Key_Escape);
         QCoreApplication::processEvents();
         QVERIFY(!s.view->showingHelp());
