@@ -29,7 +29,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # What the program takes from the system without linking it: fonts and the toolkit's Italian texts.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-inter, fonts-noto-color-emoji, qt6-translations-l10n")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
+# xdg-open shows documents and pages; the check for updates trusts the system's certificates.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils, ca-certificates")
 include(CPack)
 
 if(ABISSORA_TESTS)
