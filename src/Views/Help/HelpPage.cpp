@@ -3,7 +3,7 @@
 
 #include "HelpPagePainting.h"
 #include "HelpPageWriter.h"
-#include "Opener.h"
+#include "PageOpening.h"
 #include "Painting.h"
 #include "Tokens.h"
 
@@ -36,7 +36,8 @@ HelpPage::HelpPage(Opener& opener, QWidget* parent)
     setFrameShape(QFrame::NoFrame);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     viewport()->setAutoFillBackground(false);
-    connect(this, &QTextBrowser::anchorClicked, this, [&opener](const QUrl& url) { opener.open(url); });
+    connect(this, &QTextBrowser::anchorClicked, this,
+            [this, &opener](const QUrl& url) { openPage(url, opener, *this); });
 }
 
 void HelpPage::setSection(const HelpSection& section)

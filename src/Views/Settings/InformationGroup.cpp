@@ -3,6 +3,7 @@
 
 #include "Buttons.h"
 #include "Metrics.h"
+#include "PageOpening.h"
 #include "ProgramFacts.h"
 #include "SettingsInfoRow.h"
 #include "WrapLabel.h"
@@ -41,7 +42,7 @@ QLayout* InformationGroup::makeWebsiteLine()
     auto* link = new LinkButton(address.host());
     link->setObjectName(QStringLiteral("website"));
     link->setAccessibleDescription(caption);
-    connect(link, &QAbstractButton::clicked, this, [this, address] { (void)m_context.opener.open(address); });
+    connect(link, &QAbstractButton::clicked, this, [this, address] { openPage(address, m_context.opener, *this); });
     auto* line = new QHBoxLayout;
     line->setSpacing(0);
     line->addSpacing(-metrics::spaceXS); // the link's own padding

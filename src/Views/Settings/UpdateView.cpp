@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "UpdateView.h"
 
-#include "Alert.h"
 #include "Buttons.h"
 #include "ForeignText.h"
 #include "GroupBox.h"
 #include "IconView.h"
 #include "Metrics.h"
+#include "PageOpening.h"
 #include "ReleaseNotes.h"
 #include "SymbolIcon.h"
 #include "WrapLabel.h"
@@ -22,7 +22,6 @@ namespace {
 constexpr int contentWidth = 480;
 constexpr int iconSide = 52;
 constexpr qsizetype longestNotes = 100'000;
-constexpr qsizetype longestAddress = 300;
 
 /// Any other scheme may start any program on this machine.
 bool opensInBrowser(const QUrl& url)
@@ -99,20 +98,8 @@ GroupBox* UpdateView::makeNotes() const
 void UpdateView::download()
 {
     const QPointer<UpdateView> alive(this);
-    const bool opened = m_opener.open(m_address);
-    if (!alive)
-        return;
-    if (opened) {
+    if (openPage(m_address, m_opener, *this) && alive)
         Q_EMIT closeRequested();
-        return;
-    }
-    auto* notice = new Alert(this);
-    notice->setAttribute(Qt::WA_DeleteOnClose);
-    notice->setTitle(QStringLiteral("Pagina non aperta"));
-    notice->setMessage(QStringLiteral("Il sistema non ha aperto la pagina: forse manca un browser. L'indirizzo è:\n%1")
-                           .arg(shownLine(m_address.toString(QUrl::FullyEncoded), longestAddress)));
-    notice->makeNotice();
-    notice->open();
 }
 
 } // namespace abissora

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Alert.h"
 #include "ComponentTest.h"
 #include "Fakes.h"
 #include "HelpPage.h"
@@ -92,6 +93,7 @@ private Q_SLOTS:
     void picturesAreNeverLoaded();
     void aLinkIsOpenedByAClick();
     void aLinkIsOpenedByTheKeyboard();
+    void aLinkThatNothingOpensIsTold();
     void hostileLinksAreText();
     void theSchemeSwitchesLive();
     void theTextSizeFollowsTheApplication();
@@ -215,6 +217,18 @@ void tst_HelpPage::aLinkIsOpenedByTheKeyboard()
     QTest::keyClick(&shown.page, Qt::Key_Tab);
     QTest::keyClick(&shown.page, Qt::Key_Return);
     QCOMPARE(shown.opener.opened(), QList<QUrl>{QUrl(QStringLiteral("https://abissora.example/a?b=c&d=e"))});
+}
+
+void tst_HelpPage::aLinkThatNothingOpensIsTold()
+{
+    Shown shown(QString::fromUtf8(everyKind));
+    shown.opener.succeed(false);
+    activate(shown.page);
+    const QPoint link = shown.page.cursorRect(at(shown.page, QStringLiteral("cita"))).center();
+    QTest::mouseClick(shown.page.viewport(), Qt::LeftButton, {}, link);
+    const auto* notice = shown.page.findChild<Alert*>();
+    QVERIFY(notice != nullptr && notice->isVisible());
+    QVERIFY(notice->message().contains(QLatin1String("https://abissora.example/a?b=c&d=e")));
 }
 
 void tst_HelpPage::hostileLinksAreText()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Alert.h"
 #include "ClippedTexts.h"
 #include "EquipmentTypeManagementView.h"
 #include "HelpSheet.h"
@@ -110,6 +111,17 @@ private Q_SLOTS:
         ShownSettings s(f);
         s.click("website");
         QCOMPARE(f.opener.opened(), QList<QUrl>({QUrl(QStringLiteral("https://abissora.example/"))}));
+    }
+
+    void saysWhenNothingOpensTheWebsite()
+    {
+        ScreenFixture f;
+        f.opener.succeed(false);
+        ShownSettings s(f);
+        s.click("website");
+        const auto* notice = s.sheet<Alert>();
+        QVERIFY(notice != nullptr);
+        QVERIFY(notice->message().endsWith(QStringLiteral("\nhttps://abissora.example/")));
     }
 
     void sheetsOpenAndGiveTheFocusBack()
