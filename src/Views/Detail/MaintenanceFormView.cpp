@@ -9,13 +9,13 @@
 #include "GroupBox.h"
 #include "IconView.h"
 #include "Metrics.h"
+#include "NotesField.h"
 #include "SymbolIcon.h"
 #include "ToggleSwitch.h"
 #include "WrapLabel.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QPlainTextEdit>
 #include <limits>
 
 namespace abissora {
@@ -36,12 +36,6 @@ Maintenance newRecord(const AppContext& context)
     return record;
 }
 
-/// A field shows some characters as others: what nobody touched is given back as it was.
-QString textOf(const QLineEdit& field, const QString& original)
-{
-    return field.isModified() ? field.text() : original;
-}
-
 } // namespace
 
 MaintenanceFormView::MaintenanceFormView(const AppContext& context, const QUuid& equipmentId,
@@ -60,7 +54,7 @@ MaintenanceFormView::MaintenanceFormView(const AppContext& context, const QUuid&
     , m_receipt(new DocumentField(DocumentSlot::Receipt, context.documents, context.opener))
     , m_certificate(new DocumentField(DocumentSlot::Certificate, context.documents, context.opener))
     , m_next(new DateField(context.calendar))
-    , m_notes(new QPlainTextEdit)
+    , m_notes(new NotesField(notesHeight))
 {
     setObjectName(QStringLiteral("maintenanceForm"));
     setPrimaryText(QStringLiteral("Salva"));
@@ -158,9 +152,6 @@ QWidget* MaintenanceFormView::makeNextService()
 QWidget* MaintenanceFormView::makeNotes()
 {
     m_notes->setObjectName(QStringLiteral("notes"));
-    m_notes->setAccessibleName(QStringLiteral("Note"));
-    m_notes->setTabChangesFocus(true);
-    m_notes->setFixedHeight(withText(notesHeight, fontMetrics()));
     auto* group = new GroupBox(QStringLiteral("Note"));
     group->content()->addWidget(m_notes);
     return group;
@@ -177,7 +168,7 @@ void MaintenanceFormView::showRecord()
     m_receipt->setFileName(m_original.receiptFileName);
     m_certificate->setFileName(m_original.certificateFileName);
     m_next->setInstant(m_original.nextServiceDate);
-    m_notes->setPlainText(m_original.notes);
+    m_notes->setNotes(m_original.notes);
     primaryButton()->setEnabled(!m_original.description.isEmpty());
 }
 
@@ -230,15 +221,14 @@ Maintenance MaintenanceFormView::record()
         record.id = m_context.ids.next();
     record.date = m_date->instant();
     record.type = static_cast<MaintenanceType>(m_type->currentData().toInt());
-    record.description = textOf(*m_description, m_original.description);
-    record.performedBy = textOf(*m_performedBy, m_original.performedBy);
+    record.description = m_description->text();
+    record.performedBy = m_performedBy->text();
     record.cost = m_cost->cost().value_or(m_original.cost);
     record.isCompleted = m_completed->isChecked();
     record.receiptFileName = m_receipt->fileName();
     record.certificateFileName = m_certificate->fileName();
     record.nextServiceDate = m_next->instant();
-    if (m_notes->document()->isModified())
-        record.notes = m_notes->toPlainText();
+    record.notes = m_notes->notes();
     return record;
 }
 

@@ -6,7 +6,6 @@
 
 class QComboBox;
 class QLineEdit;
-class QPlainTextEdit;
 
 namespace abissora {
 
@@ -14,6 +13,7 @@ class CheckedField;
 class CostField;
 class DateField;
 class DocumentField;
+class NotesField;
 class ToggleSwitch;
 
 /// Enters a new maintenance record of an item, or edits one. The next service date follows the maintenance date until
@@ -61,7 +61,7 @@ private:
     DocumentField* m_receipt;
     DocumentField* m_certificate;
     DateField* m_next;
-    QPlainTextEdit* m_notes;
+    NotesField* m_notes;
 };
 
 } // namespace abissora

@@ -8,12 +8,12 @@
 #include "GroupBox.h"
 #include "InkLabel.h"
 #include "Metrics.h"
+#include "NotesField.h"
 #include "ToggleSwitch.h"
 #include "TypeChoice.h"
 #include "TypePicker.h"
 
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QVBoxLayout>
 #include <limits>
 
@@ -56,7 +56,7 @@ EquipmentForm::EquipmentForm(Purpose purpose, const QString& title, const AppCon
     , m_lastServiceDate(named(new DateField(context.calendar), "lastServiceDate"))
     , m_nextServiceDate(named(new InkLabel(TextStyle::Body, &Tokens::text), "nextServiceDate"))
     , m_isActive(named(new ToggleSwitch(QStringLiteral("Attivo")), "isActive"))
-    , m_notes(named(new QPlainTextEdit, "notes"))
+    , m_notes(named(new NotesField(notesHeight), "notes"))
     , m_incomplete(named(new InkLabel(TextStyle::Caption, &Tokens::danger), "incomplete"))
 {
     setPrimaryText(QStringLiteral("Salva"));
@@ -109,9 +109,6 @@ GroupBox* EquipmentForm::makeStateGroup()
 GroupBox* EquipmentForm::makeNotesGroup()
 {
     auto* group = new GroupBox(QStringLiteral("Note"));
-    m_notes->setAccessibleName(group->title());
-    m_notes->setTabChangesFocus(true);
-    m_notes->setFixedHeight(withText(notesHeight, fontMetrics()));
     group->content()->addWidget(m_notes);
     return group;
 }
@@ -134,7 +131,6 @@ void EquipmentForm::addFootnotes()
 void EquipmentForm::setState(const EquipmentFormState& state)
 {
     m_selectedTypeName = state.selectedTypeName;
-    m_givenNotes = state.notes;
     m_name->setText(state.name);
     m_brand->setText(state.brand);
     m_model->setText(state.model);
@@ -142,7 +138,7 @@ void EquipmentForm::setState(const EquipmentFormState& state)
     m_purchaseDate->setInstant(state.purchaseDate);
     m_lastServiceDate->setInstant(state.lastServiceDate);
     m_isActive->setChecked(state.isActive);
-    m_notes->setPlainText(state.notes);
+    m_notes->setNotes(state.notes);
 }
 
 void EquipmentForm::connectFields()
@@ -168,8 +164,7 @@ EquipmentFormState EquipmentForm::state() const
         .serialNumber = m_serialNumber->text(),
         .purchaseDate = m_purchaseDate->instant(),
         .lastServiceDate = m_lastServiceDate->instant(),
-        // The editor has its own idea of line ends and of spaces that do not break.
-        .notes = m_notes->document()->isModified() ? m_notes->toPlainText() : m_givenNotes,
+        .notes = m_notes->notes(),
         .isActive = m_isActive->isChecked(),
     };
 }

@@ -7,13 +7,13 @@
 
 class QLabel;
 class QLineEdit;
-class QPlainTextEdit;
 
 namespace abissora {
 
 class DateField;
 class FormRow;
 class GroupBox;
+class NotesField;
 class ToggleSwitch;
 class TypePicker;
 
@@ -54,7 +54,6 @@ private:
     AppContext m_context;
     Purpose m_purpose;
     QString m_selectedTypeName;
-    QString m_givenNotes;
 
     QLineEdit* m_name;
     TypePicker* m_type;
@@ -67,7 +66,7 @@ private:
     DateField* m_lastServiceDate;
     QLabel* m_nextServiceDate;
     ToggleSwitch* m_isActive;
-    QPlainTextEdit* m_notes;
+    NotesField* m_notes;
     QLabel* m_incomplete;
 };
 

@@ -193,7 +193,7 @@ private Q_SLOTS:
     void untouchedRecordComesBackBitForBit()
     {
         ScreenFixture f;
-        Maintenance record = makeRecord(f, 1, 30, QStringLiteral("a\u00a0b\tc"));
+        Maintenance record = makeRecord(f, 1, 30, QStringLiteral("a\u00a0b\tc\nd\u2028e"));
         record.type = MaintenanceType::cleaning;
         record.cost = 0.1 + 0.2;
         record.notes = QStringLiteral("uno\r\ndue\u00a0tre");
@@ -233,6 +233,24 @@ private Q_SLOTS:
         QCOMPARE(s.f.context.dates.dayAndTime(saved.date), QStringLiteral("01/06/2026 12:00"));
         QCOMPARE(s.f.context.dates.dayAndTime(saved.nextServiceDate), QStringLiteral("01/06/2027 12:00"));
         QCOMPARE(s.f.equipment.equipment().last().nextServiceDate, saved.nextServiceDate);
+    }
+
+    void whatAScreenReaderPutsInIsSaved()
+    {
+        Shown s;
+        const auto putIn = [&s](const char* name, const QString& text) {
+            QAccessible::queryAccessibleInterface(&s.field<QWidget>(name))->setText(QAccessible::Value, text);
+        };
+        putIn("description", QStringLiteral("Revisione"));
+        putIn("performedBy", QStringLiteral("Blu Service"));
+        putIn("cost", QStringLiteral("45,50"));
+        putIn("notes", QStringLiteral("nota"));
+        s.save();
+        const Maintenance saved = s.history().value(0);
+        QCOMPARE(saved.description, QStringLiteral("Revisione"));
+        QCOMPARE(saved.performedBy, QStringLiteral("Blu Service"));
+        QCOMPARE(saved.cost, 45.5);
+        QCOMPARE(saved.notes, QStringLiteral("nota"));
     }
 
     void dateStillBeingTypedIsSaved()

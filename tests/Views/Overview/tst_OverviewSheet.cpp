@@ -146,11 +146,11 @@ private Q_SLOTS:
         settleLayouts();
         auto& form = openDialog<MaintenanceFormView>(s.sheet());
         part<QLineEdit>(form, QStringLiteral("description")).setText(QStringLiteral("Batteria"));
-        Q_EMIT part<QLineEdit>(form, QStringLiteral("description")).textEdited(QStringLiteral("Batteria"));
         click(form, QStringLiteral("primary"));
         settleLayouts();
         QCOMPARE(rowTexts(s.dueList()), QStringList(QStringLiteral("GAV Scubapro Hydros, Scaduto da 30 giorni")));
         QCOMPARE(s.sheet().detail().equipment().maintenanceHistory.size(), 1);
+        QCOMPARE(s.sheet().detail().equipment().maintenanceHistory.first().description, QStringLiteral("Batteria"));
         QTest::keyClick(&s.sheet(), Qt::Key_Escape);
         settleLayouts();
         QVERIFY(!s.view().selectedEquipment());

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "NotesField.h"
+
+#include "TypeScale.h"
+
+namespace abissora {
+
+NotesField::NotesField(int height, QWidget* parent)
+    : QPlainTextEdit(parent)
+{
+    setAccessibleName(QStringLiteral("Note"));
+    setTabChangesFocus(true);
+    setFixedHeight(withText(height, fontMetrics()));
+}
+
+void NotesField::setNotes(const QString& notes)
+{
+    m_given = notes;
+    setPlainText(notes);
+    m_shown = toPlainText();
+}
+
+QString NotesField::notes() const
+{
+    // Not whether the document is modified: a screen reader that puts in the whole text leaves it unmodified.
+    const QString text = toPlainText();
+    return text == m_shown ? m_given : text;
+}
+
+} // namespace abissora
