@@ -16,6 +16,7 @@ public:
     explicit DetailActions(QWidget* parent = nullptr);
 
     void setActive(bool active);
+    void focusAddMaintenance();
 
 Q_SIGNALS:
     void editClicked();
@@ -24,6 +25,7 @@ Q_SIGNALS:
     void deleteClicked();
 
 private:
+    LookButton* m_addMaintenance;
     LookButton* m_toggleActive;
 };
 

@@ -139,6 +139,8 @@ void EquipmentDetailView::redraw()
     m_technical->setLines(content.technicalDetails);
     m_notes->setText(content.notes);
     m_actions->setActive(content.isActive);
+    if (m_equipment.maintenanceHistory.isEmpty() && m_history->isAncestorOf(window()->focusWidget()))
+        m_actions->focusAddMaintenance();
     m_history->setHistory(m_equipment.maintenanceHistory);
 }
 

@@ -24,6 +24,8 @@ void MaintenanceHistory::setHistory(const QList<Maintenance>& history)
     const QList<Maintenance> records = newestFirst(history);
     while (m_entries.size() < records.size())
         addRow();
+    if (!records.isEmpty())
+        keepFocusAbove(records.size());
     while (m_entries.size() > records.size()) {
         // Later, not now: the change may come from a button of the very row.
         const Entry entry = m_entries.takeLast();
@@ -35,6 +37,15 @@ void MaintenanceHistory::setHistory(const QList<Maintenance>& history)
     for (qsizetype i = 0; i < records.size(); ++i)
         m_entries.at(i).row->setMaintenance(records.at(i));
     m_empty->setVisible(records.isEmpty());
+}
+
+void MaintenanceHistory::keepFocusAbove(qsizetype staying)
+{
+    const QWidget* const focused = window()->focusWidget();
+    const bool focusGoes = std::any_of(m_entries.cbegin() + staying, m_entries.cend(),
+                                       [focused](const Entry& entry) { return entry.row->isAncestorOf(focused); });
+    if (focusGoes)
+        m_entries.at(staying - 1).row->takeFocus();
 }
 
 void MaintenanceHistory::addRow()

@@ -17,6 +17,7 @@ class MaintenanceHistory : public GroupBox
 public:
     explicit MaintenanceHistory(const AppContext& context, QWidget* parent = nullptr);
 
+    /// A row that goes leaves the focus to the last one that stays; the last of all leaves it to whoever takes it.
     void setHistory(const QList<Maintenance>& history);
 
 Q_SIGNALS:
@@ -27,6 +28,7 @@ Q_SIGNALS:
 
 private:
     void addRow();
+    void keepFocusAbove(qsizetype staying);
 
     struct Entry
     {

@@ -40,6 +40,8 @@ MaintenanceRow::MaintenanceRow(const AppContext& context, QWidget* parent)
     , m_completedIcon(new IconView)
     , m_completed(new WrapLabel(TextStyle::Caption, &Tokens::ok, QStringLiteral("Manutenzione avvenuta")))
     , m_notCompleted(new WrapLabel(TextStyle::Caption, &Tokens::warning, QStringLiteral("Manutenzione non avvenuta")))
+    , m_edit(new IconButton(symbolIcon(QStringLiteral("pencil.circle.fill"), NamedColor::blue),
+                            QStringLiteral("Modifica")))
     , m_receipt(makeLink(DocumentSlot::Receipt))
     , m_certificate(makeLink(DocumentSlot::Certificate))
 {
@@ -85,16 +87,14 @@ void MaintenanceRow::build()
 
 QWidget* MaintenanceRow::makeButtons()
 {
-    auto* edit =
-        new IconButton(symbolIcon(QStringLiteral("pencil.circle.fill"), NamedColor::blue), QStringLiteral("Modifica"));
-    edit->setObjectName(QStringLiteral("editMaintenance"));
+    m_edit->setObjectName(QStringLiteral("editMaintenance"));
     auto* remove =
         new IconButton(symbolIcon(QStringLiteral("trash.circle.fill"), NamedColor::red), QStringLiteral("Elimina"));
     remove->setObjectName(QStringLiteral("deleteMaintenance"));
     auto* menu = new IconButton(symbolIcon(QStringLiteral("ellipsis.circle.fill"), NamedColor::secondary),
                                 QStringLiteral("Azioni"));
     menu->setObjectName(QStringLiteral("maintenanceMenu"));
-    connect(edit, &QAbstractButton::clicked, this, &MaintenanceRow::editRequested);
+    connect(m_edit, &QAbstractButton::clicked, this, &MaintenanceRow::editRequested);
     connect(remove, &QAbstractButton::clicked, this, &MaintenanceRow::deleteRequested);
     connect(menu, &QAbstractButton::clicked, this,
             [this, menu] { showMenu(menu->mapToGlobal(menu->rect().bottomLeft())); });
@@ -103,7 +103,7 @@ QWidget* MaintenanceRow::makeButtons()
     auto* layout = new QHBoxLayout(buttons);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    for (IconButton* button : {edit, remove, menu})
+    for (IconButton* button : {m_edit, remove, menu})
         layout->addWidget(button);
     return buttons;
 }
@@ -141,6 +141,11 @@ void MaintenanceRow::setMaintenance(const Maintenance& maintenance)
     m_notCompleted->setVisible(!done);
     m_receipt->setFileName(maintenance.receiptFileName);
     m_certificate->setFileName(maintenance.certificateFileName);
+}
+
+void MaintenanceRow::takeFocus()
+{
+    m_edit->setFocus(Qt::OtherFocusReason);
 }
 
 void MaintenanceRow::contextMenuEvent(QContextMenuEvent* event)

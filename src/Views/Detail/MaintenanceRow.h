@@ -9,6 +9,7 @@
 namespace abissora {
 
 class DocumentLink;
+class IconButton;
 class IconTile;
 class IconView;
 class InkLabel;
@@ -24,6 +25,8 @@ public:
 
     void setMaintenance(const Maintenance& maintenance);
     [[nodiscard]] const Maintenance& maintenance() const { return m_maintenance; }
+    /// On the first of its buttons.
+    void takeFocus();
 
 Q_SIGNALS:
     /// The person changed the record here; maintenance() has the change.
@@ -50,6 +53,7 @@ private:
     IconView* m_completedIcon;
     WrapLabel* m_completed;
     WrapLabel* m_notCompleted;
+    IconButton* m_edit;
     DocumentLink* m_receipt;
     DocumentLink* m_certificate;
 };

@@ -215,6 +215,18 @@ private Q_SLOTS:
         QCOMPARE(s.descriptions(), QStringList());
     }
 
+    void theFocusStaysNearADeletedRecord()
+    {
+        Shown s(threeRecords());
+        for (int left = 2; left >= 0; --left) {
+            click(s.row(left), QStringLiteral("deleteMaintenance"));
+            click(openDialog<Alert>(*s.view), QStringLiteral("destructive"));
+            QWidget& next = left > 0 ? part(s.row(left - 1), QStringLiteral("editMaintenance"))
+                                     : part(*s.view, QStringLiteral("addMaintenance"));
+            QCOMPARE(s.view->focusWidget(), &next);
+        }
+    }
+
     void unknownRecord()
     {
         Shown s(threeRecords());
