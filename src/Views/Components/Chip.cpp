@@ -8,6 +8,7 @@
 #include "Painting.h"
 #include "SymbolIcon.h"
 #include "Tokens.h"
+#include "ToolTipText.h"
 #include "TypeScale.h"
 
 #include <QHBoxLayout>
@@ -69,7 +70,7 @@ void Chip::setIcon(const QIcon& icon)
 void Chip::setText(const QString& text)
 {
     m_text->setText(text);
-    m_text->setToolTip(text);
+    m_text->setToolTip(toolTipText(text));
     setAccessibleName(text);
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTableModel.h"
 
+#include "ToolTipText.h"
+
 namespace abissora {
 
 void EquipmentTableModel::setEquipment(const QList<Equipment>& equipment, EquipmentRowMaker rows)
@@ -40,8 +42,9 @@ QVariant EquipmentTableModel::data(const QModelIndex& index, int role) const
     if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
         return {};
     // Texts that a narrow column cuts off are read in full in the tool tip.
-    if (role == Qt::ToolTipRole && index.column() > ModelColumn)
-        return {};
+    if (role == Qt::ToolTipRole)
+        return index.column() <= ModelColumn ? QVariant(toolTipText(data(index, Qt::DisplayRole).toString()))
+                                             : QVariant();
     const EquipmentRow item = row(index.row());
     switch (index.column()) {
     case NameColumn:

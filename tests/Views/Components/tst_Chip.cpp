@@ -3,6 +3,7 @@
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
 
+#include <QLabel>
 #include <QSignalSpy>
 #include <QToolButton>
 
@@ -16,6 +17,7 @@ private Q_SLOTS:
     void theMarkClears();
     void theMarkIsReachedByTheKeyboard();
     void itIsNamedAfterItsText();
+    void itsToolTipTakesNothingForMarkup();
     void nothingIsClipped();
 };
 
@@ -52,6 +54,16 @@ void tst_Chip::itIsNamedAfterItsText()
     chip.setClearName(QStringLiteral("Mostra tutti"));
     QCOMPARE(nameOf(mark), QStringLiteral("Mostra tutti"));
     QCOMPARE(mark.toolTip(), QStringLiteral("Mostra tutti"));
+}
+
+void tst_Chip::itsToolTipTakesNothingForMarkup()
+{
+    Chip chip;
+    const auto* const text = chip.findChild<QLabel*>();
+    chip.setText(QStringLiteral("Filtro: <b>GAV</b>"));
+    QCOMPARE(text->toolTip(), QStringLiteral("<p>Filtro: &lt;b&gt;GAV&lt;/b&gt;</p>"));
+    chip.setText(QStringLiteral("Filtro: A & B < C"));
+    QCOMPARE(text->toolTip(), QStringLiteral("Filtro: A & B < C"));
 }
 
 void tst_Chip::nothingIsClipped()
