@@ -66,11 +66,6 @@ QString Alert::message() const
     return m_message->text();
 }
 
-void Alert::setDestructiveText(const QString& text)
-{
-    m_destructive->setText(text);
-}
-
 void Alert::makeNotice(const QString& buttonText)
 {
     m_destructive->hide();

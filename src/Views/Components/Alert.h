@@ -21,7 +21,6 @@ public:
     void setTitle(const QString& title);
     void setMessage(const QString& message);
     [[nodiscard]] QString message() const;
-    void setDestructiveText(const QString& text);
     void makeNotice(const QString& buttonText = QStringLiteral("OK"));
 
     [[nodiscard]] PlainButton* safeButton() const { return m_safe; }

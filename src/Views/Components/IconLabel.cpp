@@ -11,7 +11,6 @@ namespace abissora {
 IconLabel::IconLabel(const QIcon& icon, const QString& text, QWidget* parent)
     : QLabel(text, parent)
     , m_icon(icon)
-    , m_side(metrics::iconSize)
 {
     setTextFormat(Qt::PlainText);
     makeRoom();
@@ -24,20 +23,14 @@ void IconLabel::setIcon(const QIcon& icon)
     update();
 }
 
-void IconLabel::setIconSide(int side)
-{
-    m_side = side;
-    makeRoom();
-}
-
 void IconLabel::makeRoom()
 {
-    const int room = m_icon.isNull() ? 0 : m_side + metrics::spaceXS + 2;
+    const int room = m_icon.isNull() ? 0 : metrics::iconSize + metrics::spaceXS + 2;
     if (isRightToLeft())
         setContentsMargins(0, 0, room, 0);
     else
         setContentsMargins(room, 0, 0, 0);
-    setMinimumHeight(m_icon.isNull() ? 0 : m_side);
+    setMinimumHeight(m_icon.isNull() ? 0 : metrics::iconSize);
 }
 
 void IconLabel::paintEvent(QPaintEvent* event)
@@ -46,7 +39,7 @@ void IconLabel::paintEvent(QPaintEvent* event)
     if (m_icon.isNull())
         return;
     QPainter painter(this);
-    const QRect place(0, (height() - m_side) / 2, m_side, m_side);
+    const QRect place(0, (height() - metrics::iconSize) / 2, metrics::iconSize, metrics::iconSize);
     m_icon.paint(&painter, QStyle::visualRect(layoutDirection(), rect(), place), Qt::AlignCenter,
                  isEnabled() ? QIcon::Normal : QIcon::Disabled);
 }

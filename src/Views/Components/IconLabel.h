@@ -15,7 +15,6 @@ public:
     explicit IconLabel(const QIcon& icon = {}, const QString& text = {}, QWidget* parent = nullptr);
 
     void setIcon(const QIcon& icon);
-    void setIconSide(int side);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -24,7 +23,6 @@ private:
     void makeRoom();
 
     QIcon m_icon;
-    int m_side;
 };
 
 } // namespace abissora
