@@ -49,9 +49,12 @@ UpdateChecker::UpdateChecker(HttpClient& http, const AppInfo& info, const Produc
 
 QCoro::Task<UpdateCheckResult> UpdateChecker::checkForUpdates() const
 {
+    const std::weak_ptr<const bool> alive = m_alive;
     const HttpResult answer = co_await m_http.get(m_product.manifestURL);
     if (!answer)
         co_return tl::unexpected(UpdateCheckFailure(answer.error()));
+    if (alive.expired())
+        co_return tl::unexpected(UpdateCheckFailure(HttpError{HttpError::Kind::Cancelled, {}}));
     co_return judge(*answer);
 }
 

@@ -6,6 +6,7 @@
 #include "UpdateCheckError.h"
 #include "UpdateInfo.h"
 
+#include <memory>
 #include <variant>
 
 namespace abissora {
@@ -19,9 +20,10 @@ using UpdateCheckResult = tl::expected<std::optional<UpdateInfo>, UpdateCheckFai
 class UpdateChecker
 {
 public:
-    /// Everything passed by reference must outlive it, and it must outlive the answer to a request.
+    /// Everything passed by reference must outlive it.
     UpdateChecker(HttpClient& http, const AppInfo& info, const Product& product);
 
+    /// An answer that comes when the checker is gone counts as cancelled.
     [[nodiscard]] QCoro::Task<UpdateCheckResult> checkForUpdates() const;
 
     /// 1 when `a` is newer than `b`, -1 when older, 0 when equal. Pieces between dots that are no numbers do not count.
@@ -35,6 +37,7 @@ private:
     HttpClient& m_http;
     const AppInfo& m_info;
     const Product& m_product;
+    std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true); ///< dies with the checker
 };
 
 } // namespace abissora

@@ -182,6 +182,19 @@ private Q_SLOTS:
         QCOMPARE(running.http.requested().size(), 1);
     }
 
+    void mayGoBeforeTheAnswer()
+    {
+        test::ScriptedHttpClient http;
+        QCoro::Task<UpdateCheckResult> task;
+        {
+            Running running(QStringLiteral("1.2.0"), QStringLiteral("42"));
+            task = UpdateChecker(http, running.info, product).checkForUpdates();
+        }
+        http.answer(200, manifest("1.3.0", 57));
+        QCOMPARE(QCoro::waitFor(task),
+                 UpdateCheckResult(tl::unexpected(UpdateCheckFailure(HttpError{HttpError::Kind::Cancelled, {}}))));
+    }
+
     void answers_data()
     {
         QTest::addColumn<HttpResult>("answer");

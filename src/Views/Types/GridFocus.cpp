@@ -125,14 +125,14 @@ bool GridFocus::press(QAbstractButton* button, const QKeyEvent& key)
 
 bool GridFocus::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* const button = static_cast<QAbstractButton*>(watched);
     if (event->type() == QEvent::FocusIn) {
+        auto* const button = static_cast<QAbstractButton*>(watched);
         setCurrent(button);
         const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
         if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
             Q_EMIT entered(button);
-    } else if (event->type() == QEvent::KeyPress && button == m_current) {
-        return press(button, static_cast<const QKeyEvent&>(*event));
+    } else if (event->type() == QEvent::KeyPress && watched == m_current) {
+        return press(m_current, static_cast<const QKeyEvent&>(*event));
     }
     return false;
 }
