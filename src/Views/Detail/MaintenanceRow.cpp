@@ -134,6 +134,11 @@ void MaintenanceRow::setMaintenance(const Maintenance& maintenance)
     m_description->setText(maintenance.description);
     m_dateAndPerformer->setText(QStringLiteral("%1 · Eseguito da: %2")
                                     .arg(m_context.dates.abbreviatedDate(maintenance.date), maintenance.performedBy));
+    // The buttons of all rows have the same names.
+    const QString which =
+        m_context.dates.abbreviatedDate(maintenance.date) + QStringLiteral(", ") + maintenance.description;
+    for (IconButton* button : findChildren<IconButton*>())
+        button->setAccessibleDescription(which);
     const bool done = maintenance.isCompleted.value_or(true);
     m_completedIcon->setIcon(done ? symbolIcon(QStringLiteral("checkmark.seal.fill"), NamedColor::green)
                                   : symbolIcon(QStringLiteral("exclamationmark.circle"), NamedColor::orange));

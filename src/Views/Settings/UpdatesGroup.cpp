@@ -42,8 +42,9 @@ UpdatesGroup::UpdatesGroup(SettingsViewModel& settings, UpdateCheckerViewModel& 
 QCoro::Task<> UpdatesGroup::checkForUpdatesNow()
 {
     const QPointer<UpdatesGroup> alive(this);
+    const int visit = m_visit;
     const std::optional<UpdateInfo> update = co_await m_updates.checkForUpdates();
-    if (!alive)
+    if (!alive || visit != m_visit)
         co_return;
     if (update) {
         setFeedback(QStringLiteral("Versione ") + shownRelease(*update) + QStringLiteral(" disponibile"), false);
@@ -56,6 +57,7 @@ QCoro::Task<> UpdatesGroup::checkForUpdatesNow()
 
 void UpdatesGroup::forgetFeedback()
 {
+    ++m_visit;
     setFeedback(std::nullopt, false);
 }
 

@@ -22,7 +22,7 @@ public:
     [[nodiscard]] const std::optional<QString>& checkFeedback() const { return m_checkFeedback; }
     [[nodiscard]] bool feedbackIsError() const { return m_feedbackIsError; }
 
-    /// A check that ends after the group is gone says nothing.
+    /// A check that ends after the group is gone, or after forgetFeedback(), says nothing.
     QCoro::Task<> checkForUpdatesNow();
     void forgetFeedback();
 
@@ -35,6 +35,7 @@ private:
     IconLabel* m_feedback;
     std::optional<QString> m_checkFeedback;
     bool m_feedbackIsError = false;
+    int m_visit = 0;
 };
 
 } // namespace abissora

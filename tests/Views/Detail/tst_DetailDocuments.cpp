@@ -55,6 +55,17 @@ class tst_DetailDocuments : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void aRowsButtonsSayWhichRecordTheyMean()
+    {
+        ScreenFixture f;
+        MaintenanceRow row(f.context);
+        row.setMaintenance(makeRecord(f, 1, 5, QStringLiteral("Revisione")));
+        const QAbstractButton* remove = row.findChild<QAbstractButton*>(QStringLiteral("deleteMaintenance"));
+        QCOMPARE(remove->accessibleDescription(), QStringLiteral("10 giu 2026, Revisione"));
+        row.setMaintenance(makeRecord(f, 2, 6, QStringLiteral("Lavaggio")));
+        QCOMPARE(remove->accessibleDescription(), QStringLiteral("9 giu 2026, Lavaggio"));
+    }
+
     void withoutDocuments()
     {
         Shown s;

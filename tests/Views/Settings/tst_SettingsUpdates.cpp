@@ -159,6 +159,22 @@ private Q_SLOTS:
         QVERIFY(!s.updates().checkFeedback());
     }
 
+    void aCheckThatEndsAfterLeavingIsNotTold()
+    {
+        ScreenFixture f;
+        ShownSettings s(f);
+        s.click("checkForUpdates");
+        s.view->hide();
+        s.view->show();
+        QCOMPARE(s.button("checkForUpdates").text(), QStringLiteral("Verifica in corso…"));
+        f.http.answer(500, {});
+        QVERIFY(!s.updates().checkFeedback());
+        QVERIFY(!s.feedback().isVisible());
+        s.click("checkForUpdates");
+        f.http.answer(500, {});
+        QVERIFY(s.feedback().isVisible());
+    }
+
     void anOfferFoundBeforeIsShownOnComing()
     {
         ScreenFixture f;
