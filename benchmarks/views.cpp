@@ -55,15 +55,10 @@ void measureMainWindow(const Report& report, QApplication& application, test::Sc
     });
 
     auto& search = *window.findChild<QLineEdit*>(QStringLiteral("search"));
-    search.setText(QStringLiteral("e"));
-    report.measure("a letter typed into the search of 10,000 items, painted", 21, [&] {
-        Q_EMIT search.textEdited(search.text());
+    report.measure("a letter typed into the search of 10,000 items and deleted, both painted", 21, [&] {
+        search.setText(QStringLiteral("e"));
         settle();
-    });
-    fixture.equipment.setSearchText({});
-    settle();
-    report.measure("a search of 10,000 items cleared, painted", 21, [&] {
-        fixture.equipment.setSearchText({});
+        search.clear();
         settle();
     });
 }
