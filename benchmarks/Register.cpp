@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Register.h"
 
+#include "Literals.h"
+
 #include <random>
 
 namespace abissora::benchmark {
@@ -31,10 +33,10 @@ Maintenance maintenance(Random& random, Instant now, int n)
     record.id = id(random);
     record.date = instant(random, now);
     record.type = types.at(static_cast<std::size_t>(n) % types.size());
-    record.description = QStringLiteral("Revisione, prova a %1 bar").arg(n * 10);
-    record.performedBy = QStringLiteral("Officina Blu");
+    record.description = u"Revisione, prova a %1 bar"_s.arg(n * 10);
+    record.performedBy = u"Officina Blu"_s;
     record.cost = std::uniform_int_distribution(0, 40'000)(random) / 100.0;
-    record.notes = QStringLiteral("Ritirata.");
+    record.notes = u"Ritirata."_s;
     record.nextServiceDate = instant(random, now);
     record.isCompleted = n % 2 == 0;
     return record;
@@ -44,8 +46,7 @@ Maintenance maintenance(Random& random, Instant now, int n)
 
 QList<Equipment> registerOf(int count, Instant now)
 {
-    static const QStringList brands{QStringLiteral("Marevivo"), QStringLiteral("Nordsee"), QStringLiteral("Écume"),
-                                    QStringLiteral("Sette Mari")};
+    static const QStringList brands{u"Marevivo"_s, u"Nordsee"_s, u"Écume"_s, u"Sette Mari"_s};
     constexpr auto types = allCases<EquipmentType>();
     Random random(1); // the same register at every run
     QList<Equipment> equipment;
@@ -54,14 +55,14 @@ QList<Equipment> registerOf(int count, Instant now)
         Equipment item;
         item.id = id(random);
         item.type = types.at(static_cast<std::size_t>(i) % types.size());
-        item.name = rawValue(item.type) + QStringLiteral(" numero %1").arg(i);
+        item.name = rawValue(item.type) + u" numero %1"_s.arg(i);
         item.brand = brands.at(i % brands.size());
-        item.model = QStringLiteral("Modello %1").arg(i % 37);
-        item.serialNumber = QStringLiteral("AB-%1").arg(i, 8, 10, QLatin1Char('0'));
+        item.model = u"Modello %1"_s.arg(i % 37);
+        item.serialNumber = u"AB-%1"_s.arg(i, 8, 10, '0'_L1);
         item.purchaseDate = instant(random, now);
         item.lastServiceDate = instant(random, now);
         item.nextServiceDate = instant(random, now);
-        item.notes = QStringLiteral("Per acque fredde.");
+        item.notes = u"Per acque fredde."_s;
         item.isActive = i % 10 != 0;
         for (int n = 0; n < 4; ++n)
             item.maintenanceHistory.append(maintenance(random, now, n));

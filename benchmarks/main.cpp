@@ -4,6 +4,7 @@
 // compared. Build it with the preset "release".
 #include "DayWatch.h"
 #include "EquipmentViewModel.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "Register.h"
 #include "Report.h"
@@ -42,8 +43,8 @@ class Catalogue
 {
 public:
     Catalogue(const QList<Equipment>& equipment, const Clock& clock, const Calendar& calendar)
-        : m_preferences(m_folder.filePath(QStringLiteral("preferences")), m_folder.path(), clock)
-        , m_documents(m_folder.filePath(QStringLiteral("documents")), m_panel, m_ids, m_console)
+        : m_preferences(m_folder.filePath(u"preferences"_s), m_folder.path(), clock)
+        , m_documents(m_folder.filePath(u"documents"_s), m_panel, m_ids, m_console)
     {
         m_preferences.setData(StorageManager::equipmentKey, encode(equipment).value());
         m_viewModel.emplace(StorageManager(m_preferences, m_console, clock, calendar, m_ids), m_documents, m_console,
@@ -69,15 +70,15 @@ void measureLists(const Report& report, Catalogue& catalogue)
         report.measure(name, 51, [&] { sink = static_cast<std::size_t>(catalogue->filteredEquipment().size()); });
     };
     measure("filteredEquipment, 10,000 items, no filter");
-    catalogue->setFilterTypeName(QStringLiteral("GAV"));
+    catalogue->setFilterTypeName(u"GAV"_s);
     measure("filteredEquipment, 10,000 items, by type name");
     catalogue->setFilterTypeName({});
     catalogue->setSelectedType(EquipmentType::bcd);
     measure("filteredEquipment, 10,000 items, by built-in kind");
     catalogue->setSelectedType({});
-    catalogue->setSearchText(QStringLiteral("e"));
+    catalogue->setSearchText(u"e"_s);
     measure("filteredEquipment, 10,000 items, first letter of a search");
-    catalogue->setSearchText(QStringLiteral("è"));
+    catalogue->setSearchText(u"è"_s);
     measure("filteredEquipment, 10,000 items, search without a match");
     catalogue->setSearchText({});
     report.measure("overdueEquipment, 10,000 items", 51,

@@ -13,7 +13,7 @@ function(abissora_test_program name)
   endif()
   target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
   target_link_libraries(${target} PRIVATE abissora_options ${main} ${TESTS_LINK} Qt6::Test)
-  target_precompile_headers(${target} PRIVATE <QTest> <QSignalSpy> <QList> <QString> <QTimeZone> <memory> <optional>)
+  target_precompile_headers(${target} REUSE_FROM abissora_precompiled)
   foreach(class IN LISTS TESTS_CLASSES)
     add_test(NAME ${name}/${class} COMMAND ${target} ${class})
     set_tests_properties(${name}/${class} PROPERTIES ENVIRONMENT

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Display.h"
 
+#include "Literals.h"
+
 #include <QtGlobal>
 #include <cstdio>
 #include <cstdlib>
@@ -16,8 +18,8 @@ void handleMessage(QtMsgType type, const QMessageLogContext& /*context*/, const 
         std::_Exit(noDisplayStatus);
     }
     // What the toolkit says on its way there is no help to the person.
-    if (!message.contains(QLatin1String("qt.qpa")) && !message.contains(QLatin1String("platform plugin")) &&
-        !message.contains(QLatin1String("could not connect to display")))
+    if (!message.contains("qt.qpa"_L1) && !message.contains("platform plugin"_L1) &&
+        !message.contains("could not connect to display"_L1))
         std::fprintf(stderr, "%s\n", qUtf8Printable(message));
 }
 
@@ -27,7 +29,7 @@ bool hasDisplay(const QStringList& arguments)
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
     return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || arguments.contains(QLatin1String("-platform"));
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || arguments.contains("-platform"_L1);
 #else
     Q_UNUSED(arguments)
     return true;
@@ -41,8 +43,8 @@ void explainMissingDisplay()
 
 QString noDisplayText()
 {
-    return QStringLiteral("Abissora non trova uno schermo su cui aprire la finestra; con «--snapshot FILE» la disegna "
-                          "in un file PNG.\n");
+    return u"Abissora non trova uno schermo su cui aprire la finestra; con «--snapshot FILE» la disegna "
+           "in un file PNG.\n"_s;
 }
 
 } // namespace abissora

@@ -4,6 +4,7 @@
 #include "AtomicFile.h"
 #include "CommandLine.h"
 #include "Display.h"
+#include "Literals.h"
 #include "MainWindow.h"
 #include "MarevoloApp.h"
 #include "NetworkHttpClient.h"
@@ -27,7 +28,7 @@ void say(std::FILE* stream, const QString& text)
 
 int fail(const QString& sentence)
 {
-    say(stderr, sentence + QLatin1Char('\n'));
+    say(stderr, sentence + u'\n');
     return EXIT_FAILURE;
 }
 
@@ -77,8 +78,7 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
     const ApplicationDirectories directories = directoriesFor(commandLine);
     SingleInstance instance(directories.root());
     if (!instance.acquire()) {
-        say(stderr,
-            QStringLiteral("Abissora è già aperta su questo registro: la sua finestra passa in primo piano.\n"));
+        say(stderr, u"Abissora è già aperta su questo registro: la sua finestra passa in primo piano.\n"_s);
         return commandLine.snapshot.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
     }
 
@@ -94,7 +94,7 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
     Snapshot snapshot(app.mainWindow(), commandLine.snapshot);
     QObject::connect(&snapshot, &Snapshot::taken, &application, &QApplication::quit);
     QObject::connect(&snapshot, &Snapshot::failed, &application, [&](const QString& reason) {
-        QApplication::exit(fail(QStringLiteral("Impossibile scrivere «%1»: %2").arg(commandLine.snapshot, reason)));
+        QApplication::exit(fail(u"Impossibile scrivere «%1»: %2"_s.arg(commandLine.snapshot, reason)));
     });
     // Only drawn: no check for updates begins.
     app.mainWindow().show();
@@ -114,7 +114,7 @@ int runProgram(int argc, char** argv, const Product& product)
         return EXIT_SUCCESS;
     if (!hasDisplay(arguments)) {
         const bool drawsToFile = std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
-            return argument.startsWith(QLatin1String("--snapshot"));
+            return argument.startsWith("--snapshot"_L1);
         });
         if (!drawsToFile) {
             say(stderr, noDisplayText());
@@ -123,18 +123,18 @@ int runProgram(int argc, char** argv, const Product& product)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
 
-    QCoreApplication::setApplicationName(QStringLiteral("abissora"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("abissora"));
+    QCoreApplication::setApplicationName(u"abissora"_s);
+    QGuiApplication::setDesktopFileName(u"abissora"_s);
     explainMissingDisplay();
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
     QTranslator translator;
-    if (translator.load(QStringLiteral("qtbase_it"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    if (translator.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&translator);
 
     const auto commandLine = CommandLine::parse(QCoreApplication::arguments().mid(1));
     if (!commandLine)
-        return fail(commandLine.error() + QStringLiteral(" Con «--help» l'elenco delle opzioni."));
+        return fail(commandLine.error() + u" Con «--help» l'elenco delle opzioni."_s);
     if (answered(commandLine->help, commandLine->version)) // "-hv"
         return EXIT_SUCCESS;
 

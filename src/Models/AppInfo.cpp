@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "AppInfo.h"
 
+#include "Literals.h"
+
 #include <QFileInfo>
 
 namespace abissora {
 
 namespace {
 
-const QString missing = QStringLiteral("—");
+const QString missing = u"—"_s;
 
 } // namespace
 
@@ -19,12 +21,12 @@ AppInfo::AppInfo(const PackageInformation& package, const Clock& clock, Calendar
 
 QString AppInfo::version() const
 {
-    return text(QStringLiteral("CFBundleShortVersionString"));
+    return text(u"CFBundleShortVersionString"_s);
 }
 
 QString AppInfo::build() const
 {
-    return text(QStringLiteral("CFBundleVersion"));
+    return text(u"CFBundleVersion"_s);
 }
 
 QString AppInfo::year() const

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Product.h"
 
+#include "Literals.h"
+
 namespace abissora {
 
 namespace {
@@ -8,7 +10,7 @@ namespace {
 QUrl webAddress(const QString& text)
 {
     QUrl address(text, QUrl::StrictMode);
-    if (!address.isValid() || address.scheme() != QLatin1String("https") || address.host().isEmpty())
+    if (!address.isValid() || address.scheme() != "https"_L1 || address.host().isEmpty())
         qFatal("\"%s\" is no address of a website; the build chooses it", qPrintable(text));
     return address;
 }

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "UpdateCheckError.h"
 
+#include "Literals.h"
+
 namespace abissora {
 
 QString UpdateCheckError::errorDescription() const
 {
     switch (which) {
     case Case::network:
-        return QStringLiteral("Impossibile contattare il sito. Controlla la connessione.");
+        return u"Impossibile contattare il sito. Controlla la connessione."_s;
     case Case::invalidResponse:
-        return QStringLiteral("Il server non ha risposto correttamente.");
+        return u"Il server non ha risposto correttamente."_s;
     case Case::invalidManifest:
-        return QStringLiteral("Il file di aggiornamento sul sito non è valido.");
+        return u"Il file di aggiornamento sul sito non è valido."_s;
     }
     Q_UNREACHABLE();
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "UpdateInfo.h"
 
+#include "Literals.h"
+
 #include <QHashFunctions>
 
 namespace abissora {
@@ -15,12 +17,12 @@ std::optional<UpdateInfo> UpdateInfo::from(const UpdateManifest& manifest)
 
 QString UpdateInfo::id() const
 {
-    return version + QLatin1Char('-') + QString::number(build);
+    return version + u'-' + QString::number(build);
 }
 
 QString UpdateInfo::versionAndBuild() const
 {
-    return version + QStringLiteral(" (build ") + QString::number(build) + QLatin1Char(')');
+    return version + u" (build "_s + QString::number(build) + u')';
 }
 
 size_t qHash(const UpdateInfo& info, size_t seed) noexcept

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ApplicationDirectories.h"
 
+#include "Literals.h"
+
 #include <QDir>
 #include <QStandardPaths>
 
@@ -11,7 +13,7 @@ namespace {
 // The generic locations with our own folder: the application-specific ones would move with applicationName.
 QString perUserFolder(QStandardPaths::StandardLocation location)
 {
-    return QStandardPaths::writableLocation(location) + QLatin1String("/abissora");
+    return QStandardPaths::writableLocation(location) + "/abissora"_L1;
 }
 
 } // namespace
@@ -28,23 +30,23 @@ ApplicationDirectories ApplicationDirectories::standard()
 
 QString ApplicationDirectories::preferences() const
 {
-    return m_root + QLatin1String("/preferences");
+    return m_root + "/preferences"_L1;
 }
 
 QString ApplicationDirectories::maintenanceDocuments() const
 {
-    return m_root + QLatin1String("/MaintenanceDocuments");
+    return m_root + "/MaintenanceDocuments"_L1;
 }
 
 QString ApplicationDirectories::backups() const
 {
-    return m_root + QLatin1String("/backups");
+    return m_root + "/backups"_L1;
 }
 
 QString ApplicationDirectories::windowStateFile() const
 {
     const QString folder = m_own ? m_root : perUserFolder(QStandardPaths::GenericConfigLocation);
-    return folder + QLatin1String("/windowstate.ini");
+    return folder + "/windowstate.ini"_L1;
 }
 
 } // namespace abissora

@@ -37,7 +37,7 @@ IoResult<TemporaryFile> createTemporary(const QString& folder)
 {
     constexpr int attempts = 100;
     for (int i = 0; i < attempts; ++i) {
-        const QByteArray name = QFile::encodeName(folder + QLatin1Char('/') + temporaryName());
+        const QByteArray name = QFile::encodeName(folder + u'/' + temporaryName());
         auto created = posix::createFile(name);
         if (created)
             return TemporaryFile{name, *std::move(created)};

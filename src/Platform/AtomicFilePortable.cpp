@@ -62,7 +62,7 @@ IoResult<void> copy(const QString& source, const QString& target)
         return regular;
     if (QFileInfo::exists(target))
         return failure(EEXIST);
-    const QString temporary = QFileInfo(target).path() + QLatin1Char('/') + temporaryName();
+    const QString temporary = QFileInfo(target).path() + u'/' + temporaryName();
     QFile file(source);
     if (!file.copy(temporary)) {
         QFile::remove(temporary);

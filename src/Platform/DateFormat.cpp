@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DateFormat.h"
 
+#include "Literals.h"
+
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -15,12 +17,12 @@ struct Piece
     QString text;
     bool isField = false;
 
-    [[nodiscard]] bool isWeekday() const { return isField && text.startsWith(QLatin1String("ddd")); }
+    [[nodiscard]] bool isWeekday() const { return isField && text.startsWith("ddd"_L1); }
 };
 
 bool isFieldLetter(QChar c)
 {
-    return c == QLatin1Char('d') || c == QLatin1Char('M') || c == QLatin1Char('y');
+    return c == u'd' || c == u'M' || c == u'y';
 }
 
 std::vector<Piece> piecesOf(const QString& pattern)
@@ -28,7 +30,7 @@ std::vector<Piece> piecesOf(const QString& pattern)
     std::vector<Piece> pieces;
     bool quoted = false;
     for (const QChar c : pattern) {
-        if (c == QLatin1Char('\''))
+        if (c == u'\'')
             quoted = !quoted;
         const bool isField = !quoted && isFieldLetter(c);
         const bool continues =
@@ -51,7 +53,7 @@ QString withoutConnection(const QString& literal)
             break;
         }
     }
-    while (end > 0 && (literal[end - 1].isSpace() || literal[end - 1] == QLatin1Char('-')))
+    while (end > 0 && (literal[end - 1].isSpace() || literal[end - 1] == u'-'))
         --end;
     return literal.left(end);
 }
@@ -77,7 +79,7 @@ QString withShortMonth(const QString& pattern)
 {
     QString result;
     for (const Piece& piece : piecesOf(pattern))
-        result += piece.isField && piece.text == QLatin1String("MMMM") ? QStringLiteral("MMM") : piece.text;
+        result += piece.isField && piece.text == "MMMM"_L1 ? u"MMM"_s : piece.text;
     return result;
 }
 
@@ -114,12 +116,12 @@ QString DateFormat::abbreviatedDate(Instant instant) const
 
 QString DateFormat::year(Instant instant) const
 {
-    return italian().toString(m_calendar.local(instant).date(), QStringLiteral("yyyy"));
+    return italian().toString(m_calendar.local(instant).date(), u"yyyy"_s);
 }
 
 QString DateFormat::dayAndTime(Instant instant) const
 {
-    return italian().toString(m_calendar.local(instant), QStringLiteral("dd/MM/yyyy HH:mm"));
+    return italian().toString(m_calendar.local(instant), u"dd/MM/yyyy HH:mm"_s);
 }
 
 } // namespace abissora

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "HttpClientAnswer.h"
 
+#include "Literals.h"
+
 namespace abissora {
 
 void HttpClientAnswer::give(const HttpResult& result)
@@ -14,7 +16,7 @@ void HttpClientAnswer::give(const HttpResult& result)
 
 void HttpClientAnswer::cancel()
 {
-    give(tl::unexpected(HttpError{HttpError::Kind::Cancelled, QStringLiteral("The request was cancelled")}));
+    give(tl::unexpected(HttpError{HttpError::Kind::Cancelled, u"The request was cancelled"_s}));
 }
 
 } // namespace abissora

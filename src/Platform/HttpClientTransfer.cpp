@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "HttpClientTransfer.h"
 
+#include "Literals.h"
+
 namespace abissora {
 
 namespace {
@@ -31,7 +33,7 @@ HttpClientTransfer::HttpClientTransfer(QNetworkRequest request, const HttpLimits
     // The request's own time-out counts the silence only: a server that says a word now and then would never end.
     m_deadline.setSingleShot(true);
     connect(&m_deadline, &QTimer::timeout, this, [this] {
-        finish(tl::unexpected(HttpError{HttpError::Kind::TimedOut, QStringLiteral("The request took too long")}));
+        finish(tl::unexpected(HttpError{HttpError::Kind::TimedOut, u"The request took too long"_s}));
     });
     m_deadline.start(limits.time);
 }
@@ -56,7 +58,7 @@ void HttpClientTransfer::handleFinished()
     if (status() == 0 || !isAnswer(error))
         finish(tl::unexpected(HttpError{HttpError::Kind::Transfer, m_reply->errorString()}));
     else if (isSuccess(status()) && isCutShort())
-        finish(tl::unexpected(HttpError{HttpError::Kind::Transfer, QStringLiteral("The answer is incomplete")}));
+        finish(tl::unexpected(HttpError{HttpError::Kind::Transfer, u"The answer is incomplete"_s}));
     else if (error != QNetworkReply::NoError && isSuccess(status())) // packed in a way that cannot be unpacked
         finish(HttpResponse{status(), std::nullopt});
     else

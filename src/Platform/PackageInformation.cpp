@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "PackageInformation.h"
 
+#include "Literals.h"
+
 #include <QCoreApplication>
 
 namespace abissora {
 
 QVariant BuiltInPackageInformation::value(const QString& key) const
 {
-    if (key == QLatin1String("CFBundleShortVersionString"))
+    if (key == "CFBundleShortVersionString"_L1)
         return QStringLiteral(ABISSORA_VERSION);
-    if (key == QLatin1String("CFBundleVersion"))
+    if (key == "CFBundleVersion"_L1)
         return QStringLiteral(ABISSORA_BUILD);
     return {};
 }

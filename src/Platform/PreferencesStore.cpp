@@ -2,6 +2,7 @@
 #include "PreferencesStore.h"
 
 #include "AtomicFile.h"
+#include "Literals.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -79,7 +80,7 @@ PreferencesStore::PreferencesStore(QString folder, QString backupsFolder, const 
 
 QString PreferencesStore::path(const QString& key) const
 {
-    return m_folder + QLatin1Char('/') + key + QLatin1String(".json");
+    return m_folder + u'/' + key + ".json"_L1;
 }
 
 IoResult<std::optional<QByteArray>> PreferencesStore::data(const QString& key) const
@@ -169,19 +170,18 @@ IoResult<void> PreferencesStore::keepCopy(const QString& key) const
     const auto bytes = data(key);
     if (bytes && !*bytes)
         return {}; // nothing there
-    if (hasCopy(m_backupsFolder, key + QLatin1String("-*.json"), source, bytes.value_or(std::nullopt)))
+    if (hasCopy(m_backupsFolder, key + "-*.json"_L1, source, bytes.value_or(std::nullopt)))
         return {};
     if (auto made = AtomicFile::makeFolder(m_backupsFolder); !made)
         return made;
 
     const QDateTime now = QDateTime::fromMSecsSinceEpoch(m_clock.now().time_since_epoch().count(), Qt::UTC);
-    const QString stem =
-        m_backupsFolder + QLatin1Char('/') + key + QLatin1Char('-') + now.toString(QStringLiteral("yyyyMMddTHHmmssZ"));
+    const QString stem = m_backupsFolder + u'/' + key + u'-' + now.toString(u"yyyyMMddTHHmmssZ"_s);
     const IoError taken = IoError::fromErrno(EEXIST);
-    QString target = stem + QLatin1String(".json");
+    QString target = stem + ".json"_L1;
     auto copied = AtomicFile::copy(source, target);
     for (int n = 2; !copied && copied.error() == taken; ++n) {
-        target = stem + QStringLiteral("-%1.json").arg(n);
+        target = stem + u"-%1.json"_s.arg(n);
         copied = AtomicFile::copy(source, target);
     }
     // A second name needs no space and no readable bytes; replacing the file later leaves it alone.

@@ -2,6 +2,7 @@
 #include "TemporaryName.h"
 
 #include "AtomicFile.h"
+#include "Literals.h"
 
 #include <QDir>
 #include <QRandomGenerator>
@@ -11,14 +12,14 @@ namespace abissora::AtomicFile {
 QString temporaryName()
 {
     const quint64 digits = QRandomGenerator::global()->generate64();
-    return QStringLiteral(".abissora-%1.tmp").arg(digits, 16, 16, QLatin1Char('0'));
+    return u".abissora-%1.tmp"_s.arg(digits, 16, 16, '0'_L1);
 }
 
 void removeLeftovers(const QString& folder)
 {
     QDir dir(folder);
     const QStringList leftovers =
-        dir.entryList({QStringLiteral(".abissora-????????????????.tmp")}, QDir::Files | QDir::Hidden | QDir::System);
+        dir.entryList({u".abissora-????????????????.tmp"_s}, QDir::Files | QDir::Hidden | QDir::System);
     for (const QString& name : leftovers)
         dir.remove(name);
 }

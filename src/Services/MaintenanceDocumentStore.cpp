@@ -2,6 +2,7 @@
 #include "MaintenanceDocumentStore.h"
 
 #include "AtomicFile.h"
+#include "Literals.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,17 +14,17 @@ namespace {
 
 bool isPlainName(const QString& name)
 {
-    return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
-           !name.contains(QLatin1Char('/')) && !name.contains(QLatin1Char('\\')) && !name.contains(QChar(0));
+    return !name.isEmpty() && name != "."_L1 && name != ".."_L1 && !name.contains(u'/') && !name.contains(u'\\') &&
+           !name.contains(QChar(0));
 }
 
 /// What follows the last dot of the name, unless that dot begins it. A stored name must remain a plain name.
 QString extensionOf(const QString& path)
 {
     const QString name = QFileInfo(path).fileName();
-    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    const qsizetype dot = name.lastIndexOf(u'.');
     const QString extension = dot > 0 ? name.mid(dot + 1) : QString();
-    return isPlainName(extension) ? extension : QStringLiteral("pdf");
+    return isPlainName(extension) ? extension : u"pdf"_s;
 }
 
 class ScopedAccess
@@ -65,10 +66,10 @@ IoResult<QString> MaintenanceDocumentStore::documentsDirectory() const
 std::optional<QString> MaintenanceDocumentStore::pickPDFAndStore(const std::optional<QString>& current)
 {
     const auto source = m_panel.pickFile({
-        .title = QStringLiteral("Seleziona il documento PDF"),
-        .message = QStringLiteral("Scegli il PDF (scontrino o certificato) da allegare"),
-        .confirmLabel = QStringLiteral("Allega"),
-        .contentTypes = {QStringLiteral("application/pdf")},
+        .title = u"Seleziona il documento PDF"_s,
+        .message = u"Scegli il PDF (scontrino o certificato) da allegare"_s,
+        .confirmLabel = u"Allega"_s,
+        .contentTypes = {u"application/pdf"_s},
     });
     if (!source)
         return std::nullopt;
@@ -80,10 +81,10 @@ std::optional<QString> MaintenanceDocumentStore::pickPDFAndStore(const std::opti
 
 std::optional<QString> MaintenanceDocumentStore::store(const QString& source)
 {
-    const QString name = uuidText(m_ids.next()) + QLatin1Char('.') + extensionOf(source);
+    const QString name = uuidText(m_ids.next()) + u'.' + extensionOf(source);
     const auto copied = copyInto(name, source);
     if (!copied) {
-        m_console.print(QStringLiteral("Errore salvataggio documento: ") + copied.error().reason);
+        m_console.print(u"Errore salvataggio documento: "_s + copied.error().reason);
         return std::nullopt;
     }
     return name;
@@ -93,7 +94,7 @@ IoResult<void> MaintenanceDocumentStore::copyInto(const QString& name, const QSt
 {
     const ScopedAccess access(m_panel, source);
     return documentsDirectory().and_then(
-        [&](const QString& folder) { return AtomicFile::copy(source, folder + QLatin1Char('/') + name); });
+        [&](const QString& folder) { return AtomicFile::copy(source, folder + u'/' + name); });
 }
 
 std::optional<QString> MaintenanceDocumentStore::url(const QString& name) const
@@ -101,7 +102,7 @@ std::optional<QString> MaintenanceDocumentStore::url(const QString& name) const
     const auto folder = documentsDirectory();
     if (!folder || !isPlainName(name))
         return std::nullopt;
-    const QFileInfo file(*folder + QLatin1Char('/') + name);
+    const QFileInfo file(*folder + u'/' + name);
     if (!file.isFile() || QFileInfo(file.canonicalFilePath()).path() != QDir(*folder).canonicalPath())
         return std::nullopt;
     return file.filePath();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "SampleEquipment.h"
 
+#include "Literals.h"
+
 namespace abissora {
 
 QList<Equipment> sampleEquipment(Instant now, const Calendar& calendar, IdGenerator& ids)
@@ -11,39 +13,39 @@ QList<Equipment> sampleEquipment(Instant now, const Calendar& calendar, IdGenera
 
     Equipment regulator;
     regulator.id = ids.next();
-    regulator.name = QStringLiteral("Erogatore Apeks XTX50");
+    regulator.name = u"Erogatore Apeks XTX50"_s;
     regulator.type = EquipmentType::regulator;
-    regulator.brand = QStringLiteral("Apeks");
-    regulator.model = QStringLiteral("XTX50");
-    regulator.serialNumber = QStringLiteral("AP123456");
+    regulator.brand = u"Apeks"_s;
+    regulator.model = u"XTX50"_s;
+    regulator.serialNumber = u"AP123456"_s;
     regulator.purchaseDate = years(-2);
     regulator.lastServiceDate = years(-1);
     regulator.nextServiceDate = years(1);
-    regulator.notes = QStringLiteral("Ottimo erogatore per acque fredde. Utilizzato per immersioni in Italia.");
+    regulator.notes = u"Ottimo erogatore per acque fredde. Utilizzato per immersioni in Italia."_s;
 
     Equipment bcd;
     bcd.id = ids.next();
-    bcd.name = QStringLiteral("GAV Scubapro Hydros");
+    bcd.name = u"GAV Scubapro Hydros"_s;
     bcd.type = EquipmentType::bcd;
-    bcd.brand = QStringLiteral("Scubapro");
-    bcd.model = QStringLiteral("Hydros Pro");
-    bcd.serialNumber = QStringLiteral("SP789012");
+    bcd.brand = u"Scubapro"_s;
+    bcd.model = u"Hydros Pro"_s;
+    bcd.serialNumber = u"SP789012"_s;
     bcd.purchaseDate = years(-1);
     bcd.lastServiceDate = months(-6);
     bcd.nextServiceDate = months(1);
-    bcd.notes = QStringLiteral("GAV leggero e confortevole. Perfetto per viaggi.");
+    bcd.notes = u"GAV leggero e confortevole. Perfetto per viaggi."_s;
 
     Equipment computer;
     computer.id = ids.next();
-    computer.name = QStringLiteral("Computer Suunto EON Core");
+    computer.name = u"Computer Suunto EON Core"_s;
     computer.type = EquipmentType::computer;
-    computer.brand = QStringLiteral("Suunto");
-    computer.model = QStringLiteral("EON Core");
-    computer.serialNumber = QStringLiteral("SU456789");
+    computer.brand = u"Suunto"_s;
+    computer.model = u"EON Core"_s;
+    computer.serialNumber = u"SU456789"_s;
     computer.purchaseDate = years(-1);
     computer.lastServiceDate = months(-1);
     computer.nextServiceDate = now + fifteenDays;
-    computer.notes = QStringLiteral("Computer subacqueo con display a colori.");
+    computer.notes = u"Computer subacqueo con display a colori."_s;
 
     return {regulator, bcd, computer};
 }

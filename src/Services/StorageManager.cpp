@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "StorageManager.h"
 
+#include "Literals.h"
 #include "RecordJson.h"
 #include "SampleEquipment.h"
 
@@ -17,9 +18,7 @@ StorageManager::StorageManager(PreferencesStore& userDefaults, Console& console,
 
 void StorageManager::saveEquipment(const QList<Equipment>& equipment)
 {
-    const auto fail = [this](const QString& reason) {
-        m_console.print(QStringLiteral("Error saving equipment: ") + reason);
-    };
+    const auto fail = [this](const QString& reason) { m_console.print(u"Error saving equipment: "_s + reason); };
     const auto json = encode(equipment);
     if (!json)
         fail(json.error().description());
@@ -42,9 +41,9 @@ QList<Equipment> StorageManager::loadEquipment()
 
 QList<Equipment> StorageManager::giveUpLoading(const QString& reason)
 {
-    m_console.print(QStringLiteral("Error loading equipment: ") + reason);
+    m_console.print(u"Error loading equipment: "_s + reason);
     if (const auto kept = m_userDefaults.preserveUnreadable(equipmentKey); !kept)
-        m_console.print(QStringLiteral("Error saving equipment: ") + kept.error().reason);
+        m_console.print(u"Error saving equipment: "_s + kept.error().reason);
     return loadSampleEquipment();
 }
 

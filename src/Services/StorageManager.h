@@ -6,6 +6,7 @@
 #include "Console.h"
 #include "Equipment.h"
 #include "IdGenerator.h"
+#include "Literals.h"
 #include "PreferencesStore.h"
 
 namespace abissora {
@@ -14,7 +15,7 @@ namespace abissora {
 class StorageManager
 {
 public:
-    static inline const QString equipmentKey = QStringLiteral("savedEquipment");
+    static inline const QString equipmentKey = u"savedEquipment"_s;
 
     /// Everything passed by reference must outlive it.
     StorageManager(PreferencesStore& userDefaults, Console& console, const Clock& clock, Calendar calendar,

@@ -22,7 +22,7 @@ std::optional<std::int64_t> integerFromText(const QString& text)
     std::string digits = text.toStdString();
     if (digits.starts_with('+'))
         digits.erase(0, 1);
-    if (text.startsWith(QLatin1Char('+')) && digits.starts_with('-'))
+    if (text.startsWith(u'+') && digits.starts_with('-'))
         return std::nullopt;
     std::int64_t value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
@@ -32,7 +32,7 @@ std::optional<std::int64_t> integerFromText(const QString& text)
 QList<std::int64_t> numbersOf(const QString& version)
 {
     QList<std::int64_t> numbers;
-    for (const QString& piece : version.split(QLatin1Char('.'))) {
+    for (const QString& piece : version.split(u'.')) {
         if (const auto number = integerFromText(piece))
             numbers.append(*number);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentFilter.h"
 
+#include "Literals.h"
 #include "TextSearch.h"
 
 #include <numeric>
@@ -14,26 +15,26 @@ using Positions = std::vector<qsizetype>;
 
 void keepTypeName(const QString& name, const QList<Equipment>& catalogue, Positions& kept, QString& log)
 {
-    log += QStringLiteral("\n   ✅ Applico filtro per nome: '") + name + QLatin1Char('\'');
+    log += u"\n   ✅ Applico filtro per nome: '"_s + name + u'\'';
     std::erase_if(kept, [&](qsizetype at) {
         const Equipment& item = catalogue.at(at);
         const QString typeName = item.typeName();
         const bool match = typeName == name;
-        log += QStringLiteral("\n      - ") + item.name + QStringLiteral(": displayName='") + typeName +
-               QStringLiteral("' match=") + (match ? QStringLiteral("true") : QStringLiteral("false"));
+        log += u"\n      - "_s + item.name + u": displayName='"_s + typeName + u"' match="_s +
+               (match ? u"true"_s : u"false"_s);
         return !match;
     });
 }
 
 void keepType(EquipmentType type, const QList<Equipment>& catalogue, Positions& kept, QString& log)
 {
-    log += QStringLiteral("\n   ✅ Applico filtro per enum: ") + rawValue(type);
+    log += u"\n   ✅ Applico filtro per enum: "_s + rawValue(type);
     std::erase_if(kept, [&](qsizetype at) { return catalogue.at(at).type != type; });
 }
 
 void keepFound(const QString& searchText, const QList<Equipment>& catalogue, Positions& kept, QString& log)
 {
-    log += QStringLiteral("\n   ✅ Applico filtro ricerca: ") + searchText;
+    log += u"\n   ✅ Applico filtro ricerca: "_s + searchText;
     const TextSearch search(searchText);
     std::erase_if(kept, [&](qsizetype at) {
         const Equipment& item = catalogue.at(at);
@@ -45,17 +46,15 @@ void keepFound(const QString& searchText, const QList<Equipment>& catalogue, Pos
 
 QString orNil(const std::optional<QString>& text)
 {
-    return text ? *text : QStringLiteral("nil");
+    return text ? *text : u"nil"_s;
 }
 
 FilteredEquipment apply(const EquipmentFilter& filter, const QList<Equipment>& catalogue)
 {
     const QString total = QString::number(catalogue.size());
-    QString log = QStringLiteral("🔍 FILTRO ATTIVO:\n   filterTypeName: ") + orNil(filter.filterTypeName) +
-                  QStringLiteral("\n   selectedType: ") +
-                  (filter.selectedType ? rawValue(*filter.selectedType) : QStringLiteral("nil")) +
-                  QStringLiteral("\n   searchText: ") + filter.searchText + QStringLiteral("\n   Totale equipment: ") +
-                  total;
+    QString log = u"🔍 FILTRO ATTIVO:\n   filterTypeName: "_s + orNil(filter.filterTypeName) + u"\n   selectedType: "_s +
+                  (filter.selectedType ? rawValue(*filter.selectedType) : u"nil"_s) + u"\n   searchText: "_s +
+                  filter.searchText + u"\n   Totale equipment: "_s + total;
 
     Positions kept(static_cast<std::size_t>(catalogue.size()));
     std::iota(kept.begin(), kept.end(), qsizetype(0));
@@ -65,7 +64,7 @@ FilteredEquipment apply(const EquipmentFilter& filter, const QList<Equipment>& c
         keepType(*filter.selectedType, catalogue, kept, log);
     if (!filter.searchText.isEmpty())
         keepFound(filter.searchText, catalogue, kept, log);
-    log += QStringLiteral("\n   📊 Risultati: ") + QString::number(kept.size()) + QStringLiteral(" su ") + total;
+    log += u"\n   📊 Risultati: "_s + QString::number(kept.size()) + u" su "_s + total;
 
     std::stable_sort(kept.begin(), kept.end(), [&](qsizetype a, qsizetype b) {
         return catalogue.at(a).nextServiceDate < catalogue.at(b).nextServiceDate;

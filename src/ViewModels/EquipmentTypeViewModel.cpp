@@ -3,6 +3,7 @@
 
 #include "DefaultTypes.h"
 #include "IconMigration.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "TextSearch.h"
 
@@ -10,8 +11,8 @@ namespace abissora {
 
 namespace {
 
-const QString loadingFailed = QStringLiteral("Error loading types: ");
-const QString savingFailed = QStringLiteral("Error saving types: ");
+const QString loadingFailed = u"Error loading types: "_s;
+const QString savingFailed = u"Error saving types: "_s;
 
 } // namespace
 

@@ -5,6 +5,7 @@
 #include "EquipmentType.h"
 #include "EquipmentTypeModel.h"
 #include "IdGenerator.h"
+#include "Literals.h"
 #include "PreferencesStore.h"
 #include "SymbolLibrary.h"
 
@@ -20,8 +21,8 @@ class EquipmentTypeViewModel : public QObject
     Q_OBJECT
 
 public:
-    static inline const QString typesKey = QStringLiteral("equipmentTypes");
-    static inline const QString iconVersionKey = QStringLiteral("iconSetVersion");
+    static inline const QString typesKey = u"equipmentTypes"_s;
+    static inline const QString iconVersionKey = u"iconSetVersion"_s;
     static constexpr std::int64_t currentIconVersion = 4;
 
     /// Loads the types at once. Everything passed by reference must outlive it.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentViewModel.h"
 
+#include "Literals.h"
+
 namespace abissora {
 
 EquipmentViewModel::EquipmentViewModel(StorageManager storageManager, MaintenanceDocumentStore& documents,
@@ -22,10 +24,10 @@ EquipmentViewModel::EquipmentViewModel(StorageManager storageManager, Maintenanc
 void EquipmentViewModel::loadEquipment()
 {
     m_equipment = m_storageManager.loadEquipment();
-    QString log = QStringLiteral("📦 Caricati %1 equipaggiamenti").arg(m_equipment.size());
+    QString log = u"📦 Caricati %1 equipaggiamenti"_s.arg(m_equipment.size());
     for (const Equipment& item : std::as_const(m_equipment)) {
-        log += QStringLiteral("\n   📌 ") + item.name + QStringLiteral(": type='") + rawValue(item.type) +
-               QStringLiteral("', customType='") + orNil(item.customTypeName) + QLatin1Char('\'');
+        log += u"\n   📌 "_s + item.name + u": type='"_s + rawValue(item.type) + u"', customType='"_s +
+               orNil(item.customTypeName) + u'\'';
     }
     m_console.print(log);
     Q_EMIT equipmentChanged();
@@ -48,7 +50,7 @@ void EquipmentViewModel::addEquipment(const Equipment& equipment)
     const QString name = equipment.name; // the argument may be an element of the list
     m_equipment.append(equipment);
     saveAndNotify();
-    m_console.print(QStringLiteral("➕ Aggiunto equipaggiamento: ") + name);
+    m_console.print(u"➕ Aggiunto equipaggiamento: "_s + name);
 }
 
 void EquipmentViewModel::updateEquipment(const Equipment& equipment)
@@ -59,7 +61,7 @@ void EquipmentViewModel::updateEquipment(const Equipment& equipment)
     const QString name = equipment.name;
     *item = equipment;
     saveAndNotify();
-    m_console.print(QStringLiteral("✏️ Aggiornato equipaggiamento: ") + name);
+    m_console.print(u"✏️ Aggiornato equipaggiamento: "_s + name);
 }
 
 void EquipmentViewModel::deleteEquipment(const Equipment& equipment)
@@ -72,7 +74,7 @@ void EquipmentViewModel::deleteEquipment(const Equipment& equipment)
         deleteDocuments(maintenance);
     m_equipment.removeAt(item - m_equipment.constData());
     saveAndNotify();
-    m_console.print(QStringLiteral("🗑️ Eliminato equipaggiamento: ") + name);
+    m_console.print(u"🗑️ Eliminato equipaggiamento: "_s + name);
 }
 
 void EquipmentViewModel::addMaintenance(const QUuid& to, const Maintenance& maintenance)
@@ -131,14 +133,13 @@ void EquipmentViewModel::setSelectedType(std::optional<EquipmentType> type)
 void EquipmentViewModel::setFilterTypeName(const std::optional<QString>& name)
 {
     const auto old = std::exchange(m_filter.filterTypeName, name);
-    m_console.print(QStringLiteral("📌 filterTypeName cambiato da ") + orNil(old) + QStringLiteral(" a ") +
-                    orNil(m_filter.filterTypeName));
+    m_console.print(u"📌 filterTypeName cambiato da "_s + orNil(old) + u" a "_s + orNil(m_filter.filterTypeName));
     Q_EMIT filterTypeNameChanged();
 }
 
 void EquipmentViewModel::resetFilters()
 {
-    m_console.print(QStringLiteral("🔄 Reset filtri"));
+    m_console.print(u"🔄 Reset filtri"_s);
     setSearchText({});
     setSelectedType(std::nullopt);
     setFilterTypeName(std::nullopt);
@@ -147,11 +148,11 @@ void EquipmentViewModel::resetFilters()
 
 void EquipmentViewModel::filterByTypeName(const QString& name)
 {
-    m_console.print(QStringLiteral("🎯 FILTRO PER NOME: '") + name + QLatin1Char('\''));
+    m_console.print(u"🎯 FILTRO PER NOME: '"_s + name + u'\'');
     setSearchText({});
     setSelectedType(std::nullopt);
     setFilterTypeName(name);
-    m_console.print(QStringLiteral("   ✅ filterTypeName impostato a: '") + orNil(filterTypeName()) + QLatin1Char('\''));
+    m_console.print(u"   ✅ filterTypeName impostato a: '"_s + orNil(filterTypeName()) + u'\'');
 }
 
 QList<Equipment> EquipmentViewModel::filteredEquipment() const

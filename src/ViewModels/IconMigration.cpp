@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "IconMigration.h"
 
+#include "Literals.h"
+
 #include <array>
 
 namespace abissora {
@@ -62,7 +64,7 @@ std::optional<QString> successorOf(const QString& icon)
 
 bool isOwnPicture(const QString& icon)
 {
-    return icon.startsWith(QLatin1String("dive."));
+    return icon.startsWith("dive."_L1);
 }
 
 QString migrated(const EquipmentTypeModel& type, const QList<EquipmentTypeModel>& defaults,
@@ -75,7 +77,7 @@ QString migrated(const EquipmentTypeModel& type, const QList<EquipmentTypeModel>
     if (standard != defaults.end() && isOwnPicture(standard->icon))
         icon = standard->icon;
     if (!isOwnPicture(icon) && !symbols.contains(icon))
-        icon = QStringLiteral("questionmark.circle.fill");
+        icon = u"questionmark.circle.fill"_s;
     return icon;
 }
 

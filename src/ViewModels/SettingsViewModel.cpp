@@ -1,21 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsViewModel.h"
 
+#include "Literals.h"
+
 namespace abissora {
 
 namespace {
 
-const QString notificationsEnabledKey = QStringLiteral("notificationsEnabled");
-const QString reminderDaysKey = QStringLiteral("reminderDays");
-const QString defaultServiceIntervalKey = QStringLiteral("defaultServiceInterval");
-const QString currencySymbolKey = QStringLiteral("currencySymbol");
-const QString darkModeKey = QStringLiteral("darkMode");
-const QString checkForUpdatesOnLaunchKey = QStringLiteral("checkForUpdatesOnLaunch");
+const QString notificationsEnabledKey = u"notificationsEnabled"_s;
+const QString reminderDaysKey = u"reminderDays"_s;
+const QString defaultServiceIntervalKey = u"defaultServiceInterval"_s;
+const QString currencySymbolKey = u"currencySymbol"_s;
+const QString darkModeKey = u"darkMode"_s;
+const QString checkForUpdatesOnLaunchKey = u"checkForUpdatesOnLaunch"_s;
 
 const bool standardNotificationsEnabled = true;
 const std::int64_t standardReminderDays = 30;
 const std::int64_t standardServiceInterval = 365;
-const QString standardCurrencySymbol = QStringLiteral("€");
+const QString standardCurrencySymbol = u"€"_s;
 const bool standardDarkMode = false;
 const bool standardCheckForUpdatesOnLaunch = false;
 
@@ -112,7 +114,7 @@ void SettingsViewModel::resetToDefaults()
 void SettingsViewModel::report(const IoResult<void>& stored) const
 {
     if (!stored)
-        m_console.print(QStringLiteral("Error saving settings: ") + stored.error().reason);
+        m_console.print(u"Error saving settings: "_s + stored.error().reason);
 }
 
 } // namespace abissora

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "UpdateCheckerViewModel.h"
 
+#include "Literals.h"
+
 #include <QPointer>
 
 namespace abissora {
@@ -11,7 +13,7 @@ QString textFor(const UpdateCheckFailure& failure)
 {
     if (const auto* error = std::get_if<UpdateCheckError>(&failure))
         return error->errorDescription();
-    return QStringLiteral("Impossibile contattare il sito dell'applicazione.");
+    return u"Impossibile contattare il sito dell'applicazione."_s;
 }
 
 } // namespace

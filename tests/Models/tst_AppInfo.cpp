@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AppInfo.h"
 #include "Builders.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QFile>
@@ -12,9 +13,9 @@ using test::at;
 
 namespace {
 
-const QString missing = QStringLiteral("—");
-const QString versionKey = QStringLiteral("CFBundleShortVersionString");
-const QString buildKey = QStringLiteral("CFBundleVersion");
+const QString missing = u"—"_s;
+const QString versionKey = u"CFBundleShortVersionString"_s;
+const QString buildKey = u"CFBundleVersion"_s;
 
 } // namespace
 
@@ -32,13 +33,13 @@ private Q_SLOTS:
 
     void versionAndBuild()
     {
-        m_package.set(versionKey, QStringLiteral("1.2.0"));
-        m_package.set(buildKey, QStringLiteral("42"));
+        m_package.set(versionKey, u"1.2.0"_s);
+        m_package.set(buildKey, u"42"_s);
         const AppInfo info = appInfo();
-        QCOMPARE(info.version(), QStringLiteral("1.2.0"));
-        QCOMPARE(info.build(), QStringLiteral("42"));
-        m_package.set(versionKey, QStringLiteral(" 1.3 beta "));
-        QCOMPARE(info.version(), QStringLiteral(" 1.3 beta ")); // afresh, as it stands
+        QCOMPARE(info.version(), u"1.2.0"_s);
+        QCOMPARE(info.build(), u"42"_s);
+        m_package.set(versionKey, u" 1.3 beta "_s);
+        QCOMPARE(info.version(), u" 1.3 beta "_s); // afresh, as it stands
     }
 
     void whatIsNoTextIsMissing()
@@ -58,24 +59,24 @@ private Q_SLOTS:
     {
         const AppInfo info = appInfo();
         m_clock.set(at("2026-12-31T22:59:59Z"));
-        QCOMPARE(info.year(), QStringLiteral("2026"));
+        QCOMPARE(info.year(), u"2026"_s);
         m_clock.set(at("2026-12-31T23:00:00Z"));
-        QCOMPARE(info.year(), QStringLiteral("2027"));
+        QCOMPARE(info.year(), u"2027"_s);
         m_clock.set(at("0987-06-01T00:00:00Z"));
-        QCOMPARE(info.year(), QStringLiteral("0987"));
+        QCOMPARE(info.year(), u"0987"_s);
     }
 
     void theBuildDateIsTheExecutables()
     {
         const AppInfo info = appInfo();
-        QFile file(m_folder.filePath(QStringLiteral("program")));
+        QFile file(m_folder.filePath(u"program"_s));
         m_package.setExecutablePath(file.fileName());
         QCOMPARE(info.buildDate(), missing); // no such file
         QVERIFY(file.open(QIODevice::WriteOnly));
         setModified(file, "2025-03-05T08:07:59Z");
-        QCOMPARE(info.buildDate(), QStringLiteral("05/03/2025 09:07"));
+        QCOMPARE(info.buildDate(), u"05/03/2025 09:07"_s);
         setModified(file, "2025-07-03T16:45:00Z");
-        QCOMPARE(info.buildDate(), QStringLiteral("03/07/2025 18:45"));
+        QCOMPARE(info.buildDate(), u"03/07/2025 18:45"_s);
         m_package.setExecutablePath(std::nullopt);
         QCOMPARE(info.buildDate(), missing);
     }

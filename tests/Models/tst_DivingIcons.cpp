@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "DivingIcons.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QTest>
@@ -98,14 +99,8 @@ private Q_SLOTS:
     void sectionsOfThePicker()
     {
         const QList<std::pair<QString, qsizetype>> expected{
-            {QStringLiteral("Accessori"), 8},
-            {QStringLiteral("Altro"), 3},
-            {QStringLiteral("Attrezzatura Principale"), 8},
-            {QStringLiteral("Comunicazione"), 2},
-            {QStringLiteral("Manutenzione"), 6},
-            {QStringLiteral("Sicurezza"), 5},
-            {QStringLiteral("Tipi di Immersione"), 8},
-            {QStringLiteral("Varie"), 6},
+            {u"Accessori"_s, 8},    {u"Altro"_s, 3},     {u"Attrezzatura Principale"_s, 8}, {u"Comunicazione"_s, 2},
+            {u"Manutenzione"_s, 6}, {u"Sicurezza"_s, 5}, {u"Tipi di Immersione"_s, 8},      {u"Varie"_s, 6},
         };
         const auto sections = categorizedDivingIcons();
         QCOMPARE(sections.size(), expected.size());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Builders.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QTest>
@@ -20,13 +21,10 @@ private Q_SLOTS:
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("linked");
         using Name = std::optional<QString>;
-        QTest::newRow("built-in") << EquipmentType::drysuit << Name() << QStringLiteral("Muta Stagna")
-                                  << QStringLiteral("Muta Stagna");
-        QTest::newRow("empty") << EquipmentType::fins << Name(QString()) << QStringLiteral("Pinne") << QString();
-        QTest::newRow("own type") << EquipmentType::fins << Name(QStringLiteral("Torcia")) << QStringLiteral("Torcia")
-                                  << QStringLiteral("Torcia");
-        QTest::newRow("blank") << EquipmentType::fins << Name(QStringLiteral(" ")) << QStringLiteral(" ")
-                               << QStringLiteral(" ");
+        QTest::newRow("built-in") << EquipmentType::drysuit << Name() << u"Muta Stagna"_s << u"Muta Stagna"_s;
+        QTest::newRow("empty") << EquipmentType::fins << Name(QString()) << u"Pinne"_s << QString();
+        QTest::newRow("own type") << EquipmentType::fins << Name(u"Torcia"_s) << u"Torcia"_s << u"Torcia"_s;
+        QTest::newRow("blank") << EquipmentType::fins << Name(u" "_s) << u" "_s << u" "_s;
     }
 
     void shownTypeName()

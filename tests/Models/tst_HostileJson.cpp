@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Builders.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "TestRunner.h"
 
@@ -91,7 +92,7 @@ private Q_SLOTS:
         QFETCH(QString, error);
         const QString found = errorOf(json);
         QVERIFY2(found.contains(error), qPrintable(found));
-        QVERIFY2(!found.contains(QLatin1Char('\n')) && !found.startsWith(QLatin1Char('[')), qPrintable(found));
+        QVERIFY2(!found.contains(u'\n') && !found.startsWith(u'['), qPrintable(found));
         QVERIFY(found.size() <= 301);
     }
 
@@ -99,7 +100,7 @@ private Q_SLOTS:
     {
         const auto decoded = decodeEquipment(withName(R"("\uD83E\uDD3F \u0000")"));
         QVERIFY(decoded);
-        QCOMPARE(decoded->at(0).name, QStringLiteral("🤿 ") + QChar(0));
+        QCOMPARE(decoded->at(0).name, u"🤿 "_s + QChar(0));
     }
 
     void deepNesting_data()
@@ -108,22 +109,19 @@ private Q_SLOTS:
         QTest::addColumn<QString>("error");
         const QByteArray lists = times("[", deep) + times("]", deep);
         const QByteArray objects = times(R"({"a":)", deep) + "1" + times("}", deep);
-        QTest::newRow("lists") << lists << QStringLiteral("[0]: expected an object, found an array");
-        QTest::newRow("objects") << objects << QStringLiteral("expected an array, found an object");
-        QTest::newRow("never closed") << times("[", deep) << QStringLiteral("unexpected end of input");
-        QTest::newRow("objects never closed") << times(R"({"a":)", deep) << QStringLiteral("unexpected end of input");
-        QTest::newRow("closed wrongly") << times("[", deep) + "}" << QStringLiteral("unexpected '}'");
+        QTest::newRow("lists") << lists << u"[0]: expected an object, found an array"_s;
+        QTest::newRow("objects") << objects << u"expected an array, found an object"_s;
+        QTest::newRow("never closed") << times("[", deep) << u"unexpected end of input"_s;
+        QTest::newRow("objects never closed") << times(R"({"a":)", deep) << u"unexpected end of input"_s;
+        QTest::newRow("closed wrongly") << times("[", deep) + "}" << u"unexpected '}'"_s;
         QTest::newRow("unknown member") << valid().insert(2, R"("future":)" + lists + ',') << QString();
         QTest::newRow("unknown objects") << valid().insert(2, R"("future":)" + objects + ',') << QString();
-        QTest::newRow("text expected") << withName(lists)
-                                       << QStringLiteral("[0].name: expected a string, found an array");
+        QTest::newRow("text expected") << withName(lists) << u"[0].name: expected a string, found an array"_s;
         QTest::newRow("number expected") << valid().replace("120.5", objects)
-                                         << QStringLiteral(
-                                                "[0].maintenanceHistory[0].cost: expected a number, found an object");
+                                         << u"[0].maintenanceHistory[0].cost: expected a number, found an object"_s;
         QTest::newRow("record expected") << valid().replace(R"("maintenanceHistory":[)",
                                                             QByteArray(R"("maintenanceHistory":[)" + lists + ','))
-                                         << QStringLiteral(
-                                                "[0].maintenanceHistory[0]: expected an object, found an array");
+                                         << u"[0].maintenanceHistory[0]: expected an object, found an array"_s;
     }
 
     void deepNesting()
@@ -136,15 +134,15 @@ private Q_SLOTS:
 
     void manyBadElements()
     {
-        QCOMPARE(errorOf('[' + times("{},", 1'000'000) + "{}]"), QStringLiteral("[0].id: the member is missing"));
+        QCOMPARE(errorOf('[' + times("{},", 1'000'000) + "{}]"), u"[0].id: the member is missing"_s);
         QCOMPARE(errorOf('[' + valid().mid(1).chopped(1) + ',' + times("1,", 1'000'000) + "1]"),
-                 QStringLiteral("[1]: expected an object, found a number"));
+                 u"[1]: expected an object, found a number"_s);
     }
 
     void longTextsAreNotQuotedWhole()
     {
         const QString type = errorOf(valid().replace("\"GAV\"", QByteArray('"' + times("x", 100'000) + '"')));
-        QCOMPARE(type, QStringLiteral("[0].type: expected one of the known names, found a string"));
+        QCOMPARE(type, u"[0].type: expected one of the known names, found a string"_s);
         QVERIFY(errorOf('[' + times("x", 100'000) + ']').size() <= 301);
         QVERIFY(errorOf("[\"" + times("x", 100'000)).size() <= 301);
     }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "Product.h"
 #include "TestRunner.h"
 
@@ -17,10 +18,10 @@ private Q_SLOTS:
         QVERIFY(!product.author.isEmpty());
         for (const QUrl& address : {product.websiteURL, product.manifestURL}) {
             QVERIFY(address.isValid());
-            QCOMPARE(address.scheme(), QStringLiteral("https"));
+            QCOMPARE(address.scheme(), u"https"_s);
             QVERIFY(!address.host().isEmpty());
         }
-        QVERIFY(product.websiteURL.path().endsWith(QLatin1Char('/')));
+        QVERIFY(product.websiteURL.path().endsWith(u'/'));
     }
 };
 

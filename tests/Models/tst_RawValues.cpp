@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentType.h"
+#include "Literals.h"
 #include "MaintenanceType.h"
 #include "TestRunner.h"
 
@@ -28,26 +29,22 @@ private Q_SLOTS:
     void kindsOfEquipment()
     {
         const QStringList expected{
-            QStringLiteral("Erogatore"),   QStringLiteral("GAV"),
-            QStringLiteral("Bombola"),     QStringLiteral("Maschera"),
-            QStringLiteral("Pinne"),       QStringLiteral("Muta"),
-            QStringLiteral("Muta Stagna"), QStringLiteral("Computer Subacqueo"),
-            QStringLiteral("Altro"),
+            u"Erogatore"_s,          u"GAV"_s,   u"Bombola"_s, u"Maschera"_s, u"Pinne"_s, u"Muta"_s, u"Muta Stagna"_s,
+            u"Computer Subacqueo"_s, u"Altro"_s,
         };
         QCOMPARE(namesOf<EquipmentType>(), expected);
-        QCOMPARE(rawValue(EquipmentType::regulator), QStringLiteral("Erogatore"));
-        QCOMPARE(rawValue(EquipmentType::cylinder), QStringLiteral("Bombola"));
-        QCOMPARE(rawValue(EquipmentType::drysuit), QStringLiteral("Muta Stagna"));
-        QCOMPARE(rawValue(EquipmentType::other), QStringLiteral("Altro"));
+        QCOMPARE(rawValue(EquipmentType::regulator), u"Erogatore"_s);
+        QCOMPARE(rawValue(EquipmentType::cylinder), u"Bombola"_s);
+        QCOMPARE(rawValue(EquipmentType::drysuit), u"Muta Stagna"_s);
+        QCOMPARE(rawValue(EquipmentType::other), u"Altro"_s);
     }
 
     void kindsOfMaintenance()
     {
-        const QStringList expected{QStringLiteral("Manutenzione Annuale"), QStringLiteral("Riparazione"),
-                                   QStringLiteral("Test"), QStringLiteral("Pulizia"), QStringLiteral("Altro")};
+        const QStringList expected{u"Manutenzione Annuale"_s, u"Riparazione"_s, u"Test"_s, u"Pulizia"_s, u"Altro"_s};
         QCOMPARE(namesOf<MaintenanceType>(), expected);
-        QCOMPARE(rawValue(MaintenanceType::annual), QStringLiteral("Manutenzione Annuale"));
-        QCOMPARE(rawValue(MaintenanceType::cleaning), QStringLiteral("Pulizia"));
+        QCOMPARE(rawValue(MaintenanceType::annual), u"Manutenzione Annuale"_s);
+        QCOMPARE(rawValue(MaintenanceType::cleaning), u"Pulizia"_s);
     }
 
     void everyRawValueLeadsBack()
@@ -61,15 +58,15 @@ private Q_SLOTS:
     void onlyTheExactTextCounts_data()
     {
         QTest::addColumn<QString>("text");
-        QTest::newRow("lower case") << QStringLiteral("erogatore");
-        QTest::newRow("upper case") << QStringLiteral("EROGATORE");
-        QTest::newRow("accent") << QStringLiteral("Èrogatore");
-        QTest::newRow("space before") << QStringLiteral(" Erogatore");
-        QTest::newRow("space after") << QStringLiteral("Erogatore ");
-        QTest::newRow("beginning only") << QStringLiteral("Erog");
-        QTest::newRow("other enumeration") << QStringLiteral("Riparazione");
-        QTest::newRow("a user's type") << QStringLiteral("Torcia");
-        QTest::newRow("case name") << QStringLiteral("regulator");
+        QTest::newRow("lower case") << u"erogatore"_s;
+        QTest::newRow("upper case") << u"EROGATORE"_s;
+        QTest::newRow("accent") << u"Èrogatore"_s;
+        QTest::newRow("space before") << u" Erogatore"_s;
+        QTest::newRow("space after") << u"Erogatore "_s;
+        QTest::newRow("beginning only") << u"Erog"_s;
+        QTest::newRow("other enumeration") << u"Riparazione"_s;
+        QTest::newRow("a user's type") << u"Torcia"_s;
+        QTest::newRow("case name") << u"regulator"_s;
         QTest::newRow("empty") << QString();
     }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Builders.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "TestRunner.h"
 
@@ -20,16 +21,16 @@ QByteArray validEquipment()
 {
     Maintenance full = test::maintenance(5);
     full.isCompleted = true;
-    full.receiptFileName = QStringLiteral("R.pdf");
-    full.certificateFileName = QStringLiteral("C.pdf");
+    full.receiptFileName = u"R.pdf"_s;
+    full.certificateFileName = u"C.pdf"_s;
     Equipment item = test::equipmentWith(3, {full, test::maintenance(6)});
-    item.customTypeName = QStringLiteral("Torcia");
+    item.customTypeName = u"Torcia"_s;
     return encode(QList{test::equipment(1), test::equipment(2), item}).value();
 }
 
 QByteArray validTypes()
 {
-    return encode(QList{test::equipmentType(1, QStringLiteral("Torcia"))}).value();
+    return encode(QList{test::equipmentType(1, u"Torcia"_s)}).value();
 }
 
 /// The last occurrence: members of the third item, of its second record where both have them.
@@ -286,7 +287,7 @@ private Q_SLOTS:
         const QByteArray json = R"([ {"isActive" : true, "serviceIntervalDays":180,
             "color":"gray", "icon":"dive.tank",	"name":"Torcia",
             "id":"00000000-0000-4000-8000-000000000001"} ])";
-        QCOMPARE(decodeTypes(json).value(), QList{test::equipmentType(1, QStringLiteral("Torcia"))});
+        QCOMPARE(decodeTypes(json).value(), QList{test::equipmentType(1, u"Torcia"_s)});
     }
 };
 

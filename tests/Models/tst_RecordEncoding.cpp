@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Builders.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "TestRunner.h"
 
@@ -73,7 +74,7 @@ private Q_SLOTS:
         Maintenance record = test::maintenance(2);
         record.isCompleted = false;
         record.receiptFileName = QString();
-        record.certificateFileName = QStringLiteral("C.PDF");
+        record.certificateFileName = u"C.PDF"_s;
         Equipment item = test::equipmentWith(1, {record});
         item.isActive = false;
         item.customTypeName = QString();
@@ -85,8 +86,8 @@ private Q_SLOTS:
 
     void types()
     {
-        EquipmentTypeModel type = test::equipmentType(1, QStringLiteral("Torcia"));
-        type.id = QUuid::fromString(QStringLiteral("e621e1f8-c36c-495a-93fc-0c247a3e6e5f"));
+        EquipmentTypeModel type = test::equipmentType(1, u"Torcia"_s);
+        type.id = QUuid::fromString(u"e621e1f8-c36c-495a-93fc-0c247a3e6e5f"_s);
         type.serviceIntervalDays = std::numeric_limits<std::int64_t>::min();
         QCOMPARE(encode(QList{type, type})
                      .value()
@@ -102,13 +103,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QByteArray>("written");
-        QTest::newRow("quotes") << QStringLiteral("a\"b\\c/d") << QByteArray("\"a\\\"b\\\\c/d\"");
-        QTest::newRow("lines") << QStringLiteral("a\nb\r\tc") << QByteArray("\"a\\nb\\r\\tc\"");
-        QTest::newRow("controls") << QStringLiteral("\b\f\x1F\x7F") << QByteArray("\"\\u0008\\u000c\\u001f\x7F\"");
+        QTest::newRow("quotes") << u"a\"b\\c/d"_s << QByteArray("\"a\\\"b\\\\c/d\"");
+        QTest::newRow("lines") << u"a\nb\r\tc"_s << QByteArray("\"a\\nb\\r\\tc\"");
+        QTest::newRow("controls") << u"\b\f\x1F\x7F"_s << QByteArray("\"\\u0008\\u000c\\u001f\x7F\"");
         QTest::newRow("NUL") << QString(QChar(0)) << QByteArray("\"\\u0000\"");
-        QTest::newRow("only specials") << QStringLiteral("\"\"\n") << QByteArray("\"\\\"\\\"\\n\"");
-        QTest::newRow("accents") << QStringLiteral("Perché così") << QByteArray("\"Perch\xC3\xA9 cos\xC3\xAC\"");
-        QTest::newRow("outside the plane") << QStringLiteral("🤿") << QByteArray("\"\xF0\x9F\xA4\xBF\"");
+        QTest::newRow("only specials") << u"\"\"\n"_s << QByteArray("\"\\\"\\\"\\n\"");
+        QTest::newRow("accents") << u"Perché così"_s << QByteArray("\"Perch\xC3\xA9 cos\xC3\xAC\"");
+        QTest::newRow("outside the plane") << u"🤿"_s << QByteArray("\"\xF0\x9F\xA4\xBF\"");
         QTest::newRow("line separator") << QString(QChar(0x2028)) << QByteArray("\"\xE2\x80\xA8\"");
         QTest::newRow("no character") << QString(QChar(0xFFFF)) << QByteArray("\"\xEF\xBF\xBF\"");
         QTest::newRow("empty") << QString() << QByteArray("\"\"");
@@ -126,7 +127,7 @@ private Q_SLOTS:
 
     void whatUtf8CannotHoldIsReplaced()
     {
-        const QByteArray json = jsonOf({test::equipment(1, QStringLiteral("a") + QChar(0xD83E) + QLatin1Char('b'))});
+        const QByteArray json = jsonOf({test::equipment(1, u"a"_s + QChar(0xD83E) + u'b')});
         const auto decoded = decodeEquipment(json);
         QVERIFY2(decoded, json.constData());
         QCOMPARE(decoded->at(0).name.size(), 3);
@@ -176,18 +177,17 @@ private Q_SLOTS:
     {
         QTest::addColumn<Equipment>("item");
         QTest::addColumn<QString>("error");
-        const QString notFinite = QStringLiteral("[1].maintenanceHistory[0].cost: the number is not finite");
+        const QString notFinite = u"[1].maintenanceHistory[0].cost: the number is not finite"_s;
         QTest::newRow("not a number") << withCost(std::numeric_limits<double>::quiet_NaN()) << notFinite;
         QTest::newRow("infinite") << withCost(std::numeric_limits<double>::infinity()) << notFinite;
         QTest::newRow("negatively infinite") << withCost(-std::numeric_limits<double>::infinity()) << notFinite;
         Equipment item = test::equipment(1);
         item.purchaseDate = at("9999-12-31T23:59:59Z") + std::chrono::seconds(1);
-        QTest::newRow("year 10000") << item << QStringLiteral("[1].purchaseDate: the year lies outside 1 to 9999");
+        QTest::newRow("year 10000") << item << u"[1].purchaseDate: the year lies outside 1 to 9999"_s;
         item = test::equipmentWith(1, {test::maintenance(2), test::maintenance(3)});
         item.maintenanceHistory[1].nextServiceDate = at("0001-01-01T00:00:00Z") - std::chrono::seconds(1);
         QTest::newRow("year 0") << item
-                                << QStringLiteral(
-                                       "[1].maintenanceHistory[1].nextServiceDate: the year lies outside 1 to 9999");
+                                << u"[1].maintenanceHistory[1].nextServiceDate: the year lies outside 1 to 9999"_s;
     }
 
     void valuesWithoutAStoredForm()
@@ -201,10 +201,10 @@ private Q_SLOTS:
     {
         Maintenance full = test::maintenance(3);
         full.isCompleted = true;
-        full.receiptFileName = QStringLiteral("R.pdf");
-        full.certificateFileName = QStringLiteral("C.pdf");
+        full.receiptFileName = u"R.pdf"_s;
+        full.certificateFileName = u"C.pdf"_s;
         Equipment item = test::equipmentWith(1, {test::maintenance(2), full});
-        item.customTypeName = QStringLiteral("Torcia");
+        item.customTypeName = u"Torcia"_s;
         item.isActive = false;
         const QList<Equipment> equipment{item, test::equipment(4)};
         QCOMPARE(decodeEquipment(jsonOf(equipment)).value(), equipment);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Builders.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "TestRunner.h"
 
@@ -47,15 +48,15 @@ class tst_RepeatedMembers : public test::TestCase
 private Q_SLOTS:
     void ofTheRightType()
     {
-        QCOMPARE(itemOf(R"("name":"first",)", "").name, QStringLiteral("N"));
-        QCOMPARE(itemOf("", R"(,"name":"last")").name, QStringLiteral("last"));
+        QCOMPARE(itemOf(R"("name":"first",)", "").name, u"N"_s);
+        QCOMPARE(itemOf("", R"(,"name":"last")").name, u"last"_s);
         QCOMPARE(itemOf(R"("isActive":true,)", R"(,"isActive":true,"isActive":false)").isActive, false);
     }
 
     void anEarlierOneOfTheWrongType()
     {
-        QCOMPARE(itemOf(R"("name":1,)", "").name, QStringLiteral("N"));
-        QCOMPARE(itemOf(R"("name":null,"name":[1],"name":{"a":{}},)", "").name, QStringLiteral("N"));
+        QCOMPARE(itemOf(R"("name":1,)", "").name, u"N"_s);
+        QCOMPARE(itemOf(R"("name":null,"name":[1],"name":{"a":{}},)", "").name, u"N"_s);
         QCOMPARE(itemOf(R"("type":"Torcia",)", "").type, EquipmentType::bcd);
         QCOMPARE(itemOf(R"("maintenanceHistory":{},"maintenanceHistory":[1],"maintenanceHistory":[{}],)", "")
                      .maintenanceHistory.size(),
@@ -64,10 +65,10 @@ private Q_SLOTS:
 
     void theLastOfTheWrongType()
     {
-        QCOMPARE(errorOf("", R"(,"name":1)"), QStringLiteral("[0].name: expected a string, found a number"));
-        QCOMPARE(errorOf("", R"(,"name":1,"name":null)"), QStringLiteral("[0].name: expected a string, found null"));
+        QCOMPARE(errorOf("", R"(,"name":1)"), u"[0].name: expected a string, found a number"_s);
+        QCOMPARE(errorOf("", R"(,"name":1,"name":null)"), u"[0].name: expected a string, found null"_s);
         QCOMPARE(errorOf("", R"(,"maintenanceHistory":[{}])"),
-                 QStringLiteral("[0].maintenanceHistory[0].id: the member is missing"));
+                 u"[0].maintenanceHistory[0].id: the member is missing"_s);
     }
 
     void listsAreReplacedWhole()
@@ -83,8 +84,7 @@ private Q_SLOTS:
     {
         QVERIFY(itemOf("", R"(,"customTypeName":null,"customTypeName":"Torcia")").customTypeName);
         QVERIFY(!itemOf("", R"(,"customTypeName":"Torcia","customTypeName":null)").customTypeName);
-        QCOMPARE(itemOf("", R"(,"customTypeName":7,"customTypeName":"Torcia")").customTypeName.value(),
-                 QStringLiteral("Torcia"));
+        QCOMPARE(itemOf("", R"(,"customTypeName":7,"customTypeName":"Torcia")").customTypeName.value(), u"Torcia"_s);
         QVERIFY(!itemOf("", R"(,"customTypeName":7,"customTypeName":null)").customTypeName);
     }
 
@@ -95,7 +95,7 @@ private Q_SLOTS:
         QCOMPARE(itemOf("", R"(,"maintenanceHistory":[)" + repeated + "]").maintenanceHistory.at(0).cost, 1.0);
     }
 
-    void namesWithEscapesAreTheSame() { QCOMPARE(itemOf("", R"(,"n\u0061me":"last")").name, QStringLiteral("last")); }
+    void namesWithEscapesAreTheSame() { QCOMPARE(itemOf("", R"(,"n\u0061me":"last")").name, u"last"_s); }
 };
 
 ABISSORA_TEST(tst_RepeatedMembers);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Builders.h"
+#include "Literals.h"
 #include "ScalarText.h"
 #include "TestRunner.h"
 
@@ -78,7 +79,7 @@ private Q_SLOTS:
 
     void identifiers()
     {
-        const QUuid id = QUuid::fromString(QStringLiteral("E621E1F8-C36C-495A-93FC-0C247A3E6E5F"));
+        const QUuid id = QUuid::fromString(u"E621E1F8-C36C-495A-93FC-0C247A3E6E5F"_s);
         QCOMPARE(json::uuidFromText("E621E1F8-C36C-495A-93FC-0C247A3E6E5F"), std::optional(id));
         QCOMPARE(json::uuidFromText("e621e1f8-c36c-495a-93fc-0c247a3e6e5f"), std::optional(id));
         QCOMPARE(json::uuidFromText("E621e1F8-C36C-495A-93fc-0C247A3E6E5F"), std::optional(id));

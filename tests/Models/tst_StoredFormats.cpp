@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Builders.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "TestRunner.h"
 
@@ -28,14 +29,14 @@ QList<Equipment> register1()
     full.id = uuid("9B2C6D6E-8C0B-4F0E-9E6A-0C1D2E3F4A5B");
     full.date = at("2025-03-14T09:26:53Z");
     full.type = MaintenanceType::annual;
-    full.description = QStringLiteral("Revisione \"completa\"\n1º e 2º stadio");
-    full.performedBy = QStringLiteral("Officina Blu");
+    full.description = u"Revisione \"completa\"\n1º e 2º stadio"_s;
+    full.performedBy = u"Officina Blu"_s;
     full.cost = 120.5;
-    full.notes = QStringLiteral("C:\\foto\\perché.jpg 🤿");
+    full.notes = u"C:\\foto\\perché.jpg 🤿"_s;
     full.nextServiceDate = at("2026-03-14T09:26:53Z");
     full.isCompleted = true;
-    full.receiptFileName = QStringLiteral("0D9A4F4C-6F0B-4E57-8A53-6B0F3A1C2D4E.pdf");
-    full.certificateFileName = QStringLiteral("1E8B5F5D-7A1C-4F68-9B64-7C1A4B2D3E5F.PDF");
+    full.receiptFileName = u"0D9A4F4C-6F0B-4E57-8A53-6B0F3A1C2D4E.pdf"_s;
+    full.certificateFileName = u"1E8B5F5D-7A1C-4F68-9B64-7C1A4B2D3E5F.PDF"_s;
 
     Maintenance early;
     early.id = uuid("A1B2C3D4-E5F6-4789-8ABC-DEF012345678");
@@ -46,36 +47,36 @@ QList<Equipment> register1()
 
     Equipment regulator;
     regulator.id = uuid("E621E1F8-C36C-495A-93FC-0C247A3E6E5F");
-    regulator.name = QStringLiteral("Erogatore Artico");
+    regulator.name = u"Erogatore Artico"_s;
     regulator.type = EquipmentType::regulator;
-    regulator.brand = QStringLiteral("Nordsee");
-    regulator.model = QStringLiteral("A2");
-    regulator.serialNumber = QStringLiteral("00123/45");
+    regulator.brand = u"Nordsee"_s;
+    regulator.model = u"A2"_s;
+    regulator.serialNumber = u"00123/45"_s;
     regulator.purchaseDate = at("2020-05-17T10:00:00Z");
     regulator.lastServiceDate = at("2025-03-14T09:26:53Z");
     regulator.nextServiceDate = at("2026-03-14T09:26:53Z");
-    regulator.notes = QStringLiteral("Per acque fredde");
+    regulator.notes = u"Per acque fredde"_s;
     regulator.maintenanceHistory = {early, full};
 
     Equipment torch;
     torch.id = uuid("5F6E7D8C-9B0A-4C1D-8E2F-3A4B5C6D7E8F");
-    torch.name = QStringLiteral("Torcia di riserva");
+    torch.name = u"Torcia di riserva"_s;
     torch.type = EquipmentType::other;
     torch.purchaseDate = at("2023-07-01T22:00:00Z");
     torch.lastServiceDate = at("2023-07-01T22:00:00Z");
     torch.nextServiceDate = at("2024-07-01T22:00:00Z");
     torch.isActive = false;
-    torch.customTypeName = QStringLiteral("Torcia");
+    torch.customTypeName = u"Torcia"_s;
     return {regulator, torch};
 }
 
 QList<EquipmentTypeModel> types1()
 {
     return {
-        {uuid("0B1C2D3E-4F50-4617-8829-3A4B5C6D7E8F"), QStringLiteral("Computer Subacqueo"),
-         QStringLiteral("dive.computer"), QStringLiteral("cyan"), 730, true},
-        {uuid("C0FFEE00-1234-4567-89AB-CDEF01234567"), QStringLiteral("Scooter «Manta»"),
-         QStringLiteral("questionmark.circle.fill"), QStringLiteral("gray"), 90, false},
+        {uuid("0B1C2D3E-4F50-4617-8829-3A4B5C6D7E8F"), u"Computer Subacqueo"_s, u"dive.computer"_s, u"cyan"_s, 730,
+         true},
+        {uuid("C0FFEE00-1234-4567-89AB-CDEF01234567"), u"Scooter «Manta»"_s, u"questionmark.circle.fill"_s, u"gray"_s,
+         90, false},
     };
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "TestRunner.h"
 #include "UpdateCheckError.h"
 #include "UpdateJson.h"
@@ -11,8 +12,8 @@ using namespace abissora;
 
 namespace {
 
-const UpdateInfo sample{QStringLiteral("1.3.0"), 57, QUrl(QStringLiteral("https://abissora.example/scarica?v=1.3.0")),
-                        QStringLiteral("Novità: «ricerca» 🤿\nRiga due")};
+const UpdateInfo sample{u"1.3.0"_s, 57, QUrl(u"https://abissora.example/scarica?v=1.3.0"_s),
+                        u"Novità: «ricerca» 🤿\nRiga due"_s};
 
 } // namespace
 
@@ -23,20 +24,20 @@ class tst_UpdateInfo : public test::TestCase
 private Q_SLOTS:
     void theIdIsVersionAndBuild()
     {
-        QCOMPARE(sample.id(), QStringLiteral("1.3.0-57"));
+        QCOMPARE(sample.id(), u"1.3.0-57"_s);
         UpdateInfo other = sample;
         other.version.clear();
         other.build = std::numeric_limits<std::int64_t>::min();
-        QCOMPARE(other.id(), QStringLiteral("--9223372036854775808"));
-        QCOMPARE(sample.versionAndBuild(), QStringLiteral("1.3.0 (build 57)"));
+        QCOMPARE(other.id(), u"--9223372036854775808"_s);
+        QCOMPARE(sample.versionAndBuild(), u"1.3.0 (build 57)"_s);
     }
 
     void valuesCompareByEveryMember()
     {
         QList<UpdateInfo> different{sample, sample, sample, sample, sample};
-        different[1].version = QStringLiteral("1.3");
+        different[1].version = u"1.3"_s;
         different[2].build = 58;
-        different[3].downloadURL = QUrl(QStringLiteral("https://abissora.example/"));
+        different[3].downloadURL = QUrl(u"https://abissora.example/"_s);
         different[4].releaseNotes.reset();
         QCOMPARE(QSet<UpdateInfo>(different.begin(), different.end()).size(), 5);
         different.append(sample);
@@ -57,7 +58,7 @@ private Q_SLOTS:
     void theTextFormGivesTheSameValueAgain()
     {
         UpdateInfo unusual = sample;
-        unusual.downloadURL = QUrl(QStringLiteral("https://è.example/perché?a=%20b&c=ü#è"));
+        unusual.downloadURL = QUrl(u"https://è.example/perché?a=%20b&c=ü#è"_s);
         unusual.build = std::numeric_limits<std::int64_t>::min();
         unusual.releaseNotes = QString();
         UpdateInfo bare = sample;
@@ -70,18 +71,18 @@ private Q_SLOTS:
     {
         QVERIFY(!decodeUpdateInfo("{}"));
         const auto decoded = decodeUpdateInfo(R"({"version":"1","build":1,"downloadURL":"a b"})");
-        QCOMPARE(decoded.error().description(), QStringLiteral(".downloadURL: expected an address"));
+        QCOMPARE(decoded.error().description(), u".downloadURL: expected an address"_s);
     }
 
     void errorsHaveDescriptions()
     {
         using Case = UpdateCheckError::Case;
         QCOMPARE(UpdateCheckError{Case::network}.errorDescription(),
-                 QStringLiteral("Impossibile contattare il sito. Controlla la connessione."));
+                 u"Impossibile contattare il sito. Controlla la connessione."_s);
         QCOMPARE(UpdateCheckError{Case::invalidResponse}.errorDescription(),
-                 QStringLiteral("Il server non ha risposto correttamente."));
+                 u"Il server non ha risposto correttamente."_s);
         QCOMPARE(UpdateCheckError{Case::invalidManifest}.errorDescription(),
-                 QStringLiteral("Il file di aggiornamento sul sito non è valido."));
+                 u"Il file di aggiornamento sul sito non è valido."_s);
     }
 };
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "TestRunner.h"
 #include "UpdateJson.h"
 
@@ -47,9 +48,7 @@ private Q_SLOTS:
     {
         const auto read = decodeManifest(" {\n\"releaseNotes\" : \"Novità\",\r\n\t\"build\":57, \"version\":\"1.3.0\","
                                          "\"downloadURL\":\"https://abissora.example/scarica\"} \n");
-        QCOMPARE(read.value(),
-                 (UpdateManifest{QStringLiteral("1.3.0"), 57, QStringLiteral("https://abissora.example/scarica"),
-                                 QStringLiteral("Novità")}));
+        QCOMPARE(read.value(), (UpdateManifest{u"1.3.0"_s, 57, u"https://abissora.example/scarica"_s, u"Novità"_s}));
     }
 
     void notesMayBeMissing_data()
@@ -62,9 +61,9 @@ private Q_SLOTS:
         row("missing", "", std::nullopt);
         row("null", ",'releaseNotes':null", std::nullopt);
         row("empty", ",'releaseNotes':''", QString());
-        row("text", ",'releaseNotes':'a\\nb'", QStringLiteral("a\nb"));
+        row("text", ",'releaseNotes':'a\\nb'", u"a\nb"_s);
         row("text, then null", ",'releaseNotes':'a','releaseNotes':null", std::nullopt);
-        row("null, then text", ",'releaseNotes':null,'releaseNotes':'a'", QStringLiteral("a"));
+        row("null, then text", ",'releaseNotes':null,'releaseNotes':'a'", u"a"_s);
         row("other case", ",'ReleaseNotes':'a','releasenotes':'a','release_notes':'a'", std::nullopt);
     }
 
@@ -86,7 +85,7 @@ private Q_SLOTS:
     void theLastOfEqualMembersCounts()
     {
         QCOMPARE(decodeManifest(withMore(",'version':'2.0','build':58")),
-                 (UpdateManifest{QStringLiteral("2.0"), 58, QStringLiteral("https://abissora.example/"), {}}));
+                 (UpdateManifest{u"2.0"_s, 58, u"https://abissora.example/"_s, {}}));
         QVERIFY(decodeManifest(withBuild("'57','build':57")).has_value());
         QVERIFY(!decodeManifest(withBuild("57,'build':'57'")).has_value());
     }
@@ -195,34 +194,34 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("isOne");
         const auto row = [](const QString& text, bool isOne) { QTest::newRow(qPrintable(text)) << text << isOne; };
-        row(QStringLiteral("https://abissora.example/"), true);
-        row(QStringLiteral("http://abissora.example:8080/a/b.html?c=d&e=%20#f"), true);
-        row(QStringLiteral("https://è.example/perché"), true);
-        row(QStringLiteral("ftp://abissora.example/a.deb"), true);
-        row(QStringLiteral("mailto:info@abissora.example"), true);
-        row(QStringLiteral("file:///a"), true);
-        row(QStringLiteral("scarica.html"), true);
+        row(u"https://abissora.example/"_s, true);
+        row(u"http://abissora.example:8080/a/b.html?c=d&e=%20#f"_s, true);
+        row(u"https://è.example/perché"_s, true);
+        row(u"ftp://abissora.example/a.deb"_s, true);
+        row(u"mailto:info@abissora.example"_s, true);
+        row(u"file:///a"_s, true);
+        row(u"scarica.html"_s, true);
         row(QString(), false);
-        row(QStringLiteral(" "), false);
-        row(QStringLiteral(" https://abissora.example/"), false);
-        row(QStringLiteral("https://abissora.example/ "), false);
-        row(QStringLiteral("https://abissora.example/a b"), false);
-        row(QStringLiteral("https://abissora.example/\n"), false);
-        row(QStringLiteral("https://abissora.example/\u0001"), false);
-        row(QStringLiteral("https://abissora .example/"), false);
-        row(QStringLiteral("https://[::1"), false);
-        row(QStringLiteral("https://abissora.example:99999/"), false);
-        row(QStringLiteral("https://abissora.example/%zz"), false);
-        row(QStringLiteral("questo non è un indirizzo"), false);
-        row(QStringLiteral("ht tp://abissora.example/"), false);
-        row(QStringLiteral("://abissora.example/"), false);
+        row(u" "_s, false);
+        row(u" https://abissora.example/"_s, false);
+        row(u"https://abissora.example/ "_s, false);
+        row(u"https://abissora.example/a b"_s, false);
+        row(u"https://abissora.example/\n"_s, false);
+        row(u"https://abissora.example/\u0001"_s, false);
+        row(u"https://abissora .example/"_s, false);
+        row(u"https://[::1"_s, false);
+        row(u"https://abissora.example:99999/"_s, false);
+        row(u"https://abissora.example/%zz"_s, false);
+        row(u"questo non è un indirizzo"_s, false);
+        row(u"ht tp://abissora.example/"_s, false);
+        row(u"://abissora.example/"_s, false);
     }
 
     void addresses()
     {
         QFETCH(QString, text);
         QFETCH(bool, isOne);
-        const UpdateManifest manifest{QStringLiteral("1.3.0"), 57, text, QStringLiteral("Note")};
+        const UpdateManifest manifest{u"1.3.0"_s, 57, text, u"Note"_s};
         const auto info = UpdateInfo::from(manifest);
         QCOMPARE(info.has_value(), isOne);
         if (info)

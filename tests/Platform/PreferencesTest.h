@@ -3,6 +3,7 @@
 
 #include "Fakes.h"
 #include "IoChecks.h"
+#include "Literals.h"
 #include "PreferencesStore.h"
 #include "TestRunner.h"
 
@@ -28,10 +29,10 @@ protected Q_SLOTS:
     }
 
 protected:
-    const QString key = QStringLiteral("savedEquipment");
+    const QString key = u"savedEquipment"_s;
 
-    [[nodiscard]] QString preferences() const { return m_folder->filePath(QStringLiteral("preferences")); }
-    [[nodiscard]] QString backups() const { return m_folder->filePath(QStringLiteral("backups")); }
+    [[nodiscard]] QString preferences() const { return m_folder->filePath(u"preferences"_s); }
+    [[nodiscard]] QString backups() const { return m_folder->filePath(u"backups"_s); }
 
     static QByteArray content(const QString& path)
     {

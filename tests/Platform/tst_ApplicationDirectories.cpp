@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ApplicationDirectories.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QCoreApplication>
@@ -16,27 +17,26 @@ class tst_ApplicationDirectories : public test::TestCase
 private Q_SLOTS:
     void everythingLiesBelowTheRoot()
     {
-        const ApplicationDirectories directories(QStringLiteral("/data/register"));
-        QCOMPARE(directories.root(), QStringLiteral("/data/register"));
-        QCOMPARE(directories.preferences(), QStringLiteral("/data/register/preferences"));
-        QCOMPARE(directories.maintenanceDocuments(), QStringLiteral("/data/register/MaintenanceDocuments"));
-        QCOMPARE(directories.backups(), QStringLiteral("/data/register/backups"));
+        const ApplicationDirectories directories(u"/data/register"_s);
+        QCOMPARE(directories.root(), u"/data/register"_s);
+        QCOMPARE(directories.preferences(), u"/data/register/preferences"_s);
+        QCOMPARE(directories.maintenanceDocuments(), u"/data/register/MaintenanceDocuments"_s);
+        QCOMPARE(directories.backups(), u"/data/register/backups"_s);
     }
 
     void rootIsMadeAbsoluteAndClean()
     {
-        QCOMPARE(ApplicationDirectories(QStringLiteral("some/../folder/")).root(),
-                 QDir::current().absoluteFilePath(QStringLiteral("folder")));
-        QCOMPARE(ApplicationDirectories(QStringLiteral("/data//register/")).root(), QStringLiteral("/data/register"));
+        QCOMPARE(ApplicationDirectories(u"some/../folder/"_s).root(), QDir::current().absoluteFilePath(u"folder"_s));
+        QCOMPARE(ApplicationDirectories(u"/data//register/"_s).root(), u"/data/register"_s);
     }
 
     void rootStaysWhenTheWorkingFolderChanges()
     {
         const QTemporaryDir elsewhere;
         const QString before = QDir::currentPath();
-        const ApplicationDirectories directories(QStringLiteral("folder"));
+        const ApplicationDirectories directories(u"folder"_s);
         QVERIFY(QDir::setCurrent(elsewhere.path()));
-        QCOMPARE(directories.root(), before + QLatin1String("/folder"));
+        QCOMPARE(directories.root(), before + "/folder"_L1);
         QVERIFY(QDir::setCurrent(before));
     }
 
@@ -47,8 +47,8 @@ private Q_SLOTS:
         qputenv("XDG_DATA_HOME", data.path().toLocal8Bit());
         qputenv("XDG_CONFIG_HOME", config.path().toLocal8Bit());
         const auto directories = ApplicationDirectories::standard();
-        QCOMPARE(directories.root(), data.path() + QLatin1String("/abissora"));
-        QCOMPARE(directories.windowStateFile(), config.path() + QLatin1String("/abissora/windowstate.ini"));
+        QCOMPARE(directories.root(), data.path() + "/abissora"_L1);
+        QCOMPARE(directories.windowStateFile(), config.path() + "/abissora/windowstate.ini"_L1);
         qunsetenv("XDG_DATA_HOME");
         qunsetenv("XDG_CONFIG_HOME");
     }
@@ -57,15 +57,15 @@ private Q_SLOTS:
     {
         const auto root = ApplicationDirectories::standard().root();
         const QString name = QCoreApplication::applicationName();
-        QCoreApplication::setApplicationName(QStringLiteral("other"));
+        QCoreApplication::setApplicationName(u"other"_s);
         QCOMPARE(ApplicationDirectories::standard().root(), root);
         QCoreApplication::setApplicationName(name);
     }
 
     void aChosenFolderKeepsItsWindowStateToo()
     {
-        QCOMPARE(ApplicationDirectories(QStringLiteral("/data/register"), true).windowStateFile(),
-                 QStringLiteral("/data/register/windowstate.ini"));
+        QCOMPARE(ApplicationDirectories(u"/data/register"_s, true).windowStateFile(),
+                 u"/data/register/windowstate.ini"_s);
     }
 };
 

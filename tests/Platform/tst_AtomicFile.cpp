@@ -2,6 +2,7 @@
 #include "AtomicFile.h"
 #include "FileSizeLimit.h"
 #include "IoChecks.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QDir>
@@ -38,7 +39,7 @@ private Q_SLOTS:
         QCOMPARE(content("a"), QByteArray("two, longer"));
         VERIFY_OK(AtomicFile::replace(at("a"), QByteArray()));
         QCOMPARE(content("a"), QByteArray());
-        QCOMPARE(names(), QStringList{QStringLiteral("a")});
+        QCOMPARE(names(), QStringList{u"a"_s});
     }
 
     void replaceWritesEveryByte()
@@ -65,7 +66,7 @@ private Q_SLOTS:
     {
         QVERIFY(QDir().mkpath(at("a/inner")));
         VERIFY_FAILED(AtomicFile::replace(at("a"), "x"), EISDIR);
-        QCOMPARE(names(), QStringList{QStringLiteral("a")});
+        QCOMPARE(names(), QStringList{u"a"_s});
         QVERIFY(QFileInfo(at("a/inner")).isDir());
     }
 
@@ -87,7 +88,7 @@ private Q_SLOTS:
         }
         VERIFY_FAILED(result, EFBIG);
         QCOMPARE(content("a"), QByteArray("old"));
-        QCOMPARE(names(), QStringList{QStringLiteral("a")});
+        QCOMPARE(names(), QStringList{u"a"_s});
     }
 
     void aLinkIsReplacedNotFollowed()
@@ -102,7 +103,7 @@ private Q_SLOTS:
 
     void aPathWithANulIsNoOtherPath()
     {
-        const QString path = at("a") + QChar::Null + QLatin1String("b");
+        const QString path = at("a") + QChar::Null + "b"_L1;
         VERIFY_FAILED(AtomicFile::replace(path, "x"), EINVAL);
         VERIFY_FAILED(AtomicFile::read(path), EINVAL);
         VERIFY_FAILED(AtomicFile::makeFolder(path), EINVAL);
@@ -111,7 +112,7 @@ private Q_SLOTS:
 
     void namesAreUnicode()
     {
-        const QString path = at("") + QStringLiteral("attività 🤿");
+        const QString path = at("") + u"attività 🤿"_s;
         VERIFY_OK(AtomicFile::replace(path, "x"));
         VERIFY_OK(AtomicFile::read(path));
         QVERIFY(QFileInfo::exists(path));
@@ -147,13 +148,12 @@ private Q_SLOTS:
             QVERIFY(left == first || left == second);
         }
         AtomicFile::removeLeftovers(m_folder->path());
-        QCOMPARE(names(), QStringList{QStringLiteral("a")});
+        QCOMPARE(names(), QStringList{u"a"_s});
     }
 
     void leftoversAreOnlyOurs()
     {
-        const QStringList others{QStringLiteral(".abissora-notes.tmp"), QStringLiteral(".hidden"),
-                                 QStringLiteral("a.tmp"), QStringLiteral("savedEquipment.json")};
+        const QStringList others{u".abissora-notes.tmp"_s, u".hidden"_s, u"a.tmp"_s, u"savedEquipment.json"_s};
         for (const QString& name : others)
             VERIFY_OK(AtomicFile::replace(m_folder->filePath(name), "x"));
         VERIFY_OK(AtomicFile::replace(at(".abissora-0123456789abcdef.tmp"), "x"));
@@ -169,7 +169,7 @@ private Q_SLOTS:
         VERIFY_OK(AtomicFile::copy(at("a"), at("b")));
         QVERIFY(content("b") == bytes);
         QVERIFY(content("a") == bytes);
-        QCOMPARE(names(), (QStringList{QStringLiteral("a"), QStringLiteral("b")}));
+        QCOMPARE(names(), (QStringList{u"a"_s, u"b"_s}));
     }
 
     void copyNeverReplaces()
@@ -210,7 +210,7 @@ private Q_SLOTS:
             result = AtomicFile::copy(at("a"), at("b"));
         }
         VERIFY_FAILED(result, EFBIG);
-        QCOMPARE(names(), QStringList{QStringLiteral("a")});
+        QCOMPARE(names(), QStringList{u"a"_s});
     }
 
     void linkKeepsTheBytesThroughAReplacement()
@@ -231,7 +231,7 @@ private Q_SLOTS:
         VERIFY_FAILED(AtomicFile::read(m_folder->path()), EISDIR);
         QCOMPARE(mkfifo(QFile::encodeName(at("pipe")).constData(), 0600), 0);
         VERIFY_FAILED(AtomicFile::read(at("pipe")), EINVAL);
-        VERIFY_FAILED(AtomicFile::read(QStringLiteral("/dev/null")), EINVAL);
+        VERIFY_FAILED(AtomicFile::read(u"/dev/null"_s), EINVAL);
     }
 
     void makeFolderMakesParents()
@@ -241,7 +241,7 @@ private Q_SLOTS:
         VERIFY_OK(AtomicFile::makeFolder(at("a/b/c")));
         VERIFY_OK(AtomicFile::makeFolder(at("d/e/")));
         QVERIFY(QFileInfo(at("d/e")).isDir());
-        VERIFY_OK(AtomicFile::makeFolder(QStringLiteral("/")));
+        VERIFY_OK(AtomicFile::makeFolder(u"/"_s));
     }
 
     void makeFolderTellsWhyNot()
@@ -250,7 +250,7 @@ private Q_SLOTS:
         VERIFY_FAILED(AtomicFile::makeFolder(at("file")), EEXIST);
         VERIFY_FAILED(AtomicFile::makeFolder(at("file/a/b")), ENOTDIR);
         VERIFY_FAILED(AtomicFile::makeFolder(QString()), ENOENT);
-        VERIFY_FAILED(AtomicFile::makeFolder(at("") + QString(300, QLatin1Char('n'))), ENAMETOOLONG);
+        VERIFY_FAILED(AtomicFile::makeFolder(at("") + QString(300, u'n')), ENAMETOOLONG);
     }
 
 private:

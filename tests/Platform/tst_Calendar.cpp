@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Calendar.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QTest>
@@ -19,13 +20,13 @@ Instant at(const QString& iso)
 QString iso(std::optional<Instant> instant)
 {
     if (!instant)
-        return QStringLiteral("nothing");
+        return u"nothing"_s;
     return QDateTime::fromMSecsSinceEpoch(instant->time_since_epoch().count(), Qt::UTC).toString(Qt::ISODate);
 }
 
 QDateTime wall(const QString& text)
 {
-    return QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd HH:mm"));
+    return QDateTime::fromString(text, u"yyyy-MM-dd HH:mm"_s);
 }
 
 Calendar in(const QString& zone)
@@ -82,7 +83,7 @@ private Q_SLOTS:
 
     void noInstantOutsideTheCalendar()
     {
-        const Calendar rome = in(QStringLiteral("Europe/Rome"));
+        const Calendar rome = in(u"Europe/Rome"_s);
         QVERIFY(!rome.instant(QDate(), QTime(1, 0)));
         QVERIFY(!rome.instant(QDate(2026, 2, 30), QTime(1, 0)));
         QVERIFY(!rome.instant(QDate(2026, 2, 1), QTime()));
@@ -94,7 +95,7 @@ private Q_SLOTS:
 
     void instantToLocalTime()
     {
-        const QDateTime local = in(QStringLiteral("Europe/Rome")).local(at(QStringLiteral("2026-12-31T23:30:00.250Z")));
+        const QDateTime local = in(u"Europe/Rome"_s).local(at(u"2026-12-31T23:30:00.250Z"_s));
         QCOMPARE(local.date(), QDate(2027, 1, 1));
         QCOMPARE(local.time(), QTime(0, 30, 0, 250));
     }
@@ -139,7 +140,7 @@ private Q_SLOTS:
 
     void addsMonthsAndYears()
     {
-        const Calendar rome = in(QStringLiteral("Europe/Rome"));
+        const Calendar rome = in(u"Europe/Rome"_s);
         const auto noon = [&](int year, int month, int day) {
             return *rome.instant(QDate(year, month, day), QTime(12, 0));
         };
@@ -160,8 +161,8 @@ private Q_SLOTS:
 
     void hugeArgumentsGiveNothing()
     {
-        const Calendar rome = in(QStringLiteral("Europe/Rome"));
-        const Instant now = at(QStringLiteral("2026-06-15T10:00:00Z"));
+        const Calendar rome = in(u"Europe/Rome"_s);
+        const Instant now = at(u"2026-06-15T10:00:00Z"_s);
         QVERIFY(!rome.addDays(now, std::numeric_limits<std::int64_t>::max()));
         QVERIFY(!rome.addDays(now, std::numeric_limits<std::int64_t>::min()));
         QVERIFY(!rome.addMonths(now, std::numeric_limits<int>::max()));
@@ -180,7 +181,7 @@ private Q_SLOTS:
     {
         const Calendar calendar;
         const QByteArray before = qgetenv("TZ");
-        const Instant noon = at(QStringLiteral("2026-06-15T12:00:00Z"));
+        const Instant noon = at(u"2026-06-15T12:00:00Z"_s);
         qputenv("TZ", "Asia/Kathmandu");
         QCOMPARE(calendar.local(noon).time(), QTime(17, 45));
         qputenv("TZ", "Europe/Rome");
@@ -191,7 +192,7 @@ private Q_SLOTS:
 
     void anInvalidZoneIsUtc()
     {
-        const Instant noon = at(QStringLiteral("2026-06-15T12:00:00Z"));
+        const Instant noon = at(u"2026-06-15T12:00:00Z"_s);
         QCOMPARE(Calendar(QTimeZone()).local(noon).time(), QTime(12, 0));
     }
 };

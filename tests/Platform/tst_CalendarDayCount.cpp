@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Calendar.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QRandomGenerator>
@@ -96,7 +97,7 @@ private Q_SLOTS:
                                                          QDateTime(QDate(2036, 1, 1), QTime(0, 0), Qt::UTC));
         const auto moment = [&]() -> Instant {
             constexpr qint64 day = 86'400'000;
-            const qint64 begin = at(QStringLiteral("2010-01-01T00:00:00Z")).time_since_epoch().count();
+            const qint64 begin = at(u"2010-01-01T00:00:00Z"_s).time_since_epoch().count();
             const bool near = !changes.isEmpty() && random.bounded(2) == 0;
             const qint64 base = near ? changes[random.bounded(changes.size())].atUtc.toMSecsSinceEpoch()
                                      : begin + random.bounded(7000) * day;
@@ -122,9 +123,8 @@ private Q_SLOTS:
 
     void countGrowsWithTheLaterInstant()
     {
-        const Calendar rome = in(QStringLiteral("Europe/Rome"));
-        for (const auto& start : {QStringLiteral("2026-03-28T01:30:00Z"), QStringLiteral("2026-10-24T00:30:00Z"),
-                                  QStringLiteral("2026-10-25T01:30:00Z")}) {
+        const Calendar rome = in(u"Europe/Rome"_s);
+        for (const auto& start : {u"2026-03-28T01:30:00Z"_s, u"2026-10-24T00:30:00Z"_s, u"2026-10-25T01:30:00Z"_s}) {
             const Instant from = at(start);
             Days last;
             for (int minutes = -5 * 1440; minutes <= 5 * 1440; minutes += 5) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Console.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QFile>
@@ -71,9 +72,9 @@ private Q_SLOTS:
         const Pipe pipe;
         QVERIFY(pipe.isOpen());
         StandardOutput output(pipe.writer());
-        output.print(QStringLiteral("➕ Aggiunto: è"));
+        output.print(u"➕ Aggiunto: è"_s);
         QCOMPARE(pipe.read(), QByteArray("➕ Aggiunto: è\n"));
-        output.print(QStringLiteral("uno\ndue"));
+        output.print(u"uno\ndue"_s);
         QCOMPARE(pipe.read(), QByteArray("uno\ndue\n"));
         output.print(QString());
         QCOMPARE(pipe.read(), QByteArray("\n"));
@@ -85,7 +86,7 @@ private Q_SLOTS:
         const int before = dup(STDOUT_FILENO);
         std::fflush(stdout);
         dup2(pipe.writer(), STDOUT_FILENO);
-        StandardOutput().print(QStringLiteral("riga"));
+        StandardOutput().print(u"riga"_s);
         dup2(before, STDOUT_FILENO);
         ::close(before);
         QCOMPARE(pipe.read(), QByteArray("riga\n"));
@@ -98,12 +99,12 @@ private Q_SLOTS:
         Pipe pipe;
         StandardOutput output(pipe.writer());
         pipe.closeReader();
-        output.print(QStringLiteral("lost"));
+        output.print(u"lost"_s);
         QVERIFY(!sigpipeIsPending());
         sigset_t blocked;
         pthread_sigmask(SIG_SETMASK, nullptr, &blocked);
         QCOMPARE(sigismember(&blocked, SIGPIPE), 0);
-        output.print(QStringLiteral("lost"));
+        output.print(u"lost"_s);
         std::signal(SIGPIPE, handler);
     }
 
@@ -114,11 +115,11 @@ private Q_SLOTS:
         QVERIFY(descriptor >= 0);
         ::close(descriptor);
         StandardOutput output(descriptor);
-        output.print(QStringLiteral("lost")); // "Bad file descriptor"
+        output.print(u"lost"_s); // "Bad file descriptor"
         // Somebody else's file under the same number must not receive the log.
         QCOMPARE(dup2(pipe.writer(), descriptor), descriptor);
-        output.print(QStringLiteral("stray"));
-        StandardOutput(pipe.writer()).print(QStringLiteral("end"));
+        output.print(u"stray"_s);
+        StandardOutput(pipe.writer()).print(u"end"_s);
         ::close(descriptor);
         QCOMPARE(pipe.read(), QByteArray("end\n"));
     }
@@ -128,8 +129,8 @@ private Q_SLOTS:
         const int full = open("/dev/full", O_WRONLY | O_CLOEXEC);
         QVERIFY(full >= 0);
         StandardOutput output(full);
-        output.print(QStringLiteral("lost"));
-        output.print(QStringLiteral("lost"));
+        output.print(u"lost"_s);
+        output.print(u"lost"_s);
         ::close(full);
     }
 
@@ -137,7 +138,7 @@ private Q_SLOTS:
     {
         Pipe pipe;
         QCOMPARE(fcntl(pipe.writer(), F_SETFL, O_NONBLOCK), 0);
-        const QString text(1'000'000, QLatin1Char('x')); // many times what a pipe holds
+        const QString text(1'000'000, u'x'); // many times what a pipe holds
         std::thread writer([&] {
             StandardOutput(pipe.writer()).print(text);
             pipe.closeWriter();

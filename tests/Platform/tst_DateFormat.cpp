@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "DateFormat.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QTest>
@@ -71,44 +72,44 @@ private Q_SLOTS:
         for (const QLocale& locale : locales) {
             const DateFormat format(locale, rome());
             const QByteArray shown = locale.name().toLatin1() + ": " + format.longPattern().toUtf8();
-            QVERIFY2(!format.longPattern().contains(QLatin1String("ddd")), shown.constData());
-            QVERIFY2(format.longPattern().contains(QLatin1Char('d')), shown.constData());
-            QVERIFY2(format.longPattern().contains(QLatin1String("yy")), shown.constData());
-            QVERIFY2(format.longPattern().contains(QLatin1Char('M')), shown.constData());
-            QVERIFY2(!format.abbreviatedPattern().contains(QLatin1String("MMMM")), shown.constData());
+            QVERIFY2(!format.longPattern().contains("ddd"_L1), shown.constData());
+            QVERIFY2(format.longPattern().contains(u'd'), shown.constData());
+            QVERIFY2(format.longPattern().contains("yy"_L1), shown.constData());
+            QVERIFY2(format.longPattern().contains(u'M'), shown.constData());
+            QVERIFY2(!format.abbreviatedPattern().contains("MMMM"_L1), shown.constData());
             QCOMPARE(format.longPattern().trimmed(), format.longPattern());
-            QCOMPARE(format.longPattern().count(QLatin1Char('\'')) % 2, 0);
-            QVERIFY2(!format.longPattern().endsWith(QLatin1Char(',')), shown.constData());
+            QCOMPARE(format.longPattern().count(u'\'') % 2, 0);
+            QVERIFY2(!format.longPattern().endsWith(u','), shown.constData());
         }
     }
 
     void theDayIsTheZones()
     {
         const Instant lateEvening = on(2026, 12, 31, QTime(23, 59));
-        const DateFormat inRome(QLocale(QStringLiteral("it_IT")), rome());
-        const DateFormat inTokyo(QLocale(QStringLiteral("it_IT")), Calendar(QTimeZone("Asia/Tokyo")));
-        QCOMPARE(inRome.longDate(lateEvening), QStringLiteral("31 dicembre 2026"));
-        QCOMPARE(inTokyo.longDate(lateEvening), QStringLiteral("1 gennaio 2027"));
-        QCOMPARE(inRome.year(lateEvening), QStringLiteral("2026"));
-        QCOMPARE(inTokyo.year(lateEvening), QStringLiteral("2027"));
-        QCOMPARE(inTokyo.dayAndTime(lateEvening), QStringLiteral("01/01/2027 07:59"));
+        const DateFormat inRome(QLocale(u"it_IT"_s), rome());
+        const DateFormat inTokyo(QLocale(u"it_IT"_s), Calendar(QTimeZone("Asia/Tokyo")));
+        QCOMPARE(inRome.longDate(lateEvening), u"31 dicembre 2026"_s);
+        QCOMPARE(inTokyo.longDate(lateEvening), u"1 gennaio 2027"_s);
+        QCOMPARE(inRome.year(lateEvening), u"2026"_s);
+        QCOMPARE(inTokyo.year(lateEvening), u"2027"_s);
+        QCOMPARE(inTokyo.dayAndTime(lateEvening), u"01/01/2027 07:59"_s);
     }
 
     void fixedPatternsIgnoreTheLocale()
     {
         for (const char* locale : {"it_IT", "en_US", "ar_EG", "fa_IR", "ja_JP"}) {
             const DateFormat format{QLocale(QLatin1String(locale)), rome()};
-            QCOMPARE(format.dayAndTime(on(2025, 3, 5, QTime(9, 7))), QStringLiteral("05/03/2025 09:07"));
-            QCOMPARE(format.dayAndTime(on(2026, 12, 5, QTime(18, 45, 59))), QStringLiteral("05/12/2026 18:45"));
-            QCOMPARE(format.year(on(2026, 12, 31)), QStringLiteral("2026"));
+            QCOMPARE(format.dayAndTime(on(2025, 3, 5, QTime(9, 7))), u"05/03/2025 09:07"_s);
+            QCOMPARE(format.dayAndTime(on(2026, 12, 5, QTime(18, 45, 59))), u"05/12/2026 18:45"_s);
+            QCOMPARE(format.year(on(2026, 12, 31)), u"2026"_s);
         }
     }
 
     void abbreviatedMonths()
     {
-        const DateFormat format(QLocale(QStringLiteral("it_IT")), rome());
-        QCOMPARE(format.abbreviatedDate(on(2026, 10, 21)), QStringLiteral("21 ott 2026"));
-        QCOMPARE(format.abbreviatedDate(on(2026, 5, 1)), QStringLiteral("1 mag 2026"));
+        const DateFormat format(QLocale(u"it_IT"_s), rome());
+        QCOMPARE(format.abbreviatedDate(on(2026, 10, 21)), u"21 ott 2026"_s);
+        QCOMPARE(format.abbreviatedDate(on(2026, 5, 1)), u"1 mag 2026"_s);
     }
 
     void userLocaleIsTheSystemsOrItalian()
@@ -117,7 +118,7 @@ private Q_SLOTS:
         const QLocale french(QLocale::French, QLocale::Canada);
         QCOMPARE(DateFormat::userLocale(french), french);
         QCOMPARE(DateFormat::userLocale(QLocale::c()), italian);
-        QCOMPARE(DateFormat::userLocale(QLocale(QStringLiteral("xx_YY"))), italian);
+        QCOMPARE(DateFormat::userLocale(QLocale(u"xx_YY"_s)), italian);
         QCOMPARE(DateFormat::userLocale(), italian); // the tests run in the "C" locale
     }
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "FilePanel.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QTest>
@@ -24,7 +25,7 @@ private Q_SLOTS:
     void grantsNoAccessByDefault()
     {
         PanelWithoutGrants panel;
-        QVERIFY(!panel.beginAccess(QStringLiteral("/a.pdf")));
+        QVERIFY(!panel.beginAccess(u"/a.pdf"_s));
     }
 };
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IoError.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QTest>
@@ -14,9 +15,9 @@ class tst_IoError : public test::TestCase
 private Q_SLOTS:
     void speaksTheSystemsWords()
     {
-        QCOMPARE(IoError::fromErrno(ENOSPC).reason, QStringLiteral("No space left on device"));
-        QCOMPARE(IoError::fromErrno(ENOENT).reason, QStringLiteral("No such file or directory"));
-        QCOMPARE(IoError::fromErrno(EISDIR).reason, QStringLiteral("Is a directory"));
+        QCOMPARE(IoError::fromErrno(ENOSPC).reason, u"No space left on device"_s);
+        QCOMPARE(IoError::fromErrno(ENOENT).reason, u"No such file or directory"_s);
+        QCOMPARE(IoError::fromErrno(EISDIR).reason, u"Is a directory"_s);
     }
 
     void unknownNumbersHaveAReasonToo() { QVERIFY(!IoError::fromErrno(99999).reason.isEmpty()); }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "LocalServer.h"
 #include "NetworkHttpClient.h"
 #include "TestRunner.h"
@@ -113,7 +114,7 @@ private Q_SLOTS:
     void redirectionsAreFollowed()
     {
         LocalServer server;
-        server.next(LocalServer::redirectsTo(server.url(QStringLiteral("/elsewhere.json"))));
+        server.next(LocalServer::redirectsTo(server.url(u"/elsewhere.json"_s)));
         server.next(LocalServer::answers("200 OK", body));
         QCOMPARE(get(server, patient), HttpResult(HttpResponse{200, body}));
         QCOMPARE(server.requests().size(), 2);
@@ -123,9 +124,9 @@ private Q_SLOTS:
     void redirectionsThatAreNot_data()
     {
         QTest::addColumn<QUrl>("target");
-        QTest::newRow("file") << QUrl(QStringLiteral("file:///etc/hostname"));
-        QTest::newRow("resource") << QUrl(QStringLiteral("qrc:/appicon/abissora.svg"));
-        QTest::newRow("ftp") << QUrl(QStringLiteral("ftp://127.0.0.1/x"));
+        QTest::newRow("file") << QUrl(u"file:///etc/hostname"_s);
+        QTest::newRow("resource") << QUrl(u"qrc:/appicon/abissora.svg"_s);
+        QTest::newRow("ftp") << QUrl(u"ftp://127.0.0.1/x"_s);
     }
 
     void redirectionsThatAreNot()
@@ -161,7 +162,7 @@ private Q_SLOTS:
 
     void nothingLeadsFromHttpsToHttpNorIsKept()
     {
-        const QNetworkRequest request = NetworkHttpClient::request(QUrl(QStringLiteral("https://abissora.example/")));
+        const QNetworkRequest request = NetworkHttpClient::request(QUrl(u"https://abissora.example/"_s));
         QCOMPARE(request.attribute(QNetworkRequest::RedirectPolicyAttribute).toInt(),
                  int(QNetworkRequest::NoLessSafeRedirectPolicy));
         QVERIFY(request.rawHeaderList().isEmpty());

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "PackageInformation.h"
 #include "TestRunner.h"
 
@@ -17,18 +18,18 @@ private Q_SLOTS:
     void versionAndBuildAreTexts()
     {
         const BuiltInPackageInformation package;
-        const QVariant version = package.value(QStringLiteral("CFBundleShortVersionString"));
-        const QVariant build = package.value(QStringLiteral("CFBundleVersion"));
+        const QVariant version = package.value(u"CFBundleShortVersionString"_s);
+        const QVariant build = package.value(u"CFBundleVersion"_s);
         QCOMPARE(version.typeId(), int(QMetaType::QString));
         QCOMPARE(build.typeId(), int(QMetaType::QString));
-        QVERIFY(QRegularExpression(QStringLiteral("^\\d+\\.\\d+\\.\\d+$")).match(version.toString()).hasMatch());
+        QVERIFY(QRegularExpression(u"^\\d+\\.\\d+\\.\\d+$"_s).match(version.toString()).hasMatch());
         QVERIFY(!build.toString().isEmpty());
     }
 
     void otherKeysAreAbsent()
     {
         const BuiltInPackageInformation package;
-        QVERIFY(!package.value(QStringLiteral("CFBundleName")).isValid());
+        QVERIFY(!package.value(u"CFBundleName"_s).isValid());
         QVERIFY(!package.value(QString()).isValid());
     }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "FileSizeLimit.h"
+#include "Literals.h"
 #include "PreferencesTest.h"
 
 #include <QFileInfo>
@@ -31,7 +32,7 @@ private Q_SLOTS:
         QVERIFY(!m_store->text(key));
         QVERIFY(!QFileInfo::exists(preferences())); // reading creates nothing
         VERIFY_OK(m_store->setData(key, "x"));
-        QCOMPARE(m_store->data(QStringLiteral("other")).value(), std::nullopt);
+        QCOMPARE(m_store->data(u"other"_s).value(), std::nullopt);
     }
 
     void unreadableIsNotAbsent()
@@ -61,28 +62,27 @@ private Q_SLOTS:
 
     void scalarsComeBack()
     {
-        VERIFY_OK(m_store->setBoolean(QStringLiteral("darkMode"), true));
-        QCOMPARE(content(m_store->path(QStringLiteral("darkMode"))), QByteArray("true"));
-        QCOMPARE(m_store->boolean(QStringLiteral("darkMode")), std::optional(true));
+        VERIFY_OK(m_store->setBoolean(u"darkMode"_s, true));
+        QCOMPARE(content(m_store->path(u"darkMode"_s)), QByteArray("true"));
+        QCOMPARE(m_store->boolean(u"darkMode"_s), std::optional(true));
         for (const std::int64_t number : {std::int64_t{0}, std::int64_t{-5}, std::numeric_limits<std::int64_t>::max(),
                                           std::numeric_limits<std::int64_t>::min()}) {
-            VERIFY_OK(m_store->setInteger(QStringLiteral("number"), number));
-            QCOMPARE(m_store->integer(QStringLiteral("number")), std::optional(number));
+            VERIFY_OK(m_store->setInteger(u"number"_s, number));
+            QCOMPARE(m_store->integer(u"number"_s), std::optional(number));
         }
-        const QStringList texts{QString(), QStringLiteral("€"), QStringLiteral("a\"\\\n\t b"), QStringLiteral("🤿"),
-                                QStringLiteral("a") + QChar::Null + QStringLiteral("b")};
+        const QStringList texts{QString(), u"€"_s, u"a\"\\\n\t b"_s, u"🤿"_s, u"a"_s + QChar::Null + u"b"_s};
         for (const QString& text : texts) {
-            VERIFY_OK(m_store->setText(QStringLiteral("text"), text));
-            QCOMPARE(m_store->text(QStringLiteral("text")), std::optional(text));
+            VERIFY_OK(m_store->setText(u"text"_s, text));
+            QCOMPARE(m_store->text(u"text"_s), std::optional(text));
         }
-        VERIFY_OK(m_store->setText(QStringLiteral("text"), QStringLiteral("€")));
-        QCOMPARE(content(m_store->path(QStringLiteral("text"))), QByteArray("\"€\""));
+        VERIFY_OK(m_store->setText(u"text"_s, u"€"_s));
+        QCOMPARE(content(m_store->path(u"text"_s)), QByteArray("\"€\""));
     }
 
     void loneSurrogatesDoNotBreakTheFile()
     {
-        VERIFY_OK(m_store->setText(key, QString(QChar(0xD800)) + QLatin1String("a")));
-        QVERIFY(m_store->text(key)->endsWith(QLatin1Char('a')));
+        VERIFY_OK(m_store->setText(key, QString(QChar(0xD800)) + "a"_L1));
+        QVERIFY(m_store->text(key)->endsWith(u'a'));
     }
 
     void readsIntegers_data()
@@ -169,15 +169,15 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("bad");
         QTest::newRow("empty") << QString();
-        QTest::newRow("parent") << QStringLiteral("..");
-        QTest::newRow("path") << QStringLiteral("../outside");
-        QTest::newRow("slash") << QStringLiteral("a/b");
-        QTest::newRow("backslash") << QStringLiteral("a\\b");
-        QTest::newRow("dot") << QStringLiteral("a.b");
-        QTest::newRow("hyphen") << QStringLiteral("a-b");
-        QTest::newRow("space") << QStringLiteral("a b");
-        QTest::newRow("accent") << QStringLiteral("à");
-        QTest::newRow("NUL") << QStringLiteral("a") + QChar::Null;
+        QTest::newRow("parent") << u".."_s;
+        QTest::newRow("path") << u"../outside"_s;
+        QTest::newRow("slash") << u"a/b"_s;
+        QTest::newRow("backslash") << u"a\\b"_s;
+        QTest::newRow("dot") << u"a.b"_s;
+        QTest::newRow("hyphen") << u"a-b"_s;
+        QTest::newRow("space") << u"a b"_s;
+        QTest::newRow("accent") << u"à"_s;
+        QTest::newRow("NUL") << u"a"_s + QChar::Null;
     }
 
     void keysArePlainNames()

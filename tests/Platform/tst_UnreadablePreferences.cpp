@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "FileSizeLimit.h"
+#include "Literals.h"
 #include "PreferencesTest.h"
 
 #include <QFileInfo>
@@ -23,7 +24,7 @@ private Q_SLOTS:
     {
         VERIFY_OK(m_store->setData(key, "{broken"));
         VERIFY_OK(m_store->preserveUnreadable(key));
-        const QString copy = backups() + QLatin1String("/savedEquipment-20261121T040302Z.json");
+        const QString copy = backups() + "/savedEquipment-20261121T040302Z.json"_L1;
         QCOMPARE(content(copy), QByteArray("{broken"));
         VERIFY_OK(m_store->setData(key, "[]"));
         QCOMPARE(content(copy), QByteArray("{broken"));
@@ -44,8 +45,8 @@ private Q_SLOTS:
         m_clock.advance(std::chrono::hours{1});
         VERIFY_OK(m_store->preserveUnreadable(key));
         QCOMPARE(namesIn(backups()).size(), 1);
-        VERIFY_OK(m_store->setData(QStringLiteral("equipmentTypes"), "{broken"));
-        VERIFY_OK(m_store->preserveUnreadable(QStringLiteral("equipmentTypes")));
+        VERIFY_OK(m_store->setData(u"equipmentTypes"_s, "{broken"));
+        VERIFY_OK(m_store->preserveUnreadable(u"equipmentTypes"_s));
         QCOMPARE(namesIn(backups()).size(), 2); // each key has its own copy
     }
 
@@ -55,10 +56,10 @@ private Q_SLOTS:
             VERIFY_OK(m_store->setData(key, bytes));
             VERIFY_OK(m_store->preserveUnreadable(key));
         }
-        const QString stem = backups() + QLatin1String("/savedEquipment-20261121T040302Z");
-        QCOMPARE(content(stem + QLatin1String(".json")), QByteArray("one"));
-        QCOMPARE(content(stem + QLatin1String("-2.json")), QByteArray("two"));
-        QCOMPARE(content(stem + QLatin1String("-3.json")), QByteArray("six"));
+        const QString stem = backups() + "/savedEquipment-20261121T040302Z"_L1;
+        QCOMPARE(content(stem + ".json"_L1), QByteArray("one"));
+        QCOMPARE(content(stem + "-2.json"_L1), QByteArray("two"));
+        QCOMPARE(content(stem + "-3.json"_L1), QByteArray("six"));
     }
 
     void aFullDiskKeepsTheBytesUnderASecondName()
@@ -72,8 +73,8 @@ private Q_SLOTS:
         }
         VERIFY_OK(result);
         VERIFY_OK(m_store->setData(key, "[]"));
-        QCOMPARE(namesIn(backups()), QStringList{QStringLiteral("savedEquipment-20261121T040302Z.json")});
-        QVERIFY(content(backups() + QLatin1String("/savedEquipment-20261121T040302Z.json")) == broken);
+        QCOMPARE(namesIn(backups()), QStringList{u"savedEquipment-20261121T040302Z.json"_s});
+        QVERIFY(content(backups() + "/savedEquipment-20261121T040302Z.json"_L1) == broken);
     }
 
     void withoutACopyNothingIsOverwritten()
@@ -83,11 +84,11 @@ private Q_SLOTS:
         VERIFY_FAILED(m_store->preserveUnreadable(key), EEXIST);
         VERIFY_FAILED(m_store->setData(key, "[]"), EEXIST);
         QCOMPARE(m_store->data(key).value(), std::optional(QByteArray("{broken")));
-        VERIFY_OK(m_store->setData(QStringLiteral("equipmentTypes"), "[]")); // other keys go on
+        VERIFY_OK(m_store->setData(u"equipmentTypes"_s, "[]")); // other keys go on
 
         QVERIFY(QFile::remove(backups()));
         VERIFY_OK(m_store->setData(key, "[]")); // kept first, then written
-        QCOMPARE(content(backups() + QLatin1String("/savedEquipment-20261121T040302Z.json")), QByteArray("{broken"));
+        QCOMPARE(content(backups() + "/savedEquipment-20261121T040302Z.json"_L1), QByteArray("{broken"));
         QCOMPARE(m_store->data(key).value(), std::optional(QByteArray("[]")));
     }
 

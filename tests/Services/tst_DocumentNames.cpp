@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
 
@@ -10,7 +11,7 @@ namespace {
 
 QString inFolder(const QString& name)
 {
-    return QStringLiteral("MaintenanceDocuments/") + name;
+    return u"MaintenanceDocuments/"_s + name;
 }
 
 } // namespace
@@ -49,23 +50,23 @@ private Q_SLOTS:
         QFETCH(QString, extension);
         test::TemporaryRegister files;
         const auto name = files.documents.store(files.write(source, "%PDF"));
-        QCOMPARE(name, std::optional<QString>(QStringLiteral("00000000-0000-4000-8000-000000000001.") + extension));
+        QCOMPARE(name, std::optional<QString>(u"00000000-0000-4000-8000-000000000001."_s + extension));
         QCOMPARE(files.documents.url(*name), std::optional(files.path(inFolder(*name))));
         files.documents.deleteDocument(*name);
-        QVERIFY(files.names(QStringLiteral("MaintenanceDocuments")).isEmpty());
+        QVERIFY(files.names(u"MaintenanceDocuments"_s).isEmpty());
     }
 
     void identifiersAreUpperCase()
     {
         class OneId final : public IdGenerator
         {
-            QUuid next() override { return QUuid::fromString(QStringLiteral("e621e1f8-c36c-495a-93fc-0c247a3e6e5f")); }
+            QUuid next() override { return QUuid::fromString(u"e621e1f8-c36c-495a-93fc-0c247a3e6e5f"_s); }
         };
         test::TemporaryRegister files;
         OneId ids;
-        MaintenanceDocumentStore store(files.path(QStringLiteral("documents")), files.panel, ids, files.console);
-        QCOMPARE(store.store(files.write(QStringLiteral("a.pdf"), "")),
-                 std::optional(QStringLiteral("E621E1F8-C36C-495A-93FC-0C247A3E6E5F.pdf")));
+        MaintenanceDocumentStore store(files.path(u"documents"_s), files.panel, ids, files.console);
+        QCOMPARE(store.store(files.write(u"a.pdf"_s, "")),
+                 std::optional(u"E621E1F8-C36C-495A-93FC-0C247A3E6E5F.pdf"_s));
     }
 
     void namesThatReferToNothing_data()
@@ -98,40 +99,40 @@ private Q_SLOTS:
                                  "file:a.pdf",
                                  "~"})
             QTest::newRow(name) << QString::fromUtf8(name);
-        QTest::newRow("NUL") << QString(QStringLiteral("a.pdf") + QChar(0));
-        QTest::newRow("NUL before") << QString(QStringLiteral("a.pdf") + QChar(0) + QStringLiteral(".pdf"));
-        QTest::newRow("very long") << QString(10'000, QLatin1Char('a'));
-        QTest::newRow("absolute") << QStringLiteral("/etc/hostname");
+        QTest::newRow("NUL") << QString(u"a.pdf"_s + QChar(0));
+        QTest::newRow("NUL before") << QString(u"a.pdf"_s + QChar(0) + u".pdf"_s);
+        QTest::newRow("very long") << QString(10'000, u'a');
+        QTest::newRow("absolute") << u"/etc/hostname"_s;
     }
 
     void namesThatReferToNothing()
     {
         QFETCH(QString, name);
         test::TemporaryRegister files;
-        files.write(inFolder(QStringLiteral("a.pdf")), "a");
-        files.write(inFolder(QStringLiteral("inner/a.pdf")), "inner");
-        const QString outside = files.write(QStringLiteral("outside.pdf"), "outside");
+        files.write(inFolder(u"a.pdf"_s), "a");
+        files.write(inFolder(u"inner/a.pdf"_s), "inner");
+        const QString outside = files.write(u"outside.pdf"_s, "outside");
         files.write(test::registerFile, "[]");
         const auto link = [&](const QString& target, const char* linkName) {
             return QFile::link(target, files.path(inFolder(QLatin1String(linkName))));
         };
         QVERIFY(link(outside, "link-out.pdf"));
-        QVERIFY(link(files.path(QStringLiteral(".")), "link-to-folder"));
-        QVERIFY(link(files.path(inFolder(QStringLiteral("inner/a.pdf"))), "link-inside.pdf"));
-        QVERIFY(link(files.path(QStringLiteral("nowhere")), "link-nowhere.pdf"));
-        const QStringList before = files.names(QStringLiteral("MaintenanceDocuments"));
+        QVERIFY(link(files.path(u"."_s), "link-to-folder"));
+        QVERIFY(link(files.path(inFolder(u"inner/a.pdf"_s)), "link-inside.pdf"));
+        QVERIFY(link(files.path(u"nowhere"_s), "link-nowhere.pdf"));
+        const QStringList before = files.names(u"MaintenanceDocuments"_s);
 
         QCOMPARE(files.documents.url(name), std::optional<QString>());
         files.documents.deleteDocument(name);
-        files.panel.answer(files.write(QStringLiteral("new.pdf"), "new"));
+        files.panel.answer(files.write(u"new.pdf"_s, "new"));
         const auto stored = files.documents.pickPDFAndStore(name); // would delete the one it replaces
         QVERIFY(stored);
         files.documents.deleteDocument(*stored);
 
-        QCOMPARE(files.names(QStringLiteral("MaintenanceDocuments")), before);
-        QCOMPARE(files.content(inFolder(QStringLiteral("a.pdf"))), QByteArray("a"));
-        QCOMPARE(files.content(inFolder(QStringLiteral("inner/a.pdf"))), QByteArray("inner"));
-        QCOMPARE(files.content(QStringLiteral("outside.pdf")), QByteArray("outside"));
+        QCOMPARE(files.names(u"MaintenanceDocuments"_s), before);
+        QCOMPARE(files.content(inFolder(u"a.pdf"_s)), QByteArray("a"));
+        QCOMPARE(files.content(inFolder(u"inner/a.pdf"_s)), QByteArray("inner"));
+        QCOMPARE(files.content(u"outside.pdf"_s), QByteArray("outside"));
         QCOMPARE(files.content(test::registerFile), QByteArray("[]"));
         QCOMPARE(files.console.calls(), QStringList());
     }
@@ -139,13 +140,11 @@ private Q_SLOTS:
     void theFolderItselfMayBeALink()
     {
         test::TemporaryRegister files;
-        files.write(QStringLiteral("elsewhere/a.pdf"), "a");
-        QVERIFY(
-            QFile::link(files.path(QStringLiteral("elsewhere")), files.path(QStringLiteral("MaintenanceDocuments"))));
-        QCOMPARE(files.documents.url(QStringLiteral("a.pdf")),
-                 std::optional(files.path(inFolder(QStringLiteral("a.pdf")))));
-        files.documents.deleteDocument(QStringLiteral("a.pdf"));
-        QCOMPARE(files.names(QStringLiteral("elsewhere")), QStringList());
+        files.write(u"elsewhere/a.pdf"_s, "a");
+        QVERIFY(QFile::link(files.path(u"elsewhere"_s), files.path(u"MaintenanceDocuments"_s)));
+        QCOMPARE(files.documents.url(u"a.pdf"_s), std::optional(files.path(inFolder(u"a.pdf"_s))));
+        files.documents.deleteDocument(u"a.pdf"_s);
+        QCOMPARE(files.names(u"elsewhere"_s), QStringList());
     }
 };
 

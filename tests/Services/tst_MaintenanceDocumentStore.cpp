@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "FileSizeLimit.h"
+#include "Literals.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
 
@@ -9,19 +10,19 @@ using namespace abissora;
 
 namespace {
 
-const QString folder = QStringLiteral("MaintenanceDocuments");
-const QString first = QStringLiteral("00000000-0000-4000-8000-000000000001.pdf");
-const QString second = QStringLiteral("00000000-0000-4000-8000-000000000002.pdf");
+const QString folder = u"MaintenanceDocuments"_s;
+const QString first = u"00000000-0000-4000-8000-000000000001.pdf"_s;
+const QString second = u"00000000-0000-4000-8000-000000000002.pdf"_s;
 const QByteArray pdf = QByteArray("%PDF-1.7\n\0\xFF", 11).repeated(20'000);
 
 QString inFolder(const QString& name)
 {
-    return folder + QLatin1Char('/') + name;
+    return folder + u'/' + name;
 }
 
 QString failure(int error)
 {
-    return QStringLiteral("Errore salvataggio documento: ") + IoError::fromErrno(error).reason;
+    return u"Errore salvataggio documento: "_s + IoError::fromErrno(error).reason;
 }
 
 } // namespace
@@ -34,12 +35,11 @@ private Q_SLOTS:
     void theFolderIsMadeWhenAskedFor()
     {
         test::TemporaryRegister files;
-        const MaintenanceDocumentStore store(files.path(QStringLiteral("a/b/c")), files.panel, files.ids,
-                                             files.console);
-        QVERIFY(!QFileInfo::exists(files.path(QStringLiteral("a"))));
+        const MaintenanceDocumentStore store(files.path(u"a/b/c"_s), files.panel, files.ids, files.console);
+        QVERIFY(!QFileInfo::exists(files.path(u"a"_s)));
         for (int time = 0; time < 2; ++time) {
-            QCOMPARE(store.documentsDirectory().value(), files.path(QStringLiteral("a/b/c")));
-            QVERIFY(QFileInfo(files.path(QStringLiteral("a/b/c"))).isDir());
+            QCOMPARE(store.documentsDirectory().value(), files.path(u"a/b/c"_s));
+            QVERIFY(QFileInfo(files.path(u"a/b/c"_s)).isDir());
         }
     }
 
@@ -48,7 +48,7 @@ private Q_SLOTS:
         test::TemporaryRegister files;
         files.panel.grantAccess(true);
         files.write(folder, "in the way");
-        const QString source = files.write(QStringLiteral("scontrino.pdf"), pdf);
+        const QString source = files.write(u"scontrino.pdf"_s, pdf);
         QVERIFY(!files.documents.documentsDirectory());
         QVERIFY(!files.documents.store(source));
         QVERIFY(!files.documents.url(first));
@@ -62,21 +62,21 @@ private Q_SLOTS:
     {
         test::TemporaryRegister files;
         QVERIFY(!files.documents.pickPDFAndStore({}));
-        const FilePanelRequest expected{QStringLiteral("Seleziona il documento PDF"),
-                                        QStringLiteral("Scegli il PDF (scontrino o certificato) da allegare"),
-                                        QStringLiteral("Allega"),
-                                        {QStringLiteral("application/pdf")}};
+        const FilePanelRequest expected{u"Seleziona il documento PDF"_s,
+                                        u"Scegli il PDF (scontrino o certificato) da allegare"_s,
+                                        u"Allega"_s,
+                                        {u"application/pdf"_s}};
         QCOMPARE(files.panel.requests(), QList{expected});
     }
 
     void aPickedFileIsCopied()
     {
         test::TemporaryRegister files;
-        const QString source = files.write(QStringLiteral("scontrino è.pdf"), pdf);
+        const QString source = files.write(u"scontrino è.pdf"_s, pdf);
         files.panel.answer(source);
         QCOMPARE(files.documents.pickPDFAndStore({}), std::optional(first));
         QCOMPARE(files.content(inFolder(first)), pdf);
-        QCOMPARE(files.content(QStringLiteral("scontrino è.pdf")), pdf);
+        QCOMPARE(files.content(u"scontrino è.pdf"_s), pdf);
         QCOMPARE(files.documents.url(first), std::optional(files.path(inFolder(first))));
         QCOMPARE(files.names(folder), QStringList{first});
         QCOMPARE(files.console.calls(), QStringList());
@@ -85,7 +85,7 @@ private Q_SLOTS:
     void theSameFileTwiceIsTwoFiles()
     {
         test::TemporaryRegister files;
-        const QString source = files.write(QStringLiteral("scontrino.pdf"), pdf);
+        const QString source = files.write(u"scontrino.pdf"_s, pdf);
         QCOMPARE(files.documents.store(source), std::optional(first));
         QCOMPARE(files.documents.store(source), std::optional(second));
         QCOMPARE(files.names(folder), QStringList({first, second}));
@@ -94,25 +94,25 @@ private Q_SLOTS:
     void aReplacedDocumentIsDeleted()
     {
         test::TemporaryRegister files;
-        files.write(inFolder(QStringLiteral("old.pdf")), "old");
-        files.panel.answer(files.write(QStringLiteral("new.pdf"), pdf));
-        QCOMPARE(files.documents.pickPDFAndStore(QStringLiteral("old.pdf")), std::optional(first));
+        files.write(inFolder(u"old.pdf"_s), "old");
+        files.panel.answer(files.write(u"new.pdf"_s, pdf));
+        QCOMPARE(files.documents.pickPDFAndStore(u"old.pdf"_s), std::optional(first));
         QCOMPARE(files.names(folder), QStringList{first});
     }
 
     void replacingADocumentThatIsGone()
     {
         test::TemporaryRegister files;
-        files.panel.answer(files.write(QStringLiteral("new.pdf"), pdf));
-        QCOMPARE(files.documents.pickPDFAndStore(QStringLiteral("gone.pdf")), std::optional(first));
+        files.panel.answer(files.write(u"new.pdf"_s, pdf));
+        QCOMPARE(files.documents.pickPDFAndStore(u"gone.pdf"_s), std::optional(first));
         QCOMPARE(files.console.calls(), QStringList());
     }
 
     void aDocumentMayReplaceItself()
     {
         test::TemporaryRegister files;
-        files.panel.answer(files.write(inFolder(QStringLiteral("old.pdf")), pdf));
-        QCOMPARE(files.documents.pickPDFAndStore(QStringLiteral("old.pdf")), std::optional(first));
+        files.panel.answer(files.write(inFolder(u"old.pdf"_s), pdf));
+        QCOMPARE(files.documents.pickPDFAndStore(u"old.pdf"_s), std::optional(first));
         QCOMPARE(files.names(folder), QStringList{first});
         QCOMPARE(files.content(inFolder(first)), pdf);
     }
@@ -121,9 +121,9 @@ private Q_SLOTS:
     {
         test::TemporaryRegister files;
         files.panel.grantAccess(true);
-        files.write(inFolder(QStringLiteral("old.pdf")), "old");
-        QVERIFY(!files.documents.pickPDFAndStore(QStringLiteral("old.pdf")));
-        QCOMPARE(files.content(inFolder(QStringLiteral("old.pdf"))), QByteArray("old"));
+        files.write(inFolder(u"old.pdf"_s), "old");
+        QVERIFY(!files.documents.pickPDFAndStore(u"old.pdf"_s));
+        QCOMPARE(files.content(inFolder(u"old.pdf"_s)), QByteArray("old"));
         QCOMPARE(files.names(folder).size(), 1);
         QCOMPARE(files.console.calls(), QStringList());
         QCOMPARE(files.panel.begun(), QStringList());
@@ -134,10 +134,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("source");
         QTest::addColumn<int>("error");
-        QTest::newRow("vanished") << QStringLiteral("vanished.pdf") << ENOENT;
-        QTest::newRow("folder") << QStringLiteral("folder.pdf") << EISDIR;
-        QTest::newRow("below a file") << QStringLiteral("file.pdf/inner.pdf") << ENOTDIR;
-        QTest::newRow("no file at all") << QStringLiteral("zero.pdf") << EINVAL;
+        QTest::newRow("vanished") << u"vanished.pdf"_s << ENOENT;
+        QTest::newRow("folder") << u"folder.pdf"_s << EISDIR;
+        QTest::newRow("below a file") << u"file.pdf/inner.pdf"_s << ENOTDIR;
+        QTest::newRow("no file at all") << u"zero.pdf"_s << EINVAL;
     }
 
     void whatCannotBeCopied()
@@ -146,14 +146,14 @@ private Q_SLOTS:
         QFETCH(int, error);
         test::TemporaryRegister files;
         files.panel.grantAccess(true);
-        files.write(inFolder(QStringLiteral("old.pdf")), "old");
-        files.write(QStringLiteral("folder.pdf/inside"), "");
-        files.write(QStringLiteral("file.pdf"), "");
-        QVERIFY(QFile::link(QStringLiteral("/dev/zero"), files.path(QStringLiteral("zero.pdf"))));
+        files.write(inFolder(u"old.pdf"_s), "old");
+        files.write(u"folder.pdf/inside"_s, "");
+        files.write(u"file.pdf"_s, "");
+        QVERIFY(QFile::link(u"/dev/zero"_s, files.path(u"zero.pdf"_s)));
         files.panel.answer(files.path(source));
-        QVERIFY(!files.documents.pickPDFAndStore(QStringLiteral("old.pdf")));
+        QVERIFY(!files.documents.pickPDFAndStore(u"old.pdf"_s));
         QCOMPARE(files.console.calls(), QStringList{failure(error)});
-        QCOMPARE(files.names(folder), QStringList{QStringLiteral("old.pdf")});
+        QCOMPARE(files.names(folder), QStringList{u"old.pdf"_s});
         QCOMPARE(files.panel.begun(), QStringList{files.path(source)});
         QCOMPARE(files.panel.ended(), QStringList{files.path(source)});
     }
@@ -161,7 +161,7 @@ private Q_SLOTS:
     void aFullDiskLeavesNothingBehind()
     {
         test::TemporaryRegister files;
-        const QString source = files.write(QStringLiteral("scontrino.pdf"), pdf);
+        const QString source = files.write(u"scontrino.pdf"_s, pdf);
         std::optional<QString> stored;
         {
             const test::FileSizeLimit limit(100'000);
@@ -176,7 +176,7 @@ private Q_SLOTS:
     {
         test::TemporaryRegister files;
         files.write(inFolder(first), "there before");
-        QVERIFY(!files.documents.store(files.write(QStringLiteral("scontrino.pdf"), pdf)));
+        QVERIFY(!files.documents.store(files.write(u"scontrino.pdf"_s, pdf)));
         QCOMPARE(files.console.calls(), QStringList{failure(EEXIST)});
         QCOMPARE(files.content(inFolder(first)), QByteArray("there before"));
         QCOMPARE(files.names(folder), QStringList{first});
@@ -185,7 +185,7 @@ private Q_SLOTS:
     void accessThatWasGrantedIsGivenBack()
     {
         test::TemporaryRegister files;
-        const QString source = files.write(QStringLiteral("scontrino.pdf"), pdf);
+        const QString source = files.write(u"scontrino.pdf"_s, pdf);
         QVERIFY(files.documents.store(source));
         QCOMPARE(files.panel.begun(), QStringList{source});
         QCOMPARE(files.panel.ended(), QStringList());

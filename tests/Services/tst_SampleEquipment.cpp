@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Builders.h"
+#include "Literals.h"
 #include "SampleEquipment.h"
 #include "TestRunner.h"
 
@@ -28,39 +29,39 @@ private Q_SLOTS:
     {
         Equipment regulator;
         regulator.id = test::SequentialIds::at(1);
-        regulator.name = QStringLiteral("Erogatore Apeks XTX50");
+        regulator.name = u"Erogatore Apeks XTX50"_s;
         regulator.type = EquipmentType::regulator;
-        regulator.brand = QStringLiteral("Apeks");
-        regulator.model = QStringLiteral("XTX50");
-        regulator.serialNumber = QStringLiteral("AP123456");
+        regulator.brand = u"Apeks"_s;
+        regulator.model = u"XTX50"_s;
+        regulator.serialNumber = u"AP123456"_s;
         regulator.purchaseDate = at("2024-06-15T10:00:00.250Z");
         regulator.lastServiceDate = at("2025-06-15T10:00:00.250Z");
         regulator.nextServiceDate = at("2027-06-15T10:00:00.250Z");
-        regulator.notes = QStringLiteral("Ottimo erogatore per acque fredde. Utilizzato per immersioni in Italia.");
+        regulator.notes = u"Ottimo erogatore per acque fredde. Utilizzato per immersioni in Italia."_s;
 
         Equipment bcd;
         bcd.id = test::SequentialIds::at(2);
-        bcd.name = QStringLiteral("GAV Scubapro Hydros");
+        bcd.name = u"GAV Scubapro Hydros"_s;
         bcd.type = EquipmentType::bcd;
-        bcd.brand = QStringLiteral("Scubapro");
-        bcd.model = QStringLiteral("Hydros Pro");
-        bcd.serialNumber = QStringLiteral("SP789012");
+        bcd.brand = u"Scubapro"_s;
+        bcd.model = u"Hydros Pro"_s;
+        bcd.serialNumber = u"SP789012"_s;
         bcd.purchaseDate = at("2025-06-15T10:00:00.250Z");
         bcd.lastServiceDate = at("2025-12-15T11:00:00.250Z"); // noon on the wall, then as now
         bcd.nextServiceDate = at("2026-07-15T10:00:00.250Z");
-        bcd.notes = QStringLiteral("GAV leggero e confortevole. Perfetto per viaggi.");
+        bcd.notes = u"GAV leggero e confortevole. Perfetto per viaggi."_s;
 
         Equipment computer;
         computer.id = test::SequentialIds::at(3);
-        computer.name = QStringLiteral("Computer Suunto EON Core");
+        computer.name = u"Computer Suunto EON Core"_s;
         computer.type = EquipmentType::computer;
-        computer.brand = QStringLiteral("Suunto");
-        computer.model = QStringLiteral("EON Core");
-        computer.serialNumber = QStringLiteral("SU456789");
+        computer.brand = u"Suunto"_s;
+        computer.model = u"EON Core"_s;
+        computer.serialNumber = u"SU456789"_s;
         computer.purchaseDate = at("2025-06-15T10:00:00.250Z");
         computer.lastServiceDate = at("2026-05-15T10:00:00.250Z");
         computer.nextServiceDate = at("2026-06-30T10:00:00.250Z");
-        computer.notes = QStringLiteral("Computer subacqueo con display a colori.");
+        computer.notes = u"Computer subacqueo con display a colori."_s;
 
         const QList<Equipment> samples = samplesOf("2026-06-15T10:00:00.250Z");
         QCOMPARE(samples.size(), 3);

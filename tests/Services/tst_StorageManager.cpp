@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "FileSizeLimit.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "SampleEquipment.h"
 #include "TemporaryRegister.h"
@@ -30,7 +31,7 @@ private Q_SLOTS:
         StorageManager storage = files.storageManager();
         test::SequentialIds ids;
         QCOMPARE(storage.loadEquipment(), sampleEquipment(files.clock.now(), files.calendar, ids));
-        QCOMPARE(files.names(QStringLiteral(".")), QStringList());
+        QCOMPARE(files.names(u"."_s), QStringList());
         QCOMPARE(files.console.calls(), QStringList());
     }
 
@@ -63,16 +64,16 @@ private Q_SLOTS:
         test::TemporaryRegister files;
         Maintenance full = test::maintenance(3);
         full.isCompleted = false;
-        full.receiptFileName = QStringLiteral("R.pdf");
-        full.certificateFileName = QStringLiteral("C.pdf");
+        full.receiptFileName = u"R.pdf"_s;
+        full.certificateFileName = u"C.pdf"_s;
         full.cost = 0.1;
         Equipment item = test::equipmentWith(1, {test::maintenance(2), full});
-        item.customTypeName = QStringLiteral("Torcia");
-        const QList<Equipment> equipment{item, test::equipment(4, QStringLiteral("è 🤿 \"\\\n"))};
+        item.customTypeName = u"Torcia"_s;
+        const QList<Equipment> equipment{item, test::equipment(4, u"è 🤿 \"\\\n"_s)};
         files.storageManager().saveEquipment(equipment);
         QCOMPARE(files.storageManager().loadEquipment(), equipment);
         QCOMPARE(files.content(test::registerFile), encode(equipment).value());
-        QCOMPARE(files.names(QStringLiteral(".")), QStringList{QStringLiteral("preferences")});
+        QCOMPARE(files.names(u"."_s), QStringList{u"preferences"_s});
         QCOMPARE(files.console.calls(), QStringList());
     }
 
@@ -99,10 +100,10 @@ private Q_SLOTS:
         item.nextServiceDate = test::at("9999-12-31T23:59:59Z") + std::chrono::seconds(1);
         storage.saveEquipment({item});
         QCOMPARE(files.console.calls(),
-                 QStringList({QStringLiteral("Error saving equipment: [1].maintenanceHistory[0].cost: the number is "
-                                             "not finite"),
-                              QStringLiteral("Error saving equipment: [0].nextServiceDate: the year lies outside 1 "
-                                             "to 9999")}));
+                 QStringList({u"Error saving equipment: [1].maintenanceHistory[0].cost: the number is "
+                              "not finite"_s,
+                              u"Error saving equipment: [0].nextServiceDate: the year lies outside 1 "
+                              "to 9999"_s}));
         QCOMPARE(files.content(test::registerFile), before);
     }
 
@@ -118,7 +119,7 @@ private Q_SLOTS:
         }
         QCOMPARE(files.console.calls(), QStringList{lineOf("Error saving equipment: ", EFBIG)});
         QCOMPARE(files.content(test::registerFile), before);
-        QCOMPARE(files.names(QStringLiteral("preferences")), QStringList{QStringLiteral("savedEquipment.json")});
+        QCOMPARE(files.names(u"preferences"_s), QStringList{u"savedEquipment.json"_s});
         storage.saveEquipment({test::equipment(2)});
         QCOMPARE(storage.loadEquipment(), QList{test::equipment(2)});
     }
@@ -126,13 +127,12 @@ private Q_SLOTS:
     void aFileInPlaceOfTheFolder()
     {
         test::TemporaryRegister files;
-        files.write(QStringLiteral("preferences"), "in the way");
+        files.write(u"preferences"_s, "in the way");
         StorageManager storage = files.storageManager();
         storage.saveEquipment({});
         QCOMPARE(files.console.calls().size(), 1);
-        QVERIFY2(files.console.text().startsWith(QStringLiteral("Error saving equipment: ")),
-                 qPrintable(files.console.text()));
-        QCOMPARE(files.content(QStringLiteral("preferences")), QByteArray("in the way"));
+        QVERIFY2(files.console.text().startsWith(u"Error saving equipment: "_s), qPrintable(files.console.text()));
+        QCOMPARE(files.content(u"preferences"_s), QByteArray("in the way"));
     }
 };
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "RecordJson.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
@@ -9,8 +10,8 @@ using namespace abissora;
 
 namespace {
 
-const QString backups = QStringLiteral("backups");
-const QString copy = QStringLiteral("backups/savedEquipment-20260615T100000Z.json");
+const QString backups = u"backups"_s;
+const QString copy = u"backups/savedEquipment-20260615T100000Z.json"_s;
 
 QStringList namesOf(const QList<Equipment>& equipment)
 {
@@ -20,8 +21,7 @@ QStringList namesOf(const QList<Equipment>& equipment)
     return names;
 }
 
-const QStringList sampleNames{QStringLiteral("Erogatore Apeks XTX50"), QStringLiteral("GAV Scubapro Hydros"),
-                              QStringLiteral("Computer Suunto EON Core")};
+const QStringList sampleNames{u"Erogatore Apeks XTX50"_s, u"GAV Scubapro Hydros"_s, u"Computer Suunto EON Core"_s};
 
 } // namespace
 
@@ -36,22 +36,19 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("error");
         const QByteArray valid = encode(QList{test::equipment(1), test::equipment(2)}).value();
-        QTest::newRow("no JSON") << QByteArray("che bello")
-                                 << QStringLiteral("Error loading equipment: parse error at line 1");
-        QTest::newRow("nothing") << QByteArray() << QStringLiteral("Error loading equipment: parse error at line 1");
+        QTest::newRow("no JSON") << QByteArray("che bello") << u"Error loading equipment: parse error at line 1"_s;
+        QTest::newRow("nothing") << QByteArray() << u"Error loading equipment: parse error at line 1"_s;
         QTest::newRow("half a file") << valid.left(valid.size() / 2)
-                                     << QStringLiteral("Error loading equipment: parse error at line 1");
+                                     << u"Error loading equipment: parse error at line 1"_s;
         QTest::newRow("one unknown kind")
             << QByteArray(valid).replace(valid.lastIndexOf("GAV"), 3, "Torcia")
-            << QStringLiteral("Error loading equipment: [1].type: expected one of the known names, found \"Torcia\"");
+            << u"Error loading equipment: [1].type: expected one of the known names, found \"Torcia\""_s;
         QTest::newRow("no list") << QByteArray("{}")
-                                 << QStringLiteral("Error loading equipment: expected an array, found an object");
+                                 << u"Error loading equipment: expected an array, found an object"_s;
         QTest::newRow("byte order mark") << "\xEF\xBB\xBF" + valid
-                                         << QStringLiteral(
-                                                "Error loading equipment: the text begins with a byte order mark");
-        QTest::newRow("NUL") << valid + '\0' << QStringLiteral("Error loading equipment: the text holds a NUL byte");
-        QTest::newRow("brackets") << QByteArray(100'000, '[')
-                                  << QStringLiteral("Error loading equipment: parse error at line 1");
+                                         << u"Error loading equipment: the text begins with a byte order mark"_s;
+        QTest::newRow("NUL") << valid + '\0' << u"Error loading equipment: the text holds a NUL byte"_s;
+        QTest::newRow("brackets") << QByteArray(100'000, '[') << u"Error loading equipment: parse error at line 1"_s;
     }
 
     void samplesAndACopy()
@@ -96,9 +93,9 @@ private Q_SLOTS:
         files.write(backups, "in the way");
         StorageManager storage = files.storageManager();
         QCOMPARE(namesOf(storage.loadEquipment()), sampleNames);
-        const QString failed = QStringLiteral("Error saving equipment: ") + IoError::fromErrno(EEXIST).reason;
+        const QString failed = u"Error saving equipment: "_s + IoError::fromErrno(EEXIST).reason;
         QCOMPARE(files.console.calls().size(), 2);
-        QVERIFY(files.console.calls().at(0).startsWith(QStringLiteral("Error loading equipment: ")));
+        QVERIFY(files.console.calls().at(0).startsWith(u"Error loading equipment: "_s));
         QCOMPARE(files.console.calls().at(1), failed);
 
         storage.saveEquipment({});
@@ -116,15 +113,15 @@ private Q_SLOTS:
     void aFolderInPlaceOfTheFile()
     {
         test::TemporaryRegister files;
-        files.write(test::registerFile + QStringLiteral("/inside"), "kept");
+        files.write(test::registerFile + u"/inside"_s, "kept");
         StorageManager storage = files.storageManager();
         QCOMPARE(namesOf(storage.loadEquipment()), sampleNames);
         storage.saveEquipment({});
         const QString reason = IoError::fromErrno(EISDIR).reason;
-        QCOMPARE(files.console.calls(), QStringList({QStringLiteral("Error loading equipment: ") + reason,
-                                                     QStringLiteral("Error saving equipment: ") + reason,
-                                                     QStringLiteral("Error saving equipment: ") + reason}));
-        QCOMPARE(files.content(test::registerFile + QStringLiteral("/inside")), QByteArray("kept"));
+        QCOMPARE(files.console.calls(),
+                 QStringList({u"Error loading equipment: "_s + reason, u"Error saving equipment: "_s + reason,
+                              u"Error saving equipment: "_s + reason}));
+        QCOMPARE(files.content(test::registerFile + u"/inside"_s), QByteArray("kept"));
     }
 };
 

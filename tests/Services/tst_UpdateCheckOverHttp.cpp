@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Fakes.h"
+#include "Literals.h"
 #include "LocalServer.h"
 #include "NetworkHttpClient.h"
 #include "TestRunner.h"
@@ -71,30 +72,29 @@ private Q_SLOTS:
         LocalServer server;
         server.next(behaviour);
         // Only what never ends meets the limit.
-        QCOMPARE(check(server, outcome == QLatin1String("transport") ? 200ms : 60s), outcome);
+        QCOMPARE(check(server, outcome == "transport"_L1 ? 200ms : 60s), outcome);
         QCOMPARE(server.requests().size(), 1);
     }
 
     void afterARedirection()
     {
         LocalServer server;
-        server.next(LocalServer::redirectsTo(server.url(QStringLiteral("/a/version.json"))));
+        server.next(LocalServer::redirectsTo(server.url(u"/a/version.json"_s)));
         server.next(LocalServer::answers("200 OK", newer));
-        QCOMPARE(check(server, 60s), QStringLiteral("1.3.0-57"));
-        server.next(LocalServer::redirectsTo(server.url(QStringLiteral("/gone"))));
+        QCOMPARE(check(server, 60s), u"1.3.0-57"_s);
+        server.next(LocalServer::redirectsTo(server.url(u"/gone"_s)));
         server.next(LocalServer::answers("404 Not Found", newer));
-        QCOMPARE(check(server, 60s), QStringLiteral("invalidResponse"));
+        QCOMPARE(check(server, 60s), u"invalidResponse"_s);
     }
 
     void aPieceCutShortIsNoManifest()
     {
         LocalServer server;
-        server.next(LocalServer::sends("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nff\r\n" +
-                                       newer.chopped(1)));
+        server.next(
+            LocalServer::sends("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nff\r\n" + newer.chopped(1)));
         // The transport sees the end of the connection or the end of the answer first.
         const QString outcome = check(server, 60s);
-        QVERIFY2(outcome == QLatin1String("invalidManifest") || outcome == QLatin1String("transport"),
-                 qPrintable(outcome));
+        QVERIFY2(outcome == "invalidManifest"_L1 || outcome == "transport"_L1, qPrintable(outcome));
     }
 
     void nobodySpeaksHttp()
@@ -102,14 +102,14 @@ private Q_SLOTS:
         LocalServer server;
         for (int i = 0; i < 5; ++i) // the transport tries again
             server.next(LocalServer::sends("SSH-2.0-OpenSSH_9.2\r\n"));
-        QCOMPARE(check(server, 60s), QStringLiteral("transport"));
+        QCOMPARE(check(server, 60s), u"transport"_s);
     }
 
     void nobodyListens()
     {
         LocalServer server;
         server.close();
-        QCOMPARE(check(server, 60s), QStringLiteral("transport"));
+        QCOMPARE(check(server, 60s), u"transport"_s);
     }
 
 private:
@@ -118,19 +118,18 @@ private:
         HttpLimits limits;
         limits.time = time;
         NetworkHttpClient http(limits);
-        const test::FakePackageInformation package = test::release(QStringLiteral("1.2"), QStringLiteral("42"));
+        const test::FakePackageInformation package = test::release(u"1.2"_s, u"42"_s);
         const test::FixedClock clock;
         const AppInfo info(package, clock, Calendar(QTimeZone::utc()));
         const Product product{{}, {}, server.url()};
         const UpdateChecker checker(http, info, product);
         const UpdateCheckResult result = QCoro::waitFor(checker.checkForUpdates());
         if (result)
-            return *result ? (*result)->id() : QStringLiteral("current");
+            return *result ? (*result)->id() : u"current"_s;
         const auto* error = std::get_if<UpdateCheckError>(&result.error());
         if (error == nullptr)
-            return QStringLiteral("transport");
-        return error->which == UpdateCheckError::Case::invalidResponse ? QStringLiteral("invalidResponse")
-                                                                       : QStringLiteral("invalidManifest");
+            return u"transport"_s;
+        return error->which == UpdateCheckError::Case::invalidResponse ? u"invalidResponse"_s : u"invalidManifest"_s;
     }
 };
 

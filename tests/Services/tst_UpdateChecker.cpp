@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Fakes.h"
+#include "Literals.h"
 #include "ScriptedHttpClient.h"
 #include "TestRunner.h"
 #include "UpdateChecker.h"
@@ -12,8 +13,8 @@ using Case = UpdateCheckError::Case;
 
 namespace {
 
-const Product product{QStringLiteral("Autrice"), QUrl(QStringLiteral("https://abissora.example/")),
-                      QUrl(QStringLiteral("https://abissora.example/novita/version.json"))};
+const Product product{u"Autrice"_s, QUrl(u"https://abissora.example/"_s),
+                      QUrl(u"https://abissora.example/novita/version.json"_s)};
 
 /// The checker of a release that runs.
 struct Running
@@ -63,7 +64,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("b");
         QTest::addColumn<int>("order");
         const auto row = [](const char* a, const char* b, int order) {
-            QTest::newRow(qPrintable(QStringLiteral("%1 and %2").arg(QLatin1String(a), QLatin1String(b))))
+            QTest::newRow(qPrintable(u"%1 and %2"_s.arg(QLatin1String(a), QLatin1String(b))))
                 << QString::fromUtf8(a) << QString::fromUtf8(b) << order;
         };
         row("1.3", "1.3.0", 0);
@@ -117,8 +118,8 @@ private Q_SLOTS:
 
     void aNulEndsNoNumber()
     {
-        const QString withNul = QStringLiteral("9") + QChar(0) + QStringLiteral(".2");
-        QCOMPARE(UpdateChecker::compareVersions(withNul, QStringLiteral("2")), 0);
+        const QString withNul = u"9"_s + QChar(0) + u".2"_s;
+        QCOMPARE(UpdateChecker::compareVersions(withNul, u"2"_s), 0);
     }
 
     void newer_data()
@@ -130,9 +131,9 @@ private Q_SLOTS:
         QTest::addColumn<bool>("isNewer");
         const auto row = [](const char* runningVersion, const char* runningBuild, const char* version, int build,
                             bool isNewer) {
-            const QString name = QStringLiteral("%1 (%2) and %3 (%4)")
-                                     .arg(QLatin1String(runningVersion), QLatin1String(runningBuild),
-                                          QLatin1String(version), QString::number(build));
+            const QString name =
+                u"%1 (%2) and %3 (%4)"_s.arg(QLatin1String(runningVersion), QLatin1String(runningBuild),
+                                             QLatin1String(version), QString::number(build));
             QTest::newRow(qPrintable(name)) << QString::fromUtf8(runningVersion) << QString::fromUtf8(runningBuild)
                                             << QString::fromUtf8(version) << build << isNewer;
         };
@@ -172,7 +173,7 @@ private Q_SLOTS:
 
     void asksTheManifestOnce()
     {
-        Running running(QStringLiteral("1.2.0"), QStringLiteral("42"));
+        Running running(u"1.2.0"_s, u"42"_s);
         QCOMPARE(running.http.requested(), QList<QUrl>());
         auto task = running.checker.checkForUpdates();
         QVERIFY(!task.isReady());
@@ -187,7 +188,7 @@ private Q_SLOTS:
         test::ScriptedHttpClient http;
         QCoro::Task<UpdateCheckResult> task;
         {
-            Running running(QStringLiteral("1.2.0"), QStringLiteral("42"));
+            Running running(u"1.2.0"_s, u"42"_s);
             task = UpdateChecker(http, running.info, product).checkForUpdates();
         }
         http.answer(200, manifest("1.3.0", 57));
@@ -202,9 +203,9 @@ private Q_SLOTS:
         const auto row = [](const char* name, int status, const QByteArray& body, const UpdateCheckResult& result) {
             QTest::newRow(name) << HttpResult(HttpResponse{status, body}) << result;
         };
-        const UpdateInfo info{QStringLiteral("1.3.0"), 57, QUrl(QStringLiteral("https://abissora.example/")), {}};
+        const UpdateInfo info{u"1.3.0"_s, 57, QUrl(u"https://abissora.example/"_s), {}};
         UpdateInfo withNotes = info;
-        withNotes.releaseNotes = QStringLiteral("Note");
+        withNotes.releaseNotes = u"Note"_s;
         row("newer", 200, manifest("1.3.0", 57), info);
         row("newer with notes", 200, manifest("1.3.0", 57).replace('}', R"(,"releaseNotes":"Note"})"), withNotes);
         row("equal", 200, manifest("1.2.0", 42), current);
@@ -222,7 +223,7 @@ private Q_SLOTS:
         QTest::newRow("error, too large")
             << HttpResult(HttpResponse{500, std::nullopt}) << failed(Case::invalidResponse);
         for (const auto kind : {HttpError::Kind::Transfer, HttpError::Kind::TimedOut, HttpError::Kind::Cancelled}) {
-            const HttpError error{kind, QStringLiteral("Host not found")};
+            const HttpError error{kind, u"Host not found"_s};
             QTest::addRow("transport %d", int(kind))
                 << HttpResult(tl::unexpected(error)) << UpdateCheckResult(tl::unexpected(UpdateCheckFailure(error)));
         }
@@ -232,15 +233,15 @@ private Q_SLOTS:
     {
         QFETCH(HttpResult, answer);
         QFETCH(UpdateCheckResult, result);
-        Running running(QStringLiteral("1.2.0"), QStringLiteral("42"));
+        Running running(u"1.2.0"_s, u"42"_s);
         QVERIFY(running.after(answer) == result);
     }
 
     void readsTheRunningVersionAfresh()
     {
-        Running running(QStringLiteral("1.2.0"), QStringLiteral("42"));
+        Running running(u"1.2.0"_s, u"42"_s);
         QVERIFY(running.after(200, manifest("1.2.0", 43)).value().has_value());
-        running.package = test::release(QStringLiteral("1.2.0"), QStringLiteral("43"));
+        running.package = test::release(u"1.2.0"_s, u"43"_s);
         QVERIFY(running.after(200, manifest("1.2.0", 43)) == current);
     }
 };

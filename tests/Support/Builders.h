@@ -4,6 +4,7 @@
 #include "Equipment.h"
 #include "EquipmentTypeModel.h"
 #include "Fakes.h"
+#include "Literals.h"
 
 #include <QDateTime>
 
@@ -24,10 +25,10 @@ inline Maintenance maintenance(int id, Instant date, Instant next)
     record.id = SequentialIds::at(id);
     record.date = date;
     record.type = MaintenanceType::repair;
-    record.description = QStringLiteral("Revisione primo stadio");
-    record.performedBy = QStringLiteral("Officina Blu");
+    record.description = u"Revisione primo stadio"_s;
+    record.performedBy = u"Officina Blu"_s;
     record.cost = 120.5;
-    record.notes = QStringLiteral("O-ring sostituiti");
+    record.notes = u"O-ring sostituiti"_s;
     record.nextServiceDate = next;
     return record;
 }
@@ -37,19 +38,19 @@ inline Maintenance maintenance(int id)
     return maintenance(id, at("2025-03-14T09:26:53Z"), at("2026-03-14T09:26:53Z"));
 }
 
-inline Equipment equipment(int id, const QString& name = QStringLiteral("Erogatore di prova"))
+inline Equipment equipment(int id, const QString& name = u"Erogatore di prova"_s)
 {
     Equipment item;
     item.id = SequentialIds::at(id);
     item.name = name;
     item.type = EquipmentType::bcd;
-    item.brand = QStringLiteral("Marca");
-    item.model = QStringLiteral("Modello");
-    item.serialNumber = QStringLiteral("SN-01");
+    item.brand = u"Marca"_s;
+    item.model = u"Modello"_s;
+    item.serialNumber = u"SN-01"_s;
     item.purchaseDate = at("2024-01-02T03:04:05Z");
     item.lastServiceDate = at("2025-06-07T08:09:10Z");
     item.nextServiceDate = at("2026-12-31T23:59:59Z");
-    item.notes = QStringLiteral("Note");
+    item.notes = u"Note"_s;
     return item;
 }
 
@@ -62,7 +63,7 @@ inline Equipment equipmentWith(int id, const QList<Maintenance>& history)
 
 inline EquipmentTypeModel equipmentType(int id, const QString& name)
 {
-    return {SequentialIds::at(id), name, QStringLiteral("dive.tank"), QStringLiteral("gray"), 180, true};
+    return {SequentialIds::at(id), name, u"dive.tank"_s, u"gray"_s, 180, true};
 }
 
 } // namespace abissora::test

@@ -5,6 +5,7 @@
 #include "Console.h"
 #include "FilePanel.h"
 #include "IdGenerator.h"
+#include "Literals.h"
 #include "Opener.h"
 #include "PackageInformation.h"
 #include "SymbolLibrary.h"
@@ -45,7 +46,7 @@ public:
     [[nodiscard]] QUuid next() override { return at(++m_count); }
     [[nodiscard]] static QUuid at(int n)
     {
-        return QUuid::fromString(QStringLiteral("00000000-0000-4000-8000-%1").arg(n, 12, 10, QLatin1Char('0')));
+        return QUuid::fromString(u"00000000-0000-4000-8000-%1"_s.arg(n, 12, 10, '0'_L1));
     }
     [[nodiscard]] int count() const { return m_count; }
 
@@ -61,11 +62,8 @@ public:
     /// One entry per print().
     [[nodiscard]] const QStringList& calls() const { return m_calls; }
     /// Everything printed, joined by line feeds, without the last one.
-    [[nodiscard]] QString text() const { return m_calls.join(QLatin1Char('\n')); }
-    [[nodiscard]] QStringList lines() const
-    {
-        return m_calls.isEmpty() ? QStringList() : text().split(QLatin1Char('\n'));
-    }
+    [[nodiscard]] QString text() const { return m_calls.join(u'\n'); }
+    [[nodiscard]] QStringList lines() const { return m_calls.isEmpty() ? QStringList() : text().split(u'\n'); }
     void clear() { m_calls.clear(); }
 
 private:
@@ -160,8 +158,8 @@ private:
 inline FakePackageInformation release(const QString& version, const QString& build)
 {
     FakePackageInformation package;
-    package.set(QStringLiteral("CFBundleShortVersionString"), version);
-    package.set(QStringLiteral("CFBundleVersion"), build);
+    package.set(u"CFBundleShortVersionString"_s, version);
+    package.set(u"CFBundleVersion"_s, build);
     return package;
 }
 

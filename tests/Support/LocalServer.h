@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Literals.h"
+
 #include <QHostAddress>
 #include <QList>
 #include <QTcpServer>
@@ -35,9 +37,9 @@ public:
     /// Behaviours are used up one a request; without any, the connection is closed.
     void next(Behaviour behaviour) { m_behaviours.append(std::move(behaviour)); }
 
-    [[nodiscard]] QUrl url(const QString& path = QStringLiteral("/version.json")) const
+    [[nodiscard]] QUrl url(const QString& path = u"/version.json"_s) const
     {
-        return QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(m_port).arg(path));
+        return QUrl(u"http://127.0.0.1:%1%2"_s.arg(m_port).arg(path));
     }
     /// Head of every request, without the empty line after it.
     [[nodiscard]] const QList<QByteArray>& requests() const { return m_requests; }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Builders.h"
+#include "Literals.h"
 #include "MaintenanceDocumentStore.h"
 #include "StorageManager.h"
 
@@ -23,9 +24,8 @@ struct TemporaryRegister
     SequentialIds ids;
     RecordingConsole console;
     ScriptedFilePanel panel;
-    PreferencesStore preferences{folder.filePath(QStringLiteral("preferences")),
-                                 folder.filePath(QStringLiteral("backups")), clock};
-    MaintenanceDocumentStore documents{folder.filePath(QStringLiteral("MaintenanceDocuments")), panel, ids, console};
+    PreferencesStore preferences{folder.filePath(u"preferences"_s), folder.filePath(u"backups"_s), clock};
+    MaintenanceDocumentStore documents{folder.filePath(u"MaintenanceDocuments"_s), panel, ids, console};
 
     [[nodiscard]] StorageManager storageManager() { return {preferences, console, clock, calendar, ids}; }
 
@@ -55,7 +55,7 @@ struct TemporaryRegister
     }
 };
 
-inline const QString registerFile = QStringLiteral("preferences/savedEquipment.json");
-inline const QString typesFile = QStringLiteral("preferences/equipmentTypes.json");
+inline const QString registerFile = u"preferences/savedEquipment.json"_s;
+inline const QString typesFile = u"preferences/equipmentTypes.json"_s;
 
 } // namespace abissora::test

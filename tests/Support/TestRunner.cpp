@@ -15,6 +15,8 @@ using Application = QApplication;
 using Application = QCoreApplication;
 #endif
 
+using namespace Qt::StringLiterals;
+
 namespace abissora::test {
 
 namespace {
@@ -30,7 +32,7 @@ std::map<std::string, TestFactory>& registry()
 void TestCase::init()
 {
     // The offscreen platform says of itself what it cannot do; that is no fault of the program.
-    QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support )")));
+    QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support )"_s));
 }
 
 TestRegistration::TestRegistration(const char* name, TestFactory factory)
@@ -44,7 +46,7 @@ TestRegistration::TestRegistration(const char* name, TestFactory factory)
 int main(int argc, char** argv)
 {
     const Application application(argc, argv);
-    QCoreApplication::setApplicationName(QStringLiteral("abissora"));
+    QCoreApplication::setApplicationName(u"abissora"_s);
     const auto& tests = abissora::test::registry();
     const auto found = argc > 1 ? tests.find(argv[1]) : tests.end();
     if (found == tests.end()) {

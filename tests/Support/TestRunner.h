@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QObject>
+#include <QSignalSpy>
+#include <QTest>
 #include <memory>
 
 namespace abissora::test {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Console.h"
+#include "Literals.h"
 
 #include <QMetaMethod>
 #include <QObject>
@@ -36,7 +37,7 @@ private Q_SLOTS:
     void note()
     {
         const QMetaMethod signal = sender()->metaObject()->method(senderSignalIndex());
-        m_events.append(QStringLiteral("<%1>").arg(QLatin1String(signal.name())));
+        m_events.append(u"<%1>"_s.arg(QLatin1String(signal.name())));
     }
 
 private:

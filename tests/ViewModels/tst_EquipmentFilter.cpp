@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Catalogue.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QTest>
@@ -27,9 +28,9 @@ QList<Equipment> sixItems()
         item(1, "Jacket", EquipmentType::bcd, "Mare", "Hydros", {}, "2026-12-01T00:00:00Z"),
         item(2, "Primo stadio", EquipmentType::regulator, "Apeks", "XTX50", {}, "2026-05-01T00:00:00Z"),
         item(3, "Ala", EquipmentType::bcd, "Nordsee", "Travel", QString(), "2026-12-01T00:00:00Z"),
-        item(4, "Pinne lunghe", EquipmentType::fins, "Nordsee", "Apnea", QStringLiteral("GAV"), "2027-01-01T00:00:00Z"),
-        item(5, "Faro", EquipmentType::other, "Perché", "F1", QStringLiteral("Torcia"), "2026-04-30T23:59:59Z"),
-        item(6, "Seconda ala", EquipmentType::bcd, "Mare", "Travel", QStringLiteral("gav"), "2026-12-01T00:00:00Z"),
+        item(4, "Pinne lunghe", EquipmentType::fins, "Nordsee", "Apnea", u"GAV"_s, "2027-01-01T00:00:00Z"),
+        item(5, "Faro", EquipmentType::other, "Perché", "F1", u"Torcia"_s, "2026-04-30T23:59:59Z"),
+        item(6, "Seconda ala", EquipmentType::bcd, "Mare", "Travel", u"gav"_s, "2026-12-01T00:00:00Z"),
     };
 }
 
@@ -51,15 +52,15 @@ private Q_SLOTS:
     void withoutFilters()
     {
         const test::Catalogue catalogue(sixItems());
-        QCOMPARE(namesOf(catalogue.viewModel.filteredEquipment()),
-                 QStringList({QStringLiteral("Faro"), QStringLiteral("Primo stadio"), QStringLiteral("Jacket"),
-                              QStringLiteral("Ala"), QStringLiteral("Seconda ala"), QStringLiteral("Pinne lunghe")}));
-        QCOMPARE(catalogue.console.calls(), QStringList{QStringLiteral("🔍 FILTRO ATTIVO:\n"
-                                                                       "   filterTypeName: nil\n"
-                                                                       "   selectedType: nil\n"
-                                                                       "   searchText: \n"
-                                                                       "   Totale equipment: 6\n"
-                                                                       "   📊 Risultati: 6 su 6")});
+        QCOMPARE(
+            namesOf(catalogue.viewModel.filteredEquipment()),
+            QStringList({u"Faro"_s, u"Primo stadio"_s, u"Jacket"_s, u"Ala"_s, u"Seconda ala"_s, u"Pinne lunghe"_s}));
+        QCOMPARE(catalogue.console.calls(), QStringList{u"🔍 FILTRO ATTIVO:\n"
+                                                        "   filterTypeName: nil\n"
+                                                        "   selectedType: nil\n"
+                                                        "   searchText: \n"
+                                                        "   Totale equipment: 6\n"
+                                                        "   📊 Risultati: 6 su 6"_s});
         QCOMPARE(catalogue.viewModel.equipment(), sixItems());
     }
 
@@ -67,24 +68,22 @@ private Q_SLOTS:
     {
         test::Catalogue catalogue(sixItems());
         catalogue.viewModel.setSelectedType(EquipmentType::fins); // the name wins
-        catalogue.viewModel.setFilterTypeName(QStringLiteral("GAV"));
+        catalogue.viewModel.setFilterTypeName(u"GAV"_s);
         catalogue.console.clear();
-        QCOMPARE(namesOf(catalogue.viewModel.filteredEquipment()),
-                 QStringList({QStringLiteral("Jacket"), QStringLiteral("Pinne lunghe")}));
-        QCOMPARE(catalogue.console.calls(),
-                 QStringList{QStringLiteral("🔍 FILTRO ATTIVO:\n"
-                                            "   filterTypeName: GAV\n"
-                                            "   selectedType: Pinne\n"
-                                            "   searchText: \n"
-                                            "   Totale equipment: 6\n"
-                                            "   ✅ Applico filtro per nome: 'GAV'\n"
-                                            "      - Jacket: displayName='GAV' match=true\n"
-                                            "      - Primo stadio: displayName='Erogatore' match=false\n"
-                                            "      - Ala: displayName='' match=false\n"
-                                            "      - Pinne lunghe: displayName='GAV' match=true\n"
-                                            "      - Faro: displayName='Torcia' match=false\n"
-                                            "      - Seconda ala: displayName='gav' match=false\n"
-                                            "   📊 Risultati: 2 su 6")});
+        QCOMPARE(namesOf(catalogue.viewModel.filteredEquipment()), QStringList({u"Jacket"_s, u"Pinne lunghe"_s}));
+        QCOMPARE(catalogue.console.calls(), QStringList{u"🔍 FILTRO ATTIVO:\n"
+                                                        "   filterTypeName: GAV\n"
+                                                        "   selectedType: Pinne\n"
+                                                        "   searchText: \n"
+                                                        "   Totale equipment: 6\n"
+                                                        "   ✅ Applico filtro per nome: 'GAV'\n"
+                                                        "      - Jacket: displayName='GAV' match=true\n"
+                                                        "      - Primo stadio: displayName='Erogatore' match=false\n"
+                                                        "      - Ala: displayName='' match=false\n"
+                                                        "      - Pinne lunghe: displayName='GAV' match=true\n"
+                                                        "      - Faro: displayName='Torcia' match=false\n"
+                                                        "      - Seconda ala: displayName='gav' match=false\n"
+                                                        "   📊 Risultati: 2 su 6"_s});
     }
 
     void anEmptyTypeNameLeavesTheKind()
@@ -92,58 +91,56 @@ private Q_SLOTS:
         test::Catalogue catalogue(sixItems());
         catalogue.viewModel.setFilterTypeName(QString());
         catalogue.viewModel.setSelectedType(EquipmentType::bcd);
-        catalogue.viewModel.setSearchText(QStringLiteral("travel"));
+        catalogue.viewModel.setSearchText(u"travel"_s);
         catalogue.console.clear();
-        QCOMPARE(namesOf(catalogue.viewModel.filteredEquipment()),
-                 QStringList({QStringLiteral("Ala"), QStringLiteral("Seconda ala")}));
-        QCOMPARE(catalogue.console.calls(), QStringList{QStringLiteral("🔍 FILTRO ATTIVO:\n"
-                                                                       "   filterTypeName: \n"
-                                                                       "   selectedType: GAV\n"
-                                                                       "   searchText: travel\n"
-                                                                       "   Totale equipment: 6\n"
-                                                                       "   ✅ Applico filtro per enum: GAV\n"
-                                                                       "   ✅ Applico filtro ricerca: travel\n"
-                                                                       "   📊 Risultati: 2 su 6")});
+        QCOMPARE(namesOf(catalogue.viewModel.filteredEquipment()), QStringList({u"Ala"_s, u"Seconda ala"_s}));
+        QCOMPARE(catalogue.console.calls(), QStringList{u"🔍 FILTRO ATTIVO:\n"
+                                                        "   filterTypeName: \n"
+                                                        "   selectedType: GAV\n"
+                                                        "   searchText: travel\n"
+                                                        "   Totale equipment: 6\n"
+                                                        "   ✅ Applico filtro per enum: GAV\n"
+                                                        "   ✅ Applico filtro ricerca: travel\n"
+                                                        "   📊 Risultati: 2 su 6"_s});
     }
 
     void anOwnTypeKeepsItsKind()
     {
         test::Catalogue catalogue(sixItems());
         catalogue.viewModel.setSelectedType(EquipmentType::fins);
-        QCOMPARE(namesOf(catalogue.viewModel.filteredEquipment()), QStringList{QStringLiteral("Pinne lunghe")});
+        QCOMPARE(namesOf(catalogue.viewModel.filteredEquipment()), QStringList{u"Pinne lunghe"_s});
     }
 
     void nameAndSearchTogether()
     {
         test::Catalogue catalogue(sixItems());
-        catalogue.viewModel.setFilterTypeName(QStringLiteral("GAV"));
-        catalogue.viewModel.setSearchText(QStringLiteral("HYDROS"));
+        catalogue.viewModel.setFilterTypeName(u"GAV"_s);
+        catalogue.viewModel.setSearchText(u"HYDROS"_s);
         catalogue.console.clear();
-        QCOMPARE(namesOf(catalogue.viewModel.filteredEquipment()), QStringList{QStringLiteral("Jacket")});
+        QCOMPARE(namesOf(catalogue.viewModel.filteredEquipment()), QStringList{u"Jacket"_s});
         const QStringList lines = catalogue.console.lines();
         QCOMPARE(lines.size(), 14);
-        QCOMPARE(lines.at(12), QStringLiteral("   ✅ Applico filtro ricerca: HYDROS"));
-        QCOMPARE(lines.at(13), QStringLiteral("   📊 Risultati: 1 su 6"));
+        QCOMPARE(lines.at(12), u"   ✅ Applico filtro ricerca: HYDROS"_s);
+        QCOMPARE(lines.at(13), u"   📊 Risultati: 1 su 6"_s);
     }
 
     void search_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("found");
-        QTest::newRow("brand in lower case") << QStringLiteral("apeks") << Names{QStringLiteral("Primo stadio")};
-        QTest::newRow("name") << QStringLiteral("STADIO") << Names{QStringLiteral("Primo stadio")};
-        QTest::newRow("model in the middle") << QStringLiteral("tx5") << Names{QStringLiteral("Primo stadio")};
-        QTest::newRow("name or model") << QStringLiteral("ap")
-                                       << Names{QStringLiteral("Primo stadio"), QStringLiteral("Pinne lunghe")};
-        QTest::newRow("accent in capitals") << QStringLiteral("PERCHÉ") << Names{QStringLiteral("Faro")};
-        QTest::newRow("accent missing") << QStringLiteral("perche") << Names{};
-        QTest::newRow("serial number") << QStringLiteral("SN-01") << Names{};
-        QTest::newRow("notes") << QStringLiteral("Note") << Names{};
-        QTest::newRow("own type") << QStringLiteral("Torcia") << Names{};
-        QTest::newRow("kind") << QStringLiteral("Erogatore") << Names{};
-        QTest::newRow("across fields") << QStringLiteral("stadioApeks") << Names{};
-        QTest::newRow("space counts") << QStringLiteral(" ala") << Names{QStringLiteral("Seconda ala")};
-        QTest::newRow("pattern characters") << QStringLiteral(".*") << Names{};
+        QTest::newRow("brand in lower case") << u"apeks"_s << Names{u"Primo stadio"_s};
+        QTest::newRow("name") << u"STADIO"_s << Names{u"Primo stadio"_s};
+        QTest::newRow("model in the middle") << u"tx5"_s << Names{u"Primo stadio"_s};
+        QTest::newRow("name or model") << u"ap"_s << Names{u"Primo stadio"_s, u"Pinne lunghe"_s};
+        QTest::newRow("accent in capitals") << u"PERCHÉ"_s << Names{u"Faro"_s};
+        QTest::newRow("accent missing") << u"perche"_s << Names{};
+        QTest::newRow("serial number") << u"SN-01"_s << Names{};
+        QTest::newRow("notes") << u"Note"_s << Names{};
+        QTest::newRow("own type") << u"Torcia"_s << Names{};
+        QTest::newRow("kind") << u"Erogatore"_s << Names{};
+        QTest::newRow("across fields") << u"stadioApeks"_s << Names{};
+        QTest::newRow("space counts") << u" ala"_s << Names{u"Seconda ala"_s};
+        QTest::newRow("pattern characters") << u".*"_s << Names{};
     }
 
     void search()
@@ -152,7 +149,7 @@ private Q_SLOTS:
         test::Catalogue catalogue(sixItems());
         catalogue.viewModel.setSearchText(text);
         QTEST(namesOf(catalogue.viewModel.filteredEquipment()), "found");
-        QVERIFY(catalogue.console.lines().contains(QString(QStringLiteral("   ✅ Applico filtro ricerca: ") + text)));
+        QVERIFY(catalogue.console.lines().contains(QString(u"   ✅ Applico filtro ricerca: "_s + text)));
     }
 
     void equalDatesKeepTheirOrder()
@@ -181,12 +178,12 @@ private Q_SLOTS:
     void anEmptyCatalogue()
     {
         test::Catalogue catalogue({});
-        catalogue.viewModel.setFilterTypeName(QStringLiteral("GAV"));
+        catalogue.viewModel.setFilterTypeName(u"GAV"_s);
         catalogue.console.clear();
         QCOMPARE(catalogue.viewModel.filteredEquipment(), QList<Equipment>());
-        QCOMPARE(catalogue.console.lines().mid(4), QStringList({QStringLiteral("   Totale equipment: 0"),
-                                                                QStringLiteral("   ✅ Applico filtro per nome: 'GAV'"),
-                                                                QStringLiteral("   📊 Risultati: 0 su 0")}));
+        QCOMPARE(catalogue.console.lines().mid(4),
+                 QStringList({u"   Totale equipment: 0"_s, u"   ✅ Applico filtro per nome: 'GAV'"_s,
+                              u"   📊 Risultati: 0 su 0"_s}));
     }
 };
 

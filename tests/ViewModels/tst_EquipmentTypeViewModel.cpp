@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeViewModel.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
@@ -11,9 +12,9 @@ using namespace abissora;
 
 namespace {
 
-const QString versionFile = QStringLiteral("preferences/iconSetVersion.json");
-const QString changed = QStringLiteral("<changed>");
-const QString typesChanged = QStringLiteral("<typesChanged>");
+const QString versionFile = u"preferences/iconSetVersion.json"_s;
+const QString changed = u"<changed>"_s;
+const QString typesChanged = u"<typesChanged>"_s;
 
 QStringList namesOf(const QList<EquipmentTypeModel>& types)
 {
@@ -43,24 +44,24 @@ private Q_SLOTS:
 
     void activeTypesByName()
     {
-        const QStringList sorted{QStringLiteral("Altro"),
-                                 QStringLiteral("Bombola"),
-                                 QStringLiteral("Bussola"),
-                                 QStringLiteral("Cintura Zavorra"),
-                                 QStringLiteral("Computer Subacqueo"),
-                                 QStringLiteral("Erogatore"),
-                                 QStringLiteral("GAV"),
-                                 QStringLiteral("Kit Pronto Soccorso"),
-                                 QStringLiteral("Manometro"),
-                                 QStringLiteral("Maschera"),
-                                 QStringLiteral("Muta"),
-                                 QStringLiteral("Muta Stagna"),
-                                 QStringLiteral("Ossigeno"),
-                                 QStringLiteral("Pinne"),
-                                 QStringLiteral("Profondimetro"),
-                                 QStringLiteral("Torcia")};
+        const QStringList sorted{u"Altro"_s,
+                                 u"Bombola"_s,
+                                 u"Bussola"_s,
+                                 u"Cintura Zavorra"_s,
+                                 u"Computer Subacqueo"_s,
+                                 u"Erogatore"_s,
+                                 u"GAV"_s,
+                                 u"Kit Pronto Soccorso"_s,
+                                 u"Manometro"_s,
+                                 u"Maschera"_s,
+                                 u"Muta"_s,
+                                 u"Muta Stagna"_s,
+                                 u"Ossigeno"_s,
+                                 u"Pinne"_s,
+                                 u"Profondimetro"_s,
+                                 u"Torcia"_s};
         QCOMPARE(namesOf(m_types->filteredTypes()), sorted);
-        QCOMPARE(m_types->types().first().name, QStringLiteral("Erogatore")); // the catalogue keeps its order
+        QCOMPARE(m_types->types().first().name, u"Erogatore"_s); // the catalogue keeps its order
     }
 
     void codePointOrder()
@@ -69,14 +70,12 @@ private Q_SLOTS:
         for (const char* name : {"zaino", "Élite", "arpione", "Zaino", "Boa", "\xF0\x9F\xA4\xBF", "\xEF\xBF\xBD", "boa",
                                  "Boa 10", "Boa 2", ""})
             types.append(test::equipmentType(static_cast<int>(types.size()), QString::fromUtf8(name)));
-        EquipmentTypeModel twin = test::equipmentType(50, QStringLiteral("Boa"));
+        EquipmentTypeModel twin = test::equipmentType(50, u"Boa"_s);
         types.prepend(twin);
         m_types->setTypes(types);
         QCOMPARE(namesOf(m_types->filteredTypes()),
-                 QStringList({QString(), QStringLiteral("Boa"), QStringLiteral("Boa"), QStringLiteral("Boa 10"),
-                              QStringLiteral("Boa 2"), QStringLiteral("Zaino"), QStringLiteral("arpione"),
-                              QStringLiteral("boa"), QStringLiteral("zaino"), QStringLiteral("Élite"),
-                              QString(QChar(0xFFFD)), QStringLiteral("🤿")}));
+                 QStringList({QString(), u"Boa"_s, u"Boa"_s, u"Boa 10"_s, u"Boa 2"_s, u"Zaino"_s, u"arpione"_s,
+                              u"boa"_s, u"zaino"_s, u"Élite"_s, QString(QChar(0xFFFD)), u"🤿"_s}));
         QCOMPARE(m_types->filteredTypes().at(1), twin); // of equal names the first in the catalogue
     }
 
@@ -84,13 +83,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("found");
-        QTest::newRow("inside a word") << QStringLiteral("rog") << QStringList{QStringLiteral("Erogatore")};
-        QTest::newRow("in capitals") << QStringLiteral("EROG") << QStringList{QStringLiteral("Erogatore")};
-        QTest::newRow("several") << QStringLiteral("muta")
-                                 << QStringList{QStringLiteral("Muta"), QStringLiteral("Muta Stagna")};
-        QTest::newRow("none") << QStringLiteral("zzz") << QStringList{};
-        QTest::newRow("icons do not count") << QStringLiteral("dive.") << QStringList{};
-        QTest::newRow("colours do not count") << QStringLiteral("orange") << QStringList{};
+        QTest::newRow("inside a word") << u"rog"_s << QStringList{u"Erogatore"_s};
+        QTest::newRow("in capitals") << u"EROG"_s << QStringList{u"Erogatore"_s};
+        QTest::newRow("several") << u"muta"_s << QStringList{u"Muta"_s, u"Muta Stagna"_s};
+        QTest::newRow("none") << u"zzz"_s << QStringList{};
+        QTest::newRow("icons do not count") << u"dive."_s << QStringList{};
+        QTest::newRow("colours do not count") << u"orange"_s << QStringList{};
     }
 
     void searching()
@@ -105,29 +103,28 @@ private Q_SLOTS:
         EquipmentTypeModel type = m_types->types().at(1);
         type.isActive = false;
         m_types->updateType(type);
-        QVERIFY(!namesOf(m_types->filteredTypes()).contains(QStringLiteral("GAV")));
-        m_types->setSearchText(QStringLiteral("gav"));
+        QVERIFY(!namesOf(m_types->filteredTypes()).contains(u"GAV"_s));
+        m_types->setSearchText(u"gav"_s);
         QCOMPARE(m_types->filteredTypes().size(), 0);
-        QVERIFY(!m_types->getTypeByName(QStringLiteral("GAV")));
+        QVERIFY(!m_types->getTypeByName(u"GAV"_s));
     }
 
     void byName()
     {
-        QCOMPARE(m_types->getTypeByName(QStringLiteral("Erogatore")), std::optional(m_types->types().at(0)));
+        QCOMPARE(m_types->getTypeByName(u"Erogatore"_s), std::optional(m_types->types().at(0)));
         for (const char* name : {"erogatore", "Erogatore ", "Erog", "", "Torce", "Èrogatore"})
             QVERIFY2(!m_types->getTypeByName(QString::fromUtf8(name)), name);
-        m_types->setSearchText(QStringLiteral("zzz")); // the search does not matter here
-        QVERIFY(m_types->getTypeByName(QStringLiteral("Erogatore")));
+        m_types->setSearchText(u"zzz"_s); // the search does not matter here
+        QVERIFY(m_types->getTypeByName(u"Erogatore"_s));
     }
 
     void theFirstActiveOfTwoNamesakes()
     {
-        QList<EquipmentTypeModel> types{test::equipmentType(1, QStringLiteral("Boa")),
-                                        test::equipmentType(2, QStringLiteral("Boa")),
-                                        test::equipmentType(3, QStringLiteral("Boa"))};
+        QList<EquipmentTypeModel> types{test::equipmentType(1, u"Boa"_s), test::equipmentType(2, u"Boa"_s),
+                                        test::equipmentType(3, u"Boa"_s)};
         types[0].isActive = false;
         m_types->setTypes(types);
-        QCOMPARE(m_types->getTypeByName(QStringLiteral("Boa")), std::optional(types.at(1)));
+        QCOMPARE(m_types->getTypeByName(u"Boa"_s), std::optional(types.at(1)));
     }
 
     void builtInKinds()
@@ -141,7 +138,7 @@ private Q_SLOTS:
 
     void addition()
     {
-        const EquipmentTypeModel namesake = test::equipmentType(99, QStringLiteral("GAV"));
+        const EquipmentTypeModel namesake = test::equipmentType(99, u"GAV"_s);
         m_types->addType(namesake);
         QCOMPARE(m_types->types().size(), 17);
         QCOMPARE(m_types->types().last(), namesake);
@@ -152,9 +149,9 @@ private Q_SLOTS:
     void update()
     {
         EquipmentTypeModel type = m_types->types().at(3);
-        type.name = QStringLiteral("Mascherina");
-        type.icon = QStringLiteral("star.fill");
-        type.color = QStringLiteral("Verde Acqua");
+        type.name = u"Mascherina"_s;
+        type.icon = u"star.fill"_s;
+        type.color = u"Verde Acqua"_s;
         type.serviceIntervalDays = -1;
         m_types->updateType(type);
         QCOMPARE(m_types->types().at(3), type);
@@ -165,9 +162,9 @@ private Q_SLOTS:
 
     void onlyTheFirstOfTheIdIsMeant()
     {
-        const EquipmentTypeModel first = test::equipmentType(1, QStringLiteral("Boa"));
-        const EquipmentTypeModel twin = test::equipmentType(1, QStringLiteral("Faro"));
-        const EquipmentTypeModel changedTwin = test::equipmentType(1, QStringLiteral("Lampada"));
+        const EquipmentTypeModel first = test::equipmentType(1, u"Boa"_s);
+        const EquipmentTypeModel twin = test::equipmentType(1, u"Faro"_s);
+        const EquipmentTypeModel changedTwin = test::equipmentType(1, u"Lampada"_s);
         m_types->setTypes({first, twin});
         m_types->updateType(changedTwin);
         QCOMPARE(m_types->types(), QList({changedTwin, twin}));
@@ -179,7 +176,7 @@ private Q_SLOTS:
     {
         const QList<EquipmentTypeModel> before = m_types->types();
         EquipmentTypeModel otherwise = before.at(0);
-        otherwise.name = QStringLiteral("Altro nome");
+        otherwise.name = u"Altro nome"_s;
         m_types->deleteType(otherwise);
         QCOMPARE(m_types->types(), before.mid(1));
         QCOMPARE(stored(), before.mid(1));
@@ -203,7 +200,7 @@ private Q_SLOTS:
 
     void reset()
     {
-        m_types->setTypes({test::equipmentType(1, QStringLiteral("Boa"))});
+        m_types->setTypes({test::equipmentType(1, u"Boa"_s)});
         m_types->saveTypes();
         m_files->write(versionFile, "1");
         m_timeline->take();
@@ -234,8 +231,8 @@ private Q_SLOTS:
             ++announced;
             QCOMPARE(stored(), m_types->types());
         });
-        m_types->addType(test::equipmentType(99, QStringLiteral("Boa")));
-        m_types->updateType(test::equipmentType(99, QStringLiteral("Faro")));
+        m_types->addType(test::equipmentType(99, u"Boa"_s));
+        m_types->updateType(test::equipmentType(99, u"Faro"_s));
         m_types->deleteType(test::equipmentType(99, QString()));
         m_types->resetToDefaults();
         QCOMPARE(announced, 4);
@@ -244,14 +241,13 @@ private Q_SLOTS:
     void otherProperties()
     {
         m_types->setSelectedType(m_types->types().at(0));
-        m_types->setSearchText(QStringLiteral("a"));
+        m_types->setSearchText(u"a"_s);
         m_types->setAddingType(true);
         QCOMPARE(m_types->selectedType(), std::optional(m_types->types().at(0)));
-        QCOMPARE(m_types->searchText(), QStringLiteral("a"));
+        QCOMPARE(m_types->searchText(), u"a"_s);
         QVERIFY(m_types->isAddingType());
-        QCOMPARE(m_timeline->take(), QStringList({changed, QStringLiteral("<selectedTypeChanged>"), changed,
-                                                  QStringLiteral("<searchTextChanged>"), changed,
-                                                  QStringLiteral("<isAddingTypeChanged>")}));
+        QCOMPARE(m_timeline->take(), QStringList({changed, u"<selectedTypeChanged>"_s, changed,
+                                                  u"<searchTextChanged>"_s, changed, u"<isAddingTypeChanged>"_s}));
     }
 
 private:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentViewModel.h"
+#include "Literals.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
 #include "Timeline.h"
@@ -10,10 +11,10 @@ using namespace abissora;
 
 namespace {
 
-const QString changed = QStringLiteral("<changed>");
-const QString searchTextChanged = QStringLiteral("<searchTextChanged>");
-const QString selectedTypeChanged = QStringLiteral("<selectedTypeChanged>");
-const QString filterTypeNameChanged = QStringLiteral("<filterTypeNameChanged>");
+const QString changed = u"<changed>"_s;
+const QString searchTextChanged = u"<searchTextChanged>"_s;
+const QString selectedTypeChanged = u"<selectedTypeChanged>"_s;
+const QString filterTypeNameChanged = u"<filterTypeNameChanged>"_s;
 
 } // namespace
 
@@ -38,43 +39,42 @@ private Q_SLOTS:
 
     void everyAssignmentOfTheTypeNameIsLogged()
     {
-        m_viewModel->setFilterTypeName(QStringLiteral("GAV"));
-        m_viewModel->setFilterTypeName(QStringLiteral("GAV"));
+        m_viewModel->setFilterTypeName(u"GAV"_s);
+        m_viewModel->setFilterTypeName(u"GAV"_s);
         m_viewModel->setFilterTypeName(QString());
         m_viewModel->setFilterTypeName(std::nullopt);
         m_viewModel->setFilterTypeName(std::nullopt);
-        QCOMPARE(
-            m_timeline->take(),
-            QStringList({QStringLiteral("📌 filterTypeName cambiato da nil a GAV"), changed, filterTypeNameChanged,
-                         QStringLiteral("📌 filterTypeName cambiato da GAV a GAV"), changed, filterTypeNameChanged,
-                         QStringLiteral("📌 filterTypeName cambiato da GAV a "), changed, filterTypeNameChanged,
-                         QStringLiteral("📌 filterTypeName cambiato da  a nil"), changed, filterTypeNameChanged,
-                         QStringLiteral("📌 filterTypeName cambiato da nil a nil"), changed, filterTypeNameChanged}));
+        QCOMPARE(m_timeline->take(),
+                 QStringList({u"📌 filterTypeName cambiato da nil a GAV"_s, changed, filterTypeNameChanged,
+                              u"📌 filterTypeName cambiato da GAV a GAV"_s, changed, filterTypeNameChanged,
+                              u"📌 filterTypeName cambiato da GAV a "_s, changed, filterTypeNameChanged,
+                              u"📌 filterTypeName cambiato da  a nil"_s, changed, filterTypeNameChanged,
+                              u"📌 filterTypeName cambiato da nil a nil"_s, changed, filterTypeNameChanged}));
     }
 
     void searchTextAndKindAreAnnouncedOnly()
     {
-        m_viewModel->setSearchText(QStringLiteral("apeks"));
+        m_viewModel->setSearchText(u"apeks"_s);
         m_viewModel->setSelectedType(EquipmentType::fins);
-        QCOMPARE(m_viewModel->searchText(), QStringLiteral("apeks"));
+        QCOMPARE(m_viewModel->searchText(), u"apeks"_s);
         QVERIFY(m_viewModel->selectedType() == EquipmentType::fins);
         QCOMPARE(m_timeline->take(), QStringList({changed, searchTextChanged, changed, selectedTypeChanged}));
     }
 
     void filteringByATypeName()
     {
-        m_viewModel->setSearchText(QStringLiteral("apeks"));
+        m_viewModel->setSearchText(u"apeks"_s);
         m_viewModel->setSelectedType(EquipmentType::fins);
-        m_viewModel->setFilterTypeName(QStringLiteral("Torcia"));
+        m_viewModel->setFilterTypeName(u"Torcia"_s);
         m_timeline->take();
-        m_viewModel->filterByTypeName(QStringLiteral("GAV"));
+        m_viewModel->filterByTypeName(u"GAV"_s);
         QCOMPARE(m_viewModel->searchText(), QString());
         QVERIFY(!m_viewModel->selectedType());
-        QCOMPARE(m_viewModel->filterTypeName(), std::optional(QStringLiteral("GAV")));
+        QCOMPARE(m_viewModel->filterTypeName(), std::optional(u"GAV"_s));
         QCOMPARE(m_timeline->take(),
-                 QStringList({QStringLiteral("🎯 FILTRO PER NOME: 'GAV'"), changed, searchTextChanged, changed,
-                              selectedTypeChanged, QStringLiteral("📌 filterTypeName cambiato da Torcia a GAV"), changed,
-                              filterTypeNameChanged, QStringLiteral("   ✅ filterTypeName impostato a: 'GAV'")}));
+                 QStringList({u"🎯 FILTRO PER NOME: 'GAV'"_s, changed, searchTextChanged, changed, selectedTypeChanged,
+                              u"📌 filterTypeName cambiato da Torcia a GAV"_s, changed, filterTypeNameChanged,
+                              u"   ✅ filterTypeName impostato a: 'GAV'"_s}));
     }
 
     void filteringByAnEmptyTypeName()
@@ -82,31 +82,30 @@ private Q_SLOTS:
         m_viewModel->filterByTypeName(QString());
         QCOMPARE(m_viewModel->filterTypeName(), std::optional(QString()));
         const QStringList events = m_timeline->take();
-        QCOMPARE(events.first(), QStringLiteral("🎯 FILTRO PER NOME: ''"));
-        QCOMPARE(events.last(), QStringLiteral("   ✅ filterTypeName impostato a: ''"));
+        QCOMPARE(events.first(), u"🎯 FILTRO PER NOME: ''"_s);
+        QCOMPARE(events.last(), u"   ✅ filterTypeName impostato a: ''"_s);
     }
 
     void aReset()
     {
-        m_viewModel->setSearchText(QStringLiteral("apeks"));
+        m_viewModel->setSearchText(u"apeks"_s);
         m_viewModel->setSelectedType(EquipmentType::fins);
-        m_viewModel->setFilterTypeName(QStringLiteral("Torcia"));
+        m_viewModel->setFilterTypeName(u"Torcia"_s);
         m_timeline->take();
         m_viewModel->resetFilters();
         QCOMPARE(m_viewModel->searchText(), QString());
         QVERIFY(!m_viewModel->selectedType());
         QVERIFY(!m_viewModel->filterTypeName());
-        QCOMPARE(m_timeline->take(),
-                 QStringList({QStringLiteral("🔄 Reset filtri"), changed, searchTextChanged, changed,
-                              selectedTypeChanged, QStringLiteral("📌 filterTypeName cambiato da Torcia a nil"), changed,
-                              filterTypeNameChanged, changed}));
+        QCOMPARE(m_timeline->take(), QStringList({u"🔄 Reset filtri"_s, changed, searchTextChanged, changed,
+                                                  selectedTypeChanged, u"📌 filterTypeName cambiato da Torcia a nil"_s,
+                                                  changed, filterTypeNameChanged, changed}));
     }
 
     void filtersAreNotStored()
     {
-        m_viewModel->filterByTypeName(QStringLiteral("GAV"));
+        m_viewModel->filterByTypeName(u"GAV"_s);
         m_viewModel->resetFilters();
-        QCOMPARE(m_files->names(QStringLiteral("preferences")), QStringList{QStringLiteral("savedEquipment.json")});
+        QCOMPARE(m_files->names(u"preferences"_s), QStringList{u"savedEquipment.json"_s});
         QCOMPARE(m_files->content(test::registerFile), QByteArray("[]"));
     }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeViewModel.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
@@ -11,8 +12,8 @@ using namespace abissora;
 
 namespace {
 
-const QString versionFile = QStringLiteral("preferences/iconSetVersion.json");
-const QString unknownIcon = QStringLiteral("questionmark.circle.fill");
+const QString versionFile = u"preferences/iconSetVersion.json"_s;
+const QString unknownIcon = u"questionmark.circle.fill"_s;
 
 constexpr std::pair<QStringView, QStringView> replacements[] = {
     {u"wind.circle.fill", u"dive.regulator"},
@@ -77,7 +78,7 @@ private Q_SLOTS:
         QCOMPARE(std::size(replacements), std::size_t(35));
         QList<EquipmentTypeModel> stored;
         for (const auto& [old, current] : replacements)
-            stored.append(type(QStringLiteral("Boa"), old.toString()));
+            stored.append(type(u"Boa"_s, old.toString()));
         const auto types = load(stored, AnySymbol());
         for (std::size_t i = 0; i < std::size(replacements); ++i)
             QCOMPARE(types.at(qsizetype(i)).icon, replacements[i].second.toString());
@@ -122,9 +123,9 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(QString, icon);
-        const test::FakeSymbolLibrary symbols{QStringLiteral("star.fill"), QStringLiteral("compass.drawing"),
-                                              QStringLiteral("gauge.with.dots.needle.bottom.50percent"),
-                                              QStringLiteral("lungs.fill"), unknownIcon};
+        const test::FakeSymbolLibrary symbols{u"star.fill"_s, u"compass.drawing"_s,
+                                              u"gauge.with.dots.needle.bottom.50percent"_s, u"lungs.fill"_s,
+                                              unknownIcon};
         EquipmentTypeModel before = type(name, icon);
         before.isActive = false;
         const auto types = load({before}, symbols);
@@ -154,17 +155,16 @@ private Q_SLOTS:
         QFETCH(bool, migrates);
         if (!stored.isEmpty())
             m_files->write(versionFile, stored);
-        const EquipmentTypeModel old = type(QStringLiteral("GAV"), QStringLiteral("person.wave.2.circle.fill"));
+        const EquipmentTypeModel old = type(u"GAV"_s, u"person.wave.2.circle.fill"_s);
         const auto types = load({old}, test::FakeSymbolLibrary());
-        QCOMPARE(types.at(0).icon, migrates ? QStringLiteral("dive.bcd") : old.icon);
+        QCOMPARE(types.at(0).icon, migrates ? u"dive.bcd"_s : old.icon);
         QCOMPARE(m_files->content(versionFile), migrates ? QByteArray("4") : stored);
     }
 
     void nothingToDoSavesNothing()
     {
         // Written by hand: a save would write it otherwise.
-        const QByteArray spaced =
-            encode(QList{type(QStringLiteral("Boa"), QStringLiteral("dive.tank"))}).value().replace("{", "{ ");
+        const QByteArray spaced = encode(QList{type(u"Boa"_s, u"dive.tank"_s)}).value().replace("{", "{ ");
         m_files->write(test::typesFile, spaced);
         const test::FakeSymbolLibrary symbols;
         const EquipmentTypeViewModel types(m_files->preferences, symbols, m_files->console, m_files->ids);
@@ -183,8 +183,8 @@ private Q_SLOTS:
     {
         const test::FakeSymbolLibrary nothing;
         const EquipmentTypeViewModel types(m_files->preferences, nothing, m_files->console, m_files->ids);
-        QCOMPARE(types.types().at(10).icon, QStringLiteral("gauge.with.dots.needle.bottom.0percent"));
-        QCOMPARE(types.types().at(13).icon, QStringLiteral("cross.case.fill"));
+        QCOMPARE(types.types().at(10).icon, u"gauge.with.dots.needle.bottom.0percent"_s);
+        QCOMPARE(types.types().at(13).icon, u"cross.case.fill"_s);
     }
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeViewModel.h"
 #include "FileSizeLimit.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
@@ -11,8 +12,8 @@ using namespace abissora;
 
 namespace {
 
-const QString versionFile = QStringLiteral("preferences/iconSetVersion.json");
-const QString backups = QStringLiteral("backups");
+const QString versionFile = u"preferences/iconSetVersion.json"_s;
+const QString backups = u"backups"_s;
 
 struct Row
 {
@@ -86,8 +87,7 @@ private Q_SLOTS:
 
     void storedTypesComeAsTheyStand()
     {
-        QList<EquipmentTypeModel> stored{test::equipmentType(1, QStringLiteral("Scooter")),
-                                         test::equipmentType(2, QStringLiteral("Arpione"))};
+        QList<EquipmentTypeModel> stored{test::equipmentType(1, u"Scooter"_s), test::equipmentType(2, u"Arpione"_s)};
         stored[1].isActive = false;
         m_files->write(test::typesFile, encode(stored).value());
         QCOMPARE(load()->types(), stored);
@@ -103,19 +103,18 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("error");
         const QByteArray valid =
-            encode(QList{test::equipmentType(1, QStringLiteral("Boa")), test::equipmentType(2, QStringLiteral("Faro"))})
-                .value();
+            encode(QList{test::equipmentType(1, u"Boa"_s), test::equipmentType(2, u"Faro"_s)}).value();
         QTest::newRow("one without a colour")
             << QByteArray(valid).replace(valid.lastIndexOf(R"("color":"gray",)"), 15, "")
-            << QStringLiteral("Error loading types: [1].color: the member is missing");
+            << u"Error loading types: [1].color: the member is missing"_s;
         QTest::newRow("interval as a text")
             << QByteArray(valid).replace(":180", ":\"180\"")
-            << QStringLiteral("Error loading types: [0].serviceIntervalDays: expected a whole number of 64 bits, "
-                              "found a string");
+            << u"Error loading types: [0].serviceIntervalDays: expected a whole number of 64 bits, "
+               "found a string"_s;
         QTest::newRow("without isActive") << QByteArray(valid).replace(R"(,"isActive":true)", "")
-                                          << QStringLiteral("Error loading types: [0].isActive: the member is missing");
-        QTest::newRow("no JSON") << QByteArray("?") << QStringLiteral("Error loading types: parse error at line 1");
-        QTest::newRow("nothing") << QByteArray() << QStringLiteral("Error loading types: parse error at line 1");
+                                          << u"Error loading types: [0].isActive: the member is missing"_s;
+        QTest::newRow("no JSON") << QByteArray("?") << u"Error loading types: parse error at line 1"_s;
+        QTest::newRow("nothing") << QByteArray() << u"Error loading types: parse error at line 1"_s;
     }
 
     void whatCannotBeDecodedIsReplacedAndKept()
@@ -129,8 +128,8 @@ private Q_SLOTS:
         QVERIFY2(m_files->console.text().startsWith(error), qPrintable(m_files->console.text()));
         QCOMPARE(decodeTypes(m_files->content(test::typesFile)).value(), standardTypes(1));
         QCOMPARE(m_files->content(versionFile), QByteArray("4"));
-        QCOMPARE(m_files->names(backups), QStringList{QStringLiteral("equipmentTypes-20260615T100000Z.json")});
-        QCOMPARE(m_files->content(QStringLiteral("backups/equipmentTypes-20260615T100000Z.json")), bytes);
+        QCOMPARE(m_files->names(backups), QStringList{u"equipmentTypes-20260615T100000Z.json"_s});
+        QCOMPARE(m_files->content(u"backups/equipmentTypes-20260615T100000Z.json"_s), bytes);
     }
 
     void withoutACopyNothingIsOverwritten()
@@ -139,9 +138,9 @@ private Q_SLOTS:
         m_files->write(backups, "in the way");
         const auto types = load();
         QCOMPARE(types->types(), standardTypes(1));
-        const QString failed = QStringLiteral("Error saving types: ") + IoError::fromErrno(EEXIST).reason;
+        const QString failed = u"Error saving types: "_s + IoError::fromErrno(EEXIST).reason;
         QCOMPARE(m_files->console.calls().size(), 3);
-        QVERIFY(m_files->console.calls().at(0).startsWith(QStringLiteral("Error loading types: ")));
+        QVERIFY(m_files->console.calls().at(0).startsWith(u"Error loading types: "_s));
         QCOMPARE(m_files->console.calls().mid(1), QStringList({failed, failed}));
         QCOMPARE(m_files->content(test::typesFile), QByteArray("broken"));
 
@@ -158,9 +157,9 @@ private Q_SLOTS:
         {
             const test::FileSizeLimit limit(100);
             types->updateType(types->types().at(0));
-            types->addType(test::equipmentType(99, QStringLiteral("Boa")));
+            types->addType(test::equipmentType(99, u"Boa"_s));
         }
-        const QString failed = QStringLiteral("Error saving types: ") + IoError::fromErrno(EFBIG).reason;
+        const QString failed = u"Error saving types: "_s + IoError::fromErrno(EFBIG).reason;
         QCOMPARE(m_files->console.calls(), QStringList({failed, failed}));
         QCOMPARE(types->types().size(), 17);
         QCOMPARE(m_files->content(test::typesFile), before);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Catalogue.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QSignalSpy>
@@ -169,27 +170,27 @@ private Q_SLOTS:
     void everyRecordOfTheIdGoesTheFirstOnesDocumentsWithIt()
     {
         Maintenance first = oldRecord();
-        first.receiptFileName = QStringLiteral("R.pdf");
-        first.certificateFileName = QStringLiteral("C.pdf");
+        first.receiptFileName = u"R.pdf"_s;
+        first.certificateFileName = u"C.pdf"_s;
         Maintenance twin = oldRecord();
-        twin.receiptFileName = QStringLiteral("twin.pdf");
+        twin.receiptFileName = u"twin.pdf"_s;
         auto catalogue = catalogueWith({first, newRecord(), twin});
         for (const char* name : {"R.pdf", "C.pdf", "twin.pdf"})
-            catalogue.write(QStringLiteral("MaintenanceDocuments/") + QLatin1String(name), "%PDF");
+            catalogue.write(u"MaintenanceDocuments/"_s + QLatin1String(name), "%PDF");
         catalogue.viewModel.deleteMaintenance(itemId, oldId);
         QCOMPARE(itemOf(catalogue).maintenanceHistory, QList{newRecord()});
-        QCOMPARE(catalogue.names(QStringLiteral("MaintenanceDocuments")), QStringList{QStringLiteral("twin.pdf")});
+        QCOMPARE(catalogue.names(u"MaintenanceDocuments"_s), QStringList{u"twin.pdf"_s});
     }
 
     void documentsStayWhenARecordIsReplaced()
     {
         Maintenance record = oldRecord();
-        record.receiptFileName = QStringLiteral("R.pdf");
+        record.receiptFileName = u"R.pdf"_s;
         auto catalogue = catalogueWith({record});
-        catalogue.write(QStringLiteral("MaintenanceDocuments/R.pdf"), "%PDF");
+        catalogue.write(u"MaintenanceDocuments/R.pdf"_s, "%PDF");
         record.receiptFileName.reset();
         catalogue.viewModel.updateMaintenance(itemId, record);
-        QCOMPARE(catalogue.names(QStringLiteral("MaintenanceDocuments")).size(), 1);
+        QCOMPARE(catalogue.names(u"MaintenanceDocuments"_s).size(), 1);
     }
 
     void theIdMayBeThatOfTheRecordItself()

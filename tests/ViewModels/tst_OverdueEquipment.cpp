@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentViewModel.h"
+#include "Literals.h"
 #include "RecordJson.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
@@ -69,8 +70,8 @@ private Q_SLOTS:
     {
         const QList<Equipment> all = dueAt({at("2026-06-20T00:00:00Z")});
         const auto viewModel = viewModelOf(all, m_files->calendar);
-        viewModel->filterByTypeName(QStringLiteral("Torcia"));
-        viewModel->setSearchText(QStringLiteral("zzz"));
+        viewModel->filterByTypeName(u"Torcia"_s);
+        viewModel->setSearchText(u"zzz"_s);
         QCOMPARE(viewModel->overdueEquipment(), all);
     }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Catalogue.h"
+#include "Literals.h"
 #include "RegisterSummary.h"
 #include "TestRunner.h"
 
@@ -38,8 +39,7 @@ struct Figures
 
 char* toString(const Figures& f)
 {
-    return QTest::toString(QStringLiteral("%1 in all, %2 active, %3 due, %4 expiring, %5 in order")
-                               .arg(f.total)
+    return QTest::toString(u"%1 in all, %2 active, %3 due, %4 expiring, %5 in order"_s.arg(f.total)
                                .arg(f.active)
                                .arg(f.due)
                                .arg(f.expiring)
@@ -164,18 +164,15 @@ private Q_SLOTS:
         QList<Equipment> all;
         for (int i = 0; i < 7; ++i)
             all.append(equipment(i)); // GAV
-        all[1].customTypeName = QStringLiteral("Torcia");
+        all[1].customTypeName = u"Torcia"_s;
         all[2].customTypeName = QString(); // as if absent
         all[3].isActive = false;
-        all[4].customTypeName = QStringLiteral("torcia");
+        all[4].customTypeName = u"torcia"_s;
         all[5].type = EquipmentType::mask;
         all[6].type = EquipmentType::mask;
-        all[6].customTypeName = QStringLiteral("Boa");
+        all[6].customTypeName = u"Boa"_s;
         all[6].isActive = false;
-        const QHash<QString, qsizetype> expected{{QStringLiteral("GAV"), 2},
-                                                 {QStringLiteral("Torcia"), 1},
-                                                 {QStringLiteral("torcia"), 1},
-                                                 {QStringLiteral("Maschera"), 1}};
+        const QHash<QString, qsizetype> expected{{u"GAV"_s, 2}, {u"Torcia"_s, 1}, {u"torcia"_s, 1}, {u"Maschera"_s, 1}};
         QCOMPARE(activeItemsByTypeName(all), expected);
     }
 };

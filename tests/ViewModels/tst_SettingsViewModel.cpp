@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "FileSizeLimit.h"
+#include "Literals.h"
 #include "SettingsViewModel.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
@@ -29,7 +30,7 @@ private Q_SLOTS:
     void defaultsAreReadAndNotWritten()
     {
         compareDefaults();
-        QCOMPARE(m_files->names(QStringLiteral(".")), QStringList());
+        QCOMPARE(m_files->names(u"."_s), QStringList());
         QCOMPARE(m_timeline->take(), QStringList());
     }
 
@@ -39,7 +40,7 @@ private Q_SLOTS:
         QCOMPARE(m_settings->notificationsEnabled(), false);
         QCOMPARE(m_settings->reminderDays(), std::int64_t(37));
         QCOMPARE(m_settings->defaultServiceInterval(), std::int64_t(730));
-        QCOMPARE(m_settings->currencySymbol(), QStringLiteral("CHF \"è\""));
+        QCOMPARE(m_settings->currencySymbol(), u"CHF \"è\""_s);
         QCOMPARE(m_settings->darkMode(), true);
         QCOMPARE(m_settings->checkForUpdatesOnLaunch(), true);
         QCOMPARE(storedValues(), QList<QByteArray>({"false", "37", "730", "\"CHF \\\"\xC3\xA8\\\"\"", "true", "true"}));
@@ -47,7 +48,7 @@ private Q_SLOTS:
         SettingsViewModel afterARestart(m_files->preferences, m_files->console);
         QCOMPARE(afterARestart.notificationsEnabled(), false);
         QCOMPARE(afterARestart.reminderDays(), std::int64_t(37));
-        QCOMPARE(afterARestart.currencySymbol(), QStringLiteral("CHF \"è\""));
+        QCOMPARE(afterARestart.currencySymbol(), u"CHF \"è\""_s);
         QCOMPARE(afterARestart.darkMode(), true);
     }
 
@@ -63,9 +64,9 @@ private Q_SLOTS:
 
     void readsGoToTheStore()
     {
-        m_files->write(QStringLiteral("preferences/darkMode.json"), "true");
+        m_files->write(u"preferences/darkMode.json"_s, "true");
         QCOMPARE(m_settings->darkMode(), true);
-        m_files->write(QStringLiteral("preferences/darkMode.json"), "false");
+        m_files->write(u"preferences/darkMode.json"_s, "false");
         QCOMPARE(m_settings->darkMode(), false);
     }
 
@@ -73,11 +74,11 @@ private Q_SLOTS:
     {
         for (const char* name : {"notificationsEnabled", "reminderDays", "defaultServiceInterval", "currencySymbol",
                                  "darkMode", "checkForUpdatesOnLaunch"})
-            m_files->write(QStringLiteral("preferences/%1.json").arg(QLatin1String(name)), "[1]");
+            m_files->write(u"preferences/%1.json"_s.arg(QLatin1String(name)), "[1]");
         compareDefaults();
-        m_files->write(QStringLiteral("preferences/reminderDays.json"), "37.0");
+        m_files->write(u"preferences/reminderDays.json"_s, "37.0");
         QCOMPARE(m_settings->reminderDays(), std::int64_t(37));
-        m_files->write(QStringLiteral("preferences/reminderDays.json"), "37.5");
+        m_files->write(u"preferences/reminderDays.json"_s, "37.5");
         QCOMPARE(m_settings->reminderDays(), std::int64_t(30));
     }
 
@@ -100,11 +101,11 @@ private Q_SLOTS:
     void aResetLeavesOtherKeysAlone()
     {
         m_files->write(test::registerFile, "[]");
-        m_files->write(QStringLiteral("preferences/iconSetVersion.json"), "3");
+        m_files->write(u"preferences/iconSetVersion.json"_s, "3");
         m_settings->resetToDefaults();
-        QCOMPARE(m_files->names(QStringLiteral("preferences")).size(), 8);
+        QCOMPARE(m_files->names(u"preferences"_s).size(), 8);
         QCOMPARE(m_files->content(test::registerFile), QByteArray("[]"));
-        QCOMPARE(m_files->content(QStringLiteral("preferences/iconSetVersion.json")), QByteArray("3"));
+        QCOMPARE(m_files->content(u"preferences/iconSetVersion.json"_s), QByteArray("3"));
     }
 
     void aFailedWriteIsLogged()
@@ -113,8 +114,7 @@ private Q_SLOTS:
             const test::FileSizeLimit limit(1);
             m_settings->setDarkMode(true);
         }
-        QCOMPARE(m_timeline->take().first(),
-                 QString(QStringLiteral("Error saving settings: ") + IoError::fromErrno(EFBIG).reason));
+        QCOMPARE(m_timeline->take().first(), QString(u"Error saving settings: "_s + IoError::fromErrno(EFBIG).reason));
         QCOMPARE(m_settings->darkMode(), false);
     }
 
@@ -134,20 +134,20 @@ private:
         m_settings->setNotificationsEnabled(false);
         m_settings->setReminderDays(37);
         m_settings->setDefaultServiceInterval(730);
-        m_settings->setCurrencySymbol(QStringLiteral("CHF \"è\""));
+        m_settings->setCurrencySymbol(u"CHF \"è\""_s);
         m_settings->setDarkMode(true);
         m_settings->setCheckForUpdatesOnLaunch(true);
     }
 
     static QStringList announcements()
     {
-        const QString changed = QStringLiteral("<changed>");
-        return {changed, QStringLiteral("<notificationsEnabledChanged>"),
-                changed, QStringLiteral("<reminderDaysChanged>"),
-                changed, QStringLiteral("<defaultServiceIntervalChanged>"),
-                changed, QStringLiteral("<currencySymbolChanged>"),
-                changed, QStringLiteral("<darkModeChanged>"),
-                changed, QStringLiteral("<checkForUpdatesOnLaunchChanged>")};
+        const QString changed = u"<changed>"_s;
+        return {changed, u"<notificationsEnabledChanged>"_s,
+                changed, u"<reminderDaysChanged>"_s,
+                changed, u"<defaultServiceIntervalChanged>"_s,
+                changed, u"<currencySymbolChanged>"_s,
+                changed, u"<darkModeChanged>"_s,
+                changed, u"<checkForUpdatesOnLaunchChanged>"_s};
     }
 
     QList<QByteArray> storedValues() const
@@ -155,7 +155,7 @@ private:
         QList<QByteArray> values;
         for (const char* name : {"notificationsEnabled", "reminderDays", "defaultServiceInterval", "currencySymbol",
                                  "darkMode", "checkForUpdatesOnLaunch"})
-            values.append(m_files->content(QStringLiteral("preferences/%1.json").arg(QLatin1String(name))));
+            values.append(m_files->content(u"preferences/%1.json"_s.arg(QLatin1String(name))));
         return values;
     }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Fakes.h"
+#include "Literals.h"
 #include "ScriptedHttpClient.h"
 #include "TestRunner.h"
 #include "Timeline.h"
@@ -12,19 +13,19 @@ using namespace abissora;
 
 namespace {
 
-const Product product{QStringLiteral("Autrice"), QUrl(QStringLiteral("https://abissora.example/")),
-                      QUrl(QStringLiteral("https://abissora.example/version.json"))};
+const Product product{u"Autrice"_s, QUrl(u"https://abissora.example/"_s),
+                      QUrl(u"https://abissora.example/version.json"_s)};
 
 const QByteArray
     newer(R"({"version":"1.3.0","build":57,"downloadURL":"https://abissora.example/","releaseNotes":"a"})");
 const QByteArray newest = QByteArray(newer).replace("1.3.0", "1.4.0");
 const QByteArray current = QByteArray(newer).replace("1.3.0", "1.2.0").replace("57", "42");
 
-const QString unreachable = QStringLiteral("Impossibile contattare il sito dell'applicazione.");
+const QString unreachable = u"Impossibile contattare il sito dell'applicazione."_s;
 
 UpdateInfo offered(const char* version = "1.3.0")
 {
-    return {QLatin1String(version), 57, QUrl(QStringLiteral("https://abissora.example/")), QStringLiteral("a")};
+    return {QLatin1String(version), 57, QUrl(u"https://abissora.example/"_s), u"a"_s};
 }
 
 } // namespace
@@ -74,19 +75,18 @@ private Q_SLOTS:
     {
         QStringList seen;
         connect(&*m_updates, &UpdateCheckerViewModel::changed, this, [&] {
-            seen.append(QStringLiteral("%1%2%3%4")
-                            .arg(m_updates->isChecking())
+            seen.append(u"%1%2%3%4"_s.arg(m_updates->isChecking())
                             .arg(m_updates->lastError().has_value())
                             .arg(m_updates->availableUpdate().has_value())
                             .arg(m_updates->lastCheckedAt().has_value()));
         });
         m_updates->checkForUpdates();
         m_http->answer(200, newer);
-        QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("1000 1000 1000 1010 1011 0011"));
+        QCOMPARE(seen.join(u' '), u"1000 1000 1000 1010 1011 0011"_s);
         seen.clear();
         m_updates->checkForUpdates();
         m_http->answer(500, {});
-        QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("1011 1011 1001 1101 0101"));
+        QCOMPARE(seen.join(u' '), u"1011 1011 1001 1101 0101"_s);
     }
 
     void isUpToDate()
@@ -102,12 +102,12 @@ private Q_SLOTS:
         QTest::addColumn<HttpResult>("answer");
         QTest::addColumn<QString>("text");
         QTest::newRow("status") << HttpResult(HttpResponse{500, newer})
-                                << QStringLiteral("Il server non ha risposto correttamente.");
+                                << u"Il server non ha risposto correttamente."_s;
         QTest::newRow("manifest") << HttpResult(HttpResponse{200, QByteArray("{}")})
-                                  << QStringLiteral("Il file di aggiornamento sul sito non è valido.");
+                                  << u"Il file di aggiornamento sul sito non è valido."_s;
         for (const auto kind : {HttpError::Kind::Transfer, HttpError::Kind::TimedOut, HttpError::Kind::Cancelled})
             QTest::addRow("transport %d", int(kind))
-                << HttpResult(tl::unexpected(HttpError{kind, QStringLiteral("Connection refused")})) << unreachable;
+                << HttpResult(tl::unexpected(HttpError{kind, u"Connection refused"_s})) << unreachable;
     }
 
     void failures()
@@ -152,8 +152,7 @@ private Q_SLOTS:
         m_http->answer(HttpResponse{200, newest}, 1);
         compareState(false, offered("1.4.0"), {}, m_clock.now());
         m_http->answer(500, {});
-        compareState(false, offered("1.4.0"), QStringLiteral("Il server non ha risposto correttamente."),
-                     m_clock.now());
+        compareState(false, offered("1.4.0"), u"Il server non ha risposto correttamente."_s, m_clock.now());
         QCOMPARE(QCoro::waitFor(first), std::optional<UpdateInfo>());
         QCOMPARE(QCoro::waitFor(second), std::optional(offered("1.4.0")));
     }
@@ -217,12 +216,12 @@ private:
     {
         QStringList notices;
         for (const char* name : names)
-            notices << QStringLiteral("<changed>") << QStringLiteral("<%1>").arg(QLatin1String(name));
+            notices << u"<changed>"_s << u"<%1>"_s.arg(QLatin1String(name));
         return notices;
     }
 
     test::FixedClock m_clock;
-    test::FakePackageInformation m_package = test::release(QStringLiteral("1.2.0"), QStringLiteral("42"));
+    test::FakePackageInformation m_package = test::release(u"1.2.0"_s, u"42"_s);
     AppInfo m_info{m_package, m_clock, Calendar(QTimeZone::utc())};
     std::optional<test::ScriptedHttpClient> m_http;
     std::optional<UpdateChecker> m_checker;

@@ -4,6 +4,7 @@
 #include "HelpBlockParser.h"
 #include "HelpIndex.h"
 #include "HelpLoader.h"
+#include "Literals.h"
 
 #include <algorithm>
 
@@ -50,17 +51,17 @@ QString faultWithBody(const QString& body)
 {
     const QList<HelpBlock> blocks = parseBlocks(body);
     if (blocks != parseBlocks(body))
-        return QStringLiteral("the same body gives other blocks");
+        return u"the same body gives other blocks"_s;
     QString letters;
     for (const HelpBlock& block : blocks) {
         const std::optional<QStringList> texts = textsOf(block);
         if (!texts)
-            return QStringLiteral("a block is empty");
+            return u"a block is empty"_s;
         letters += lettersOf(texts->join(QString()));
     }
     // An item whose number a tab follows keeps its text from its first space on.
     if (std::none_of(blocks.begin(), blocks.end(), isListOfNumbers) && letters != lettersOf(body))
-        return QStringLiteral("the blocks hold other words than the body: ") + letters;
+        return u"the blocks hold other words than the body: "_s + letters;
     return {};
 }
 
@@ -71,10 +72,10 @@ QString faultWithGuide(const QByteArray& document)
     const QList<HelpSection> sections = HelpLoader::parse(QString::fromUtf8(document));
     for (qsizetype i = 0; i < sections.size(); ++i) {
         const HelpSection& section = sections.at(i);
-        if (section.id != QStringLiteral("sezione-%1").arg(i))
-            return QStringLiteral("a section has the wrong number: ") + section.id;
-        if (section.body.isEmpty() || section.title.toLower().startsWith(QLatin1String("indice")))
-            return QStringLiteral("a section should have been left out: ") + section.title;
+        if (section.id != u"sezione-%1"_s.arg(i))
+            return u"a section has the wrong number: "_s + section.id;
+        if (section.body.isEmpty() || section.title.toLower().startsWith("indice"_L1))
+            return u"a section should have been left out: "_s + section.title;
         if (const QString fault = faultWithBody(section.body); !fault.isEmpty())
             return fault;
     }
@@ -82,7 +83,7 @@ QString faultWithGuide(const QByteArray& document)
     for (const HelpSection& section : sections) {
         index.setSearchText(section.title);
         if (index.filteredSections().isEmpty() && !section.title.isEmpty())
-            return QStringLiteral("a title is not found: ") + section.title;
+            return u"a title is not found: "_s + section.title;
     }
     return {};
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ManifestProperties.h"
 
+#include "Literals.h"
 #include "UpdateChecker.h"
 #include "UpdateJson.h"
 
@@ -13,21 +14,21 @@ QString faultWithManifest(const QByteArray& json)
     if (!manifest) {
         const QString description = manifest.error().description();
         return manifest.error().message.isEmpty() || description.size() > longest
-                   ? QStringLiteral("the error's description has the wrong length: ") + description
+                   ? u"the error's description has the wrong length: "_s + description
                    : QString();
     }
     if (UpdateChecker::compareVersions(manifest->version, manifest->version) != 0)
-        return QStringLiteral("a version differs from itself");
+        return u"a version differs from itself"_s;
     const auto info = UpdateInfo::from(*manifest);
     if (!info)
         return {};
     if (!info->id().startsWith(manifest->version) || info->build != manifest->build)
-        return QStringLiteral("the update is not what the manifest says");
+        return u"the update is not what the manifest says"_s;
     const auto again = decodeUpdateInfo(encode(*info));
     if (!again)
-        return QStringLiteral("what was written cannot be read: ") + again.error().description();
+        return u"what was written cannot be read: "_s + again.error().description();
     if (encode(*again) != encode(*info))
-        return QStringLiteral("the same update is written in another way");
+        return u"the same update is written in another way"_s;
     return {};
 }
 

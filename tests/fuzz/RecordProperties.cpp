@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RecordProperties.h"
 
+#include "Literals.h"
 #include "RecordJson.h"
 
 namespace abissora::test {
@@ -12,7 +13,7 @@ QString faultWithError(const JsonError& error)
     constexpr qsizetype longest = 500;
     const QString description = error.description();
     if (error.message.isEmpty() || description.size() > longest)
-        return QStringLiteral("the error's description has the wrong length: ") + description;
+        return u"the error's description has the wrong length: "_s + description;
     return {};
 }
 
@@ -24,14 +25,14 @@ QString fault(const QByteArray& json, Decode decode)
         return faultWithError(records.error());
     const auto encoded = encode(*records);
     if (!encoded)
-        return QStringLiteral("what was read cannot be written: ") + encoded.error().description();
+        return u"what was read cannot be written: "_s + encoded.error().description();
     const auto again = decode(*encoded);
     if (!again)
-        return QStringLiteral("what was written cannot be read: ") + again.error().description();
+        return u"what was written cannot be read: "_s + again.error().description();
     if (*again != *records)
-        return QStringLiteral("reading what was written gives other records");
+        return u"reading what was written gives other records"_s;
     if (encode(*again) != encoded)
-        return QStringLiteral("the same records are written in another way");
+        return u"the same records are written in another way"_s;
     return {};
 }
 

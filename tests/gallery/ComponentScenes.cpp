@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "Scenes.h"
 
 #include "Badge.h"
@@ -53,33 +54,32 @@ std::unique_ptr<QWidget> settings()
     auto scene = std::make_unique<QWidget>();
     scene->setMinimumWidth(560);
     auto* layout = new QVBoxLayout(scene.get());
-    auto* notifications = new GroupBox(QStringLiteral("Notifiche"), QStringLiteral("bell"));
-    auto* on = new ToggleSwitch(QStringLiteral("Abilita Notifiche"));
+    auto* notifications = new GroupBox(u"Notifiche"_s, u"bell"_s);
+    auto* on = new ToggleSwitch(u"Abilita Notifiche"_s);
     on->setChecked(true);
     notifications->content()->addWidget(on);
     auto* stepper = new Stepper;
     stepper->setRange(7, 90);
     stepper->setSingleStep(7);
-    stepper->setSuffix(QStringLiteral(" giorni"));
+    stepper->setSuffix(u" giorni"_s);
     stepper->setValue(30);
-    notifications->content()->addLayout(row(QStringLiteral("Giorni di anticipo"), stepper));
-    notifications->content()->addWidget(new ToggleSwitch(QStringLiteral("Controlla aggiornamenti all'avvio")));
-    auto* disabled = new ToggleSwitch(QStringLiteral("Non disponibile"));
+    notifications->content()->addLayout(row(u"Giorni di anticipo"_s, stepper));
+    notifications->content()->addWidget(new ToggleSwitch(u"Controlla aggiornamenti all'avvio"_s));
+    auto* disabled = new ToggleSwitch(u"Non disponibile"_s);
     disabled->setChecked(true);
     disabled->setEnabled(false);
     notifications->content()->addWidget(disabled);
     layout->addWidget(notifications);
 
-    auto* general = new GroupBox(QStringLiteral("Impostazioni Generali"), QStringLiteral("gear"));
-    general->content()->addLayout(row(QStringLiteral("Intervallo Tagliando Default"), intervals(1)));
-    general->content()->addLayout(row(QStringLiteral("Nessuna scelta"), intervals(-1)));
+    auto* general = new GroupBox(u"Impostazioni Generali"_s, u"gear"_s);
+    general->content()->addLayout(row(u"Intervallo Tagliando Default"_s, intervals(1)));
+    general->content()->addLayout(row(u"Nessuna scelta"_s, intervals(-1)));
     auto* off = intervals(0);
     off->setEnabled(false);
-    general->content()->addLayout(row(QStringLiteral("Spento"), off));
-    auto* state = new IconLabel(symbolIcon(QStringLiteral("checkmark.circle"), NamedColor::green),
-                                QStringLiteral("Hai già l'ultima versione"));
+    general->content()->addLayout(row(u"Spento"_s, off));
+    auto* state = new IconLabel(symbolIcon(u"checkmark.circle"_s, NamedColor::green), u"Hai già l'ultima versione"_s);
     auto* busy = new QHBoxLayout;
-    busy->addWidget(new PlainButton(QStringLiteral("Controlla aggiornamenti ora")));
+    busy->addWidget(new PlainButton(u"Controlla aggiornamenti ora"_s));
     busy->addWidget(new ProgressIndicator);
     busy->addWidget(state);
     busy->addStretch();
@@ -94,54 +94,54 @@ std::unique_ptr<QWidget> list()
     scene->setMinimumWidth(760);
     auto* layout = new QVBoxLayout(scene.get());
     auto* tabs = new SegmentedControl;
-    tabs->addSegment(QStringLiteral("list.bullet"), QStringLiteral("Attrezzatura"));
-    tabs->addSegment(QStringLiteral("wrench"), QStringLiteral("Manutenzione"));
-    tabs->addSegment(QStringLiteral("chart.bar"), QStringLiteral("Statistiche"));
+    tabs->addSegment(u"list.bullet"_s, u"Attrezzatura"_s);
+    tabs->addSegment(u"wrench"_s, u"Manutenzione"_s);
+    tabs->addSegment(u"chart.bar"_s, u"Statistiche"_s);
     tabs->setCurrentIndex(0);
     layout->addWidget(tabs, 0, Qt::AlignHCenter);
 
     auto* header = new QHBoxLayout;
-    auto* title = new QLabel(QStringLiteral("Attrezzatura Subacquea"));
+    auto* title = new QLabel(u"Attrezzatura Subacquea"_s);
     title->setFont(font(TextStyle::Title));
     header->addWidget(title);
     auto* chip = new Chip;
-    chip->setIcon(typeIcon(QStringLiteral("dive.bcd"), NamedColor::orange));
-    chip->setText(QStringLiteral("Filtro: GAV"));
+    chip->setIcon(typeIcon(u"dive.bcd"_s, NamedColor::orange));
+    chip->setText(u"Filtro: GAV"_s);
     header->addWidget(chip);
     auto* badge = new Badge;
     header->addWidget(badge);
     badge->setCount(3);
     header->addStretch();
-    auto* refresh = new PlainButton(QStringLiteral("Aggiorna"));
-    refresh->setSymbol(QStringLiteral("arrow.clockwise"));
+    auto* refresh = new PlainButton(u"Aggiorna"_s);
+    refresh->setSymbol(u"arrow.clockwise"_s);
     header->addWidget(refresh);
-    auto* add = new PrimaryButton(QStringLiteral("Aggiungi"));
-    add->setSymbol(QStringLiteral("plus"));
+    auto* add = new PrimaryButton(u"Aggiungi"_s);
+    add->setSymbol(u"plus"_s);
     header->addWidget(add);
     layout->addLayout(header);
 
-    layout->addWidget(new SearchField(QStringLiteral("Cerca attrezzatura...")));
-    auto* filled = new SearchField(QStringLiteral("Cerca attrezzatura..."));
-    filled->setText(QStringLiteral("gav"));
+    layout->addWidget(new SearchField(u"Cerca attrezzatura..."_s));
+    auto* filled = new SearchField(u"Cerca attrezzatura..."_s);
+    filled->setText(u"gav"_s);
     layout->addWidget(filled);
 
     auto* card = new Card;
     for (const NamedColor color : {NamedColor::cyan, NamedColor::orange}) {
         auto* entry = new QHBoxLayout;
         auto* tile = new IconTile;
-        tile->setIcon(typeIcon(QStringLiteral("dive.computer"), color), color);
+        tile->setIcon(typeIcon(u"dive.computer"_s, color), color);
         entry->addWidget(tile);
-        entry->addWidget(new QLabel(QStringLiteral("Computer Suunto EON Core")));
+        entry->addWidget(new QLabel(u"Computer Suunto EON Core"_s));
         entry->addStretch();
-        entry->addWidget(new PrimaryButton(QStringLiteral("Aggiungi Manutenzione")));
-        entry->addWidget(new PlainButton(QStringLiteral("Dettagli")));
+        entry->addWidget(new PrimaryButton(u"Aggiungi Manutenzione"_s));
+        entry->addWidget(new PlainButton(u"Dettagli"_s));
         card->content()->addLayout(entry);
         card->content()->addWidget(new Separator(Separator::Weight::Divider));
     }
     layout->addWidget(card);
 
-    auto* empty = new EmptyState(QStringLiteral("tray"), QStringLiteral("Nessuna attrezzatura trovata"));
-    empty->setButtonText(QStringLiteral("Cancella filtri"));
+    auto* empty = new EmptyState(u"tray"_s, u"Nessuna attrezzatura trovata"_s);
+    empty->setButtonText(u"Cancella filtri"_s);
     layout->addWidget(empty);
     return scene;
 }
@@ -157,11 +157,9 @@ std::unique_ptr<QWidget> statistics()
         card->setValue(value);
         layout->addWidget(card);
     };
-    add(QStringLiteral("Totale Articoli"), QStringLiteral("folder.fill"), NamedColor::blue, QStringLiteral("7"));
-    add(QStringLiteral("Manutenzioni Scadute"), QStringLiteral("exclamationmark.triangle.fill"), NamedColor::red,
-        QStringLiteral("11"));
-    add(QStringLiteral("In Regola"), QStringLiteral("checkmark.circle.fill"), NamedColor::green,
-        QStringLiteral("1234"));
+    add(u"Totale Articoli"_s, u"folder.fill"_s, NamedColor::blue, u"7"_s);
+    add(u"Manutenzioni Scadute"_s, u"exclamationmark.triangle.fill"_s, NamedColor::red, u"11"_s);
+    add(u"In Regola"_s, u"checkmark.circle.fill"_s, NamedColor::green, u"1234"_s);
     return scene;
 }
 
@@ -169,9 +167,7 @@ std::unique_ptr<QWidget> statistics()
 
 QList<Scene> componentScenes()
 {
-    return {{QStringLiteral("component-settings"), settings},
-            {QStringLiteral("component-list"), list},
-            {QStringLiteral("component-statistics"), statistics}};
+    return {{u"component-settings"_s, settings}, {u"component-list"_s, list}, {u"component-statistics"_s, statistics}};
 }
 
 } // namespace abissora::gallery

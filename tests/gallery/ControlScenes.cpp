@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "Scenes.h"
 
 #include "Buttons.h"
@@ -84,25 +85,25 @@ std::unique_ptr<QWidget> buttons()
     auto* grid = new QGridLayout(scene.get());
     grid->setSpacing(metrics::spaceM);
     const QList<std::pair<ButtonLook, QString>> looks{
-        {ButtonLook::Plain, QStringLiteral("Aggiorna")},      {ButtonLook::Primary, QStringLiteral("Aggiungi")},
-        {ButtonLook::Destructive, QStringLiteral("Elimina")}, {ButtonLook::Caution, QStringLiteral("Disattiva")},
-        {ButtonLook::Borderless, QStringLiteral("Altro")},    {ButtonLook::Link, QStringLiteral("Scontrino")}};
+        {ButtonLook::Plain, u"Aggiorna"_s},      {ButtonLook::Primary, u"Aggiungi"_s},
+        {ButtonLook::Destructive, u"Elimina"_s}, {ButtonLook::Caution, u"Disattiva"_s},
+        {ButtonLook::Borderless, u"Altro"_s},    {ButtonLook::Link, u"Scontrino"_s}};
     for (int row = 0; row < looks.size(); ++row) {
         for (std::size_t column = 0; column < touches.size(); ++column) {
             auto* button = new TouchedButton(touches.at(column), looks.at(row).first, looks.at(row).second);
-            button->setSymbol(QStringLiteral("arrow.clockwise"));
+            button->setSymbol(u"arrow.clockwise"_s);
             grid->addWidget(button, row, static_cast<int>(column));
         }
     }
     for (std::size_t column = 0; column < touches.size(); ++column) {
-        auto* check = new Touched<QCheckBox>(touches.at(column), QStringLiteral("Attivo"));
+        auto* check = new Touched<QCheckBox>(touches.at(column), u"Attivo"_s);
         check->setChecked(column % 2 == 0);
         grid->addWidget(check, static_cast<int>(looks.size()), static_cast<int>(column));
-        auto* radio = new Touched<QRadioButton>(touches.at(column), QStringLiteral("Un anno"));
+        auto* radio = new Touched<QRadioButton>(touches.at(column), u"Un anno"_s);
         radio->setAutoExclusive(false);
         radio->setChecked(column % 2 == 0);
         grid->addWidget(radio, static_cast<int>(looks.size()) + 1, static_cast<int>(column));
-        auto* tool = new IconButton(symbolIcon(QStringLiteral("line.3.horizontal.decrease")), QStringLiteral("Filtro"));
+        auto* tool = new IconButton(symbolIcon(u"line.3.horizontal.decrease"_s), u"Filtro"_s);
         setButtonLook(*tool, column % 2 == 0 ? ButtonLook::Plain : ButtonLook::Borderless);
         tool->setEnabled(touches.at(column) != Touch::Disabled);
         tool->setDown(touches.at(column) == Touch::Pressed);
@@ -118,22 +119,22 @@ std::unique_ptr<QWidget> fields()
     auto* layout = new QVBoxLayout(scene.get());
     layout->setSpacing(metrics::spaceM);
     auto* empty = new QLineEdit;
-    empty->setPlaceholderText(QStringLiteral("Inserisci il nome"));
-    auto* focused = new QLineEdit(QStringLiteral("Computer Suunto"));
+    empty->setPlaceholderText(u"Inserisci il nome"_s);
+    auto* focused = new QLineEdit(u"Computer Suunto"_s);
     focused->setFocus();
-    auto* disabled = new QLineEdit(QStringLiteral("Non modificabile"));
+    auto* disabled = new QLineEdit(u"Non modificabile"_s);
     disabled->setEnabled(false);
     auto* combo = new QComboBox;
-    combo->addItem(symbolIcon(QStringLiteral("dive.regulator"), NamedColor::blue), QStringLiteral("Erogatore"));
+    combo->addItem(symbolIcon(u"dive.regulator"_s, NamedColor::blue), u"Erogatore"_s);
     auto* plainCombo = new QComboBox;
-    plainCombo->addItem(QStringLiteral("Manutenzione Annuale"));
+    plainCombo->addItem(u"Manutenzione Annuale"_s);
     plainCombo->setEnabled(false);
     auto* date = new QDateEdit(QDate(2026, 11, 21));
-    date->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+    date->setDisplayFormat(u"dd/MM/yyyy"_s);
     date->setCalendarPopup(true);
     auto* spin = new QSpinBox;
-    spin->setSuffix(QStringLiteral(" giorni"));
-    auto* text = new QPlainTextEdit(QStringLiteral("Una nota\nsu due righe"));
+    spin->setSuffix(u" giorni"_s);
+    auto* text = new QPlainTextEdit(u"Una nota\nsu due righe"_s);
     text->setMaximumHeight(70);
     auto* bar = new QProgressBar;
     bar->setValue(40);
@@ -146,14 +147,13 @@ std::unique_ptr<QWidget> fields()
 std::unique_ptr<QWidget> table()
 {
     auto table = std::make_unique<QTableWidget>(12, 3);
-    table->setHorizontalHeaderLabels(
-        {QStringLiteral("Nome"), QStringLiteral("Marca"), QStringLiteral("Prossimo Tagliando")});
+    table->setHorizontalHeaderLabels({u"Nome"_s, u"Marca"_s, u"Prossimo Tagliando"_s});
     for (int row = 0; row < table->rowCount(); ++row) {
-        auto* name = new QTableWidgetItem(QStringLiteral("Erogatore %1").arg(row + 1));
-        name->setIcon(symbolIcon(QStringLiteral("dive.regulator"), NamedColor::blue));
+        auto* name = new QTableWidgetItem(u"Erogatore %1"_s.arg(row + 1));
+        name->setIcon(symbolIcon(u"dive.regulator"_s, NamedColor::blue));
         table->setItem(row, 0, name);
-        table->setItem(row, 1, new QTableWidgetItem(QStringLiteral("Apeks")));
-        table->setItem(row, 2, new QTableWidgetItem(QStringLiteral("21 novembre 2027")));
+        table->setItem(row, 1, new QTableWidgetItem(u"Apeks"_s));
+        table->setItem(row, 2, new QTableWidgetItem(u"21 novembre 2027"_s));
     }
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->selectRow(2);
@@ -171,7 +171,7 @@ std::unique_ptr<QWidget> sidebarList()
     list->viewport()->setBackgroundRole(QPalette::AlternateBase);
     setSelectionLook(*list, SelectionLook::Pill);
     for (const auto* name : {"Tutti gli articoli", "Bombola", "Bussola", "Erogatore"})
-        list->addItem(new QListWidgetItem(symbolIcon(QStringLiteral("folder")), QString::fromUtf8(name)));
+        list->addItem(new QListWidgetItem(symbolIcon(u"folder"_s), QString::fromUtf8(name)));
     list->setCurrentRow(1);
     list->resize(220, 160);
     return list;
@@ -180,15 +180,14 @@ std::unique_ptr<QWidget> sidebarList()
 std::unique_ptr<QWidget> menu()
 {
     auto menu = std::make_unique<QMenu>();
-    menu->addAction(symbolIcon(QStringLiteral("plus")), QStringLiteral("Nuova attrezzatura"))
-        ->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
-    auto* current = menu->addAction(symbolIcon(QStringLiteral("pencil")), QStringLiteral("Modifica"));
+    menu->addAction(symbolIcon(u"plus"_s), u"Nuova attrezzatura"_s)->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
+    auto* current = menu->addAction(symbolIcon(u"pencil"_s), u"Modifica"_s);
     menu->addSeparator();
-    auto* checked = menu->addAction(QStringLiteral("Mostra i dettagli"));
+    auto* checked = menu->addAction(u"Mostra i dettagli"_s);
     checked->setCheckable(true);
     checked->setChecked(true);
-    menu->addMenu(QStringLiteral("Altro"))->addAction(QStringLiteral("Niente"));
-    menu->addAction(symbolIcon(QStringLiteral("xmark"), NamedColor::red), QStringLiteral("Elimina"))->setEnabled(false);
+    menu->addMenu(u"Altro"_s)->addAction(u"Niente"_s);
+    menu->addAction(symbolIcon(u"xmark"_s, NamedColor::red), u"Elimina"_s)->setEnabled(false);
     menu->setActiveAction(current);
     menu->resize(menu->sizeHint());
     return menu;
@@ -198,11 +197,11 @@ std::unique_ptr<QWidget> menu()
 
 QList<Scene> controlScenes()
 {
-    return {{QStringLiteral("control-buttons"), buttons},
-            {QStringLiteral("control-fields"), fields},
-            {QStringLiteral("control-table"), table},
-            {QStringLiteral("control-sidebar"), sidebarList},
-            {QStringLiteral("control-menu"), menu}};
+    return {{u"control-buttons"_s, buttons},
+            {u"control-fields"_s, fields},
+            {u"control-table"_s, table},
+            {u"control-sidebar"_s, sidebarList},
+            {u"control-menu"_s, menu}};
 }
 
 } // namespace abissora::gallery

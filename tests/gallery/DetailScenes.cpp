@@ -5,6 +5,7 @@
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
+#include "Literals.h"
 #include "MaintenanceFormView.h"
 #include "ScreenStage.h"
 
@@ -82,18 +83,17 @@ Equipment dueIn(int days)
 Equipment longTexts()
 {
     Equipment item = items().at(2);
-    item.name = QStringLiteral("Computer subacqueo da polso con trasmettitore e bussola Donaudampfschifffahrtskapitän");
-    item.customTypeName = QStringLiteral("Computer subacqueo con integrazione dell'aria");
-    item.brand = QStringLiteral("Una marca dal nome piuttosto lungo");
-    item.serialNumber = QStringLiteral("SN-0123456789-0123456789-0123456789-0123456789-0123456789");
-    item.notes =
-        QStringLiteral("Prima riga delle note.\n\nhttps://abissora.example/una/pagina/dal/nome/molto/lungo/senza/"
-                       "spazi\n") +
-        QStringLiteral("Le note possono essere lunghe quanto si vuole. ").repeated(6);
+    item.name = u"Computer subacqueo da polso con trasmettitore e bussola Donaudampfschifffahrtskapitän"_s;
+    item.customTypeName = u"Computer subacqueo con integrazione dell'aria"_s;
+    item.brand = u"Una marca dal nome piuttosto lungo"_s;
+    item.serialNumber = u"SN-0123456789-0123456789-0123456789-0123456789-0123456789"_s;
+    item.notes = u"Prima riga delle note.\n\nhttps://abissora.example/una/pagina/dal/nome/molto/lungo/senza/"
+                 "spazi\n"_s +
+                 u"Le note possono essere lunghe quanto si vuole. "_s.repeated(6);
     for (Maintenance& record : item.maintenanceHistory) {
-        record.description = QStringLiteral("Sostituzione della batteria, prova stagna, controllo del trasmettitore e "
-                                            "aggiornamento del programma interno");
-        record.performedBy = QStringLiteral("Centro Assistenza Autorizzato Blu Service di Santa Margherita Ligure");
+        record.description = u"Sostituzione della batteria, prova stagna, controllo del trasmettitore e "
+                             "aggiornamento del programma interno"_s;
+        record.performedBy = u"Centro Assistenza Autorizzato Blu Service di Santa Margherita Ligure"_s;
         record.cost = 1234567.89;
     }
     return item;
@@ -108,9 +108,9 @@ void longHistory(test::ScreenFixture& f, Equipment& item)
         record.type = allCases<MaintenanceType>()[static_cast<std::size_t>(i) % allCases<MaintenanceType>().size()];
         record.date -= i * 24h * 200;
         if (i % 3 != 2)
-            record.receiptFileName = storedDocument(f, QStringLiteral("scontrino.pdf"));
+            record.receiptFileName = storedDocument(f, u"scontrino.pdf"_s);
         if (i % 2 == 0)
-            record.certificateFileName = storedDocument(f, QStringLiteral("certificato.pdf"));
+            record.certificateFileName = storedDocument(f, u"certificato.pdf"_s);
         item.maintenanceHistory.append(record);
     }
 }
@@ -118,42 +118,42 @@ void longHistory(test::ScreenFixture& f, Equipment& item)
 Equipment unknownType()
 {
     Equipment item = items().at(4);
-    item.customTypeName = QStringLiteral("Faro antico");
+    item.customTypeName = u"Faro antico"_s;
     return item;
 }
 
 QList<Scene> alertScenes()
 {
     return {
-        scene(QStringLiteral("alert-delete-item"), items(),
+        scene(u"alert-delete-item"_s, items(),
               [](test::ScreenFixture& f) {
                   auto view = std::make_unique<EquipmentDetailView>(f.context, f.equipment.equipment().at(2));
                   view->confirmDeletion();
                   return alertOf(std::move(view));
               }),
-        scene(QStringLiteral("alert-delete-record"), items(),
+        scene(u"alert-delete-record"_s, items(),
               [](test::ScreenFixture& f) {
                   const Equipment item = f.equipment.equipment().at(2);
                   auto view = std::make_unique<EquipmentDetailView>(f.context, item);
                   view->confirmDeleteMaintenance(item.maintenanceHistory.last().id);
                   return alertOf(std::move(view));
               }),
-        scene(QStringLiteral("alert-delete-from-list"), {longTexts()},
+        scene(u"alert-delete-from-list"_s, {longTexts()},
               [](test::ScreenFixture& f) {
                   auto view = std::make_unique<EquipmentListView>(f.context);
                   view->confirmDeletion(f.equipment.equipment().first());
                   return alertOf(std::move(view));
               }),
-        scene(QStringLiteral("alert-document-not-opened"), items(),
+        scene(u"alert-document-not-opened"_s, items(),
               [](test::ScreenFixture& f) {
                   Equipment item = f.equipment.equipment().at(2);
-                  item.maintenanceHistory.last().receiptFileName = storedDocument(f, QStringLiteral("a.pdf"));
+                  item.maintenanceHistory.last().receiptFileName = storedDocument(f, u"a.pdf"_s);
                   f.opener.succeed(false);
                   auto view = std::make_unique<EquipmentDetailView>(f.context, item);
-                  view->findChild<QAbstractButton*>(QStringLiteral("openReceipt"))->click();
+                  view->findChild<QAbstractButton*>(u"openReceipt"_s)->click();
                   return alertOf(std::move(view));
               }),
-        scene(QStringLiteral("alert-validation"), items(),
+        scene(u"alert-validation"_s, items(),
               [](test::ScreenFixture& f) {
                   auto view = std::make_unique<EquipmentFormView>(f.context, nullptr);
                   view->primaryButton()->click();
@@ -167,39 +167,39 @@ QList<Scene> alertScenes()
 QList<Scene> detailScenes()
 {
     Equipment inactive = items().last();
-    inactive.notes = QStringLiteral("In prestito.");
+    inactive.notes = u"In prestito."_s;
     return QList<Scene>{
-               detail(QStringLiteral("detail-overdue"), items().at(3)),
-               detail(QStringLiteral("detail-30-days"), dueIn(30)),
-               detail(QStringLiteral("detail-31-days"), dueIn(31)),
-               detail(QStringLiteral("detail-inactive"), inactive),
-               detail(QStringLiteral("detail-unknown-type"), unknownType()),
-               detail(QStringLiteral("detail-long-history"), items().at(2), 1700, longHistory),
-               detail(QStringLiteral("detail-long-texts"), longTexts(), 1500),
-               scene(QStringLiteral("maintenance-form-edit"), items(),
+               detail(u"detail-overdue"_s, items().at(3)),
+               detail(u"detail-30-days"_s, dueIn(30)),
+               detail(u"detail-31-days"_s, dueIn(31)),
+               detail(u"detail-inactive"_s, inactive),
+               detail(u"detail-unknown-type"_s, unknownType()),
+               detail(u"detail-long-history"_s, items().at(2), 1700, longHistory),
+               detail(u"detail-long-texts"_s, longTexts(), 1500),
+               scene(u"maintenance-form-edit"_s, items(),
                      [](test::ScreenFixture& f) {
                          Equipment item = f.equipment.equipment().at(2);
                          Maintenance& record = item.maintenanceHistory.last();
-                         record.receiptFileName = storedDocument(f, QStringLiteral("scontrino.pdf"));
-                         record.notes = QStringLiteral("Garanzia di due anni.");
+                         record.receiptFileName = storedDocument(f, u"scontrino.pdf"_s);
+                         record.notes = u"Garanzia di due anni."_s;
                          f.equipment.updateEquipment(item);
                          return std::make_unique<MaintenanceFormView>(f.context, item.id, record);
                      }),
-               scene(QStringLiteral("maintenance-form-invalid"), items(),
+               scene(u"maintenance-form-invalid"_s, items(),
                      [](test::ScreenFixture& f) {
                          auto form = std::make_unique<MaintenanceFormView>(
                              f.context, f.equipment.equipment().first().id, std::nullopt);
-                         form->findChild<QLineEdit*>(QStringLiteral("date"))->setText(QStringLiteral("31/02/2026"));
-                         form->findChild<QLineEdit*>(QStringLiteral("description"))->setText(QStringLiteral("Prova"));
-                         form->findChild<QLineEdit*>(QStringLiteral("cost"))->setText(QStringLiteral("12.5.0"));
-                         form->findChild<QLineEdit*>(QStringLiteral("nextServiceDate"))->clear();
+                         form->findChild<QLineEdit*>(u"date"_s)->setText(u"31/02/2026"_s);
+                         form->findChild<QLineEdit*>(u"description"_s)->setText(u"Prova"_s);
+                         form->findChild<QLineEdit*>(u"cost"_s)->setText(u"12.5.0"_s);
+                         form->findChild<QLineEdit*>(u"nextServiceDate"_s)->clear();
                          form->save();
                          return form;
                      }),
                window(
-                   QStringLiteral("list-filtered-smallest"),
+                   u"list-filtered-smallest"_s,
                    [](test::ScreenFixture& f, MainWindow& w) {
-                       selectInSidebar(w, QStringLiteral("type_Computer Subacqueo"));
+                       selectInSidebar(w, u"type_Computer Subacqueo"_s);
                        w.content().setSelectedEquipment(f.equipment.equipment().at(2));
                    },
                    items(), QSize(1000, 700)),

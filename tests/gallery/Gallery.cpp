@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Gallery.h"
 
+#include "Literals.h"
 #include "Theme.h"
 
 #include <QApplication>
@@ -18,7 +19,7 @@ bool renderScene(const Scene& scene, const QString& schemeName, const QDir& fold
     // A changed text travels upward one layout at a time, each by an event of its own.
     for (int level = 0; level < 5; ++level)
         QApplication::processEvents();
-    const QString name = QStringLiteral("%1-%2@%3.png").arg(scene.name, schemeName).arg(qApp->devicePixelRatio());
+    const QString name = u"%1-%2@%3.png"_s.arg(scene.name, schemeName).arg(qApp->devicePixelRatio());
     return widget->grab().save(folder.filePath(name));
 }
 
@@ -29,7 +30,7 @@ bool render(const QList<Scene>& scenes, const QDir& folder)
     bool written = true;
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
         applyTheme(*qApp, scheme);
-        const QString name = scheme == Scheme::Light ? QStringLiteral("light") : QStringLiteral("dark");
+        const QString name = scheme == Scheme::Light ? u"light"_s : u"dark"_s;
         for (const Scene& scene : scenes)
             written = renderScene(scene, name, folder) && written;
     }

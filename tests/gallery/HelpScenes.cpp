@@ -2,6 +2,7 @@
 #include "Fakes.h"
 #include "HelpLoader.h"
 #include "HelpView.h"
+#include "Literals.h"
 #include "Scenes.h"
 
 #include <QLineEdit>
@@ -27,17 +28,17 @@ public:
 
     void select(int row)
     {
-        auto* list = findChild<QListView*>(QStringLiteral("helpSections"));
+        auto* list = findChild<QListView*>(u"helpSections"_s);
         list->setCurrentIndex(list->model()->index(row, 0));
     }
 
-    void search(const QString& text) { findChild<QLineEdit*>(QStringLiteral("helpSearch"))->setText(text); }
+    void search(const QString& text) { findChild<QLineEdit*>(u"helpSearch"_s)->setText(text); }
 };
 
 QList<HelpSection> everyKindOfBlock()
 {
-    return HelpLoader::parse(QStringLiteral(
-        "## Introduzione\nCiao.\n## La finestra principale\nCiao.\n## Aggiungere un articolo\nCiao.\n"
+    return HelpLoader::parse(
+        u"## Introduzione\nCiao.\n## La finestra principale\nCiao.\n## Aggiungere un articolo\nCiao.\n"
         "## Manutenzioni\n"
         "Ogni articolo conserva la propria **cronologia**. Registra un intervento con data, tipo, descrizione, "
         "tecnico, costo e documenti.\n"
@@ -56,7 +57,7 @@ QList<HelpSection> everyKindOfBlock()
         "almeno una volta, anche nella finestra più larga.\n"
         "> Un'altra, subito sotto.\n"
         "```\nprima riga\nseconda riga\n```\n"
-        "## Allegati PDF\nCiao.\n## Tipologie\nCiao.\n## Domande frequenti\nCiao.\n"));
+        "## Allegati PDF\nCiao.\n## Tipologie\nCiao.\n## Domande frequenti\nCiao.\n"_s);
 }
 
 template <typename Setup>
@@ -75,14 +76,13 @@ Scene help(const QString& name, QSize size, QList<HelpSection> sections, Setup s
 QList<Scene> helpScenes()
 {
     return {
-        help(QStringLiteral("help-first"), smallest, HelpLoader::load(), [](Help&) {}),
-        help(QStringLiteral("help-blocks"), QSize(960, 680), everyKindOfBlock(), [](Help& view) { view.select(3); }),
-        help(QStringLiteral("help-large"), QSize(1400, 900), everyKindOfBlock(), [](Help& view) { view.select(3); }),
-        help(QStringLiteral("help-nothing-found"), smallest, everyKindOfBlock(),
-             [](Help& view) { view.search(QStringLiteral("rebreather")); }),
-        help(QStringLiteral("help-nothing-chosen"), smallest, everyKindOfBlock(),
+        help(u"help-first"_s, smallest, HelpLoader::load(), [](Help&) {}),
+        help(u"help-blocks"_s, QSize(960, 680), everyKindOfBlock(), [](Help& view) { view.select(3); }),
+        help(u"help-large"_s, QSize(1400, 900), everyKindOfBlock(), [](Help& view) { view.select(3); }),
+        help(u"help-nothing-found"_s, smallest, everyKindOfBlock(), [](Help& view) { view.search(u"rebreather"_s); }),
+        help(u"help-nothing-chosen"_s, smallest, everyKindOfBlock(),
              [](Help& view) {
-                 view.search(QStringLiteral("rebreather"));
+                 view.search(u"rebreather"_s);
                  view.search({});
              }),
     };

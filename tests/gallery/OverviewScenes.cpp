@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ContentView.h"
+#include "Literals.h"
 #include "ScreenStage.h"
 
 namespace abissora::gallery {
@@ -14,13 +15,12 @@ QList<Equipment> many()
     QList<Equipment> equipment = items();
     for (int i = 0; i < 250; ++i) {
         const EquipmentType type = types.at(static_cast<std::size_t>(i) % types.size());
-        equipment.append(test::makeItem(100 + i, QStringLiteral("%1 numero %2").arg(rawValue(type)).arg(i), type,
+        equipment.append(test::makeItem(100 + i, u"%1 numero %2"_s.arg(rawValue(type)).arg(i), type,
                                         today + std::chrono::days(i % 60 - 25)));
     }
     equipment[0].nextServiceDate = today - std::chrono::days(800);
-    equipment[0].name =
-        QStringLiteral("Erogatore di riserva con primo stadio bilanciato, due secondi stadi e manometro "
-                       "in bar, revisionato dopo l'immersione in grotta");
+    equipment[0].name = u"Erogatore di riserva con primo stadio bilanciato, due secondi stadi e manometro "
+                        "in bar, revisionato dopo l'immersione in grotta"_s;
     return equipment;
 }
 
@@ -33,7 +33,7 @@ QList<Equipment> noneDue()
 
 void showOverview(test::ScreenFixture&, MainWindow& window)
 {
-    selectInSidebar(window, QStringLiteral("maintenance"));
+    selectInSidebar(window, u"maintenance"_s);
 }
 
 void showStatistics(test::ScreenFixture&, MainWindow& window)
@@ -46,15 +46,15 @@ void showStatistics(test::ScreenFixture&, MainWindow& window)
 QList<Scene> overviewScenes()
 {
     return {
-        window(QStringLiteral("overview"), showOverview),
-        window(QStringLiteral("overview-many"), showOverview, many()),
-        window(QStringLiteral("overview-many-smallest"), showOverview, many(), smallestSize),
-        window(QStringLiteral("overview-none-due"), showOverview, noneDue()),
-        window(QStringLiteral("overview-empty"), showOverview, {}, smallestSize),
-        window(QStringLiteral("statistics"), showStatistics),
-        window(QStringLiteral("statistics-many"), showStatistics, many()),
-        window(QStringLiteral("statistics-many-smallest"), showStatistics, many(), smallestSize),
-        window(QStringLiteral("statistics-empty"), showStatistics, {}),
+        window(u"overview"_s, showOverview),
+        window(u"overview-many"_s, showOverview, many()),
+        window(u"overview-many-smallest"_s, showOverview, many(), smallestSize),
+        window(u"overview-none-due"_s, showOverview, noneDue()),
+        window(u"overview-empty"_s, showOverview, {}, smallestSize),
+        window(u"statistics"_s, showStatistics),
+        window(u"statistics-many"_s, showStatistics, many()),
+        window(u"statistics-many-smallest"_s, showStatistics, many(), smallestSize),
+        window(u"statistics-empty"_s, showStatistics, {}),
     };
 }
 

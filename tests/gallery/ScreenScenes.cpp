@@ -2,6 +2,7 @@
 #include "ContentView.h"
 #include "EditEquipmentView.h"
 #include "EquipmentFormView.h"
+#include "Literals.h"
 #include "MaintenanceFormView.h"
 #include "ScreenStage.h"
 
@@ -23,36 +24,33 @@ public:
 QList<Scene> screenScenes()
 {
     return {
-        window(QStringLiteral("list"),
-               [](test::ScreenFixture& f, MainWindow& w) {
-                   w.content().setSelectedEquipment(f.equipment.equipment().at(2));
-               }),
-        window(QStringLiteral("list-filtered"),
-               [](test::ScreenFixture&, MainWindow& w) { selectInSidebar(w, QStringLiteral("type_GAV")); }),
-        window(QStringLiteral("list-nothing-found"),
-               [](test::ScreenFixture& f, MainWindow&) { f.equipment.setSearchText(QStringLiteral("pinne rosse")); }),
-        window(QStringLiteral("list-empty"), [](test::ScreenFixture&, MainWindow&) {}, {}),
+        window(u"list"_s, [](test::ScreenFixture& f,
+                             MainWindow& w) { w.content().setSelectedEquipment(f.equipment.equipment().at(2)); }),
+        window(u"list-filtered"_s, [](test::ScreenFixture&, MainWindow& w) { selectInSidebar(w, u"type_GAV"_s); }),
+        window(u"list-nothing-found"_s,
+               [](test::ScreenFixture& f, MainWindow&) { f.equipment.setSearchText(u"pinne rosse"_s); }),
+        window(u"list-empty"_s, [](test::ScreenFixture&, MainWindow&) {}, {}),
         window(
-            QStringLiteral("list-smallest"), [](test::ScreenFixture&, MainWindow&) {}, items(), QSize(1000, 700)),
+            u"list-smallest"_s, [](test::ScreenFixture&, MainWindow&) {}, items(), QSize(1000, 700)),
         window(
-            QStringLiteral("detail-smallest"),
+            u"detail-smallest"_s,
             [](test::ScreenFixture& f, MainWindow& w) {
                 w.content().setSelectedEquipment(f.equipment.equipment().at(0));
             },
             items(), QSize(1000, 700)),
-        {QStringLiteral("maintenance-form"), [] { return std::make_unique<MaintenanceForm>(items()); }},
-        form(QStringLiteral("equipment-form"),
+        {u"maintenance-form"_s, [] { return std::make_unique<MaintenanceForm>(items()); }},
+        form(u"equipment-form"_s,
              [](test::ScreenFixture& f) { return std::make_unique<EquipmentFormView>(f.context, nullptr); }),
-        form(QStringLiteral("equipment-form-edit"),
+        form(u"equipment-form-edit"_s,
              [](test::ScreenFixture& f) {
                  return std::make_unique<EditEquipmentView>(f.context, f.equipment.equipment().first(), nullptr);
              }),
-        window(QStringLiteral("detail-no-history"),
+        window(u"detail-no-history"_s,
                [](test::ScreenFixture& f, MainWindow& w) {
                    w.content().setSelectedEquipment(f.equipment.equipment().at(1));
                }),
         window(
-            QStringLiteral("detail-whole"),
+            u"detail-whole"_s,
             [](test::ScreenFixture& f, MainWindow& w) {
                 w.content().setSelectedEquipment(f.equipment.equipment().at(2));
             },

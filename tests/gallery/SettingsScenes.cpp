@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "ScreenStage.h"
 
 #include <QAbstractButton>
@@ -11,12 +12,12 @@ constexpr QSize wholeSize(1280, 1400);
 
 void showSettings(MainWindow& window)
 {
-    selectInSidebar(window, QStringLiteral("settings"));
+    selectInSidebar(window, u"settings"_s);
 }
 
 void check(MainWindow& window)
 {
-    window.findChild<QAbstractButton*>(QStringLiteral("checkForUpdates"))->click();
+    window.findChild<QAbstractButton*>(u"checkForUpdates"_s)->click();
 }
 
 } // namespace
@@ -24,7 +25,7 @@ void check(MainWindow& window)
 QList<Scene> settingsScenes()
 {
     return {
-        window(QStringLiteral("settings"),
+        window(u"settings"_s,
                [](test::ScreenFixture& f, MainWindow& w) {
                    showSettings(w);
                    w.show();
@@ -32,7 +33,7 @@ QList<Scene> settingsScenes()
                    f.http.answer(200, R"({"version":"1.2.0","build":42,"downloadURL":"https://abissora.example/"})");
                }),
         window(
-            QStringLiteral("settings-whole"),
+            u"settings-whole"_s,
             [](test::ScreenFixture& f, MainWindow& w) {
                 f.settings.setDefaultServiceInterval(200);
                 f.settings.setCurrencySymbol({});
@@ -43,7 +44,7 @@ QList<Scene> settingsScenes()
             },
             items(), wholeSize),
         window(
-            QStringLiteral("settings-checking"),
+            u"settings-checking"_s,
             [](test::ScreenFixture&, MainWindow& w) {
                 showSettings(w);
                 w.show();

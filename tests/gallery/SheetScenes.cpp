@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "Scenes.h"
 
 #include "Alert.h"
@@ -31,7 +32,7 @@ QLineEdit* field(const QString& placeholder)
 QDateEdit* dateField()
 {
     auto* date = new QDateEdit(QDate(2026, 11, 21));
-    date->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+    date->setDisplayFormat(u"dd/MM/yyyy"_s);
     date->setCalendarPopup(true);
     date->setFixedWidth(170);
     return date;
@@ -39,34 +40,33 @@ QDateEdit* dateField()
 
 std::unique_ptr<QWidget> form()
 {
-    auto sheet = std::make_unique<Sheet>(QStringLiteral("Nuova Attrezzatura"));
-    sheet->setPrimaryText(QStringLiteral("Salva"));
-    auto* general = new GroupBox(QStringLiteral("Informazioni Generali"));
-    general->content()->addWidget(new FormRow(QStringLiteral("Nome*"), field(QStringLiteral("Inserisci il nome"))));
+    auto sheet = std::make_unique<Sheet>(u"Nuova Attrezzatura"_s);
+    sheet->setPrimaryText(u"Salva"_s);
+    auto* general = new GroupBox(u"Informazioni Generali"_s);
+    general->content()->addWidget(new FormRow(u"Nome*"_s, field(u"Inserisci il nome"_s)));
     auto* type = new QComboBox;
     type->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    type->addItem(symbolIcon(QStringLiteral("dive.regulator"), NamedColor::blue), QStringLiteral("Erogatore"));
-    general->content()->addWidget(new FormRow(QStringLiteral("Tipo*"), type));
+    type->addItem(symbolIcon(u"dive.regulator"_s, NamedColor::blue), u"Erogatore"_s);
+    general->content()->addWidget(new FormRow(u"Tipo*"_s, type));
     sheet->body()->addWidget(general);
 
-    auto* details = new GroupBox(QStringLiteral("Dettagli Tecnici"));
-    details->content()->addWidget(new FormRow(QStringLiteral("Marca*"), field(QStringLiteral("Inserisci la marca"))));
-    auto* interval = new FormRow(QStringLiteral("Intervallo Tagliando"), [] {
+    auto* details = new GroupBox(u"Dettagli Tecnici"_s);
+    details->content()->addWidget(new FormRow(u"Marca*"_s, field(u"Inserisci la marca"_s)));
+    auto* interval = new FormRow(u"Intervallo Tagliando"_s, [] {
         auto* stepper = new Stepper;
         stepper->setRange(30, 730);
-        stepper->setSuffix(QStringLiteral(" giorni"));
+        stepper->setSuffix(u" giorni"_s);
         stepper->setValue(365);
         return stepper;
     }());
-    interval->setHint(QStringLiteral("* Campo obbligatorio"));
+    interval->setHint(u"* Campo obbligatorio"_s);
     details->content()->addWidget(interval);
-    details->content()->addWidget(new FormRow(QStringLiteral("Data Acquisto"), dateField()));
-    details->content()->addWidget(
-        new FormRow(QStringLiteral("Prossimo Tagliando"), new QLabel(QStringLiteral("21 nov 2027"))));
-    details->content()->addWidget(new FormRow(QString(), new QCheckBox(QStringLiteral("Attivo"))));
+    details->content()->addWidget(new FormRow(u"Data Acquisto"_s, dateField()));
+    details->content()->addWidget(new FormRow(u"Prossimo Tagliando"_s, new QLabel(u"21 nov 2027"_s)));
+    details->content()->addWidget(new FormRow(QString(), new QCheckBox(u"Attivo"_s)));
     sheet->body()->addWidget(details);
 
-    auto* notes = new GroupBox(QStringLiteral("Note"));
+    auto* notes = new GroupBox(u"Note"_s);
     auto* text = new QPlainTextEdit;
     text->setFixedHeight(80);
     notes->content()->addWidget(text);
@@ -78,17 +78,17 @@ std::unique_ptr<QWidget> form()
 std::unique_ptr<QWidget> destructive()
 {
     auto alert = std::make_unique<Alert>();
-    alert->setTitle(QStringLiteral("Conferma Eliminazione"));
-    alert->setMessage(QStringLiteral("Sei sicuro di voler eliminare l'attrezzatura 'Computer Suunto EON Core'? Questa "
-                                     "azione non può essere annullata."));
+    alert->setTitle(u"Conferma Eliminazione"_s);
+    alert->setMessage(u"Sei sicuro di voler eliminare l'attrezzatura 'Computer Suunto EON Core'? Questa "
+                      "azione non può essere annullata."_s);
     return alert;
 }
 
 std::unique_ptr<QWidget> notice()
 {
     auto alert = std::make_unique<Alert>();
-    alert->setTitle(QStringLiteral("Errore"));
-    alert->setMessage(QStringLiteral("Per favore, compila tutti i campi obbligatori."));
+    alert->setTitle(u"Errore"_s);
+    alert->setMessage(u"Per favore, compila tutti i campi obbligatori."_s);
     alert->makeNotice();
     return alert;
 }
@@ -97,9 +97,7 @@ std::unique_ptr<QWidget> notice()
 
 QList<Scene> sheetScenes()
 {
-    return {{QStringLiteral("component-sheet"), form},
-            {QStringLiteral("component-alert"), destructive},
-            {QStringLiteral("component-notice"), notice}};
+    return {{u"component-sheet"_s, form}, {u"component-alert"_s, destructive}, {u"component-notice"_s, notice}};
 }
 
 } // namespace abissora::gallery

@@ -2,6 +2,7 @@
 #include "Alert.h"
 #include "EquipmentTypeFormView.h"
 #include "EquipmentTypeManagementView.h"
+#include "Literals.h"
 #include "ScreenStage.h"
 #include "SearchField.h"
 
@@ -28,11 +29,10 @@ std::unique_ptr<Management> many(test::ScreenFixture& f)
     for (int i = 0; i < 400; ++i) {
         EquipmentTypeModel type = types.at(i % 16);
         type.id = f.ids.next();
-        type.name += QStringLiteral(" n. %1").arg(i, 3, 10, QLatin1Char('0'));
+        type.name += u" n. %1"_s.arg(i, 3, 10, '0'_L1);
         types.append(type);
     }
-    types[0].name =
-        QStringLiteral("Erogatore di riserva per immersioni in acque fredde con primo stadio a membrana ").repeated(3);
+    types[0].name = u"Erogatore di riserva per immersioni in acque fredde con primo stadio a membrana "_s.repeated(3);
     f.types.setTypes(types);
     return std::make_unique<Management>(f.context);
 }
@@ -45,17 +45,14 @@ std::unique_ptr<EquipmentTypeFormView> newType(test::ScreenFixture& f)
 std::unique_ptr<EquipmentTypeFormView> editedType(test::ScreenFixture& f)
 {
     return std::make_unique<EquipmentTypeFormView>(
-        f.context,
-        EquipmentTypeModel{
-            {}, QStringLiteral("Boa segnasub"), QStringLiteral("dive.compass"), QStringLiteral("orange"), 365, true});
+        f.context, EquipmentTypeModel{{}, u"Boa segnasub"_s, u"dive.compass"_s, u"orange"_s, 365, true});
 }
 
 std::unique_ptr<QWidget> deletion()
 {
     auto alert = std::make_unique<Alert>();
-    alert->setTitle(QStringLiteral("Conferma Eliminazione"));
-    alert->setMessage(
-        Management::deletionQuestion(EquipmentTypeModel{{}, QStringLiteral("Boa segnasub"), {}, {}, 365, true}));
+    alert->setTitle(u"Conferma Eliminazione"_s);
+    alert->setMessage(Management::deletionQuestion(EquipmentTypeModel{{}, u"Boa segnasub"_s, {}, {}, 365, true}));
     return alert;
 }
 
@@ -65,17 +62,15 @@ QList<Scene> typeScenes()
 {
     using Fixture = test::ScreenFixture;
     return {
-        form(QStringLiteral("types"), [](Fixture& f) { return std::make_unique<Management>(f.context); }),
-        form(QStringLiteral("types-nothing-found"),
-             [](Fixture& f) { return searched(std::make_unique<Management>(f.context), QStringLiteral("boa")); }),
-        form(QStringLiteral("types-many"), many),
-        form(QStringLiteral("type-form-new"), newType),
-        form(QStringLiteral("type-form-edit"), editedType),
-        form(QStringLiteral("type-form-search"),
-             [](Fixture& f) { return searched(editedType(f), QStringLiteral("om")); }),
-        form(QStringLiteral("type-form-nothing-found"),
-             [](Fixture& f) { return searched(editedType(f), QStringLiteral("xyz")); }),
-        {QStringLiteral("type-delete"), deletion},
+        form(u"types"_s, [](Fixture& f) { return std::make_unique<Management>(f.context); }),
+        form(u"types-nothing-found"_s,
+             [](Fixture& f) { return searched(std::make_unique<Management>(f.context), u"boa"_s); }),
+        form(u"types-many"_s, many),
+        form(u"type-form-new"_s, newType),
+        form(u"type-form-edit"_s, editedType),
+        form(u"type-form-search"_s, [](Fixture& f) { return searched(editedType(f), u"om"_s); }),
+        form(u"type-form-nothing-found"_s, [](Fixture& f) { return searched(editedType(f), u"xyz"_s); }),
+        {u"type-delete"_s, deletion},
     };
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "AboutView.h"
+#include "Literals.h"
 #include "ScreenStage.h"
 #include "UpdateView.h"
 
@@ -7,14 +8,14 @@ namespace abissora::gallery {
 
 namespace {
 
-const QString someNotes = QStringLiteral("• Le statistiche mostrano la distribuzione per tipologia\n"
-                                         "• La guida si cerca in ogni sezione\n"
-                                         "• Corretto il calcolo dei giorni al cambio dell'ora");
+const QString someNotes = u"• Le statistiche mostrano la distribuzione per tipologia\n"
+                          "• La guida si cerca in ogni sezione\n"
+                          "• Corretto il calcolo dei giorni al cambio dell'ora"_s;
 
 Scene offer(const QString& name, const QString& version, const std::optional<QString>& notes)
 {
     return form(name, [=](test::ScreenFixture& fixture) {
-        const UpdateInfo update{version, 57, QUrl(QStringLiteral("https://abissora.example/scarica")), notes};
+        const UpdateInfo update{version, 57, QUrl(u"https://abissora.example/scarica"_s), notes};
         return std::make_unique<UpdateView>(fixture.context, update);
     });
 }
@@ -23,15 +24,14 @@ Scene offer(const QString& name, const QString& version, const std::optional<QSt
 
 QList<Scene> updateScenes()
 {
-    const QString line = QStringLiteral("Una riga di novità abbastanza lunga da andare a capo nella finestra. ");
+    const QString line = u"Una riga di novità abbastanza lunga da andare a capo nella finestra. "_s;
     return {
-        form(QStringLiteral("about"),
-             [](test::ScreenFixture& fixture) { return std::make_unique<AboutView>(fixture.context); }),
-        offer(QStringLiteral("update"), QStringLiteral("1.3.0"), someNotes),
-        offer(QStringLiteral("update-without-notes"), QStringLiteral("1.3.0"), std::nullopt),
-        offer(QStringLiteral("update-long-notes"), QStringLiteral("1.3.0"), line.repeated(40)),
-        offer(QStringLiteral("update-hostile"), QStringLiteral("<b>9</b>\u202E").repeated(50),
-              QStringLiteral("<h1>Titolo</h1><img src=\"file:///etc/passwd\">\u0007") + QString(500, QLatin1Char('W'))),
+        form(u"about"_s, [](test::ScreenFixture& fixture) { return std::make_unique<AboutView>(fixture.context); }),
+        offer(u"update"_s, u"1.3.0"_s, someNotes),
+        offer(u"update-without-notes"_s, u"1.3.0"_s, std::nullopt),
+        offer(u"update-long-notes"_s, u"1.3.0"_s, line.repeated(40)),
+        offer(u"update-hostile"_s, u"<b>9</b>\u202E"_s.repeated(50),
+              u"<h1>Titolo</h1><img src=\"file:///etc/passwd\">\u0007"_s + QString(500, u'W')),
     };
 }
 

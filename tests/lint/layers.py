@@ -6,29 +6,46 @@ from pathlib import Path
 
 from rule import Finding, pattern_rule, rule
 
-LAYERS = ["Platform", "Models", "Services", "ViewModels", "Views", "application"]
+# From the bottom up. Rooms of one storey know nothing of one another.
+STOREYS = [
+    ["Platform"],
+    ["Models"],
+    ["Services"],
+    ["ViewModels"],
+    ["Presentation"],
+    ["Theme"],
+    ["Components"],
+    ["Screen", "Desktop"],
+    ["List", "Sidebar", "Forms", "Help", "Types"],
+    ["Detail", "Settings"],
+    ["Overview"],
+    ["Shell"],
+    ["application"],
+]
+STOREY = {room: number for number, rooms in enumerate(STOREYS) for room in rooms}
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
 
 # Folders of QtCore's and QtNetwork's headers; lint.py sets them from the command line.
 QT_HEADERS: dict[str, list[Path]] = {"QtCore": [], "QtNetwork": []}
 
 
-def layer_of(source):
-    """The place of a file in LAYERS, or None outside the program's code."""
+def room_of(source):
+    """The room of STOREYS that a file of the program's code lies in, None for another file."""
     parts = source.path.parts
     if parts[0] != "src" or not source.is_cpp:
         return None
     if len(parts) == 2:
-        return LAYERS.index("application")
-    return LAYERS.index(parts[1]) if parts[1] in LAYERS else None
+        return "application"
+    room = parts[2] if parts[1] == "Views" else parts[1]
+    return room if room in STOREY else None
 
 
 def is_layered(source):
-    return layer_of(source) is not None
+    return room_of(source) is not None
 
 
 def is_below_views(source):
-    return is_layered(source) and layer_of(source) < LAYERS.index("Views")
+    return is_layered(source) and STOREY[room_of(source)] < STOREY["Theme"]
 
 
 def includes(source):
@@ -37,28 +54,35 @@ def includes(source):
             yield number, found[1] or found[2], found[1] is not None
 
 
-@rule("layers", is_layered, """
-Includes point downward only: Platform <- Models <- Services <- ViewModels <- Views <- MarevoloApp, and name a header by
-its plain file name, which is therefore unique. What is below can then be understood, tested and reused without what is
-above. Fix: move the shared part down, or let the lower layer declare a small interface (as Platform/FilePanel.h) which
-the upper one implements and MarevoloApp hands in.
+@rule("layers", lambda source: source.is_cpp and source.is_under("src"), """
+Includes point downward only: Platform <- Models <- Services <- ViewModels <- Presentation <- Views <- MarevoloApp, and
+within Views Theme <- Components <- Screen, Desktop <- List, Sidebar, Forms, Help, Types <- Detail, Settings <- Overview
+<- Shell; rooms of one storey know nothing of one another. They name a header by its plain file name, which is therefore
+unique. What is below can then be understood, tested and reused without what is above. Fix: move the shared part down,
+emit a signal, or let the lower room declare a small interface (as Platform/FilePanel.h) or take a function, which the
+upper one hands in.
 """)
 def check_layers(sources):
     headers = {}
     for source in sources:
+        if not is_layered(source):
+            yield Finding(source.path, 1, "lies in no room of the program.")
         if source.suffix != ".h":
             continue
         first = headers.setdefault(source.path.name, source)
         if first is not source:
             yield Finding(source.path, 1, f"has the file name of {first.path}; includes could not tell them apart.")
-    for source in sources:
+    for source in filter(is_layered, sources):
+        here = room_of(source)
         for number, name, is_quoted in includes(source):
             if is_quoted and "/" in name:
                 yield Finding(source.path, number, f'includes "{name}" by a path; write the plain file name.')
             target = headers.get(Path(name).name) if is_quoted else None
-            if target and layer_of(target) > layer_of(source):
-                above, here = LAYERS[layer_of(target)], LAYERS[layer_of(source)]
-                yield Finding(source.path, number, f'includes "{name}" of {above}, which stands above {here}.')
+            there = room_of(target) if target else None
+            if there is None or there == here or STOREY[there] < STOREY[here]:
+                continue
+            place = "above" if STOREY[there] > STOREY[here] else "beside"
+            yield Finding(source.path, number, f'includes "{name}" of {there}, which stands {place} {here}.')
 
 
 def module_of(header):

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RecordJson.h"
 
+#include "Literals.h"
 #include "RecordReader.h"
 #include "RecordWriter.h"
 
@@ -33,7 +34,7 @@ tl::expected<QList<Record>, JsonError> decodeRecords(const QByteArray& text)
 
 QString JsonError::description() const
 {
-    return path.isEmpty() ? message : path + QStringLiteral(": ") + message;
+    return path.isEmpty() ? message : path + u": "_s + message;
 }
 
 tl::expected<QByteArray, JsonError> encode(const QList<Equipment>& equipment)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "RecordReader.h"
 
+#include "Literals.h"
+
 #include <nlohmann/json.hpp>
 #include <vector>
 
@@ -97,7 +99,7 @@ public:
             for (std::size_t i = 0; i < members.size() && frame.faults.empty(); ++i) {
                 if (members[i].required && (frame.seen & (std::uint64_t(1) << i)) == 0) {
                     frame.member = i;
-                    frame.faults.push_back({i, {path(), QStringLiteral("the member is missing")}});
+                    frame.faults.push_back({i, {path(), u"the member is missing"_s}});
                 }
             }
         }
@@ -115,10 +117,10 @@ public:
     {
         constexpr qsizetype longest = 300;
         QString message = QString::fromUtf8(error.what());
-        if (const qsizetype end = message.indexOf(QLatin1String("] ")); message.startsWith(QLatin1Char('[')) && end > 0)
+        if (const qsizetype end = message.indexOf("] "_L1); message.startsWith(u'[') && end > 0)
             message.remove(0, end + 2);
         if (message.size() > longest)
-            message = message.left(longest) + QStringLiteral("…");
+            message = message.left(longest) + u"…"_s;
         m_error = JsonError{{}, message};
         return false;
     }
@@ -232,12 +234,11 @@ private:
     JsonError mismatch(const Slot& slot, const char* found, std::string_view text) const
     {
         constexpr std::size_t longest = 60;
-        QString message =
-            QStringLiteral("expected %1, found %2").arg(QLatin1String(slot.expected), QLatin1String(found));
+        QString message = u"expected %1, found %2"_s.arg(QLatin1String(slot.expected), QLatin1String(found));
         // A text of the right kind was refused for what it says.
         if (slot.string && !text.empty() && text.size() <= longest)
-            message = QStringLiteral("expected %1, found \"%2\"")
-                          .arg(QLatin1String(slot.expected), QString::fromUtf8(text.data(), qsizetype(text.size())));
+            message = u"expected %1, found \"%2\""_s.arg(QLatin1String(slot.expected),
+                                                         QString::fromUtf8(text.data(), qsizetype(text.size())));
         return {path(), message};
     }
 
@@ -247,10 +248,10 @@ private:
         for (const Frame& frame : m_frames) {
             const Slot& slot = *frame.place.slot;
             if (slot.element)
-                path += QLatin1Char('[') + QString::number(frame.index - 1) + QLatin1Char(']');
+                path += u'[' + QString::number(frame.index - 1) + u']';
             else if (frame.member != unknown)
-                path += QLatin1Char('.') + QString::fromUtf8(slot.members[frame.member].name.data(),
-                                                             qsizetype(slot.members[frame.member].name.size()));
+                path += u'.' + QString::fromUtf8(slot.members[frame.member].name.data(),
+                                                 qsizetype(slot.members[frame.member].name.size()));
         }
         return path;
     }
@@ -267,9 +268,9 @@ std::optional<JsonError> readInto(void* target, const Slot& slot, const QByteArr
 {
     // The parser itself would pass over both.
     if (json.startsWith("\xEF\xBB\xBF"))
-        return JsonError{{}, QStringLiteral("the text begins with a byte order mark")};
+        return JsonError{{}, u"the text begins with a byte order mark"_s};
     if (const qsizetype at = json.indexOf('\0'); at >= 0)
-        return JsonError{{}, QStringLiteral("the text holds a NUL byte at position %1").arg(at)};
+        return JsonError{{}, u"the text holds a NUL byte at position %1"_s.arg(at)};
     Receiver receiver(target, slot);
     Parser::sax_parse(json.constData(), json.constData() + json.size(), &receiver);
     return receiver.takeError();

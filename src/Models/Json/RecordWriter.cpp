@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RecordWriter.h"
 
+#include "Literals.h"
 #include "ScalarText.h"
 
 #include <algorithm>
@@ -68,7 +69,7 @@ void RecordWriter::write(Instant value)
 {
     const auto text = dateText(value);
     if (!text)
-        fail(QStringLiteral("the year lies outside 1 to 9999"));
+        fail(u"the year lies outside 1 to 9999"_s);
     m_out += '"';
     m_out += *text;
     m_out += '"';
@@ -77,7 +78,7 @@ void RecordWriter::write(Instant value)
 void RecordWriter::write(double value)
 {
     if (!std::isfinite(value))
-        fail(QStringLiteral("the number is not finite"));
+        fail(u"the number is not finite"_s);
     std::array<char, 32> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
     const std::string_view digits(buffer.data(), static_cast<std::size_t>(end - buffer.data()));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "UpdateJson.h"
 
+#include "Literals.h"
 #include "RecordReader.h"
 #include "RecordWriter.h"
 
@@ -30,7 +31,7 @@ tl::expected<UpdateInfo, JsonError> decodeUpdateInfo(const QByteArray& json)
         return tl::unexpected(manifest.error());
     if (auto info = UpdateInfo::from(*manifest))
         return std::move(*info);
-    return tl::unexpected(JsonError{QStringLiteral(".downloadURL"), QStringLiteral("expected an address")});
+    return tl::unexpected(JsonError{u".downloadURL"_s, u"expected an address"_s});
 }
 
 } // namespace abissora

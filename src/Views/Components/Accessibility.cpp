@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Accessibility.h"
 
+#include "Literals.h"
 #include "Segment.h"
 #include "SegmentedControl.h"
 #include "Stepper.h"
@@ -122,27 +123,27 @@ struct Component
 const QHash<QString, Component>& components()
 {
     static const QHash<QString, Component> known{
-        {QStringLiteral("abissora::Alert"), {QAccessible::AlertMessage, false}},
-        {QStringLiteral("abissora::Card"), {QAccessible::Grouping, false}},
-        {QStringLiteral("abissora::Chip"), {QAccessible::Grouping, false}},
-        {QStringLiteral("abissora::EmptyState"), {QAccessible::Grouping, false}},
-        {QStringLiteral("abissora::IconTile"), {QAccessible::Graphic, true}},
-        {QStringLiteral("abissora::IconView"), {QAccessible::Graphic, true}},
-        {QStringLiteral("abissora::ProgressIndicator"), {QAccessible::Animation, true}},
-        {QStringLiteral("abissora::Separator"), {QAccessible::Separator, true}},
-        {QStringLiteral("abissora::StatCard"), {QAccessible::StaticText, true}},
+        {u"abissora::Alert"_s, {QAccessible::AlertMessage, false}},
+        {u"abissora::Card"_s, {QAccessible::Grouping, false}},
+        {u"abissora::Chip"_s, {QAccessible::Grouping, false}},
+        {u"abissora::EmptyState"_s, {QAccessible::Grouping, false}},
+        {u"abissora::IconTile"_s, {QAccessible::Graphic, true}},
+        {u"abissora::IconView"_s, {QAccessible::Graphic, true}},
+        {u"abissora::ProgressIndicator"_s, {QAccessible::Animation, true}},
+        {u"abissora::Separator"_s, {QAccessible::Separator, true}},
+        {u"abissora::StatCard"_s, {QAccessible::StaticText, true}},
     };
     return known;
 }
 
 QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 {
-    if (className == QLatin1String("abissora::Stepper"))
+    if (className == "abissora::Stepper"_L1)
         return std::make_unique<StepperInterface>(static_cast<Stepper*>(object)).release();
-    if (className == QLatin1String("abissora::Segment"))
+    if (className == "abissora::Segment"_L1)
         return std::make_unique<SegmentInterface>(static_cast<Segment*>(object)).release();
     auto* const widget = qobject_cast<QWidget*>(object);
-    if (className == QLatin1String("abissora::SegmentedControl")) {
+    if (className == "abissora::SegmentedControl"_L1) {
         const bool tabs = static_cast<SegmentedControl*>(object)->purpose() == SegmentedControl::Purpose::Tabs;
         return std::make_unique<RoleInterface>(widget, tabs ? QAccessible::PageTabList : QAccessible::Grouping)
             .release();

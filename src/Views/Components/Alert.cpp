@@ -3,6 +3,7 @@
 
 #include "Accessibility.h"
 #include "Buttons.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "TypeScale.h"
 #include "WrapLabel.h"
@@ -21,14 +22,14 @@ Alert::Alert(QWidget* parent)
     : SheetWindow(parent)
     , m_title(new WrapLabel(TextStyle::Headline, &Tokens::text))
     , m_message(new WrapLabel(TextStyle::Body, &Tokens::secondaryText))
-    , m_safe(new PlainButton(QStringLiteral("Annulla")))
-    , m_destructive(new DestructiveButton(QStringLiteral("Elimina")))
+    , m_safe(new PlainButton(u"Annulla"_s))
+    , m_destructive(new DestructiveButton(u"Elimina"_s))
 {
     provideAccessibility();
     m_message->setAlignment(Qt::AlignTop);
-    m_safe->setObjectName(QStringLiteral("safe"));
+    m_safe->setObjectName(u"safe"_s);
     m_safe->setDefault(true);
-    m_destructive->setObjectName(QStringLiteral("destructive"));
+    m_destructive->setObjectName(u"destructive"_s);
 
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(metrics::spaceS);

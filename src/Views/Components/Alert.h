@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Literals.h"
 #include "SheetWindow.h"
 
 namespace abissora {
@@ -21,7 +22,7 @@ public:
     void setTitle(const QString& title);
     void setMessage(const QString& message);
     [[nodiscard]] QString message() const;
-    void makeNotice(const QString& buttonText = QStringLiteral("OK"));
+    void makeNotice(const QString& buttonText = u"OK"_s);
 
     [[nodiscard]] PlainButton* safeButton() const { return m_safe; }
     [[nodiscard]] DestructiveButton* destructiveButton() const { return m_destructive; }

@@ -4,6 +4,7 @@
 #include "Accessibility.h"
 #include "Buttons.h"
 #include "IconView.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
@@ -44,15 +45,15 @@ Chip::Chip(QWidget* parent)
     : QFrame(parent)
     , m_icon(new IconView({}, metrics::iconSize))
     , m_text(new ChipText)
-    , m_clear(new IconButton(symbolIcon(QStringLiteral("xmark.circle.fill"), NamedColor::secondary), {}))
+    , m_clear(new IconButton(symbolIcon(u"xmark.circle.fill"_s, NamedColor::secondary), {}))
 {
     provideAccessibility();
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     m_text->setFont(abissora::font(TextStyle::Caption));
     m_text->setTextFormat(Qt::PlainText);
-    m_clear->setObjectName(QStringLiteral("clear"));
+    m_clear->setObjectName(u"clear"_s);
     m_clear->setFixedSize(metrics::spaceXL - 2, metrics::spaceXL - 2);
-    setClearName(QStringLiteral("Cancella filtri"));
+    setClearName(u"Cancella filtri"_s);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(metrics::spaceS + 2, 2, metrics::spaceXS, 2);
     layout->setSpacing(metrics::spaceXS + 1);

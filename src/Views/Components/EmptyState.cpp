@@ -4,6 +4,7 @@
 #include "Accessibility.h"
 #include "Buttons.h"
 #include "IconView.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
 #include "TypeScale.h"
@@ -40,7 +41,7 @@ EmptyState::EmptyState(QWidget* parent)
     provideAccessibility();
     m_text->hide();
     m_button->hide();
-    m_button->setObjectName(QStringLiteral("emptyStateButton"));
+    m_button->setObjectName(u"emptyStateButton"_s);
     setFocusProxy(m_button);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceXL);

@@ -2,6 +2,7 @@
 #include "FormRow.h"
 
 #include "CheckedField.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "TypeScale.h"
 #include "WrapLabel.h"
@@ -22,7 +23,7 @@ FormRow::FormRow(const QString& label, QWidget* field, QWidget* parent)
     : QWidget(parent)
 {
     // With a buddy the label takes an ampersand for the mark of an access key.
-    auto* name = new QLabel(QString(label).replace(QLatin1Char('&'), QLatin1String("&&")));
+    auto* name = new QLabel(QString(label).replace(u'&', "&&"_L1));
     name->setForegroundRole(QPalette::PlaceholderText);
     name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     if (!label.isEmpty())
@@ -71,7 +72,7 @@ void FormRow::showError(const QString& error)
 {
     if (m_error == nullptr) {
         m_error = new WrapLabel(TextStyle::Caption, &Tokens::danger);
-        m_error->setObjectName(QStringLiteral("error"));
+        m_error->setObjectName(u"error"_s);
         static_cast<QGridLayout*>(layout())->addWidget(m_error, errorRow, 1);
     }
     m_error->setText(error);

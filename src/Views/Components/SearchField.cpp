@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SearchField.h"
 
+#include "Literals.h"
 #include "SymbolIcon.h"
 
 #include <QAction>
@@ -15,13 +16,13 @@ SearchField::SearchField(const QString& placeholder, QWidget* parent)
     setPlaceholderText(placeholder);
     setAccessibleName(placeholder);
     auto* lens = new QAction(this);
-    lens->setIcon(symbolIcon(QStringLiteral("magnifyingglass"), NamedColor::secondary));
+    lens->setIcon(symbolIcon(u"magnifyingglass"_s, NamedColor::secondary));
     connect(lens, &QAction::triggered, this, [this] { setFocus(Qt::MouseFocusReason); });
     addAction(lens, QLineEdit::LeadingPosition);
 
-    m_clear->setObjectName(QStringLiteral("clear"));
-    m_clear->setIcon(symbolIcon(QStringLiteral("xmark.circle.fill"), NamedColor::secondary));
-    setClearName(QStringLiteral("Cancella la ricerca"));
+    m_clear->setObjectName(u"clear"_s);
+    m_clear->setIcon(symbolIcon(u"xmark.circle.fill"_s, NamedColor::secondary));
+    setClearName(u"Cancella la ricerca"_s);
     addAction(m_clear, QLineEdit::TrailingPosition);
     m_clear->setVisible(false); // after it was added: the field only notices changes
     connect(m_clear, &QAction::triggered, this, &SearchField::clearByPerson);

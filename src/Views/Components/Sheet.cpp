@@ -2,6 +2,7 @@
 #include "Sheet.h"
 
 #include "Buttons.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Separator.h"
 #include "TypeScale.h"
@@ -24,14 +25,14 @@ constexpr int sideMargin = 18;
 Sheet::Sheet(const QString& title, QWidget* parent)
     : SheetWindow(parent)
     , m_title(new QLabel)
-    , m_cancel(new PlainButton(QStringLiteral("Annulla")))
+    , m_cancel(new PlainButton(u"Annulla"_s))
     , m_primary(new PrimaryButton({}))
     , m_scroll(new QScrollArea)
     , m_body(new QVBoxLayout)
 {
     setTitle(title);
-    m_cancel->setObjectName(QStringLiteral("cancel"));
-    m_primary->setObjectName(QStringLiteral("primary"));
+    m_cancel->setObjectName(u"cancel"_s);
+    m_primary->setObjectName(u"primary"_s);
     m_primary->hide();
 
     auto* body = new QWidget;

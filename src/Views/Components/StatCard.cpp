@@ -2,6 +2,7 @@
 #include "StatCard.h"
 
 #include "Accessibility.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
@@ -70,7 +71,7 @@ void StatCard::setValue(const QString& value)
 
 void StatCard::name()
 {
-    setAccessibleName(m_title + QStringLiteral(": ") + m_value);
+    setAccessibleName(m_title + u": "_s + m_value);
 }
 
 QSize StatCard::minimumSizeHint() const

@@ -28,7 +28,7 @@ int layOut(QTextLayout& layout, const QLabel& label, int width)
 
 QString lines(QString text)
 {
-    return text.replace(QLatin1Char('\n'), QChar::LineSeparator);
+    return text.replace(u'\n', QChar::LineSeparator);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "DesktopFilePanel.h"
 
 #include "Alert.h"
+#include "Literals.h"
 
 #include <QApplication>
 #include <QDir>
@@ -18,9 +19,8 @@ namespace {
 QString filterFor(const QString& contentType)
 {
     const QMimeType type = QMimeDatabase().mimeTypeForName(contentType);
-    const QString name =
-        contentType == QLatin1String("application/pdf") ? QStringLiteral("Documenti PDF") : type.comment();
-    return QStringLiteral("%1 (%2)").arg(name, type.globPatterns().join(QLatin1Char(' ')));
+    const QString name = contentType == "application/pdf"_L1 ? u"Documenti PDF"_s : type.comment();
+    return u"%1 (%2)"_s.arg(name, type.globPatterns().join(u' '));
 }
 
 /// Takes no typed path of another content either; a file without an extension is judged by what it holds.
@@ -48,7 +48,7 @@ protected:
         const QStringList files = selectedFiles();
         const bool chosen = !files.isEmpty() && QFileInfo(files.first()).isFile();
         // A dialog of the platform's own keeps to the filter by itself, and has closed by now.
-        const bool isOwn = findChild<QWidget*>(QStringLiteral("fileNameEdit")) != nullptr;
+        const bool isOwn = findChild<QWidget*>(u"fileNameEdit"_s) != nullptr;
         if (!chosen || !isOwn || isWanted(files.first()))
             QFileDialog::accept();
         else
@@ -68,7 +68,7 @@ private:
         auto* notice = new Alert(this);
         notice->setAttribute(Qt::WA_DeleteOnClose);
         notice->setTitle(windowTitle());
-        notice->setMessage(QStringLiteral("«%1» non è un documento PDF.").arg(name));
+        notice->setMessage(u"«%1» non è un documento PDF."_s.arg(name));
         notice->makeNotice();
         notice->open();
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DesktopOpener.h"
 
+#include "Literals.h"
+
 #include <QDesktopServices>
 #include <QEventLoop>
 #include <QProcess>
@@ -18,7 +20,7 @@ namespace {
 QString openingCommand()
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    return QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    return QStandardPaths::findExecutable(u"xdg-open"_s);
 #else
     return {};
 #endif

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "SingleInstance.h"
 
+#include "Literals.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QLocalSocket>
@@ -21,11 +23,11 @@ QString prepared(const QString& folder)
 
 SingleInstance::SingleInstance(const QString& folder, QObject* parent)
     : QObject(parent)
-    , m_lock(prepared(folder) + QStringLiteral("/abissora.lock"))
+    , m_lock(prepared(folder) + u"/abissora.lock"_s)
 {
     // Socket names are short; the register's folder need not be.
     const QByteArray hash = QCryptographicHash::hash(prepared(folder).toUtf8(), QCryptographicHash::Sha256);
-    m_serverName = QStringLiteral("abissora-") + QString::fromLatin1(hash.toHex().left(24));
+    m_serverName = u"abissora-"_s + QString::fromLatin1(hash.toHex().left(24));
     m_lock.setStaleLockTime(0);
     m_server.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&m_server, &QLocalServer::newConnection, this, [this] {

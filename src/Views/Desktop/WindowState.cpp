@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "WindowState.h"
 
+#include "Literals.h"
+
 #include <QSplitter>
 #include <QWidget>
 
@@ -8,13 +10,13 @@ namespace abissora {
 
 namespace {
 
-const QString sizeKey = QStringLiteral("main/size");
-const QString maximizedKey = QStringLiteral("main/maximized");
+const QString sizeKey = u"main/size"_s;
+const QString maximizedKey = u"main/maximized"_s;
 constexpr QSize usualSize(1280, 800);
 
 QString keyOf(const QSplitter& splitter)
 {
-    return QStringLiteral("main/") + splitter.objectName();
+    return u"main/"_s + splitter.objectName();
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "CostField.h"
 
 #include "CostText.h"
+#include "Literals.h"
 
 #include <QFocusEvent>
 #include <QValidator>
@@ -50,7 +51,7 @@ private:
 CostField::CostField(QWidget* parent)
     : CheckedField(parent)
 {
-    setPlaceholderText(QStringLiteral("0,00"));
+    setPlaceholderText(u"0,00"_s);
     setValidator(new CostValidator(*this));
     connect(this, &QLineEdit::textChanged, this, [this] {
         if (cost())
@@ -74,7 +75,7 @@ std::optional<double> CostField::cost() const
 bool CostField::commit()
 {
     const bool isAmount = cost().has_value();
-    setError(isAmount ? QString() : QStringLiteral("Importo non valido: scrivi un numero, per esempio 45,50"));
+    setError(isAmount ? QString() : u"Importo non valido: scrivi un numero, per esempio 45,50"_s);
     return isAmount;
 }
 

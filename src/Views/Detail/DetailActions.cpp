@@ -3,26 +3,27 @@
 
 #include "Buttons.h"
 #include "FlowLayout.h"
+#include "Literals.h"
 #include "Metrics.h"
 
 namespace abissora {
 
 DetailActions::DetailActions(QWidget* parent)
     : QWidget(parent)
-    , m_addMaintenance(new PrimaryButton(QStringLiteral("Aggiungi Manutenzione")))
+    , m_addMaintenance(new PrimaryButton(u"Aggiungi Manutenzione"_s))
     , m_toggleActive(new LookButton(ButtonLook::Caution, {}, nullptr))
 {
-    auto* edit = new PlainButton(QStringLiteral("Modifica"));
-    edit->setObjectName(QStringLiteral("editEquipment"));
-    edit->setSymbol(QStringLiteral("pencil"));
-    edit->setToolTip(QStringLiteral("Modifica l'attrezzatura"));
-    m_addMaintenance->setObjectName(QStringLiteral("addMaintenance"));
-    m_addMaintenance->setSymbol(QStringLiteral("wrench.fill"));
-    m_addMaintenance->setToolTip(QStringLiteral("Aggiungi una nuova manutenzione"));
-    m_toggleActive->setObjectName(QStringLiteral("toggleActive"));
-    auto* remove = new DestructiveButton(QStringLiteral("Elimina"));
-    remove->setObjectName(QStringLiteral("deleteEquipment"));
-    remove->setToolTip(QStringLiteral("Elimina l'attrezzatura"));
+    auto* edit = new PlainButton(u"Modifica"_s);
+    edit->setObjectName(u"editEquipment"_s);
+    edit->setSymbol(u"pencil"_s);
+    edit->setToolTip(u"Modifica l'attrezzatura"_s);
+    m_addMaintenance->setObjectName(u"addMaintenance"_s);
+    m_addMaintenance->setSymbol(u"wrench.fill"_s);
+    m_addMaintenance->setToolTip(u"Aggiungi una nuova manutenzione"_s);
+    m_toggleActive->setObjectName(u"toggleActive"_s);
+    auto* remove = new DestructiveButton(u"Elimina"_s);
+    remove->setObjectName(u"deleteEquipment"_s);
+    remove->setToolTip(u"Elimina l'attrezzatura"_s);
 
     auto* layout = new FlowLayout(metrics::spaceS, metrics::spaceS);
     setLayout(layout);
@@ -43,9 +44,8 @@ void DetailActions::focusAddMaintenance()
 
 void DetailActions::setActive(bool active)
 {
-    m_toggleActive->setText(active ? QStringLiteral("Disattiva") : QStringLiteral("Attiva"));
-    m_toggleActive->setToolTip(active ? QStringLiteral("Disattiva l'attrezzatura")
-                                      : QStringLiteral("Attiva l'attrezzatura"));
+    m_toggleActive->setText(active ? u"Disattiva"_s : u"Attiva"_s);
+    m_toggleActive->setToolTip(active ? u"Disattiva l'attrezzatura"_s : u"Attiva l'attrezzatura"_s);
     setButtonLook(*m_toggleActive, active ? ButtonLook::Caution : ButtonLook::Positive);
 }
 

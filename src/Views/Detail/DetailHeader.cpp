@@ -3,6 +3,7 @@
 
 #include "DueBadge.h"
 #include "IconTile.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "StateMark.h"
 #include "SymbolIcon.h"
@@ -26,10 +27,10 @@ DetailHeader::DetailHeader(QWidget* parent)
     , m_state(new StateMark)
     , m_badge(new DueBadge)
 {
-    m_name->setObjectName(QStringLiteral("detailName"));
-    m_typeName->setObjectName(QStringLiteral("detailType"));
-    m_state->setObjectName(QStringLiteral("detailState"));
-    m_badge->setObjectName(QStringLiteral("dueBadge"));
+    m_name->setObjectName(u"detailName"_s);
+    m_typeName->setObjectName(u"detailType"_s);
+    m_state->setObjectName(u"detailState"_s);
+    m_badge->setObjectName(u"dueBadge"_s);
 
     auto* texts = new QVBoxLayout;
     texts->setSpacing(metrics::spaceXS / 2);

@@ -4,6 +4,7 @@
 #include "Buttons.h"
 #include "DocumentOpening.h"
 #include "IconLabel.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
 
@@ -16,21 +17,21 @@ DocumentField::DocumentField(DocumentSlot slot, MaintenanceDocumentStore& docume
     : QWidget(parent)
     , m_documents(documents)
     , m_opener(opener)
-    , m_file(new IconLabel(symbolIcon(QStringLiteral("doc.fill"), NamedColor::blue)))
-    , m_open(new PlainButton(QStringLiteral("Apri")))
-    , m_remove(new DestructiveButton(QStringLiteral("Rimuovi")))
-    , m_attach(new PlainButton(slot == DocumentSlot::Receipt ? QStringLiteral("Carica scontrino (PDF)")
-                                                             : QStringLiteral("Carica certificato (PDF)")))
+    , m_file(new IconLabel(symbolIcon(u"doc.fill"_s, NamedColor::blue)))
+    , m_open(new PlainButton(u"Apri"_s))
+    , m_remove(new DestructiveButton(u"Rimuovi"_s))
+    , m_attach(
+          new PlainButton(slot == DocumentSlot::Receipt ? u"Carica scontrino (PDF)"_s : u"Carica certificato (PDF)"_s))
 {
     const QString label = documentLabel(slot);
-    m_file->setObjectName(QStringLiteral("file") + label);
-    m_file->setText(label + QStringLiteral(" (PDF)"));
-    m_open->setObjectName(QStringLiteral("open") + label);
+    m_file->setObjectName(u"file"_s + label);
+    m_file->setText(label + u" (PDF)"_s);
+    m_open->setObjectName(u"open"_s + label);
     m_open->setAccessibleDescription(label);
-    m_remove->setObjectName(QStringLiteral("remove") + label);
+    m_remove->setObjectName(u"remove"_s + label);
     m_remove->setAccessibleDescription(label);
-    m_attach->setObjectName(QStringLiteral("attach") + label);
-    m_attach->setSymbol(QStringLiteral("doc.badge.plus"));
+    m_attach->setObjectName(u"attach"_s + label);
+    m_attach->setSymbol(u"doc.badge.plus"_s);
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

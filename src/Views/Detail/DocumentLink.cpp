@@ -3,6 +3,7 @@
 
 #include "Buttons.h"
 #include "DocumentOpening.h"
+#include "Literals.h"
 #include "TypeScale.h"
 
 #include <QHBoxLayout>
@@ -15,17 +16,17 @@ DocumentLink::DocumentLink(DocumentSlot slot, MaintenanceDocumentStore& document
     , m_documents(documents)
     , m_opener(opener)
     , m_open(new LinkButton(documentLabel(slot)))
-    , m_replace(new LookButton(ButtonLook::DestructiveLink, QStringLiteral("Sostituisci"), nullptr))
-    , m_upload(new LinkButton(QStringLiteral("Carica ") + documentLabel(slot)))
+    , m_replace(new LookButton(ButtonLook::DestructiveLink, u"Sostituisci"_s, nullptr))
+    , m_upload(new LinkButton(u"Carica "_s + documentLabel(slot)))
 {
     const bool isReceipt = slot == DocumentSlot::Receipt;
-    m_open->setObjectName(isReceipt ? QStringLiteral("openReceipt") : QStringLiteral("openCertificate"));
-    m_replace->setObjectName(isReceipt ? QStringLiteral("replaceReceipt") : QStringLiteral("replaceCertificate"));
-    m_upload->setObjectName(isReceipt ? QStringLiteral("uploadReceipt") : QStringLiteral("uploadCertificate"));
-    m_open->setSymbol(QStringLiteral("doc.text.fill"));
-    m_replace->setSymbol(QStringLiteral("arrow.triangle.2.circlepath"));
-    m_replace->setToolTip(QStringLiteral("Sostituisci il documento allegato"));
-    m_upload->setSymbol(QStringLiteral("doc.badge.plus"));
+    m_open->setObjectName(isReceipt ? u"openReceipt"_s : u"openCertificate"_s);
+    m_replace->setObjectName(isReceipt ? u"replaceReceipt"_s : u"replaceCertificate"_s);
+    m_upload->setObjectName(isReceipt ? u"uploadReceipt"_s : u"uploadCertificate"_s);
+    m_open->setSymbol(u"doc.text.fill"_s);
+    m_replace->setSymbol(u"arrow.triangle.2.circlepath"_s);
+    m_replace->setToolTip(u"Sostituisci il documento allegato"_s);
+    m_upload->setSymbol(u"doc.badge.plus"_s);
 
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -2,6 +2,7 @@
 #include "DocumentOpening.h"
 
 #include "Alert.h"
+#include "Literals.h"
 
 #include <QDir>
 #include <QPointer>
@@ -18,10 +19,9 @@ bool openDocument(const QString& name, const MaintenanceDocumentStore& documents
         return true;
     auto* notice = new Alert(&place);
     notice->setAttribute(Qt::WA_DeleteOnClose);
-    notice->setTitle(QStringLiteral("Documento non aperto"));
-    notice->setMessage(QStringLiteral("Il sistema non ha aperto il documento: forse manca un'applicazione per i file "
-                                      "PDF. Il file si trova qui:\n%1")
-                           .arg(QDir::toNativeSeparators(*path)));
+    notice->setTitle(u"Documento non aperto"_s);
+    notice->setMessage(u"Il sistema non ha aperto il documento: forse manca un'applicazione per i file "
+                       "PDF. Il file si trova qui:\n%1"_s.arg(QDir::toNativeSeparators(*path)));
     notice->makeNotice();
     notice->open();
     return true;

@@ -3,6 +3,7 @@
 
 #include "IconView.h"
 #include "InkLabel.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
@@ -25,10 +26,9 @@ DueBadge::DueBadge(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(metrics::spaceS, metrics::spaceS, metrics::spaceS, metrics::spaceS);
     layout->setSpacing(metrics::spaceXS / 2);
-    auto* sign = new IconView(symbolIcon(QStringLiteral("exclamationmark.triangle.fill"), NamedColor::red), signSide);
+    auto* sign = new IconView(symbolIcon(u"exclamationmark.triangle.fill"_s, NamedColor::red), signSide);
     layout->addWidget(sign, 0, Qt::AlignHCenter);
-    layout->addWidget(new InkLabel(TextStyle::CaptionSemibold, &Tokens::danger, QStringLiteral("SCADUTO")), 0,
-                      Qt::AlignHCenter);
+    layout->addWidget(new InkLabel(TextStyle::CaptionSemibold, &Tokens::danger, u"SCADUTO"_s), 0, Qt::AlignHCenter);
 }
 
 void DueBadge::paintEvent(QPaintEvent*)

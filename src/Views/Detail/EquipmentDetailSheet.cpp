@@ -2,6 +2,7 @@
 #include "EquipmentDetailSheet.h"
 
 #include "EquipmentDetailView.h"
+#include "Literals.h"
 #include "Metrics.h"
 
 #include <QVBoxLayout>
@@ -12,7 +13,7 @@ EquipmentDetailSheet::EquipmentDetailSheet(const AppContext& context, const Equi
     : SheetWindow(parent)
     , m_detail(new EquipmentDetailView(context, equipment))
 {
-    setWindowTitle(QStringLiteral("Dettagli Attrezzatura"));
+    setWindowTitle(u"Dettagli Attrezzatura"_s);
     auto* layout = new QVBoxLayout(this);
     // The rounded corners lie outside the square screen.
     layout->setContentsMargins(metrics::spaceXS, metrics::spaceS, metrics::spaceXS, metrics::spaceXS);
@@ -27,7 +28,7 @@ QSize EquipmentDetailSheet::preferredSize() const
 
 QWidget* EquipmentDetailSheet::firstFocus() const
 {
-    return m_detail->findChild<QWidget*>(QStringLiteral("editEquipment"));
+    return m_detail->findChild<QWidget*>(u"editEquipment"_s);
 }
 
 } // namespace abissora

@@ -7,6 +7,7 @@
 #include "DetailHeader.h"
 #include "EditEquipmentView.h"
 #include "InkLabel.h"
+#include "Literals.h"
 #include "MaintenanceFormView.h"
 #include "MaintenanceHistory.h"
 #include "MaintenanceRecords.h"
@@ -40,7 +41,7 @@ EquipmentDetailView::EquipmentDetailView(const AppContext& context, const Equipm
     , m_history(new MaintenanceHistory(context))
     , m_body(makeBody())
 {
-    setObjectName(QStringLiteral("equipmentDetail"));
+    setObjectName(u"equipmentDetail"_s);
     setMinimumWidth(leastWidth);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -53,22 +54,22 @@ EquipmentDetailView::EquipmentDetailView(const AppContext& context, const Equipm
 
 QWidget* EquipmentDetailView::makeTitleBar()
 {
-    auto* close = new IconButton(symbolIcon(QStringLiteral("xmark")), QStringLiteral("Chiudi"));
-    close->setObjectName(QStringLiteral("closeDetail"));
+    auto* close = new IconButton(symbolIcon(u"xmark"_s), u"Chiudi"_s);
+    close->setObjectName(u"closeDetail"_s);
     connect(close, &QAbstractButton::clicked, this, &EquipmentDetailView::closed);
     auto* bar = new QWidget;
     auto* layout = new QHBoxLayout(bar);
     layout->setContentsMargins(sideMargin, metrics::spaceXS, sideMargin - metrics::spaceXS, metrics::spaceXS);
-    layout->addWidget(new InkLabel(TextStyle::Headline, &Tokens::text, QStringLiteral("Dettagli Attrezzatura")), 1);
+    layout->addWidget(new InkLabel(TextStyle::Headline, &Tokens::text, u"Dettagli Attrezzatura"_s), 1);
     layout->addWidget(close);
     return bar;
 }
 
 QScrollArea* EquipmentDetailView::makeBody()
 {
-    m_notes->setObjectName(QStringLiteral("notes"));
-    m_notes->setAccessibleName(QStringLiteral("Note"));
-    auto* notes = new GroupBox(QStringLiteral("Note"), QStringLiteral("note.text"));
+    m_notes->setObjectName(u"notes"_s);
+    m_notes->setAccessibleName(u"Note"_s);
+    auto* notes = new GroupBox(u"Note"_s, u"note.text"_s);
     notes->content()->addWidget(m_notes);
 
     auto* content = new QWidget;
@@ -197,7 +198,7 @@ Alert* EquipmentDetailView::makeAlert(const QString& title, const QString& messa
 void EquipmentDetailView::confirmDeleteMaintenance(const QUuid& id)
 {
     m_maintenanceToDelete = recordOf(m_equipment.maintenanceHistory, id);
-    Alert* alert = makeAlert(QStringLiteral("Elimina Manutenzione"), maintenanceDeleteAlertMessage());
+    Alert* alert = makeAlert(u"Elimina Manutenzione"_s, maintenanceDeleteAlertMessage());
     connect(alert, &QDialog::accepted, this, &EquipmentDetailView::deleteSelectedMaintenance);
     connect(alert, &QDialog::rejected, this, [this] { m_maintenanceToDelete.reset(); });
     alert->open();
@@ -206,9 +207,9 @@ void EquipmentDetailView::confirmDeleteMaintenance(const QUuid& id)
 QString EquipmentDetailView::maintenanceDeleteAlertMessage() const
 {
     if (!m_maintenanceToDelete)
-        return QStringLiteral("Eliminare questa manutenzione?");
-    return QStringLiteral("Eliminare la manutenzione del %1?\nAnche eventuali documenti allegati verranno rimossi.")
-        .arg(m_context.dates.abbreviatedDate(m_maintenanceToDelete->date));
+        return u"Eliminare questa manutenzione?"_s;
+    return u"Eliminare la manutenzione del %1?\nAnche eventuali documenti allegati verranno rimossi."_s.arg(
+        m_context.dates.abbreviatedDate(m_maintenanceToDelete->date));
 }
 
 void EquipmentDetailView::deleteSelectedMaintenance()
@@ -226,11 +227,9 @@ void EquipmentDetailView::deleteSelectedMaintenance()
 
 void EquipmentDetailView::confirmDeletion()
 {
-    Alert* alert =
-        makeAlert(QStringLiteral("Conferma Eliminazione"),
-                  QStringLiteral("Sei sicuro di voler eliminare l'attrezzatura '%1'? Questa azione non può essere "
-                                 "annullata.")
-                      .arg(m_equipment.name));
+    Alert* alert = makeAlert(u"Conferma Eliminazione"_s,
+                             u"Sei sicuro di voler eliminare l'attrezzatura '%1'? Questa azione non può essere "
+                             "annullata."_s.arg(m_equipment.name));
     connect(alert, &QDialog::accepted, this, [this] {
         m_context.equipment.deleteEquipment(m_equipment);
         Q_EMIT closed();

@@ -8,6 +8,7 @@
 #include "FormRow.h"
 #include "GroupBox.h"
 #include "IconView.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "NotesField.h"
 #include "SymbolIcon.h"
@@ -40,7 +41,7 @@ Maintenance newRecord(const AppContext& context)
 
 MaintenanceFormView::MaintenanceFormView(const AppContext& context, const QUuid& equipmentId,
                                          const std::optional<Maintenance>& editingMaintenance, QWidget* parent)
-    : Sheet(editingMaintenance ? QStringLiteral("Modifica Manutenzione") : QStringLiteral("Nuova Manutenzione"), parent)
+    : Sheet(editingMaintenance ? u"Modifica Manutenzione"_s : u"Nuova Manutenzione"_s, parent)
     , m_context(context)
     , m_equipmentId(equipmentId)
     , m_isEditing(editingMaintenance.has_value())
@@ -50,14 +51,14 @@ MaintenanceFormView::MaintenanceFormView(const AppContext& context, const QUuid&
     , m_description(new QLineEdit)
     , m_performedBy(new QLineEdit)
     , m_cost(new CostField)
-    , m_completed(new ToggleSwitch(QStringLiteral("Manutenzione avvenuta")))
+    , m_completed(new ToggleSwitch(u"Manutenzione avvenuta"_s))
     , m_receipt(new DocumentField(DocumentSlot::Receipt, context.documents, context.opener))
     , m_certificate(new DocumentField(DocumentSlot::Certificate, context.documents, context.opener))
     , m_next(new DateField(context.calendar))
     , m_notes(new NotesField(notesHeight))
 {
-    setObjectName(QStringLiteral("maintenanceForm"));
-    setPrimaryText(QStringLiteral("Salva"));
+    setObjectName(u"maintenanceForm"_s);
+    setPrimaryText(u"Salva"_s);
     buildBody();
     showRecord();
     connectFields();
@@ -69,17 +70,17 @@ void MaintenanceFormView::buildBody()
 {
     for (QWidget* group : {makeDetails(), makeAdditional(), makeOutcome(), makeNextService(), makeNotes()})
         body()->addWidget(group);
-    body()->addWidget(new InkLabel(TextStyle::Caption, &Tokens::secondaryText, QStringLiteral("* Campi obbligatori")));
+    body()->addWidget(new InkLabel(TextStyle::Caption, &Tokens::secondaryText, u"* Campi obbligatori"_s));
     setFirstField(m_description);
 }
 
 QWidget* MaintenanceFormView::makeDetails()
 {
-    m_date->setObjectName(QStringLiteral("date"));
-    m_date->setAccessibleName(QStringLiteral("Data"));
+    m_date->setObjectName(u"date"_s);
+    m_date->setAccessibleName(u"Data"_s);
     m_date->setFixedWidth(withText(FormRow::labelColumn, fontMetrics())); // the type stands above the other fields
-    m_type->setObjectName(QStringLiteral("type"));
-    m_type->setAccessibleName(QStringLiteral("Tipo"));
+    m_type->setObjectName(u"type"_s);
+    m_type->setAccessibleName(u"Tipo"_s);
     for (const MaintenanceType type : allCases<MaintenanceType>()) {
         const TypeAppearance look = appearanceOf(type);
         m_type->addItem(symbolIcon(look.icon, look.color), rawValue(type), static_cast<int>(type));
@@ -87,16 +88,16 @@ QWidget* MaintenanceFormView::makeDetails()
     m_type->setFocusPolicy(Qt::StrongFocus);
     for (QLineEdit* field : {m_description, m_performedBy})
         field->setMaxLength(std::numeric_limits<int>::max()); // a form shall not shorten what is stored
-    m_description->setObjectName(QStringLiteral("description"));
-    m_description->setPlaceholderText(QStringLiteral("Inserisci la descrizione"));
+    m_description->setObjectName(u"description"_s);
+    m_description->setPlaceholderText(u"Inserisci la descrizione"_s);
 
-    auto* group = new GroupBox(QStringLiteral("Dettagli Manutenzione"));
+    auto* group = new GroupBox(u"Dettagli Manutenzione"_s);
     auto* row = new QHBoxLayout;
     row->setSpacing(metrics::spaceM);
     row->addWidget(m_date);
     row->addWidget(m_type, 1);
     auto* error = new WrapLabel(TextStyle::Caption, &Tokens::danger);
-    error->setObjectName(QStringLiteral("dateError"));
+    error->setObjectName(u"dateError"_s);
     error->hide();
     connect(m_date, &CheckedField::errorChanged, error, [error](const QString& text) {
         error->setText(text);
@@ -104,26 +105,26 @@ QWidget* MaintenanceFormView::makeDetails()
     });
     group->content()->addLayout(row);
     group->content()->addWidget(error);
-    group->content()->addWidget(new FormRow(QStringLiteral("Descrizione*"), m_description));
+    group->content()->addWidget(new FormRow(u"Descrizione*"_s, m_description));
     return group;
 }
 
 QWidget* MaintenanceFormView::makeAdditional()
 {
-    m_performedBy->setObjectName(QStringLiteral("performedBy"));
-    m_performedBy->setPlaceholderText(QStringLiteral("Nome del tecnico"));
-    m_cost->setObjectName(QStringLiteral("cost"));
+    m_performedBy->setObjectName(u"performedBy"_s);
+    m_performedBy->setPlaceholderText(u"Nome del tecnico"_s);
+    m_cost->setObjectName(u"cost"_s);
     m_cost->setMaximumWidth(withText(costWidth, fontMetrics()));
-    auto* group = new GroupBox(QStringLiteral("Informazioni Aggiuntive"));
-    group->content()->addWidget(new FormRow(QStringLiteral("Eseguito da"), m_performedBy));
-    group->content()->addWidget(new FormRow(QStringLiteral("Costo"), m_cost));
+    auto* group = new GroupBox(u"Informazioni Aggiuntive"_s);
+    group->content()->addWidget(new FormRow(u"Eseguito da"_s, m_performedBy));
+    group->content()->addWidget(new FormRow(u"Costo"_s, m_cost));
     return group;
 }
 
 QWidget* MaintenanceFormView::makeOutcome()
 {
-    m_completed->setObjectName(QStringLiteral("isCompleted"));
-    auto* group = new GroupBox(QStringLiteral("Esito e Documenti"));
+    m_completed->setObjectName(u"isCompleted"_s);
+    auto* group = new GroupBox(u"Esito e Documenti"_s);
     group->content()->addWidget(m_completed);
     group->content()->addWidget(new FormRow(documentLabel(DocumentSlot::Receipt), m_receipt));
     group->content()->addWidget(new FormRow(documentLabel(DocumentSlot::Certificate), m_certificate));
@@ -132,27 +133,27 @@ QWidget* MaintenanceFormView::makeOutcome()
 
 QWidget* MaintenanceFormView::makeNextService()
 {
-    m_next->setObjectName(QStringLiteral("nextServiceDate"));
-    m_next->setAccessibleName(QStringLiteral("Data Prossimo Tagliando"));
-    auto* explanation = new WrapLabel(
-        TextStyle::Body, &Tokens::secondaryText,
-        QStringLiteral("Calcolata automaticamente: %1 giorni dall'intervallo configurato per la tipologia")
-            .arg(equipmentIntervalDays()));
-    explanation->setObjectName(QStringLiteral("intervalExplanation"));
+    m_next->setObjectName(u"nextServiceDate"_s);
+    m_next->setAccessibleName(u"Data Prossimo Tagliando"_s);
+    auto* explanation =
+        new WrapLabel(TextStyle::Body, &Tokens::secondaryText,
+                      u"Calcolata automaticamente: %1 giorni dall'intervallo configurato per la tipologia"_s.arg(
+                          equipmentIntervalDays()));
+    explanation->setObjectName(u"intervalExplanation"_s);
     auto* line = new QHBoxLayout;
     line->setSpacing(metrics::spaceS);
-    line->addWidget(new IconView(symbolIcon(QStringLiteral("wand.and.stars"), NamedColor::blue)), 0, Qt::AlignTop);
+    line->addWidget(new IconView(symbolIcon(u"wand.and.stars"_s, NamedColor::blue)), 0, Qt::AlignTop);
     line->addWidget(explanation, 1);
-    auto* group = new GroupBox(QStringLiteral("Prossimo Tagliando"));
+    auto* group = new GroupBox(u"Prossimo Tagliando"_s);
     group->content()->addLayout(line);
-    group->content()->addWidget(new FormRow(QStringLiteral("Data Prossimo Tagliando"), m_next));
+    group->content()->addWidget(new FormRow(u"Data Prossimo Tagliando"_s, m_next));
     return group;
 }
 
 QWidget* MaintenanceFormView::makeNotes()
 {
-    m_notes->setObjectName(QStringLiteral("notes"));
-    auto* group = new GroupBox(QStringLiteral("Note"));
+    m_notes->setObjectName(u"notes"_s);
+    auto* group = new GroupBox(u"Note"_s);
     group->content()->addWidget(m_notes);
     return group;
 }

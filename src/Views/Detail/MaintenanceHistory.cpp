@@ -2,6 +2,7 @@
 #include "MaintenanceHistory.h"
 
 #include "EmptyState.h"
+#include "Literals.h"
 #include "MaintenanceRecords.h"
 #include "MaintenanceRow.h"
 #include "Separator.h"
@@ -11,11 +12,11 @@
 namespace abissora {
 
 MaintenanceHistory::MaintenanceHistory(const AppContext& context, QWidget* parent)
-    : GroupBox(QStringLiteral("Cronologia Manutenzione"), QStringLiteral("clock.arrow.circlepath"), parent)
+    : GroupBox(u"Cronologia Manutenzione"_s, u"clock.arrow.circlepath"_s, parent)
     , m_context(context)
-    , m_empty(new EmptyState(QStringLiteral("checkmark.circle"), QStringLiteral("Nessuna manutenzione registrata")))
+    , m_empty(new EmptyState(u"checkmark.circle"_s, u"Nessuna manutenzione registrata"_s))
 {
-    m_empty->setObjectName(QStringLiteral("emptyHistory"));
+    m_empty->setObjectName(u"emptyHistory"_s);
     content()->addWidget(m_empty);
 }
 
@@ -52,7 +53,7 @@ void MaintenanceHistory::addRow()
 {
     const Entry entry{new Separator(Separator::Weight::Divider), new MaintenanceRow(m_context)};
     MaintenanceRow* const row = entry.row;
-    row->setObjectName(QStringLiteral("maintenance%1").arg(m_entries.size()));
+    row->setObjectName(u"maintenance%1"_s.arg(m_entries.size()));
     connect(row, &MaintenanceRow::updated, this, [this, row] { Q_EMIT updated(row->maintenance()); });
     connect(row, &MaintenanceRow::editRequested, this, [this, row] { Q_EMIT editRequested(row->maintenance().id); });
     connect(row, &MaintenanceRow::deleteRequested, this,

@@ -7,6 +7,7 @@
 #include "FlowLayout.h"
 #include "IconTile.h"
 #include "IconView.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
 #include "WrapLabel.h"
@@ -38,20 +39,19 @@ MaintenanceRow::MaintenanceRow(const AppContext& context, QWidget* parent)
     , m_description(new WrapLabel(TextStyle::Body, &Tokens::text))
     , m_dateAndPerformer(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText))
     , m_completedIcon(new IconView)
-    , m_completed(new WrapLabel(TextStyle::Caption, &Tokens::ok, QStringLiteral("Manutenzione avvenuta")))
-    , m_notCompleted(new WrapLabel(TextStyle::Caption, &Tokens::warning, QStringLiteral("Manutenzione non avvenuta")))
-    , m_edit(new IconButton(symbolIcon(QStringLiteral("pencil.circle.fill"), NamedColor::blue),
-                            QStringLiteral("Modifica")))
+    , m_completed(new WrapLabel(TextStyle::Caption, &Tokens::ok, u"Manutenzione avvenuta"_s))
+    , m_notCompleted(new WrapLabel(TextStyle::Caption, &Tokens::warning, u"Manutenzione non avvenuta"_s))
+    , m_edit(new IconButton(symbolIcon(u"pencil.circle.fill"_s, NamedColor::blue), u"Modifica"_s))
     , m_receipt(makeLink(DocumentSlot::Receipt))
     , m_certificate(makeLink(DocumentSlot::Certificate))
 {
-    m_type->setObjectName(QStringLiteral("maintenanceType"));
-    m_cost->setObjectName(QStringLiteral("maintenanceCost"));
+    m_type->setObjectName(u"maintenanceType"_s);
+    m_cost->setObjectName(u"maintenanceCost"_s);
     m_cost->setFont(medium(m_cost->font()));
-    m_description->setObjectName(QStringLiteral("maintenanceDescription"));
-    m_dateAndPerformer->setObjectName(QStringLiteral("maintenanceDate"));
-    m_completed->setObjectName(QStringLiteral("completed"));
-    m_notCompleted->setObjectName(QStringLiteral("notCompleted"));
+    m_description->setObjectName(u"maintenanceDescription"_s);
+    m_dateAndPerformer->setObjectName(u"maintenanceDate"_s);
+    m_completed->setObjectName(u"completed"_s);
+    m_notCompleted->setObjectName(u"notCompleted"_s);
     build();
 }
 
@@ -87,13 +87,11 @@ void MaintenanceRow::build()
 
 QWidget* MaintenanceRow::makeButtons()
 {
-    m_edit->setObjectName(QStringLiteral("editMaintenance"));
-    auto* remove =
-        new IconButton(symbolIcon(QStringLiteral("trash.circle.fill"), NamedColor::red), QStringLiteral("Elimina"));
-    remove->setObjectName(QStringLiteral("deleteMaintenance"));
-    auto* menu = new IconButton(symbolIcon(QStringLiteral("ellipsis.circle.fill"), NamedColor::secondary),
-                                QStringLiteral("Azioni"));
-    menu->setObjectName(QStringLiteral("maintenanceMenu"));
+    m_edit->setObjectName(u"editMaintenance"_s);
+    auto* remove = new IconButton(symbolIcon(u"trash.circle.fill"_s, NamedColor::red), u"Elimina"_s);
+    remove->setObjectName(u"deleteMaintenance"_s);
+    auto* menu = new IconButton(symbolIcon(u"ellipsis.circle.fill"_s, NamedColor::secondary), u"Azioni"_s);
+    menu->setObjectName(u"maintenanceMenu"_s);
     connect(m_edit, &QAbstractButton::clicked, this, &MaintenanceRow::editRequested);
     connect(remove, &QAbstractButton::clicked, this, &MaintenanceRow::deleteRequested);
     connect(menu, &QAbstractButton::clicked, this,
@@ -132,16 +130,15 @@ void MaintenanceRow::setMaintenance(const Maintenance& maintenance)
     m_cost->setText(cost.value_or(QString()));
     m_cost->setVisible(cost.has_value());
     m_description->setText(maintenance.description);
-    m_dateAndPerformer->setText(QStringLiteral("%1 · Eseguito da: %2")
-                                    .arg(m_context.dates.abbreviatedDate(maintenance.date), maintenance.performedBy));
+    m_dateAndPerformer->setText(
+        u"%1 · Eseguito da: %2"_s.arg(m_context.dates.abbreviatedDate(maintenance.date), maintenance.performedBy));
     // The buttons of all rows have the same names.
-    const QString which =
-        m_context.dates.abbreviatedDate(maintenance.date) + QStringLiteral(", ") + maintenance.description;
+    const QString which = m_context.dates.abbreviatedDate(maintenance.date) + u", "_s + maintenance.description;
     for (IconButton* button : findChildren<IconButton*>())
         button->setAccessibleDescription(which);
     const bool done = maintenance.isCompleted.value_or(true);
-    m_completedIcon->setIcon(done ? symbolIcon(QStringLiteral("checkmark.seal.fill"), NamedColor::green)
-                                  : symbolIcon(QStringLiteral("exclamationmark.circle"), NamedColor::orange));
+    m_completedIcon->setIcon(done ? symbolIcon(u"checkmark.seal.fill"_s, NamedColor::green)
+                                  : symbolIcon(u"exclamationmark.circle"_s, NamedColor::orange));
     m_completed->setVisible(done);
     m_notCompleted->setVisible(!done);
     m_receipt->setFileName(maintenance.receiptFileName);
@@ -161,13 +158,11 @@ void MaintenanceRow::contextMenuEvent(QContextMenuEvent* event)
 void MaintenanceRow::showMenu(QPoint globalPosition)
 {
     auto* menu = new QMenu(this);
-    menu->setObjectName(QStringLiteral("maintenanceActions"));
+    menu->setObjectName(u"maintenanceActions"_s);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    connect(menu->addAction(symbolIcon(QStringLiteral("pencil"), NamedColor::blue),
-                            QStringLiteral("Modifica manutenzione")),
-            &QAction::triggered, this, &MaintenanceRow::editRequested);
-    connect(menu->addAction(symbolIcon(QStringLiteral("trash.circle.fill"), NamedColor::red),
-                            QStringLiteral("Elimina manutenzione")),
+    connect(menu->addAction(symbolIcon(u"pencil"_s, NamedColor::blue), u"Modifica manutenzione"_s), &QAction::triggered,
+            this, &MaintenanceRow::editRequested);
+    connect(menu->addAction(symbolIcon(u"trash.circle.fill"_s, NamedColor::red), u"Elimina manutenzione"_s),
             &QAction::triggered, this, &MaintenanceRow::deleteRequested);
     menu->popup(globalPosition);
 }

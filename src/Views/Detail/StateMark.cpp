@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "StateMark.h"
 
+#include "Literals.h"
 #include "Metrics.h"
 
 #include <QPainter>
@@ -25,7 +26,7 @@ StateMark::StateMark(QWidget* parent)
 void StateMark::setActive(bool active)
 {
     m_isActive = active;
-    setText(active ? QStringLiteral("Attivo") : QStringLiteral("Inattivo"));
+    setText(active ? u"Attivo"_s : u"Inattivo"_s);
     update();
 }
 

@@ -2,6 +2,7 @@
 #include "TechnicalDetails.h"
 
 #include "DetailRow.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Separator.h"
 
@@ -10,7 +11,7 @@
 namespace abissora {
 
 TechnicalDetails::TechnicalDetails(QWidget* parent)
-    : GroupBox(QStringLiteral("Dettagli Tecnici"), QStringLiteral("info.circle"), parent)
+    : GroupBox(u"Dettagli Tecnici"_s, u"info.circle"_s, parent)
 {
     content()->setSpacing(metrics::spaceXS / 2);
     content()->addSpacing(metrics::spaceXS);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DateField.h"
 
+#include "Literals.h"
 #include "SymbolIcon.h"
 #include "Tokens.h"
 #include "TypeScale.h"
@@ -23,7 +24,7 @@ const QDate lastDay(9999, 12, 31);
 
 QString textOf(QDate day)
 {
-    return day.toString(QStringLiteral("dd/MM/yyyy"));
+    return day.toString(u"dd/MM/yyyy"_s);
 }
 
 /// Two digits of a year as people write them: 98 is 1998, 26 is 2026.
@@ -44,13 +45,13 @@ std::optional<QDate> dayOf(const QString& text, const QRegularExpression& form)
 /// A day written in full, so that none is taken for meant which is only passed while typing another.
 std::optional<QDate> completeDay(const QString& text)
 {
-    static const QRegularExpression form(QStringLiteral("^([0-9]{2})/?([0-9]{2})/?([0-9]{4})$"));
+    static const QRegularExpression form(u"^([0-9]{2})/?([0-9]{2})/?([0-9]{4})$"_s);
     return dayOf(text, form);
 }
 
 std::optional<QDate> shortDay(const QString& text)
 {
-    static const QRegularExpression form(QStringLiteral("^([0-9]{1,2})[-/. ]([0-9]{1,2})[-/. ]([0-9]{4}|[0-9]{2})$"));
+    static const QRegularExpression form(u"^([0-9]{1,2})[-/. ]([0-9]{1,2})[-/. ]([0-9]{4}|[0-9]{2})$"_s);
     return dayOf(text, form);
 }
 
@@ -75,8 +76,8 @@ DateField::DateField(const Calendar& calendar, QWidget* parent)
 {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setInputMethodHints(Qt::ImhDate);
-    QAction* const open = addAction(symbolIcon(QStringLiteral("calendar"), NamedColor::secondary), TrailingPosition);
-    open->setText(QStringLiteral("Calendario"));
+    QAction* const open = addAction(symbolIcon(u"calendar"_s, NamedColor::secondary), TrailingPosition);
+    open->setText(u"Calendario"_s);
     setInstant({});
     connect(open, &QAction::triggered, this, &DateField::openCalendar);
     // Not textEdited: assistive technology sets the text without it. setInstant() gives no other day than it just took.
@@ -115,8 +116,8 @@ bool DateField::commit()
         takeDay(*day);
         return true;
     }
-    setError((text().trimmed().isEmpty() ? QStringLiteral("Manca la data") : QStringLiteral("Data non valida")) +
-             QStringLiteral(": scrivi giorno, mese e anno, per esempio ") + textOf(m_day));
+    setError((text().trimmed().isEmpty() ? u"Manca la data"_s : u"Data non valida"_s) +
+             u": scrivi giorno, mese e anno, per esempio "_s + textOf(m_day));
     return false;
 }
 

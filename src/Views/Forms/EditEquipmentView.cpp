@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "EditEquipmentView.h"
 
+#include "Literals.h"
+
 namespace abissora {
 
 EditEquipmentView::EditEquipmentView(const AppContext& context, const Equipment& equipment, QWidget* parent)
-    : EquipmentForm(Purpose::Edit, QStringLiteral("Modifica Attrezzatura"), context, EquipmentFormState::of(equipment),
-                    parent)
+    : EquipmentForm(Purpose::Edit, u"Modifica Attrezzatura"_s, context, EquipmentFormState::of(equipment), parent)
     , m_equipment(equipment)
 {}
 

@@ -7,6 +7,7 @@
 #include "FormRow.h"
 #include "GroupBox.h"
 #include "InkLabel.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "NotesField.h"
 #include "ToggleSwitch.h"
@@ -45,21 +46,21 @@ EquipmentForm::EquipmentForm(Purpose purpose, const QString& title, const AppCon
     : Sheet(title, parent)
     , m_context(context)
     , m_purpose(purpose)
-    , m_name(makeTextField("name", QStringLiteral("Inserisci il nome")))
+    , m_name(makeTextField("name", u"Inserisci il nome"_s))
     , m_type(named(new TypePicker, "type"))
     , m_interval(named(new InkLabel(TextStyle::Body, &Tokens::secondaryText), "interval"))
     , m_intervalRow(nullptr)
-    , m_brand(makeTextField("brand", QStringLiteral("Inserisci la marca")))
-    , m_model(makeTextField("model", QStringLiteral("Inserisci il modello")))
-    , m_serialNumber(makeTextField("serialNumber", QStringLiteral("Inserisci il numero seriale")))
+    , m_brand(makeTextField("brand", u"Inserisci la marca"_s))
+    , m_model(makeTextField("model", u"Inserisci il modello"_s))
+    , m_serialNumber(makeTextField("serialNumber", u"Inserisci il numero seriale"_s))
     , m_purchaseDate(named(new DateField(context.calendar), "purchaseDate"))
     , m_lastServiceDate(named(new DateField(context.calendar), "lastServiceDate"))
     , m_nextServiceDate(named(new InkLabel(TextStyle::Body, &Tokens::text), "nextServiceDate"))
-    , m_isActive(named(new ToggleSwitch(QStringLiteral("Attivo")), "isActive"))
+    , m_isActive(named(new ToggleSwitch(u"Attivo"_s), "isActive"))
     , m_notes(named(new NotesField(notesHeight), "notes"))
     , m_incomplete(named(new InkLabel(TextStyle::Caption, &Tokens::danger), "incomplete"))
 {
-    setPrimaryText(QStringLiteral("Salva"));
+    setPrimaryText(u"Salva"_s);
     for (GroupBox* group :
          {makeGeneralGroup(), makeDetailsGroup(), makeDatesGroup(), makeStateGroup(), makeNotesGroup()})
         body()->addWidget(group);
@@ -72,35 +73,35 @@ EquipmentForm::EquipmentForm(Purpose purpose, const QString& title, const AppCon
 
 GroupBox* EquipmentForm::makeGeneralGroup()
 {
-    m_intervalRow = new FormRow(QStringLiteral("Intervallo tagliando"), m_interval);
-    auto* group = new GroupBox(QStringLiteral("Informazioni Generali"));
-    group->content()->addWidget(new FormRow(QStringLiteral("Nome*"), m_name));
-    group->content()->addWidget(new FormRow(QStringLiteral("Tipo*"), m_type));
+    m_intervalRow = new FormRow(u"Intervallo tagliando"_s, m_interval);
+    auto* group = new GroupBox(u"Informazioni Generali"_s);
+    group->content()->addWidget(new FormRow(u"Nome*"_s, m_name));
+    group->content()->addWidget(new FormRow(u"Tipo*"_s, m_type));
     group->content()->addWidget(m_intervalRow);
     return group;
 }
 
 GroupBox* EquipmentForm::makeDetailsGroup()
 {
-    auto* group = new GroupBox(QStringLiteral("Dettagli Tecnici"));
-    group->content()->addWidget(new FormRow(QStringLiteral("Marca*"), m_brand));
-    group->content()->addWidget(new FormRow(QStringLiteral("Modello"), m_model));
-    group->content()->addWidget(new FormRow(QStringLiteral("Numero Seriale"), m_serialNumber));
+    auto* group = new GroupBox(u"Dettagli Tecnici"_s);
+    group->content()->addWidget(new FormRow(u"Marca*"_s, m_brand));
+    group->content()->addWidget(new FormRow(u"Modello"_s, m_model));
+    group->content()->addWidget(new FormRow(u"Numero Seriale"_s, m_serialNumber));
     return group;
 }
 
 GroupBox* EquipmentForm::makeDatesGroup()
 {
-    auto* group = new GroupBox(QStringLiteral("Date"));
-    group->content()->addWidget(new FormRow(QStringLiteral("Data Acquisto"), m_purchaseDate));
-    group->content()->addWidget(new FormRow(QStringLiteral("Ultimo Tagliando"), m_lastServiceDate));
-    group->content()->addWidget(new FormRow(QStringLiteral("Prossimo Tagliando"), m_nextServiceDate));
+    auto* group = new GroupBox(u"Date"_s);
+    group->content()->addWidget(new FormRow(u"Data Acquisto"_s, m_purchaseDate));
+    group->content()->addWidget(new FormRow(u"Ultimo Tagliando"_s, m_lastServiceDate));
+    group->content()->addWidget(new FormRow(u"Prossimo Tagliando"_s, m_nextServiceDate));
     return group;
 }
 
 GroupBox* EquipmentForm::makeStateGroup()
 {
-    auto* group = new GroupBox(QStringLiteral("Stato"));
+    auto* group = new GroupBox(u"Stato"_s);
     group->content()->addWidget(m_isActive);
     group->setVisible(m_purpose == Purpose::Edit);
     return group;
@@ -108,21 +109,21 @@ GroupBox* EquipmentForm::makeStateGroup()
 
 GroupBox* EquipmentForm::makeNotesGroup()
 {
-    auto* group = new GroupBox(QStringLiteral("Note"));
+    auto* group = new GroupBox(u"Note"_s);
     group->content()->addWidget(m_notes);
     return group;
 }
 
 void EquipmentForm::addFootnotes()
 {
-    m_incomplete->setText(QStringLiteral("Compila tutti i campi obbligatori"));
+    m_incomplete->setText(u"Compila tutti i campi obbligatori"_s);
     QSizePolicy policy = m_incomplete->sizePolicy();
     policy.setRetainSizeWhenHidden(true); // the sheet shall not jump while somebody types
     m_incomplete->setSizePolicy(policy);
     auto* footnotes = new QVBoxLayout;
     footnotes->setSpacing(metrics::spaceXS);
-    footnotes->addWidget(named(
-        new InkLabel(TextStyle::Caption, &Tokens::secondaryText, QStringLiteral("* Campi obbligatori")), "required"));
+    footnotes->addWidget(
+        named(new InkLabel(TextStyle::Caption, &Tokens::secondaryText, u"* Campi obbligatori"_s), "required"));
     footnotes->addWidget(m_incomplete);
     body()->addLayout(footnotes);
     body()->addStretch();
@@ -206,7 +207,7 @@ void EquipmentForm::refresh()
     const auto type = m_context.types.getTypeByName(m_selectedTypeName);
     m_intervalRow->setVisible(m_purpose == Purpose::Edit && type);
     if (type)
-        m_interval->setText(QStringLiteral("%1 giorni").arg(type->serviceIntervalDays));
+        m_interval->setText(u"%1 giorni"_s.arg(type->serviceIntervalDays));
     m_incomplete->setVisible(!now.isFormValid());
 }
 
@@ -215,7 +216,7 @@ void EquipmentForm::saveEquipment()
     DateField* const invalidDate = firstInvalidDate();
     const EquipmentFormState entered = state();
     if (!entered.isFormValid()) {
-        showAlert(QStringLiteral("Per favore, compila tutti i campi obbligatori."));
+        showAlert(u"Per favore, compila tutti i campi obbligatori."_s);
         return;
     }
     if (invalidDate != nullptr) {
@@ -230,7 +231,7 @@ void EquipmentForm::showAlert(const QString& message)
 {
     auto* alert = new Alert(this);
     alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setTitle(QStringLiteral("Errore"));
+    alert->setTitle(u"Errore"_s);
     alert->setMessage(message);
     alert->makeNotice();
     connect(alert, &QDialog::finished, this, [this] {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentFormView.h"
 
+#include "Literals.h"
+
 namespace abissora {
 
 namespace {
@@ -16,7 +18,7 @@ EquipmentFormState blankForm(Instant now)
 } // namespace
 
 EquipmentFormView::EquipmentFormView(const AppContext& context, QWidget* parent)
-    : EquipmentForm(Purpose::Add, QStringLiteral("Nuova Attrezzatura"), context, blankForm(context.clock.now()), parent)
+    : EquipmentForm(Purpose::Add, u"Nuova Attrezzatura"_s, context, blankForm(context.clock.now()), parent)
 {}
 
 void EquipmentFormView::save(const EquipmentFormState& state, Instant nextServiceDate)

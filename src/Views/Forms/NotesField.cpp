@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "NotesField.h"
 
+#include "Literals.h"
 #include "TypeScale.h"
 
 namespace abissora {
@@ -8,7 +9,7 @@ namespace abissora {
 NotesField::NotesField(int height, QWidget* parent)
     : QPlainTextEdit(parent)
 {
-    setAccessibleName(QStringLiteral("Note"));
+    setAccessibleName(u"Note"_s);
     setTabChangesFocus(true);
     setFixedHeight(withText(height, fontMetrics()));
 }

@@ -5,6 +5,7 @@
 #include "HelpIndex.h"
 #include "HelpSectionDelegate.h"
 #include "IconView.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SearchField.h"
@@ -31,13 +32,13 @@ constexpr int largeIconSide = 44;
 HelpIndexView::HelpIndexView(HelpIndex& index, QWidget* parent)
     : QWidget(parent)
     , m_index(index)
-    , m_search(new SearchField(QStringLiteral("Cerca nella guida…")))
+    , m_search(new SearchField(u"Cerca nella guida…"_s))
     , m_list(new QListView)
     , m_noResult(new WrapLabel(TextStyle::Callout, &Tokens::secondaryText))
     , m_pages(new QStackedWidget)
 {
-    setObjectName(QStringLiteral("helpIndex"));
-    m_search->setObjectName(QStringLiteral("helpSearch"));
+    setObjectName(u"helpIndex"_s);
+    m_search->setObjectName(u"helpSearch"_s);
     buildList();
     m_pages->addWidget(m_list);
     m_pages->addWidget(makeNoResult());
@@ -69,8 +70,8 @@ void HelpIndexView::paintEvent(QPaintEvent* /*event*/)
 
 void HelpIndexView::buildList()
 {
-    m_list->setObjectName(QStringLiteral("helpSections"));
-    m_list->setAccessibleName(QStringLiteral("Indice della guida"));
+    m_list->setObjectName(u"helpSections"_s);
+    m_list->setAccessibleName(u"Indice della guida"_s);
     m_list->setFrameShape(QFrame::NoFrame);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -90,15 +91,15 @@ void HelpIndexView::buildList()
 
 QWidget* HelpIndexView::makeNoResult()
 {
-    m_noResult->setObjectName(QStringLiteral("noResult"));
+    m_noResult->setObjectName(u"noResult"_s);
     m_noResult->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     auto* page = new QWidget;
     auto* layout = new QVBoxLayout(page);
     layout->setContentsMargins(0, metrics::spaceXL, 0, metrics::spaceXL);
     layout->setSpacing(metrics::spaceM);
     layout->addStretch(1);
-    layout->addWidget(new IconView(symbolIcon(QStringLiteral("magnifyingglass"), NamedColor::secondary), largeIconSide),
-                      0, Qt::AlignHCenter);
+    layout->addWidget(new IconView(symbolIcon(u"magnifyingglass"_s, NamedColor::secondary), largeIconSide), 0,
+                      Qt::AlignHCenter);
     layout->addWidget(m_noResult);
     layout->addStretch(2);
     return page;
@@ -134,7 +135,7 @@ void HelpIndexView::showSections()
     m_titles.setStringList(titles);
     if (selected >= 0)
         m_list->setCurrentIndex(m_titles.index(selected));
-    m_noResult->setText(QStringLiteral("Nessun risultato per\n\"%1\"").arg(m_index.searchText()));
+    m_noResult->setText(u"Nessun risultato per\n\"%1\""_s.arg(m_index.searchText()));
     m_pages->setCurrentIndex(sections.isEmpty() && !m_index.searchText().isEmpty() ? 1 : 0);
 }
 

@@ -3,6 +3,7 @@
 
 #include "HelpPagePainting.h"
 #include "HelpPageWriter.h"
+#include "Literals.h"
 #include "PageOpening.h"
 #include "Painting.h"
 #include "Tokens.h"
@@ -29,7 +30,7 @@ constexpr int widestPage = 780;
 HelpPage::HelpPage(Opener& opener, QWidget* parent)
     : QTextBrowser(parent)
 {
-    setObjectName(QStringLiteral("helpPage"));
+    setObjectName(u"helpPage"_s);
     setOpenLinks(false);
     setUndoRedoEnabled(false);
     setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
@@ -58,9 +59,9 @@ QVariant HelpPage::loadResource(int /*type*/, const QUrl& /*name*/)
 
 QMimeData* HelpPage::createMimeDataFromSelection() const
 {
-    static const QRegularExpression mark(QStringLiteral("^(•|\\d+\\.)\\t"), QRegularExpression::MultilineOption);
+    static const QRegularExpression mark(u"^(•|\\d+\\.)\\t"_s, QRegularExpression::MultilineOption);
     auto copied = std::make_unique<QMimeData>();
-    copied->setText(textCursor().selection().toPlainText().replace(mark, QStringLiteral("\\1 ")));
+    copied->setText(textCursor().selection().toPlainText().replace(mark, u"\\1 "_s));
     return copied.release();
 }
 

@@ -2,6 +2,7 @@
 #include "HelpPagePainting.h"
 
 #include "HelpPageFormat.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
@@ -39,8 +40,7 @@ void paintQuoteIcon(QPainter& painter, const QRectF& panel, const QRectF& text, 
     const int side = withText(help::quoteIconSide, QFontMetrics(font));
     const qreal firstLine = QFontMetricsF(font).height();
     const QPointF corner(panel.left() + help::quoteIconIndent, text.top() + (firstLine - side) / 2);
-    symbolIcon(QStringLiteral("quote.opening"), NamedColor::blue)
-        .paint(&painter, QRect(corner.toPoint(), QSize(side, side)));
+    symbolIcon(u"quote.opening"_s, NamedColor::blue).paint(&painter, QRect(corner.toPoint(), QSize(side, side)));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "HelpBlockParser.h"
 #include "InlineText.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Tokens.h"
 #include "TypeScale.h"
@@ -107,7 +108,7 @@ void HelpPageWriter::writeBlock(const help::Paragraph& block)
 
 void HelpPageWriter::writeBlock(const help::Bullets& block)
 {
-    const QString bullet = QStringLiteral("•");
+    const QString bullet = u"•"_s;
     const QFont font = markFont(QFont::Black); // the dot grows with the weight
     const int indent = indentFor(bullet, font);
     for (qsizetype i = 0; i < block.items.size(); ++i)
@@ -116,7 +117,7 @@ void HelpPageWriter::writeBlock(const help::Bullets& block)
 
 void HelpPageWriter::writeBlock(const help::Numbered& block)
 {
-    const auto mark = [](qsizetype number) { return QStringLiteral("%1.").arg(number); };
+    const auto mark = [](qsizetype number) { return u"%1."_s.arg(number); };
     const QFont font = markFont(QFont::DemiBold);
     const int indent = indentFor(mark(block.items.size()), font);
     for (qsizetype i = 0; i < block.items.size(); ++i)
@@ -171,7 +172,7 @@ void HelpPageWriter::writeItem(const Mark& mark, const QString& item)
 {
     const QFont font = abissora::font(TextStyle::Body);
     begin({.gap = mark.isFirst ? metrics::spaceM : itemGap, .leftMargin = mark.indent, .hanging = mark.indent}, font);
-    writePlain(mark.text + QLatin1Char('\t'), charFormat(mark.font, m_tokens.named(NamedColor::blue)));
+    writePlain(mark.text + u'\t', charFormat(mark.font, m_tokens.named(NamedColor::blue)));
     writeInline(item, charFormat(font));
 }
 
@@ -198,7 +199,7 @@ void HelpPageWriter::writeInline(const QString& text, const QTextCharFormat& for
 void HelpPageWriter::writePlain(const QString& text, const QTextCharFormat& format)
 {
     QString oneBlock = text;
-    m_cursor.insertText(oneBlock.replace(QLatin1Char('\n'), QChar::LineSeparator), format);
+    m_cursor.insertText(oneBlock.replace(u'\n', QChar::LineSeparator), format);
 }
 
 } // namespace abissora

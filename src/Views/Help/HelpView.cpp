@@ -7,6 +7,7 @@
 #include "HelpPage.h"
 #include "IconView.h"
 #include "InkLabel.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Separator.h"
 #include "SymbolIcon.h"
@@ -36,7 +37,7 @@ HelpView::HelpView(QList<HelpSection> sections, Opener& opener, QWidget* parent)
     , m_page(new HelpPage(opener))
     , m_pages(new QStackedWidget)
 {
-    setObjectName(QStringLiteral("helpView"));
+    setObjectName(u"helpView"_s);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -53,14 +54,13 @@ QWidget* HelpView::makeHeader()
 {
     auto* texts = new QVBoxLayout;
     texts->setSpacing(0);
-    texts->addWidget(new InkLabel(TextStyle::Headline, &Tokens::text, QStringLiteral("Aiuto")));
-    texts->addWidget(
-        new InkLabel(TextStyle::Caption, &Tokens::secondaryText, QStringLiteral("Guida all'uso di Abissora")));
+    texts->addWidget(new InkLabel(TextStyle::Headline, &Tokens::text, u"Aiuto"_s));
+    texts->addWidget(new InkLabel(TextStyle::Caption, &Tokens::secondaryText, u"Guida all'uso di Abissora"_s));
     auto* header = new QWidget;
     auto* layout = new QHBoxLayout(header);
     layout->setContentsMargins(headerMargin, metrics::spaceM + 2, headerMargin, metrics::spaceM + 2);
     layout->setSpacing(metrics::spaceM);
-    layout->addWidget(new IconView(symbolIcon(QStringLiteral("book.fill"), NamedColor::blue), bookSide));
+    layout->addWidget(new IconView(symbolIcon(u"book.fill"_s, NamedColor::blue), bookSide));
     layout->addLayout(texts, 1);
     return header;
 }
@@ -68,8 +68,8 @@ QWidget* HelpView::makeHeader()
 QWidget* HelpView::makeBody()
 {
     m_indexView->setFixedWidth(withText(indexWidth, fontMetrics()));
-    auto* nothing = new EmptyState(QStringLiteral("book"), QStringLiteral("Seleziona un argomento"));
-    nothing->setText(QStringLiteral("Scegli una sezione dall'indice a sinistra per leggere la guida."));
+    auto* nothing = new EmptyState(u"book"_s, u"Seleziona un argomento"_s);
+    nothing->setText(u"Scegli una sezione dall'indice a sinistra per leggere la guida."_s);
     m_pages->addWidget(m_page);
     m_pages->addWidget(nothing);
     auto* body = new QWidget;

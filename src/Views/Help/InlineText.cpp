@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "InlineText.h"
 
+#include "Literals.h"
+
 #include <QTextBlock>
 #include <QTextDocument>
 #include <algorithm>
@@ -21,7 +23,7 @@ QString lineBreak()
 
 QString guarded(QString text)
 {
-    return guard + text.replace(QLatin1Char('\n'), lineBreak()) + guard;
+    return guard + text.replace(u'\n', lineBreak()) + guard;
 }
 
 /// The reader asks it for nothing; should it ever, there is nothing to get.
@@ -37,8 +39,8 @@ QUrl safeLink(const QString& address)
                                       [](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; });
     const QUrl url(address, QUrl::StrictMode);
     const QString scheme = url.scheme();
-    const bool isWeb = (scheme == QLatin1String("https") || scheme == QLatin1String("http")) && !url.host().isEmpty();
-    const bool isMail = scheme == QLatin1String("mailto") && !url.path().isEmpty();
+    const bool isWeb = (scheme == "https"_L1 || scheme == "http"_L1) && !url.host().isEmpty();
+    const bool isMail = scheme == "mailto"_L1 && !url.path().isEmpty();
     return isWhole && url.isValid() && (isWeb || isMail) ? url : QUrl();
 }
 
@@ -47,7 +49,7 @@ InlineRun runOf(const QTextFragment& fragment)
     const QTextCharFormat format = fragment.charFormat();
     if (format.isImageFormat())
         return {.text = format.stringProperty(QTextFormat::ImageAltText)};
-    return {.text = fragment.text().replace(lineBreak(), QStringLiteral("\n")),
+    return {.text = fragment.text().replace(lineBreak(), u"\n"_s),
             .isStrong = format.fontWeight() > QFont::Normal,
             .isEmphasis = format.fontItalic(),
             .isCode = format.fontFixedPitch(),
@@ -87,7 +89,7 @@ QList<InlineRun> readInline(const QString& text)
     QList<InlineRun> runs;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         if (block != document.begin())
-            append(runs, {.text = QStringLiteral("\n")}); // a paragraph separator written as an entity
+            append(runs, {.text = u"\n"_s}); // a paragraph separator written as an entity
         for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment)
             append(runs, runOf(fragment.fragment()));
     }

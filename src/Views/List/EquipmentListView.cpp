@@ -9,6 +9,7 @@
 #include "FilterMenu.h"
 #include "ListFooter.h"
 #include "ListHeader.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "RowActionsMenu.h"
 #include "SearchField.h"
@@ -24,7 +25,7 @@ EquipmentListView::EquipmentListView(const AppContext& context, QWidget* parent)
     , m_update(*this, [this] { redraw(); })
     , m_refreshID(context.ids.next())
     , m_header(new ListHeader)
-    , m_search(new SearchField(QStringLiteral("Cerca attrezzatura...")))
+    , m_search(new SearchField(u"Cerca attrezzatura..."_s))
     , m_filterMenu(new FilterMenu(this))
     , m_filterButton(new FilterButton(*m_filterMenu))
     , m_content(new QStackedWidget)
@@ -33,18 +34,18 @@ EquipmentListView::EquipmentListView(const AppContext& context, QWidget* parent)
     , m_footer(new ListFooter)
     , m_rowActions(new RowActionsMenu(this))
 {
-    setObjectName(QStringLiteral("equipmentList"));
+    setObjectName(u"equipmentList"_s);
     buildLayout();
     connectControls();
 }
 
 void EquipmentListView::buildLayout()
 {
-    m_search->setObjectName(QStringLiteral("search"));
-    m_empty->setObjectName(QStringLiteral("emptyRegister"));
-    m_empty->setSymbol(QStringLiteral("tray"));
-    m_empty->setTitle(QStringLiteral("Nessuna attrezzatura trovata"));
-    m_filterButton->setObjectName(QStringLiteral("filterButton"));
+    m_search->setObjectName(u"search"_s);
+    m_empty->setObjectName(u"emptyRegister"_s);
+    m_empty->setSymbol(u"tray"_s);
+    m_empty->setTitle(u"Nessuna attrezzatura trovata"_s);
+    m_filterButton->setObjectName(u"filterButton"_s);
 
     new EquipmentColumns(*m_table);
     m_content->addWidget(m_table);
@@ -86,7 +87,7 @@ void EquipmentListView::connectControls()
     connect(m_filterMenu, &FilterMenu::allChosen, this, [&equipment] { equipment.setFilterTypeName(std::nullopt); });
     connect(m_filterMenu, &FilterMenu::clearChosen, this, &EquipmentListView::clearFilters);
     connect(m_filterMenu, &FilterMenu::typeChosen, this, [this](const QString& name) {
-        m_context.console.print(QStringLiteral("🖱️ Menu filtro cliccato: ") + name);
+        m_context.console.print(u"🖱️ Menu filtro cliccato: "_s + name);
         m_context.equipment.filterByTypeName(name);
         refresh();
     });
@@ -126,8 +127,8 @@ void EquipmentListView::confirmDeletion(const Equipment& equipment)
     m_equipmentToDelete = equipment;
     auto* alert = new Alert(window());
     alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setTitle(QStringLiteral("Conferma Eliminazione"));
-    alert->setMessage(QStringLiteral("Sei sicuro di voler eliminare l'attrezzatura '%1'?").arg(equipment.name));
+    alert->setTitle(u"Conferma Eliminazione"_s);
+    alert->setMessage(u"Sei sicuro di voler eliminare l'attrezzatura '%1'?"_s.arg(equipment.name));
     connect(alert, &QDialog::accepted, this, &EquipmentListView::deleteConfirmed);
     connect(alert, &QDialog::rejected, this, [this] { m_equipmentToDelete.reset(); });
     alert->open();
@@ -170,8 +171,7 @@ void EquipmentListView::redraw()
         m_search->setText(equipment.searchText());
     m_header->setFilter(equipment.filterTypeName(), m_context.types);
 
-    m_empty->setButtonText(isNarrowed() ? QStringLiteral("Cancella filtri")
-                                        : QStringLiteral("Aggiungi la prima attrezzatura"));
+    m_empty->setButtonText(isNarrowed() ? u"Cancella filtri"_s : u"Aggiungi la prima attrezzatura"_s);
     m_content->setCurrentWidget(shown.isEmpty() ? static_cast<QWidget*>(m_empty) : m_table);
     const auto active = std::count_if(shown.begin(), shown.end(), [](const Equipment& item) { return item.isActive; });
     m_footer->setCounts(shown.size(), equipment.overdueEquipment().size(), active);

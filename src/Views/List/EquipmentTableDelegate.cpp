@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTableDelegate.h"
 
+#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
@@ -30,9 +31,9 @@ void drawLine(QPainter& painter, const QRectF& rect, const Line& line)
     const QFontMetrics metrics(line.font);
     painter.setFont(line.font);
     painter.setPen(line.color);
-    painter.drawText(rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     metrics.elidedText(QString(line.text).replace(QLatin1Char('\n'), QLatin1Char(' ')), Qt::ElideRight,
-                                        static_cast<int>(rect.width())));
+    painter.drawText(
+        rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+        metrics.elidedText(QString(line.text).replace(u'\n', u' '), Qt::ElideRight, static_cast<int>(rect.width())));
 }
 
 void drawTwoLines(QPainter& painter, const QRect& rect, const Line& upper, const Line& lower)
@@ -84,7 +85,7 @@ void paintActions(QPainter& painter, const QRect& cell, bool hovered, bool focus
         drawFocusRing(painter, button, metrics::controlRadius, palette);
     const QRect icon(button.center() - QPoint(actionIconSize / 2 - 1, actionIconSize / 2 - 1),
                      QSize(actionIconSize, actionIconSize));
-    symbolIcon(QStringLiteral("ellipsis.circle.fill"), NamedColor::secondary).paint(&painter, icon);
+    symbolIcon(u"ellipsis.circle.fill"_s, NamedColor::secondary).paint(&painter, icon);
 }
 
 } // namespace

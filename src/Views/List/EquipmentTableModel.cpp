@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTableModel.h"
 
+#include "Literals.h"
 #include "ToolTipText.h"
 
 namespace abissora {
@@ -48,13 +49,13 @@ QVariant EquipmentTableModel::data(const QModelIndex& index, int role) const
     const EquipmentRow item = row(index.row());
     switch (index.column()) {
     case NameColumn:
-        return QString(item.name + QLatin1Char('\n') + item.typeName);
+        return QString(item.name + u'\n' + item.typeName);
     case BrandColumn:
         return item.brand;
     case ModelColumn:
         return item.model;
     case NextServiceColumn:
-        return QString(item.nextServiceDate + QLatin1Char('\n') + item.remaining);
+        return QString(item.nextServiceDate + u'\n' + item.remaining);
     case StateColumn:
         return item.state;
     default:
@@ -64,10 +65,8 @@ QVariant EquipmentTableModel::data(const QModelIndex& index, int role) const
 
 QVariant EquipmentTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    static const std::array<QString, ColumnCount> titles{
-        QStringLiteral("Nome"),    QStringLiteral("Marca"),
-        QStringLiteral("Modello"), QStringLiteral("Prossimo Tagliando"),
-        QStringLiteral("Stato"),   QStringLiteral("Azioni")};
+    static const std::array<QString, ColumnCount> titles{u"Nome"_s,  u"Marca"_s, u"Modello"_s, u"Prossimo Tagliando"_s,
+                                                         u"Stato"_s, u"Azioni"_s};
     if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0 && section < ColumnCount)
         return titles.at(static_cast<std::size_t>(section));
     if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole)

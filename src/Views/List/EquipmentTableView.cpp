@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTableView.h"
 
+#include "Literals.h"
 #include "TypeScale.h"
 
 #include <QContextMenuEvent>
@@ -15,8 +16,8 @@ EquipmentTableView::EquipmentTableView(QWidget* parent)
     : QTableView(parent)
     , m_delegate(m_model)
 {
-    setObjectName(QStringLiteral("equipmentTable"));
-    setAccessibleName(QStringLiteral("Attrezzatura Subacquea"));
+    setObjectName(u"equipmentTable"_s);
+    setAccessibleName(u"Attrezzatura Subacquea"_s);
     setModel(&m_model);
     setItemDelegate(&m_delegate);
     setSelectionBehavior(SelectRows);

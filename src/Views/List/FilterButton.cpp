@@ -3,6 +3,7 @@
 
 #include "ControlLook.h"
 #include "FilterMenu.h"
+#include "Literals.h"
 #include "SymbolIcon.h"
 
 #include <QStyleOptionToolButton>
@@ -12,8 +13,8 @@ namespace abissora {
 FilterButton::FilterButton(FilterMenu& menu, QWidget* parent)
     : QToolButton(parent)
 {
-    const QString name = QStringLiteral("Filtro");
-    setIcon(symbolIcon(QStringLiteral("line.3.horizontal.decrease")));
+    const QString name = u"Filtro"_s;
+    setIcon(symbolIcon(u"line.3.horizontal.decrease"_s));
     setAccessibleName(name);
     setToolTip(name);
     setPopupMode(InstantPopup);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FilterMenu.h"
 
+#include "Literals.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
 
@@ -13,7 +14,7 @@ constexpr int menuIconSize = 14;
 /// A name is shown as it is, not with one of its letters underlined.
 QString menuText(QString name)
 {
-    return name.replace(QLatin1Char('&'), QLatin1String("&&"));
+    return name.replace(u'&', "&&"_L1);
 }
 
 } // namespace
@@ -21,13 +22,13 @@ QString menuText(QString name)
 FilterMenu::FilterMenu(QWidget* parent)
     : QMenu(parent)
 {
-    setObjectName(QStringLiteral("filterMenu"));
+    setObjectName(u"filterMenu"_s);
 }
 
 void FilterMenu::setEntries(const QList<EquipmentTypeModel>& types, bool canClear)
 {
     clear();
-    connect(addAction(QStringLiteral("Tutti")), &QAction::triggered, this, &FilterMenu::allChosen);
+    connect(addAction(u"Tutti"_s), &QAction::triggered, this, &FilterMenu::allChosen);
     addSeparator();
     for (const EquipmentTypeModel& type : types) {
         const TypeAppearance look = appearanceOf(type);
@@ -36,8 +37,8 @@ void FilterMenu::setEntries(const QList<EquipmentTypeModel>& types, bool canClea
     }
     if (canClear) {
         addSeparator();
-        connect(addAction(symbolIcon(QStringLiteral("xmark.circle")), QStringLiteral("Cancella filtri")),
-                &QAction::triggered, this, &FilterMenu::clearChosen);
+        connect(addAction(symbolIcon(u"xmark.circle"_s), u"Cancella filtri"_s), &QAction::triggered, this,
+                &FilterMenu::clearChosen);
     }
 }
 

@@ -2,6 +2,7 @@
 #include "ListFooter.h"
 
 #include "InkLabel.h"
+#include "Literals.h"
 #include "Metrics.h"
 
 #include <QHBoxLayout>
@@ -14,9 +15,9 @@ ListFooter::ListFooter(QWidget* parent)
     , m_due(new InkLabel(TextStyle::Caption, &Tokens::danger))
     , m_active(new InkLabel(TextStyle::Caption, &Tokens::ok))
 {
-    m_shown->setObjectName(QStringLiteral("shownCount"));
-    m_due->setObjectName(QStringLiteral("dueCount"));
-    m_active->setObjectName(QStringLiteral("activeCount"));
+    m_shown->setObjectName(u"shownCount"_s);
+    m_due->setObjectName(u"dueCount"_s);
+    m_active->setObjectName(u"activeCount"_s);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(metrics::spaceXS, 0, metrics::spaceXS, 0);
     layout->setSpacing(metrics::spaceL + metrics::spaceXS);
@@ -27,10 +28,10 @@ ListFooter::ListFooter(QWidget* parent)
 
 void ListFooter::setCounts(qsizetype shown, qsizetype due, qsizetype active)
 {
-    m_shown->setText(QStringLiteral("%1 articoli").arg(shown));
-    m_due->setText(QStringLiteral("⚠️ %1 manutenzioni scadute").arg(due));
+    m_shown->setText(u"%1 articoli"_s.arg(shown));
+    m_due->setText(u"⚠️ %1 manutenzioni scadute"_s.arg(due));
     m_due->setVisible(due > 0);
-    m_active->setText(QStringLiteral("%1 attivi").arg(active));
+    m_active->setText(u"%1 attivi"_s.arg(active));
 }
 
 } // namespace abissora

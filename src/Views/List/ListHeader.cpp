@@ -3,6 +3,7 @@
 
 #include "Buttons.h"
 #include "Chip.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
@@ -15,17 +16,17 @@ namespace abissora {
 ListHeader::ListHeader(QWidget* parent)
     : QWidget(parent)
     , m_line(new QHBoxLayout)
-    , m_title(new WrapLabel(TextStyle::Title, &Tokens::text, QStringLiteral("Attrezzatura Subacquea")))
-    , m_refresh(new PlainButton(QStringLiteral("Aggiorna")))
-    , m_add(new PrimaryButton(QStringLiteral("Aggiungi")))
+    , m_title(new WrapLabel(TextStyle::Title, &Tokens::text, u"Attrezzatura Subacquea"_s))
+    , m_refresh(new PlainButton(u"Aggiorna"_s))
+    , m_add(new PrimaryButton(u"Aggiungi"_s))
     , m_chip(new Chip)
 {
-    m_title->setObjectName(QStringLiteral("listTitle"));
-    m_refresh->setObjectName(QStringLiteral("refreshButton"));
-    m_refresh->setSymbol(QStringLiteral("arrow.clockwise"));
-    m_add->setObjectName(QStringLiteral("addButton"));
-    m_add->setSymbol(QStringLiteral("plus"));
-    m_chip->setObjectName(QStringLiteral("filterChip"));
+    m_title->setObjectName(u"listTitle"_s);
+    m_refresh->setObjectName(u"refreshButton"_s);
+    m_refresh->setSymbol(u"arrow.clockwise"_s);
+    m_add->setObjectName(u"addButton"_s);
+    m_add->setSymbol(u"plus"_s);
+    m_chip->setObjectName(u"filterChip"_s);
     m_chip->hide();
 
     m_line->setSpacing(metrics::spaceS);
@@ -52,7 +53,7 @@ void ListHeader::setFilter(const std::optional<QString>& typeName, const Equipme
     const auto type = types.getTypeByName(*typeName);
     const TypeAppearance look = type ? appearanceOf(*type) : TypeAppearance{unknownTypeIcon, NamedColor::primary};
     m_chip->setIcon(typeIcon(look.icon, look.color));
-    m_chip->setText(QStringLiteral("Filtro: ") + *typeName);
+    m_chip->setText(u"Filtro: "_s + *typeName);
     placeChip();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RowActionsMenu.h"
 
+#include "Literals.h"
 #include "SymbolIcon.h"
 
 namespace abissora {
@@ -8,17 +9,17 @@ namespace abissora {
 RowActionsMenu::RowActionsMenu(QWidget* parent)
     : QMenu(parent)
 {
-    setObjectName(QStringLiteral("rowActions"));
+    setObjectName(u"rowActions"_s);
     const auto add = [this](const QString& symbol, const QString& text,
                             void (RowActionsMenu::*signal)(const Equipment&)) {
         connect(addAction(symbolIcon(symbol), text), &QAction::triggered, this, [this, signal] {
             Q_EMIT(this->*signal)(m_equipment);
         });
     };
-    add(QStringLiteral("info.circle"), QStringLiteral("Visualizza dettagli"), &RowActionsMenu::showRequested);
-    add(QStringLiteral("pencil"), QStringLiteral("Modifica attrezzatura"), &RowActionsMenu::editRequested);
+    add(u"info.circle"_s, u"Visualizza dettagli"_s, &RowActionsMenu::showRequested);
+    add(u"pencil"_s, u"Modifica attrezzatura"_s, &RowActionsMenu::editRequested);
     addSeparator();
-    add(QStringLiteral("trash.circle.fill"), QStringLiteral("Elimina attrezzatura"), &RowActionsMenu::deleteRequested);
+    add(u"trash.circle.fill"_s, u"Elimina attrezzatura"_s, &RowActionsMenu::deleteRequested);
 }
 
 } // namespace abissora

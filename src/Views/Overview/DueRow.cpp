@@ -4,6 +4,7 @@
 #include "Buttons.h"
 #include "ElidedLabel.h"
 #include "IconTile.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "OverviewAccessibility.h"
 #include "SymbolIcon.h"
@@ -33,15 +34,15 @@ DueRow::DueRow(QWidget* parent)
     , m_tile(new IconTile(tileSide))
     , m_name(new ElidedLabel(TextStyle::BodyMedium, &Tokens::text))
     , m_state(new ElidedLabel(TextStyle::Caption, &Tokens::danger))
-    , m_add(new PrimaryButton(QStringLiteral("Aggiungi Manutenzione")))
-    , m_details(new PlainButton(QStringLiteral("Dettagli")))
+    , m_add(new PrimaryButton(u"Aggiungi Manutenzione"_s))
+    , m_details(new PlainButton(u"Dettagli"_s))
 {
     provideOverviewAccessibility();
-    m_tile->setObjectName(QStringLiteral("dueIcon"));
-    m_name->setObjectName(QStringLiteral("dueName"));
-    m_state->setObjectName(QStringLiteral("dueState"));
-    m_add->setObjectName(QStringLiteral("addMaintenance"));
-    m_details->setObjectName(QStringLiteral("showDetails"));
+    m_tile->setObjectName(u"dueIcon"_s);
+    m_name->setObjectName(u"dueName"_s);
+    m_state->setObjectName(u"dueState"_s);
+    m_add->setObjectName(u"addMaintenance"_s);
+    m_details->setObjectName(u"showDetails"_s);
 
     auto* texts = new QVBoxLayout;
     texts->setSpacing(lineGap);
@@ -74,8 +75,8 @@ void DueRow::setItem(const RegisterSummary::DueItem& item, const TypeAppearance&
     m_equipment = item.equipment;
     m_tile->setIcon(typeIcon(appearance.icon, appearance.color), appearance.color);
     m_name->setText(item.equipment.name);
-    m_state->setText(QStringLiteral("Scaduto da %1 giorni").arg(std::abs(item.days)));
-    setAccessibleName(m_name->text() + QStringLiteral(", ") + m_state->text());
+    m_state->setText(u"Scaduto da %1 giorni"_s.arg(std::abs(item.days)));
+    setAccessibleName(m_name->text() + u", "_s + m_state->text());
     for (QAbstractButton* button : {m_add, m_details})
         button->setAccessibleDescription(item.equipment.name);
 }

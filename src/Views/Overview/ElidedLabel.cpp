@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ElidedLabel.h"
 
+#include "Literals.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -13,7 +15,7 @@ ElidedLabel::ElidedLabel(TextStyle style, Ink ink, QWidget* parent)
 
 QString ElidedLabel::line() const
 {
-    return text().replace(QLatin1Char('\n'), QLatin1Char(' '));
+    return text().replace(u'\n', u' ');
 }
 
 QSize ElidedLabel::sizeHint() const
@@ -31,7 +33,7 @@ bool ElidedLabel::event(QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         const bool fits = sizeHint().width() <= width();
         // Plain text whatever it looks like: a tool tip would take "<b>" for markup.
-        const QString tip = fits ? QString() : QStringLiteral("<p>%1</p>").arg(text().toHtmlEscaped());
+        const QString tip = fits ? QString() : u"<p>%1</p>"_s.arg(text().toHtmlEscaped());
         QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
         return true;
     }

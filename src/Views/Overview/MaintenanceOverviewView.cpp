@@ -6,6 +6,7 @@
 #include "EmptyState.h"
 #include "EquipmentDetailSheet.h"
 #include "InkLabel.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "ScreenPage.h"
 #include "StatCard.h"
@@ -18,17 +19,16 @@ MaintenanceOverviewView::MaintenanceOverviewView(const AppContext& context, QWid
     : QWidget(parent)
     , m_context(context)
     , m_update(*this, [this] { redraw(); })
-    , m_page(new ScreenPage(QStringLiteral("Panoramica Manutenzione")))
-    , m_total(new StatCard(QStringLiteral("Totale Articoli"), QStringLiteral("folder.fill"), NamedColor::blue))
-    , m_due(new StatCard(QStringLiteral("Manutenzioni Scadute"), QStringLiteral("exclamationmark.triangle.fill"),
-                         NamedColor::red))
-    , m_expiring(new StatCard(QStringLiteral("In Scadenza (30gg)"), QStringLiteral("clock.fill"), NamedColor::orange))
-    , m_inOrder(new StatCard(QStringLiteral("In Regola"), QStringLiteral("checkmark.circle.fill"), NamedColor::green))
-    , m_dueTitle(new InkLabel(TextStyle::Headline, &Tokens::text, QStringLiteral("Manutenzioni Scadute")))
+    , m_page(new ScreenPage(u"Panoramica Manutenzione"_s))
+    , m_total(new StatCard(u"Totale Articoli"_s, u"folder.fill"_s, NamedColor::blue))
+    , m_due(new StatCard(u"Manutenzioni Scadute"_s, u"exclamationmark.triangle.fill"_s, NamedColor::red))
+    , m_expiring(new StatCard(u"In Scadenza (30gg)"_s, u"clock.fill"_s, NamedColor::orange))
+    , m_inOrder(new StatCard(u"In Regola"_s, u"checkmark.circle.fill"_s, NamedColor::green))
+    , m_dueTitle(new InkLabel(TextStyle::Headline, &Tokens::text, u"Manutenzioni Scadute"_s))
     , m_dueList(new DueList(*m_page))
     , m_allInOrder(new EmptyState)
 {
-    setObjectName(QStringLiteral("maintenanceOverview"));
+    setObjectName(u"maintenanceOverview"_s);
     buildLayout();
     connect(&context.equipment, &EquipmentViewModel::equipmentChanged, &m_update, &VisibleUpdate::schedule);
     connect(&context.equipment, &EquipmentViewModel::equipmentChanged, this,
@@ -39,18 +39,18 @@ MaintenanceOverviewView::MaintenanceOverviewView(const AppContext& context, QWid
 
 void MaintenanceOverviewView::buildLayout()
 {
-    m_dueList->setObjectName(QStringLiteral("dueList"));
-    m_dueList->setAccessibleName(QStringLiteral("Manutenzioni Scadute"));
-    m_allInOrder->setObjectName(QStringLiteral("allInOrder"));
-    m_allInOrder->setSymbol(QStringLiteral("checkmark.circle.fill"), NamedColor::green);
-    m_allInOrder->setTitle(QStringLiteral("Tutte le attrezzature sono in regola!"));
+    m_dueList->setObjectName(u"dueList"_s);
+    m_dueList->setAccessibleName(u"Manutenzioni Scadute"_s);
+    m_allInOrder->setObjectName(u"allInOrder"_s);
+    m_allInOrder->setSymbol(u"checkmark.circle.fill"_s, NamedColor::green);
+    m_allInOrder->setTitle(u"Tutte le attrezzature sono in regola!"_s);
 
     auto* cards = new CardGrid(4);
     for (StatCard* card : {m_total, m_due, m_expiring, m_inOrder})
         cards->addWidget(card);
 
     QVBoxLayout* const column = m_page->column();
-    column->addWidget(new InkLabel(TextStyle::LargeTitle, &Tokens::text, QStringLiteral("Panoramica Manutenzione")));
+    column->addWidget(new InkLabel(TextStyle::LargeTitle, &Tokens::text, u"Panoramica Manutenzione"_s));
     column->addLayout(cards);
     column->addWidget(m_dueTitle);
     column->addWidget(m_dueList);

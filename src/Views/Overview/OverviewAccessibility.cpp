@@ -2,6 +2,7 @@
 #include "OverviewAccessibility.h"
 
 #include "DueList.h"
+#include "Literals.h"
 
 #include <QAccessibleWidget>
 
@@ -41,9 +42,9 @@ private:
 
 QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 {
-    if (className == QLatin1String("abissora::DueList"))
+    if (className == "abissora::DueList"_L1)
         return std::make_unique<ListInterface>(static_cast<DueList*>(object)).release();
-    if (className == QLatin1String("abissora::DueRow"))
+    if (className == "abissora::DueRow"_L1)
         return std::make_unique<RowInterface>(static_cast<DueRow*>(object)).release();
     return nullptr;
 }

@@ -3,6 +3,7 @@
 
 #include "CardGrid.h"
 #include "InkLabel.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "ScreenPage.h"
 #include "StatCard.h"
@@ -16,18 +17,15 @@ StatisticsView::StatisticsView(const AppContext& context, QWidget* parent)
     : QWidget(parent)
     , m_context(context)
     , m_update(*this, [this] { redraw(); })
-    , m_total(new StatCard(QStringLiteral("Totale Attrezzatura"), QStringLiteral("list.bullet.circle.fill"),
-                           NamedColor::blue))
-    , m_active(new StatCard(QStringLiteral("Attrezzatura Attiva"), QStringLiteral("checkmark.circle.fill"),
-                            NamedColor::green))
-    , m_due(new StatCard(QStringLiteral("Manutenzioni Scadute"), QStringLiteral("exclamationmark.triangle.fill"),
-                         NamedColor::red))
-    , m_expiring(new StatCard(QStringLiteral("In Scadenza (30gg)"), QStringLiteral("clock.fill"), NamedColor::orange))
-    , m_inOrder(new StatCard(QStringLiteral("In Regola"), QStringLiteral("checkmark.seal.fill"), NamedColor::green))
-    , m_types(new StatCard(QStringLiteral("Tipologie"), QStringLiteral("folder.fill"), NamedColor::purple))
+    , m_total(new StatCard(u"Totale Attrezzatura"_s, u"list.bullet.circle.fill"_s, NamedColor::blue))
+    , m_active(new StatCard(u"Attrezzatura Attiva"_s, u"checkmark.circle.fill"_s, NamedColor::green))
+    , m_due(new StatCard(u"Manutenzioni Scadute"_s, u"exclamationmark.triangle.fill"_s, NamedColor::red))
+    , m_expiring(new StatCard(u"In Scadenza (30gg)"_s, u"clock.fill"_s, NamedColor::orange))
+    , m_inOrder(new StatCard(u"In Regola"_s, u"checkmark.seal.fill"_s, NamedColor::green))
+    , m_types(new StatCard(u"Tipologie"_s, u"folder.fill"_s, NamedColor::purple))
     , m_distribution(new TypeDistribution)
 {
-    setObjectName(QStringLiteral("statistics"));
+    setObjectName(u"statistics"_s);
     buildLayout();
     connect(&context.equipment, &EquipmentViewModel::equipmentChanged, &m_update, &VisibleUpdate::schedule);
     connect(&context.types, &EquipmentTypeViewModel::changed, &m_update, &VisibleUpdate::schedule);
@@ -35,16 +33,15 @@ StatisticsView::StatisticsView(const AppContext& context, QWidget* parent)
 
 void StatisticsView::buildLayout()
 {
-    m_distribution->setObjectName(QStringLiteral("distribution"));
-    m_distribution->setAccessibleName(QStringLiteral("Distribuzione per Tipo"));
+    m_distribution->setObjectName(u"distribution"_s);
+    m_distribution->setAccessibleName(u"Distribuzione per Tipo"_s);
     auto* cards = new CardGrid(3);
     for (StatCard* card : {m_total, m_active, m_due, m_expiring, m_inOrder, m_types})
         cards->addWidget(card);
 
-    auto* page = new ScreenPage(QStringLiteral("Statistiche"));
+    auto* page = new ScreenPage(u"Statistiche"_s);
     page->column()->addLayout(cards);
-    page->column()->addWidget(
-        new InkLabel(TextStyle::Headline, &Tokens::text, QStringLiteral("Distribuzione per Tipo")));
+    page->column()->addWidget(new InkLabel(TextStyle::Headline, &Tokens::text, u"Distribuzione per Tipo"_s));
     page->column()->addWidget(m_distribution);
     page->column()->addStretch();
     auto* layout = new QVBoxLayout(this);

@@ -3,6 +3,7 @@
 
 #include "ControlLook.h"
 #include "IconView.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
 #include "WrapLabel.h"
@@ -28,10 +29,9 @@ constexpr int rowHeight = 21;
 TypeDistribution::TypeDistribution(QWidget* parent)
     : Card(parent)
     , m_grid(new QGridLayout)
-    , m_nothing(
-          new WrapLabel(TextStyle::Body, &Tokens::secondaryText, QStringLiteral("Nessuna attrezzatura registrata")))
+    , m_nothing(new WrapLabel(TextStyle::Body, &Tokens::secondaryText, u"Nessuna attrezzatura registrata"_s))
 {
-    m_nothing->setObjectName(QStringLiteral("noEquipment"));
+    m_nothing->setObjectName(u"noEquipment"_s);
     content()->addWidget(m_nothing);
     content()->addLayout(m_grid);
     content()->setContentsMargins(metrics::spaceL, metrics::spaceM, metrics::spaceL, metrics::spaceM);
@@ -59,11 +59,11 @@ void TypeDistribution::addRow()
     const Row row{new IconView, new WrapLabel(TextStyle::Body, &Tokens::text), new QProgressBar,
                   new InkLabel(TextStyle::Body, &Tokens::secondaryText)};
     const auto number = static_cast<int>(m_rows.size());
-    row.name->setObjectName(QStringLiteral("typeName%1").arg(number));
-    row.bar->setObjectName(QStringLiteral("typeBar%1").arg(number));
+    row.name->setObjectName(u"typeName%1"_s.arg(number));
+    row.bar->setObjectName(u"typeBar%1"_s.arg(number));
     row.bar->setTextVisible(false);
     row.bar->setFixedHeight(rowHeight);
-    row.count->setObjectName(QStringLiteral("typeCount%1").arg(number));
+    row.count->setObjectName(u"typeCount%1"_s.arg(number));
     row.count->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
 
     m_grid->addWidget(row.icon, number, IconColumn, Qt::AlignLeading | Qt::AlignVCenter);

@@ -3,6 +3,7 @@
 
 #include "Card.h"
 #include "InkLabel.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "ProgramFacts.h"
 #include "Separator.h"
@@ -22,7 +23,7 @@ Card* makeRows(const AppContext& context)
 {
     auto* card = new Card;
     card->content()->setSpacing(metrics::spaceS - 2);
-    for (const ProgramFact& fact : programFacts(context)) {
+    for (const ProgramFact& fact : programFacts(context.info, context.product)) {
         if (!card->findChildren<SettingsInfoRow*>().isEmpty())
             card->content()->addWidget(new Separator(Separator::Weight::Divider));
         auto* row = new SettingsInfoRow(fact.label, &Tokens::secondaryText, TextStyle::Callout);
@@ -37,10 +38,10 @@ Card* makeRows(const AppContext& context)
 AboutView::AboutView(const AppContext& context, QWidget* parent)
     : QWidget(parent)
 {
-    setObjectName(QStringLiteral("aboutView"));
-    auto* name = new InkLabel(TextStyle::LargeTitle, &Tokens::text, QStringLiteral("Abissora"));
-    auto* subtitle = new InkLabel(TextStyle::Body, &Tokens::secondaryText,
-                                  QStringLiteral("Gestione attrezzatura subacquea e manutenzioni"));
+    setObjectName(u"aboutView"_s);
+    auto* name = new InkLabel(TextStyle::LargeTitle, &Tokens::text, u"Abissora"_s);
+    auto* subtitle =
+        new InkLabel(TextStyle::Body, &Tokens::secondaryText, u"Gestione attrezzatura subacquea e manutenzioni"_s);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(metrics::spaceXL, metrics::spaceL, metrics::spaceXL, metrics::spaceXL);
     layout->setSpacing(metrics::spaceXS);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CheckButton.h"
 
+#include "Literals.h"
 #include "Metrics.h"
 #include "ProgressIndicator.h"
 
@@ -11,8 +12,8 @@ namespace abissora {
 
 namespace {
 
-const QString label = QStringLiteral("Controlla aggiornamenti ora");
-const QString busyLabel = QStringLiteral("Verifica in corso…");
+const QString label = u"Controlla aggiornamenti ora"_s;
+const QString busyLabel = u"Verifica in corso…"_s;
 
 /// Keeps the place that the indicator turns in.
 QIcon emptyIcon(QSize size)
@@ -52,7 +53,7 @@ void CheckButton::dress()
         setIcon(emptyIcon(iconSize()));
     } else {
         setText(label);
-        setSymbol(QStringLiteral("arrow.clockwise"));
+        setSymbol(u"arrow.clockwise"_s);
     }
     setAccessibleName(m_checking ? busyLabel : label);
     m_indicator->setVisible(m_checking);

@@ -3,6 +3,7 @@
 
 #include "Buttons.h"
 #include "HelpView.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Separator.h"
 
@@ -13,10 +14,10 @@ namespace abissora {
 HelpSheet::HelpSheet(Opener& opener, QWidget* parent)
     : SheetWindow(parent)
     , m_view(new HelpView(opener))
-    , m_close(new PlainButton(QStringLiteral("Chiudi")))
+    , m_close(new PlainButton(u"Chiudi"_s))
 {
-    setWindowTitle(QStringLiteral("Aiuto"));
-    m_close->setObjectName(QStringLiteral("close"));
+    setWindowTitle(u"Aiuto"_s);
+    m_close->setObjectName(u"close"_s);
     connect(m_close, &QAbstractButton::clicked, this, &QDialog::reject);
     auto* footer = new QVBoxLayout;
     footer->setContentsMargins(metrics::spaceL, metrics::spaceM, metrics::spaceL, metrics::spaceM);
@@ -36,7 +37,7 @@ QSize HelpSheet::preferredSize() const
 
 QWidget* HelpSheet::firstFocus() const
 {
-    return m_view->findChild<QWidget*>(QStringLiteral("helpSearch"));
+    return m_view->findChild<QWidget*>(u"helpSearch"_s);
 }
 
 } // namespace abissora

@@ -2,6 +2,7 @@
 #include "InformationGroup.h"
 
 #include "Buttons.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "PageOpening.h"
 #include "ProgramFacts.h"
@@ -13,16 +14,16 @@
 namespace abissora {
 
 InformationGroup::InformationGroup(const AppContext& context, QWidget* parent)
-    : SettingsGroupBox(QStringLiteral("Informazioni"), QStringLiteral("info.circle"), parent)
+    : SettingsGroupBox(u"Informazioni"_s, u"info.circle"_s, parent)
     , m_context(context)
     , m_types(nullptr)
     , m_update([this] { redraw(); })
 {
-    for (const ProgramFact& fact : programFacts(context))
+    for (const ProgramFact& fact : programFacts(context.info, context.product))
         m_facts.append(addRow(fact.label));
-    m_types = addRow(QStringLiteral("Tipologie disponibili"));
+    m_types = addRow(u"Tipologie disponibili"_s);
     content()->addWidget(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText,
-                                       QStringLiteral("Icone: Game Icons (CC BY 3.0), MDI, Icon-Park, Lucide")));
+                                       u"Icone: Game Icons (CC BY 3.0), MDI, Icon-Park, Lucide"_s));
     content()->addLayout(makeWebsiteLine());
     connect(&context.types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
     redraw();
@@ -38,9 +39,9 @@ SettingsInfoRow* InformationGroup::addRow(const QString& label)
 QLayout* InformationGroup::makeWebsiteLine()
 {
     const QUrl address = m_context.product.websiteURL;
-    const QString caption = QStringLiteral("— sito dell'applicazione");
+    const QString caption = u"— sito dell'applicazione"_s;
     auto* link = new LinkButton(address.host());
-    link->setObjectName(QStringLiteral("website"));
+    link->setObjectName(u"website"_s);
     link->setAccessibleDescription(caption);
     connect(link, &QAbstractButton::clicked, this, [this, address] { openPage(address, m_context.opener, *this); });
     auto* line = new QHBoxLayout;
@@ -59,7 +60,7 @@ void InformationGroup::showEvent(QShowEvent* event)
 
 void InformationGroup::redraw()
 {
-    const QList<ProgramFact> facts = programFacts(m_context);
+    const QList<ProgramFact> facts = programFacts(m_context.info, m_context.product);
     for (qsizetype i = 0; i < facts.size(); ++i)
         m_facts.at(i)->setValue(facts.at(i).value);
     m_types->setValue(QString::number(m_context.types.filteredTypes().size()));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PreferenceGroups.h"
 
+#include "Literals.h"
 #include "SegmentedControl.h"
 #include "SettingsSwitch.h"
 #include "Stepper.h"
@@ -34,20 +35,19 @@ int segmentOf(std::int64_t days)
 } // namespace
 
 NotificationsGroup::NotificationsGroup(SettingsViewModel& settings, QWidget* parent)
-    : SettingsGroupBox(QStringLiteral("Notifiche"), QStringLiteral("bell"), parent)
+    : SettingsGroupBox(u"Notifiche"_s, u"bell"_s, parent)
     , m_settings(settings)
     , m_reminderDays(new Stepper)
 {
-    auto* enabled =
-        new SettingsSwitch(QStringLiteral("Abilita Notifiche"), settings, &SettingsViewModel::notificationsEnabled,
-                           &SettingsViewModel::setNotificationsEnabled);
-    enabled->setObjectName(QStringLiteral("notificationsEnabled"));
-    m_reminderDays->setObjectName(QStringLiteral("reminderDays"));
+    auto* enabled = new SettingsSwitch(u"Abilita Notifiche"_s, settings, &SettingsViewModel::notificationsEnabled,
+                                       &SettingsViewModel::setNotificationsEnabled);
+    enabled->setObjectName(u"notificationsEnabled"_s);
+    m_reminderDays->setObjectName(u"reminderDays"_s);
     m_reminderDays->setRange(7, 90);
     m_reminderDays->setSingleStep(7);
-    m_reminderDays->setSuffix(QStringLiteral(" giorni"));
+    m_reminderDays->setSuffix(u" giorni"_s);
     addLine(enabled);
-    addLine(QStringLiteral("Giorni di anticipo"), m_reminderDays);
+    addLine(u"Giorni di anticipo"_s, m_reminderDays);
     redraw();
     connect(m_reminderDays, &Stepper::edited, &settings, &SettingsViewModel::setReminderDays);
     connect(&settings, &SettingsViewModel::changed, this, &NotificationsGroup::redraw);
@@ -59,20 +59,20 @@ void NotificationsGroup::redraw()
 }
 
 GeneralGroup::GeneralGroup(SettingsViewModel& settings, QWidget* parent)
-    : SettingsGroupBox(QStringLiteral("Impostazioni Generali"), QStringLiteral("gear"), parent)
+    : SettingsGroupBox(u"Impostazioni Generali"_s, u"gear"_s, parent)
     , m_settings(settings)
     , m_interval(new SegmentedControl(SegmentedControl::Purpose::Choice))
     , m_currency(new QLineEdit)
 {
-    m_interval->setObjectName(QStringLiteral("defaultServiceInterval"));
+    m_interval->setObjectName(u"defaultServiceInterval"_s);
     for (const Interval& interval : intervals)
         m_interval->addSegment(QString::fromLatin1(interval.text));
-    m_currency->setObjectName(QStringLiteral("currencySymbol"));
+    m_currency->setObjectName(u"currencySymbol"_s);
     m_currency->setMaxLength(std::numeric_limits<int>::max()); // what is stored shall not be shortened
-    m_currency->setPlaceholderText(QStringLiteral("Simbolo"));
+    m_currency->setPlaceholderText(u"Simbolo"_s);
     m_currency->setFixedWidth(withText(currencyWidth, m_currency->fontMetrics()));
-    addLine(QStringLiteral("Intervallo Tagliando Default"), m_interval);
-    addLine(QStringLiteral("Simbolo Valuta"), m_currency);
+    addLine(u"Intervallo Tagliando Default"_s, m_interval);
+    addLine(u"Simbolo Valuta"_s, m_currency);
     redraw();
     connect(m_interval, &SegmentedControl::activated, &settings, [&settings](int segment) {
         settings.setDefaultServiceInterval(intervals.at(static_cast<std::size_t>(segment)).days);
@@ -93,11 +93,11 @@ void GeneralGroup::redraw()
 }
 
 AppearanceGroup::AppearanceGroup(SettingsViewModel& settings, QWidget* parent)
-    : SettingsGroupBox(QStringLiteral("Aspetto"), QStringLiteral("paintbrush"), parent)
+    : SettingsGroupBox(u"Aspetto"_s, u"paintbrush"_s, parent)
 {
-    auto* darkMode = new SettingsSwitch(QStringLiteral("Modalità Scura"), settings, &SettingsViewModel::darkMode,
+    auto* darkMode = new SettingsSwitch(u"Modalità Scura"_s, settings, &SettingsViewModel::darkMode,
                                         &SettingsViewModel::setDarkMode);
-    darkMode->setObjectName(QStringLiteral("darkMode"));
+    darkMode->setObjectName(u"darkMode"_s);
     addLine(darkMode);
 }
 

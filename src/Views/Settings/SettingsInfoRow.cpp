@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsInfoRow.h"
 
+#include "Literals.h"
 #include "Metrics.h"
 
 #include <QHBoxLayout>
@@ -12,7 +13,7 @@ SettingsInfoRow::SettingsInfoRow(const QString& label, InkLabel::Ink valueColor,
     , m_label(new InkLabel(style, &Tokens::text, label))
     , m_value(new InkLabel(style, valueColor))
 {
-    m_value->setObjectName(QStringLiteral("informationValue"));
+    m_value->setObjectName(u"informationValue"_s);
     m_label->setBuddy(m_value);
     m_value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

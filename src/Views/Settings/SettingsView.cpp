@@ -6,6 +6,7 @@
 #include "HelpSheet.h"
 #include "IconView.h"
 #include "InformationGroup.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "PreferenceGroups.h"
 #include "SymbolIcon.h"
@@ -31,8 +32,8 @@ SettingsView::SettingsView(const AppContext& context, QWidget* parent)
     , m_context(context)
     , m_updates(new UpdatesGroup(context.settings, context.updates))
 {
-    setObjectName(QStringLiteral("settings"));
-    setAccessibleName(QStringLiteral("Impostazioni"));
+    setObjectName(u"settings"_s);
+    setAccessibleName(u"Impostazioni"_s);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
@@ -68,10 +69,9 @@ QWidget* SettingsView::makeHeader()
     layout->setHorizontalSpacing(metrics::spaceM);
     layout->setVerticalSpacing(0);
     layout->setColumnStretch(1, 1);
-    layout->addWidget(new IconView(symbolIcon(QStringLiteral("gear"), NamedColor::blue), headerIconSide), 0, 0, 2, 1);
-    layout->addWidget(new InkLabel(TextStyle::Title, &Tokens::text, QStringLiteral("Impostazioni")), 0, 1);
-    layout->addWidget(
-        new InkLabel(TextStyle::Body, &Tokens::secondaryText, QStringLiteral("Configura la tua esperienza")), 1, 1);
+    layout->addWidget(new IconView(symbolIcon(u"gear"_s, NamedColor::blue), headerIconSide), 0, 0, 2, 1);
+    layout->addWidget(new InkLabel(TextStyle::Title, &Tokens::text, u"Impostazioni"_s), 0, 1);
+    layout->addWidget(new InkLabel(TextStyle::Body, &Tokens::secondaryText, u"Configura la tua esperienza"_s), 1, 1);
     return header;
 }
 
@@ -80,20 +80,19 @@ void SettingsView::addGroups(QVBoxLayout* groups)
     auto* types = new TypesGroup(m_context.types);
     connect(types, &TypesGroup::manageRequested, this, &SettingsView::manageTypes);
 
-    auto* help = new SettingsGroupBox(QStringLiteral("Aiuto"), QStringLiteral("book"));
-    help->addText(QStringLiteral(
-        "Guida all'uso completa del programma: funzioni, manutenzioni, allegati PDF e domande frequenti"));
-    auto* openHelp = new PlainButton(QStringLiteral("Apri la Guida"));
-    openHelp->setObjectName(QStringLiteral("openHelp"));
-    openHelp->setSymbol(QStringLiteral("book.fill"));
+    auto* help = new SettingsGroupBox(u"Aiuto"_s, u"book"_s);
+    help->addText(u"Guida all'uso completa del programma: funzioni, manutenzioni, allegati PDF e domande frequenti"_s);
+    auto* openHelp = new PlainButton(u"Apri la Guida"_s);
+    openHelp->setObjectName(u"openHelp"_s);
+    openHelp->setSymbol(u"book.fill"_s);
     help->addButton(openHelp);
     connect(openHelp, &QAbstractButton::clicked, this, &SettingsView::showHelp);
 
-    auto* restore = new SettingsGroupBox(QStringLiteral("Ripristino"), QStringLiteral("arrow.counterclockwise"));
-    auto* reset = new DestructiveButton(QStringLiteral("Ripristina Impostazioni Default"));
-    reset->setObjectName(QStringLiteral("resetSettings"));
+    auto* restore = new SettingsGroupBox(u"Ripristino"_s, u"arrow.counterclockwise"_s);
+    auto* reset = new DestructiveButton(u"Ripristina Impostazioni Default"_s);
+    reset->setObjectName(u"resetSettings"_s);
     restore->addButton(reset);
-    restore->addExplanation(QStringLiteral("Ripristina tutte le impostazioni ai valori predefiniti"), reset);
+    restore->addExplanation(u"Ripristina tutte le impostazioni ai valori predefiniti"_s, reset);
     connect(reset, &QAbstractButton::clicked, this, &SettingsView::resetToDefaults);
 
     groups->addWidget(types);

@@ -2,20 +2,21 @@
 #include "TypesGroup.h"
 
 #include "Buttons.h"
+#include "Literals.h"
 
 namespace abissora {
 
 TypesGroup::TypesGroup(EquipmentTypeViewModel& types, QWidget* parent)
-    : SettingsGroupBox(QStringLiteral("Tipologie Attrezzatura"), QStringLiteral("list.bullet"), parent)
+    : SettingsGroupBox(u"Tipologie Attrezzatura"_s, u"list.bullet"_s, parent)
     , m_types(types)
     , m_count(new InkLabel(TextStyle::Body, &Tokens::secondaryText))
     , m_update([this] { redraw(); })
 {
-    addText(QStringLiteral("Gestisci le tipologie di attrezzatura disponibili per la categorizzazione"));
-    m_count->setObjectName(QStringLiteral("activeTypes"));
-    auto* manage = new PlainButton(QStringLiteral("Gestisci Tipologie"));
-    manage->setObjectName(QStringLiteral("manageTypes"));
-    manage->setSymbol(QStringLiteral("pencil.circle"));
+    addText(u"Gestisci le tipologie di attrezzatura disponibili per la categorizzazione"_s);
+    m_count->setObjectName(u"activeTypes"_s);
+    auto* manage = new PlainButton(u"Gestisci Tipologie"_s);
+    manage->setObjectName(u"manageTypes"_s);
+    manage->setSymbol(u"pencil.circle"_s);
     addLine(m_count, manage);
     connect(manage, &QAbstractButton::clicked, this, &TypesGroup::manageRequested);
     connect(&types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
@@ -24,7 +25,7 @@ TypesGroup::TypesGroup(EquipmentTypeViewModel& types, QWidget* parent)
 
 void TypesGroup::redraw()
 {
-    m_count->setText(QString::number(m_types.filteredTypes().size()) + QStringLiteral(" tipologie attive"));
+    m_count->setText(QString::number(m_types.filteredTypes().size()) + u" tipologie attive"_s);
 }
 
 } // namespace abissora

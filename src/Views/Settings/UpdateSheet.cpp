@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "UpdateSheet.h"
 
+#include "Literals.h"
 #include "Metrics.h"
 #include "UpdateView.h"
 
@@ -12,7 +13,7 @@ UpdateSheet::UpdateSheet(const AppContext& context, const UpdateInfo& update, QW
     : SheetWindow(parent)
     , m_view(new UpdateView(context, update))
 {
-    setWindowTitle(QStringLiteral("Aggiornamento disponibile"));
+    setWindowTitle(u"Aggiornamento disponibile"_s);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(metrics::spaceS, metrics::spaceL, metrics::spaceS, metrics::spaceS);
     layout->addWidget(m_view);

@@ -5,6 +5,7 @@
 #include "ForeignText.h"
 #include "GroupBox.h"
 #include "IconView.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "PageOpening.h"
 #include "ReleaseNotes.h"
@@ -26,7 +27,7 @@ constexpr qsizetype longestNotes = 100'000;
 /// Any other scheme may start any program on this machine.
 bool opensInBrowser(const QUrl& url)
 {
-    const bool isWeb = url.scheme() == QLatin1String("https") || url.scheme() == QLatin1String("http");
+    const bool isWeb = url.scheme() == "https"_L1 || url.scheme() == "http"_L1;
     return isWeb && !url.host().isEmpty();
 }
 
@@ -37,18 +38,18 @@ UpdateView::UpdateView(const AppContext& context, const UpdateInfo& update, QWid
     , m_update(update)
     , m_opener(context.opener)
     , m_address(opensInBrowser(update.downloadURL) ? update.downloadURL : context.product.websiteURL)
-    , m_download(new PrimaryButton(QStringLiteral("Scarica la nuova versione")))
+    , m_download(new PrimaryButton(u"Scarica la nuova versione"_s))
 {
-    setObjectName(QStringLiteral("updateView"));
-    auto* title = new InkLabel(TextStyle::Title, &Tokens::text, QStringLiteral("Aggiornamento disponibile"));
-    auto* version = new WrapLabel(TextStyle::Body, &Tokens::secondaryText,
-                                  QStringLiteral("Nuova versione · ") + shownRelease(update));
-    version->setObjectName(QStringLiteral("newVersion"));
+    setObjectName(u"updateView"_s);
+    auto* title = new InkLabel(TextStyle::Title, &Tokens::text, u"Aggiornamento disponibile"_s);
+    auto* version =
+        new WrapLabel(TextStyle::Body, &Tokens::secondaryText, u"Nuova versione · "_s + shownRelease(update));
+    version->setObjectName(u"newVersion"_s);
     version->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    auto* later = new PlainButton(QStringLiteral("Più tardi"));
-    later->setObjectName(QStringLiteral("later"));
-    m_download->setObjectName(QStringLiteral("download"));
-    m_download->setSymbol(QStringLiteral("arrow.down.circle"));
+    auto* later = new PlainButton(u"Più tardi"_s);
+    later->setObjectName(u"later"_s);
+    m_download->setObjectName(u"download"_s);
+    m_download->setSymbol(u"arrow.down.circle"_s);
     connect(later, &QAbstractButton::clicked, this, &UpdateView::closeRequested);
     connect(m_download, &QAbstractButton::clicked, this, &UpdateView::download);
     auto* escape = new QShortcut(QKeySequence::Cancel, this);
@@ -63,7 +64,7 @@ UpdateView::UpdateView(const AppContext& context, const UpdateInfo& update, QWid
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceL);
     layout->setSpacing(metrics::spaceS);
-    layout->addWidget(new IconView(symbolIcon(QStringLiteral("arrow.down.circle.fill"), NamedColor::blue), iconSide), 0,
+    layout->addWidget(new IconView(symbolIcon(u"arrow.down.circle.fill"_s, NamedColor::blue), iconSide), 0,
                       Qt::AlignHCenter);
     layout->addWidget(title, 0, Qt::AlignHCenter);
     layout->addWidget(version);
@@ -83,14 +84,14 @@ void UpdateView::showEvent(QShowEvent* event)
 
 GroupBox* UpdateView::makeNotes() const
 {
-    const QString title = QStringLiteral("Novità in questa versione");
+    const QString title = u"Novità in questa versione"_s;
     QString text = shownText(m_update.releaseNotes.value_or(QString()), longestNotes);
     if (text.trimmed().isEmpty())
-        text = QStringLiteral("Consulta il sito dell'applicazione per i dettagli del rilascio.");
+        text = u"Consulta il sito dell'applicazione per i dettagli del rilascio."_s;
     auto* notes = new ReleaseNotes(text);
-    notes->setObjectName(QStringLiteral("releaseNotes"));
+    notes->setObjectName(u"releaseNotes"_s);
     notes->setAccessibleName(title);
-    auto* box = new GroupBox(title, QStringLiteral("sparkles"));
+    auto* box = new GroupBox(title, u"sparkles"_s);
     box->content()->addWidget(notes, 1);
     return box;
 }

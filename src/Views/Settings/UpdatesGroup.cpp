@@ -4,6 +4,7 @@
 #include "CheckButton.h"
 #include "ForeignText.h"
 #include "IconLabel.h"
+#include "Literals.h"
 #include "SettingsSwitch.h"
 #include "SymbolIcon.h"
 
@@ -13,22 +14,21 @@
 namespace abissora {
 
 UpdatesGroup::UpdatesGroup(SettingsViewModel& settings, UpdateCheckerViewModel& updates, QWidget* parent)
-    : SettingsGroupBox(QStringLiteral("Aggiornamenti"), QStringLiteral("arrow.down.circle"), parent)
+    : SettingsGroupBox(u"Aggiornamenti"_s, u"arrow.down.circle"_s, parent)
     , m_updates(updates)
     , m_check(new CheckButton)
     , m_feedback(new IconLabel)
 {
     auto* onLaunch =
-        new SettingsSwitch(QStringLiteral("Controlla aggiornamenti all'avvio"), settings,
+        new SettingsSwitch(u"Controlla aggiornamenti all'avvio"_s, settings,
                            &SettingsViewModel::checkForUpdatesOnLaunch, &SettingsViewModel::setCheckForUpdatesOnLaunch);
-    onLaunch->setObjectName(QStringLiteral("checkForUpdatesOnLaunch"));
-    m_check->setObjectName(QStringLiteral("checkForUpdates"));
-    m_feedback->setObjectName(QStringLiteral("checkFeedback"));
+    onLaunch->setObjectName(u"checkForUpdatesOnLaunch"_s);
+    m_check->setObjectName(u"checkForUpdates"_s);
+    m_feedback->setObjectName(u"checkFeedback"_s);
     m_feedback->setWordWrap(true);
     addLine(onLaunch);
-    addExplanation(
-        QStringLiteral("Se attivo, all'avvio l'app verifica sul sito se esiste una versione più recente e la propone."),
-        onLaunch);
+    addExplanation(u"Se attivo, all'avvio l'app verifica sul sito se esiste una versione più recente e la propone."_s,
+                   onLaunch);
     m_check->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     addButton(m_check);
     content()->addWidget(m_feedback);
@@ -47,11 +47,11 @@ QCoro::Task<> UpdatesGroup::checkForUpdatesNow()
     if (!alive || visit != m_visit)
         co_return;
     if (update) {
-        setFeedback(QStringLiteral("Versione ") + shownRelease(*update) + QStringLiteral(" disponibile"), false);
+        setFeedback(u"Versione "_s + shownRelease(*update) + u" disponibile"_s, false);
     } else if (const std::optional<QString> error = m_updates.lastError()) {
         setFeedback(error, true);
     } else {
-        setFeedback(QStringLiteral("Hai già l'ultima versione"), false);
+        setFeedback(u"Hai già l'ultima versione"_s, false);
     }
 }
 
@@ -66,8 +66,8 @@ void UpdatesGroup::setFeedback(const std::optional<QString>& text, bool isError)
     m_checkFeedback = text;
     m_feedbackIsError = isError;
     m_feedback->setText(text.value_or(QString()));
-    m_feedback->setIcon(isError ? symbolIcon(QStringLiteral("exclamationmark.triangle"), NamedColor::red)
-                                : symbolIcon(QStringLiteral("checkmark.circle"), NamedColor::green));
+    m_feedback->setIcon(isError ? symbolIcon(u"exclamationmark.triangle"_s, NamedColor::red)
+                                : symbolIcon(u"checkmark.circle"_s, NamedColor::green));
     m_feedback->setVisible(text.has_value());
 }
 

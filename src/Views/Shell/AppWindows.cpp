@@ -4,6 +4,7 @@
 #include "AboutView.h"
 #include "BringForward.h"
 #include "HelpWindow.h"
+#include "Literals.h"
 #include "TitlelessWindow.h"
 #include "UpdateView.h"
 
@@ -25,8 +26,8 @@ AppWindows::~AppWindows()
 void AppWindows::openAbout()
 {
     if (!m_about) {
-        m_about = new TitlelessWindow(QStringLiteral("Informazioni su Abissora"), new AboutView(m_context));
-        m_about->setObjectName(QStringLiteral("aboutWindow"));
+        m_about = new TitlelessWindow(u"Informazioni su Abissora"_s, new AboutView(m_context));
+        m_about->setObjectName(u"aboutWindow"_s);
     }
     bringForward(*m_about, m_mainWindow);
 }
@@ -43,8 +44,8 @@ void AppWindows::openUpdate(const UpdateInfo& update)
     QPointer<QWidget>& window = m_updates[update];
     if (!window) {
         auto* view = new UpdateView(m_context, update);
-        window = new TitlelessWindow(QStringLiteral("Aggiornamento disponibile"), view);
-        window->setObjectName(QStringLiteral("updateWindow"));
+        window = new TitlelessWindow(u"Aggiornamento disponibile"_s, view);
+        window->setObjectName(u"updateWindow"_s);
         connect(view, &UpdateView::closeRequested, window, &QWidget::close);
     }
     bringForward(*window, m_mainWindow);

@@ -6,6 +6,7 @@
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
+#include "Literals.h"
 #include "MaintenanceOverviewView.h"
 #include "Metrics.h"
 #include "SegmentedControl.h"
@@ -32,9 +33,8 @@ struct TabTitle
 
 QList<TabTitle> tabTitles()
 {
-    return {{QStringLiteral("Attrezzatura"), QStringLiteral("list.bullet")},
-            {QStringLiteral("Manutenzione"), QStringLiteral("wrench")},
-            {QStringLiteral("Statistiche"), QStringLiteral("chart.bar")}};
+    return {
+        {u"Attrezzatura"_s, u"list.bullet"_s}, {u"Manutenzione"_s, u"wrench"_s}, {u"Statistiche"_s, u"chart.bar"_s}};
 }
 
 } // namespace
@@ -53,7 +53,7 @@ ContentView::ContentView(const AppContext& context, QWidget* parent)
     , m_tabArea(makeTabArea())
 {
     m_pages->addWidget(m_tabArea);
-    m_splitter->setObjectName(QStringLiteral("splitter"));
+    m_splitter->setObjectName(u"splitter"_s);
     m_splitter->addWidget(m_sidebar);
     m_splitter->addWidget(m_pages);
     m_splitter->setChildrenCollapsible(false);
@@ -154,7 +154,7 @@ void ContentView::openForm(Sheet* form)
 
 QWidget* ContentView::makeTabArea()
 {
-    m_tabs->setObjectName(QStringLiteral("tabSwitch"));
+    m_tabs->setObjectName(u"tabSwitch"_s);
     for (const TabTitle& title : tabTitles())
         m_tabs->addSegment(title.symbol, title.text);
     m_tabs->setCurrentIndex(m_selectedTab);
@@ -175,9 +175,9 @@ QWidget* ContentView::makeListArea()
 {
     auto* paneLayout = new QHBoxLayout(m_detailPane);
     paneLayout->setContentsMargins(0, 0, 0, 0);
-    m_detailPane->setObjectName(QStringLiteral("detailPane"));
+    m_detailPane->setObjectName(u"detailPane"_s);
     m_detailPane->hide();
-    m_listSplitter->setObjectName(QStringLiteral("listSplitter"));
+    m_listSplitter->setObjectName(u"listSplitter"_s);
     m_list->setMinimumWidth(leastListWidth);
     m_listSplitter->addWidget(m_list);
     m_listSplitter->addWidget(m_detailPane);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "EditMenu.h"
 
+#include "Literals.h"
+
 #include <QApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -24,7 +26,7 @@ bool isReadOnly(const QWidget* field)
 } // namespace
 
 EditMenu::EditMenu(QWidget* parent)
-    : QMenu(QStringLiteral("&Modifica"), parent)
+    : QMenu(u"&Modifica"_s, parent)
 {
     const auto add = [this](const QString& text, QKeySequence::StandardKey key, const char* slot) {
         QAction* action = addAction(text);
@@ -36,14 +38,14 @@ EditMenu::EditMenu(QWidget* parent)
         });
         m_commands.append({action, slot});
     };
-    add(QStringLiteral("&Annulla"), QKeySequence::Undo, "undo");
-    add(QStringLiteral("&Ripeti"), QKeySequence::Redo, "redo");
+    add(u"&Annulla"_s, QKeySequence::Undo, "undo");
+    add(u"&Ripeti"_s, QKeySequence::Redo, "redo");
     addSeparator();
-    add(QStringLiteral("&Taglia"), QKeySequence::Cut, "cut");
-    add(QStringLiteral("&Copia"), QKeySequence::Copy, "copy");
-    add(QStringLiteral("&Incolla"), QKeySequence::Paste, "paste");
+    add(u"&Taglia"_s, QKeySequence::Cut, "cut");
+    add(u"&Copia"_s, QKeySequence::Copy, "copy");
+    add(u"&Incolla"_s, QKeySequence::Paste, "paste");
     addSeparator();
-    add(QStringLiteral("&Seleziona tutto"), QKeySequence::SelectAll, "selectAll");
+    add(u"&Seleziona tutto"_s, QKeySequence::SelectAll, "selectAll");
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
         // An open menu has the focus for a while; what it acts on is what had it before.
         if (!qobject_cast<QMenu*>(now))

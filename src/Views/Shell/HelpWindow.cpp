@@ -3,6 +3,7 @@
 
 #include "CloseShortcut.h"
 #include "HelpView.h"
+#include "Literals.h"
 
 namespace abissora {
 
@@ -14,8 +15,8 @@ constexpr QSize leastSize(880, 640);
 
 HelpWindow::HelpWindow(Opener& opener)
 {
-    setObjectName(QStringLiteral("helpWindow"));
-    setWindowTitle(QStringLiteral("Aiuto"));
+    setObjectName(u"helpWindow"_s);
+    setWindowTitle(u"Aiuto"_s);
     setAttribute(Qt::WA_DeleteOnClose);
     setMinimumSize(leastSize);
     setCentralWidget(new HelpView(opener));

@@ -5,6 +5,7 @@
 #include "ContentView.h"
 #include "EditMenu.h"
 #include "EquipmentListView.h"
+#include "Literals.h"
 #include "SymbolIcon.h"
 
 #include <QApplication>
@@ -24,8 +25,8 @@ MainWindow::MainWindow(const AppContext& context, const QString& stateFile, QWid
     , m_content(new ContentView(context))
     , m_state(stateFile)
 {
-    setObjectName(QStringLiteral("mainWindow"));
-    setWindowTitle(QStringLiteral("Abissora"));
+    setObjectName(u"mainWindow"_s);
+    setWindowTitle(u"Abissora"_s);
     setMinimumSize(minimumWindowSize);
     setCentralWidget(m_content);
     m_content->list().focusContent();
@@ -43,18 +44,18 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::buildMenuBar()
 {
-    QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
-    QAction* add = file->addAction(symbolIcon(QStringLiteral("plus")), QStringLiteral("&Aggiungi"));
+    QMenu* file = menuBar()->addMenu(u"&File"_s);
+    QAction* add = file->addAction(symbolIcon(u"plus"_s), u"&Aggiungi"_s);
     add->setShortcut(QKeySequence::New);
     connect(add, &QAction::triggered, m_content, &ContentView::addEquipment);
-    QAction* refresh = file->addAction(symbolIcon(QStringLiteral("arrow.clockwise")), QStringLiteral("A&ggiorna"));
+    QAction* refresh = file->addAction(symbolIcon(u"arrow.clockwise"_s), u"A&ggiorna"_s);
     refresh->setShortcut(QKeySequence::Refresh);
     connect(refresh, &QAction::triggered, &m_content->list(), &EquipmentListView::refresh);
     file->addSeparator();
-    QAction* close = file->addAction(QStringLiteral("&Chiudi"));
+    QAction* close = file->addAction(u"&Chiudi"_s);
     close->setShortcut(closeKey());
     connect(close, &QAction::triggered, this, &QWidget::close);
-    QAction* quit = file->addAction(QStringLiteral("&Esci"));
+    QAction* quit = file->addAction(u"&Esci"_s);
     quit->setShortcut(QKeySequence::Quit);
     quit->setShortcutContext(Qt::ApplicationShortcut);
     quit->setMenuRole(QAction::QuitRole);
@@ -62,18 +63,18 @@ void MainWindow::buildMenuBar()
 
     auto* edit = new EditMenu(this);
     edit->addSeparator();
-    QAction* find = edit->addAction(QStringLiteral("&Trova"));
+    QAction* find = edit->addAction(u"&Trova"_s);
     find->setShortcut(QKeySequence::Find);
     connect(find, &QAction::triggered, m_content, &ContentView::findInList);
     menuBar()->addMenu(edit);
 
-    QMenu* help = menuBar()->addMenu(QStringLiteral("&Aiuto"));
-    QAction* guide = help->addAction(symbolIcon(QStringLiteral("lightbulb")), QStringLiteral("Abissora &Help"));
+    QMenu* help = menuBar()->addMenu(u"&Aiuto"_s);
+    QAction* guide = help->addAction(symbolIcon(u"lightbulb"_s), u"Abissora &Help"_s);
     guide->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Question), QKeySequence(QKeySequence::HelpContents)});
     guide->setShortcutContext(Qt::ApplicationShortcut);
     connect(guide, &QAction::triggered, this, &MainWindow::helpRequested);
     addAction(guide); // so that sheets take it over
-    QAction* about = help->addAction(QStringLiteral("&Informazioni su Abissora"));
+    QAction* about = help->addAction(u"&Informazioni su Abissora"_s);
     about->setMenuRole(QAction::AboutRole);
     connect(about, &QAction::triggered, this, &MainWindow::aboutRequested);
 }

@@ -3,6 +3,7 @@
 
 #include "Buttons.h"
 #include "CloseShortcut.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
@@ -24,8 +25,8 @@ TitlelessWindow::TitlelessWindow(const QString& title, QWidget* content)
     if (windowsCanBeTranslucent())
         setAttribute(Qt::WA_TranslucentBackground);
 
-    auto* close = new IconButton(symbolIcon(QStringLiteral("xmark")), QStringLiteral("Chiudi"));
-    close->setObjectName(QStringLiteral("closeWindow"));
+    auto* close = new IconButton(symbolIcon(u"xmark"_s), u"Chiudi"_s);
+    close->setObjectName(u"closeWindow"_s);
     connect(close, &QAbstractButton::clicked, this, &QWidget::close);
     closeByKeyboard(*this);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SidebarDelegate.h"
 
+#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SidebarModel.h"
@@ -100,7 +101,7 @@ QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QM
     const int entryHeight = QFontMetrics(font(TextStyle::Body)).height() + metrics::spaceL;
     // Room for a badge of two digits, so that one that appears moves nothing.
     const int width = QFontMetrics(font(TextStyle::Body)).horizontalAdvance(index.data().toString()) +
-                      metrics::iconSize + 5 * margin + badgeSize(QStringLiteral("00")).width() + metrics::spaceXS;
+                      metrics::iconSize + 5 * margin + badgeSize(u"00"_s).width() + metrics::spaceXS;
     switch (index.data(SidebarModel::KindRole).toInt()) {
     case SidebarModel::SectionTitle:
         return {width, QFontMetrics(font(TextStyle::CaptionSemibold)).height() + metrics::spaceL + metrics::spaceXS};

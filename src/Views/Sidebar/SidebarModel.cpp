@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SidebarModel.h"
 
+#include "Literals.h"
 #include "SymbolIcon.h"
 
 namespace abissora {
@@ -59,7 +60,7 @@ QVariant SidebarModel::data(const QModelIndex& index, int role) const
         return row.kind == Entry ? QVariant::fromValue(typeIcon(row.appearance.icon, row.appearance.color))
                                  : QVariant();
     case Qt::AccessibleTextRole:
-        return badged ? QStringLiteral("%1, %2").arg(row.text).arg(m_badge) : row.text;
+        return badged ? u"%1, %2"_s.arg(row.text).arg(m_badge) : row.text;
     case TagRole:
         return row.tag;
     case KindRole:
@@ -80,18 +81,15 @@ Qt::ItemFlags SidebarModel::flags(const QModelIndex& index) const
 QList<SidebarModel::Row> SidebarModel::rowsFor(const QList<EquipmentTypeModel>& types)
 {
     QList<Row> rows{
-        {SectionTitle, QStringLiteral("Attrezzatura"), {}, {}},
-        {Entry, QStringLiteral("Tutti gli articoli"), sidebar::all, {QStringLiteral("folder")}},
-        {Entry,
-         QStringLiteral("Manutenzione scaduta"),
-         sidebar::maintenance,
-         {QStringLiteral("exclamationmark.triangle")}},
-        {SectionTitle, QStringLiteral("Categorie"), {}, {}},
+        {SectionTitle, u"Attrezzatura"_s, {}, {}},
+        {Entry, u"Tutti gli articoli"_s, sidebar::all, {u"folder"_s}},
+        {Entry, u"Manutenzione scaduta"_s, sidebar::maintenance, {u"exclamationmark.triangle"_s}},
+        {SectionTitle, u"Categorie"_s, {}, {}},
     };
     for (const EquipmentTypeModel& type : types)
         rows.append({Entry, type.name, sidebar::typePrefix + type.name, appearanceOf(type)});
     rows.append({Divider, {}, {}, {}});
-    rows.append({Entry, QStringLiteral("Impostazioni"), sidebar::settings, {QStringLiteral("gear")}});
+    rows.append({Entry, u"Impostazioni"_s, sidebar::settings, {u"gear"_s}});
     return rows;
 }
 

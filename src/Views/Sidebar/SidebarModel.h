@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Literals.h"
 #include "TypeAppearance.h"
 
 #include <QAbstractListModel>
@@ -51,10 +52,10 @@ private:
 
 /// Tags of the fixed rows, and what the tags of the categories begin with.
 namespace sidebar {
-inline const QString all = QStringLiteral("all");
-inline const QString maintenance = QStringLiteral("maintenance");
-inline const QString settings = QStringLiteral("settings");
-inline const QString typePrefix = QStringLiteral("type_");
+inline const QString all = u"all"_s;
+inline const QString maintenance = u"maintenance"_s;
+inline const QString settings = u"settings"_s;
+inline const QString typePrefix = u"type_"_s;
 } // namespace sidebar
 
 } // namespace abissora

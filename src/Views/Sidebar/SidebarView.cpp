@@ -2,6 +2,7 @@
 #include "SidebarView.h"
 
 #include "ControlLook.h"
+#include "Literals.h"
 
 #include <QScopedValueRollback>
 
@@ -22,8 +23,8 @@ SidebarView::SidebarView(EquipmentViewModel& equipment, EquipmentTypeViewModel& 
     , m_update([this] { redraw(); })
     , m_lastFilterTypeName(equipment.filterTypeName())
 {
-    setObjectName(QStringLiteral("sidebar"));
-    setAccessibleName(QStringLiteral("Barra laterale"));
+    setObjectName(u"sidebar"_s);
+    setAccessibleName(u"Barra laterale"_s);
     setMinimumWidth(minimumSidebarWidth);
     setFrameShape(NoFrame);
     setEditTriggers(NoEditTriggers);
@@ -73,20 +74,20 @@ void SidebarView::selectionChanged(const QItemSelection& selected, const QItemSe
 
 void SidebarView::actOnSelection()
 {
-    m_console.print(QStringLiteral("🔄 Sidebar selection changed to: ") + orNil(m_selectedSidebarItem));
+    m_console.print(u"🔄 Sidebar selection changed to: "_s + orNil(m_selectedSidebarItem));
     if (!m_selectedSidebarItem)
         return;
     const QString tag = *m_selectedSidebarItem;
     if (tag == sidebar::all) {
-        m_console.print(QStringLiteral("📂 Reset filtri - Tutti gli articoli"));
+        m_console.print(u"📂 Reset filtri - Tutti gli articoli"_s);
         Q_EMIT tabRequested(0);
         m_equipment.resetFilters();
     } else if (tag == sidebar::maintenance) {
-        m_console.print(QStringLiteral("🔧 Vai a Manutenzione - Tab 1"));
+        m_console.print(u"🔧 Vai a Manutenzione - Tab 1"_s);
         Q_EMIT tabRequested(1);
     } else if (tag.startsWith(sidebar::typePrefix)) {
         const QString name = tag.mid(sidebar::typePrefix.size());
-        m_console.print(QStringLiteral("🎯 Categoria selezionata: ") + name);
+        m_console.print(u"🎯 Categoria selezionata: "_s + name);
         Q_EMIT tabRequested(0);
         m_equipment.filterByTypeName(name);
     }
@@ -98,9 +99,9 @@ void SidebarView::followFilter()
     if (name == m_lastFilterTypeName)
         return;
     m_lastFilterTypeName = name;
-    m_console.print(QStringLiteral("📌 filterTypeName cambiato a: ") + orNil(name));
+    m_console.print(u"📌 filterTypeName cambiato a: "_s + orNil(name));
     const auto synchronise = [this](const QString& target) {
-        m_console.print(QStringLiteral("🔄 Sincronizzazione: Imposto '") + target + QLatin1Char('\''));
+        m_console.print(u"🔄 Sincronizzazione: Imposto '"_s + target + u'\'');
         setSelectedSidebarItem(target);
     };
     if (name) {

@@ -6,6 +6,7 @@
 #include "FieldPainting.h"
 #include "IndicatorPainting.h"
 #include "ItemViewPainting.h"
+#include "Literals.h"
 #include "MenuPainting.h"
 #include "Metrics.h"
 #include "Painting.h"
@@ -50,9 +51,9 @@ void drawSplitter(const QStyleOption& option, QPainter& painter)
 } // namespace
 
 AbissoraStyle::AbissoraStyle()
-    : QProxyStyle(QStringLiteral("Fusion"))
+    : QProxyStyle(u"Fusion"_s)
 {
-    setObjectName(QStringLiteral("abissora"));
+    setObjectName(u"abissora"_s);
 }
 
 void AbissoraStyle::polish(QWidget* widget)

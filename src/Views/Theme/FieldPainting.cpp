@@ -2,6 +2,7 @@
 #include "FieldPainting.h"
 
 #include "ControlLook.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
@@ -84,7 +85,7 @@ void drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const Q
     }
     QRect place(0, 0, metrics::iconSize, metrics::iconSize);
     place.moveCenter(arrow.center());
-    symbolIcon(QStringLiteral("calendar"), enabled ? tokens.secondaryText : tokens.disabled).paint(&painter, place);
+    symbolIcon(u"calendar"_s, enabled ? tokens.secondaryText : tokens.disabled).paint(&painter, place);
 }
 
 void drawComboBoxLabel(const QStyleOptionComboBox& option, QPainter& painter, const QStyle& style,

@@ -69,11 +69,10 @@ QSize itemSize(const QStyleOptionViewItem& option, QSize contents)
 QString headerText(const QString& text, const QFontMetrics& metrics, QSize room)
 {
     const auto elided = [&](const QString& line) { return metrics.elidedText(line, Qt::ElideRight, room.width()); };
-    const qsizetype space = text.indexOf(QLatin1Char(' '));
+    const qsizetype space = text.indexOf(u' ');
     const bool twoLines = metrics.horizontalAdvance(text) > room.width() && space > 0 &&
                           metrics.height() + metrics.lineSpacing() <= room.height();
-    return twoLines ? QString(elided(text.left(space)) + QLatin1Char('\n') + elided(text.mid(space + 1)))
-                    : elided(text);
+    return twoLines ? QString(elided(text.left(space)) + u'\n' + elided(text.mid(space + 1))) : elided(text);
 }
 
 void drawHeaderSection(const QStyleOptionHeader& option, QPainter& painter)

@@ -79,7 +79,7 @@ void drawMenuItem(const QStyleOptionMenuItem& option, QPainter& painter, const Q
     painter.setPen(ink);
     painter.setFont(option.font);
     const int flags = Qt::AlignVCenter | Qt::TextSingleLine | mnemonicFlag(style, option, widget);
-    const qsizetype tab = option.text.indexOf(QLatin1Char('\t'));
+    const qsizetype tab = option.text.indexOf(u'\t');
     const QRect text(left, row.top(), row.right() + 1 - left, row.height());
     painter.drawText(mirrored(text), flags | Qt::AlignLeft, option.text.left(tab));
     if (tab >= 0) {
@@ -99,10 +99,9 @@ QSize menuItemSize(const QStyleOptionMenuItem& option, QSize contents)
 {
     if (option.menuItemType == QStyleOptionMenuItem::Separator && option.text.isEmpty())
         return {contents.width(), 9};
-    int width = leadingWidth(option) +
-                option.fontMetrics.horizontalAdvance(option.text.section(QLatin1Char('\t'), 0, 0)) + rowPadding +
-                metrics::spaceS;
-    if (option.text.contains(QLatin1Char('\t')))
+    int width = leadingWidth(option) + option.fontMetrics.horizontalAdvance(option.text.section(u'\t', 0, 0)) +
+                rowPadding + metrics::spaceS;
+    if (option.text.contains(u'\t'))
         width += shortcutGap;
     if (option.menuItemType == QStyleOptionMenuItem::SubMenu)
         width += arrowColumn;

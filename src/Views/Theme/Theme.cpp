@@ -2,6 +2,7 @@
 #include "Theme.h"
 
 #include "AbissoraStyle.h"
+#include "Literals.h"
 #include "SchemePalette.h"
 
 #include <QApplication>
@@ -15,7 +16,7 @@ namespace {
 QFont interfaceFont(QFont system)
 {
     // Pictographs are looked for among the emoji before any text font that happens to have them.
-    QStringList families{QStringLiteral("Inter"), QStringLiteral("Noto Color Emoji")};
+    QStringList families{u"Inter"_s, u"Noto Color Emoji"_s};
     families += system.families();
     system.setFamilies(families);
     return system;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "WindowShape.h"
 
+#include "Literals.h"
+
 #include <QGuiApplication>
 #include <QPainterPath>
 #include <QPolygon>
@@ -9,7 +11,7 @@ namespace abissora {
 
 bool windowsCanBeTranslucent()
 {
-    return QGuiApplication::platformName() != QLatin1String("xcb");
+    return QGuiApplication::platformName() != "xcb"_L1;
 }
 
 QRegion roundedRegion(const QRect& rect, int radius)

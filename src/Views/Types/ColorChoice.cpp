@@ -4,6 +4,7 @@
 #include "ColorSwatch.h"
 #include "FlowLayout.h"
 #include "InkLabel.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "TypesAccessibility.h"
 
@@ -19,8 +20,8 @@ ColorChoice::ColorChoice(QWidget* parent)
     , m_label(new InkLabel(TextStyle::Caption, &Tokens::secondaryText))
 {
     provideTypesAccessibility();
-    setAccessibleName(QStringLiteral("Colore"));
-    m_label->setObjectName(QStringLiteral("colorLabel"));
+    setAccessibleName(u"Colore"_s);
+    m_label->setObjectName(u"colorLabel"_s);
     auto* flow = new FlowLayout(0, metrics::spaceXS);
     for (const AvailableColors color : allCases<AvailableColors>()) {
         auto* swatch = new ColorSwatch(color);

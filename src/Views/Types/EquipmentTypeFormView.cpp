@@ -8,6 +8,7 @@
 #include "IconGrid.h"
 #include "IconPicker.h"
 #include "InkLabel.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Stepper.h"
 #include "StickyColumn.h"
@@ -41,17 +42,17 @@ FormRow* row(const QString& label, QWidget* field)
 
 EquipmentTypeFormView::EquipmentTypeFormView(const AppContext& context,
                                              const std::optional<EquipmentTypeModel>& editingType, QWidget* parent)
-    : Sheet(editingType ? QStringLiteral("Modifica Tipologia") : QStringLiteral("Nuova Tipologia"), parent)
+    : Sheet(editingType ? u"Modifica Tipologia"_s : u"Nuova Tipologia"_s, parent)
     , m_context(context)
     , m_editingType(editingType)
     , m_name(new QLineEdit)
-    , m_invalidName(new InkLabel(TextStyle::Caption, &Tokens::danger, QStringLiteral("Inserisci un nome valido")))
+    , m_invalidName(new InkLabel(TextStyle::Caption, &Tokens::danger, u"Inserisci un nome valido"_s))
     , m_interval(new Stepper)
     , m_color(new ColorChoice)
     , m_icons(new IconPicker)
     , m_preview(new TypePreview)
 {
-    setPrimaryText(QStringLiteral("Salva"));
+    setPrimaryText(u"Salva"_s);
     setPreferredSize({withText(preferredWidth, fontMetrics()), withText(preferredHeight, fontMetrics())});
     makeColumns();
     setState(editingType ? EquipmentTypeFormState::of(*editingType) : EquipmentTypeFormState());
@@ -62,25 +63,25 @@ EquipmentTypeFormView::EquipmentTypeFormView(const AppContext& context,
 
 GroupBox* EquipmentTypeFormView::makeBasics()
 {
-    m_name->setObjectName(QStringLiteral("name"));
+    m_name->setObjectName(u"name"_s);
     m_name->setMaxLength(std::numeric_limits<int>::max()); // a form shall not shorten what is stored
-    m_name->setPlaceholderText(QStringLiteral("Inserisci il nome"));
-    m_invalidName->setObjectName(QStringLiteral("invalidName"));
+    m_name->setPlaceholderText(u"Inserisci il nome"_s);
+    m_invalidName->setObjectName(u"invalidName"_s);
     QSizePolicy policy = m_invalidName->sizePolicy();
     policy.setRetainSizeWhenHidden(true); // nothing shall jump while somebody types
     m_invalidName->setSizePolicy(policy);
-    m_interval->setObjectName(QStringLiteral("interval"));
+    m_interval->setObjectName(u"interval"_s);
     m_interval->setRange(shortestInterval, longestInterval);
     m_interval->setSingleStep(intervalStep);
-    m_interval->setSuffix(QStringLiteral(" giorni"));
-    m_color->setObjectName(QStringLiteral("color"));
+    m_interval->setSuffix(u" giorni"_s);
+    m_color->setObjectName(u"color"_s);
 
-    auto* name = row(QStringLiteral("Nome Tipologia*"), m_name);
-    name->setHint(QStringLiteral("* Campo obbligatorio"));
+    auto* name = row(u"Nome Tipologia*"_s, m_name);
+    name->setHint(u"* Campo obbligatorio"_s);
     name->addBelow(m_invalidName);
-    auto* group = new GroupBox(QStringLiteral("Informazioni Base"));
+    auto* group = new GroupBox(u"Informazioni Base"_s);
     group->content()->addWidget(name);
-    group->content()->addWidget(row(QStringLiteral("Intervallo Tagliando"), m_interval));
+    group->content()->addWidget(row(u"Intervallo Tagliando"_s, m_interval));
     group->content()->addWidget(row({}, m_color));
     return group;
 }

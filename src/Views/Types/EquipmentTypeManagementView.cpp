@@ -6,6 +6,7 @@
 #include "EmptyState.h"
 #include "EquipmentTypeFormView.h"
 #include "InkLabel.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "SearchField.h"
 #include "TextSearch.h"
@@ -26,18 +27,18 @@ constexpr int searchWidth = 220;
 } // namespace
 
 EquipmentTypeManagementView::EquipmentTypeManagementView(const AppContext& context, QWidget* parent)
-    : Sheet(QStringLiteral("Gestione Tipologie"), parent)
+    : Sheet(u"Gestione Tipologie"_s, parent)
     , m_context(context)
     , m_update([this] { redraw(); })
-    , m_search(new SearchField(QStringLiteral("Cerca...")))
-    , m_add(new PrimaryButton(QStringLiteral("Nuova Tipologia")))
+    , m_search(new SearchField(u"Cerca..."_s))
+    , m_add(new PrimaryButton(u"Nuova Tipologia"_s))
     , m_list(new TypeList)
-    , m_empty(new EmptyState(QStringLiteral("magnifyingglass"), QStringLiteral("Nessuna tipologia trovata")))
+    , m_empty(new EmptyState(u"magnifyingglass"_s, u"Nessuna tipologia trovata"_s))
     , m_pages(new QStackedWidget)
     , m_count(new InkLabel(TextStyle::Body, &Tokens::secondaryText))
-    , m_reset(new PlainButton(QStringLiteral("Ripristina Default")))
+    , m_reset(new PlainButton(u"Ripristina Default"_s))
 {
-    cancelButton()->setText(QStringLiteral("Chiudi"));
+    cancelButton()->setText(u"Chiudi"_s);
     setPreferredSize({withText(preferredWidth, fontMetrics()), withText(preferredHeight, fontMetrics())});
     setContent(makeContent());
     setFirstField(m_search);
@@ -47,19 +48,19 @@ EquipmentTypeManagementView::EquipmentTypeManagementView(const AppContext& conte
 
 QWidget* EquipmentTypeManagementView::makeContent()
 {
-    m_search->setObjectName(QStringLiteral("typeSearch"));
+    m_search->setObjectName(u"typeSearch"_s);
     m_search->setFixedWidth(withText(searchWidth, fontMetrics()));
-    m_add->setObjectName(QStringLiteral("addType"));
-    m_add->setSymbol(QStringLiteral("plus"));
-    m_count->setObjectName(QStringLiteral("typeCount"));
-    m_reset->setObjectName(QStringLiteral("resetTypes"));
-    m_list->setAccessibleName(QStringLiteral("Tipologie Attrezzatura"));
+    m_add->setObjectName(u"addType"_s);
+    m_add->setSymbol(u"plus"_s);
+    m_count->setObjectName(u"typeCount"_s);
+    m_reset->setObjectName(u"resetTypes"_s);
+    m_list->setAccessibleName(u"Tipologie Attrezzatura"_s);
     m_pages->addWidget(m_list);
     m_pages->addWidget(m_empty);
 
     auto* header = new QHBoxLayout;
     header->setSpacing(metrics::spaceM);
-    header->addWidget(new InkLabel(TextStyle::Headline, &Tokens::text, QStringLiteral("Tipologie Attrezzatura")), 1);
+    header->addWidget(new InkLabel(TextStyle::Headline, &Tokens::text, u"Tipologie Attrezzatura"_s), 1);
     header->addWidget(m_search);
     header->addWidget(m_add);
     auto* footer = new QHBoxLayout;
@@ -104,7 +105,7 @@ void EquipmentTypeManagementView::redraw()
     const QList<EquipmentTypeModel> shown = filteredTypes();
     const bool focusWasInTheList = m_list->isAncestorOf(focusWidget());
     m_list->setTypes(shown);
-    m_empty->setButtonText(m_search->text().isEmpty() ? QString() : QStringLiteral("Cancella ricerca"));
+    m_empty->setButtonText(m_search->text().isEmpty() ? QString() : u"Cancella ricerca"_s);
     m_pages->setCurrentWidget(shown.isEmpty() ? static_cast<QWidget*>(m_empty) : m_list);
     if (shown.isEmpty() && focusWasInTheList)
         m_search->setFocus(Qt::OtherFocusReason);
@@ -112,7 +113,7 @@ void EquipmentTypeManagementView::redraw()
     const QList<EquipmentTypeModel>& all = m_context.types.types();
     const auto active =
         std::count_if(all.begin(), all.end(), [](const EquipmentTypeModel& type) { return type.isActive; });
-    m_count->setText(QStringLiteral("%1 tipologie attive").arg(active));
+    m_count->setText(u"%1 tipologie attive"_s.arg(active));
 }
 
 void EquipmentTypeManagementView::openForm(const std::optional<EquipmentTypeModel>& selectedType)
@@ -126,7 +127,7 @@ void EquipmentTypeManagementView::confirmDeletion(const EquipmentTypeModel& type
 {
     auto* alert = new Alert(this);
     alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setTitle(QStringLiteral("Conferma Eliminazione"));
+    alert->setTitle(u"Conferma Eliminazione"_s);
     alert->setMessage(deletionQuestion(typeToDelete));
     connect(alert, &QDialog::accepted, this, [this, typeToDelete] { m_context.types.deleteType(typeToDelete); });
     alert->open();
@@ -134,8 +135,8 @@ void EquipmentTypeManagementView::confirmDeletion(const EquipmentTypeModel& type
 
 QString EquipmentTypeManagementView::deletionQuestion(const std::optional<EquipmentTypeModel>& typeToDelete)
 {
-    return typeToDelete ? QStringLiteral("Sei sicuro di voler eliminare la tipologia '%1'?").arg(typeToDelete->name)
-                        : QStringLiteral("Sei sicuro di voler eliminare questa tipologia?");
+    return typeToDelete ? u"Sei sicuro di voler eliminare la tipologia '%1'?"_s.arg(typeToDelete->name)
+                        : u"Sei sicuro di voler eliminare questa tipologia?"_s;
 }
 
 } // namespace abissora

@@ -3,6 +3,7 @@
 
 #include "IconFilter.h"
 #include "IconGrid.h"
+#include "Literals.h"
 #include "SearchField.h"
 
 #include <QVBoxLayout>
@@ -10,14 +11,14 @@
 namespace abissora {
 
 IconPicker::IconPicker(QWidget* parent)
-    : GroupBox(QStringLiteral("Selezione Icona"), {}, parent)
-    , m_search(new SearchField(QStringLiteral("Cerca icona...")))
+    : GroupBox(u"Selezione Icona"_s, {}, parent)
+    , m_search(new SearchField(u"Cerca icona..."_s))
     , m_grid(new IconGrid)
-    , m_nothing(new InkLabel(TextStyle::Body, &Tokens::secondaryText, QStringLiteral("Nessuna icona trovata")))
+    , m_nothing(new InkLabel(TextStyle::Body, &Tokens::secondaryText, u"Nessuna icona trovata"_s))
 {
     m_grid->setAccessibleName(title());
-    m_search->setObjectName(QStringLiteral("iconSearch"));
-    m_nothing->setObjectName(QStringLiteral("noIcon"));
+    m_search->setObjectName(u"iconSearch"_s);
+    m_nothing->setObjectName(u"noIcon"_s);
     m_nothing->setAlignment(Qt::AlignCenter);
     m_nothing->hide();
     content()->addWidget(m_search);

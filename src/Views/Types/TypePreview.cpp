@@ -2,6 +2,7 @@
 #include "TypePreview.h"
 
 #include "IconTile.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
@@ -23,11 +24,11 @@ TypePreview::TypePreview(QWidget* parent)
     , m_name(new WrapLabel(TextStyle::BodyMedium, &Tokens::text))
     , m_interval(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText))
 {
-    auto* title = new WrapLabel(TextStyle::Headline, &Tokens::text, QStringLiteral("Anteprima"));
+    auto* title = new WrapLabel(TextStyle::Headline, &Tokens::text, u"Anteprima"_s);
     setAccessibleName(title->text());
-    m_tile->setObjectName(QStringLiteral("previewTile"));
-    m_name->setObjectName(QStringLiteral("previewName"));
-    m_interval->setObjectName(QStringLiteral("previewInterval"));
+    m_tile->setObjectName(u"previewTile"_s);
+    m_name->setObjectName(u"previewName"_s);
+    m_interval->setObjectName(u"previewInterval"_s);
     for (WrapLabel* label : {title, m_name, m_interval})
         label->setAlignment(Qt::AlignCenter);
     content()->addWidget(title);
@@ -44,7 +45,7 @@ void TypePreview::setType(const EquipmentTypeModel& type)
     const TypeAppearance look = appearanceOf(type);
     m_tile->setIcon(typeIcon(look.icon, look.color), look.color);
     m_name->setText(type.name);
-    m_interval->setText(QStringLiteral("%1 giorni").arg(type.serviceIntervalDays));
+    m_interval->setText(u"%1 giorni"_s.arg(type.serviceIntervalDays));
 }
 
 } // namespace abissora

@@ -3,6 +3,7 @@
 
 #include "Buttons.h"
 #include "IconTile.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
@@ -26,16 +27,16 @@ TypeRow::TypeRow(QWidget* parent)
     , m_tile(new IconTile(tileSide))
     , m_name(new WrapLabel(TextStyle::BodyMedium, &Tokens::text))
     , m_interval(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText))
-    , m_edit(new LookButton(ButtonLook::Link, QStringLiteral("Modifica"), nullptr))
-    , m_delete(new LookButton(ButtonLook::DestructiveLink, QStringLiteral("Elimina"), nullptr))
+    , m_edit(new LookButton(ButtonLook::Link, u"Modifica"_s, nullptr))
+    , m_delete(new LookButton(ButtonLook::DestructiveLink, u"Elimina"_s, nullptr))
 {
     provideTypesAccessibility();
-    m_name->setObjectName(QStringLiteral("typeName"));
-    m_interval->setObjectName(QStringLiteral("typeInterval"));
-    m_edit->setObjectName(QStringLiteral("editType"));
-    m_edit->setSymbol(QStringLiteral("pencil.circle.fill"));
-    m_delete->setObjectName(QStringLiteral("deleteType"));
-    m_delete->setSymbol(QStringLiteral("trash.circle.fill"));
+    m_name->setObjectName(u"typeName"_s);
+    m_interval->setObjectName(u"typeInterval"_s);
+    m_edit->setObjectName(u"editType"_s);
+    m_edit->setSymbol(u"pencil.circle.fill"_s);
+    m_delete->setObjectName(u"deleteType"_s);
+    m_delete->setSymbol(u"trash.circle.fill"_s);
 
     auto* texts = new QVBoxLayout;
     texts->setSpacing(metrics::spaceXS / 2);
@@ -58,7 +59,7 @@ void TypeRow::setType(const EquipmentTypeModel& type)
     const TypeAppearance look = appearanceOf(type);
     m_tile->setIcon(typeIcon(look.icon, look.color), look.color);
     m_name->setText(type.name);
-    m_interval->setText(QStringLiteral("Intervallo: %1 giorni").arg(type.serviceIntervalDays));
+    m_interval->setText(u"Intervallo: %1 giorni"_s.arg(type.serviceIntervalDays));
     setAccessibleName(type.name);
     for (LookButton* button : {m_edit, m_delete})
         button->setAccessibleDescription(type.name);
@@ -76,7 +77,7 @@ bool TypeRow::showsInOneLine(const QString& name, int width) const
     int room = width - margins.left() - margins.right();
     for (const QWidget* beside : std::initializer_list<const QWidget*>{m_tile, m_edit, m_delete})
         room -= beside->sizeHint().width() + layout()->spacing();
-    return !name.contains(QLatin1Char('\n')) && m_name->fontMetrics().horizontalAdvance(name) < room;
+    return !name.contains(u'\n') && m_name->fontMetrics().horizontalAdvance(name) < room;
 }
 
 void TypeRow::paintEvent(QPaintEvent*)

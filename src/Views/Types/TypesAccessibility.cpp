@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TypesAccessibility.h"
 
+#include "Literals.h"
+
 #include <QAbstractButton>
 #include <QAccessibleWidget>
 #include <QHash>
@@ -50,12 +52,12 @@ private:
 QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 {
     static const QHash<QString, QAccessible::Role> roles{
-        {QStringLiteral("abissora::ColorChoice"), QAccessible::Grouping},
-        {QStringLiteral("abissora::IconGrid"), QAccessible::Grouping},
-        {QStringLiteral("abissora::TypeList"), QAccessible::List},
-        {QStringLiteral("abissora::TypeRow"), QAccessible::ListItem},
+        {u"abissora::ColorChoice"_s, QAccessible::Grouping},
+        {u"abissora::IconGrid"_s, QAccessible::Grouping},
+        {u"abissora::TypeList"_s, QAccessible::List},
+        {u"abissora::TypeRow"_s, QAccessible::ListItem},
     };
-    if (className == QLatin1String("abissora::DivingIconButton"))
+    if (className == "abissora::DivingIconButton"_L1)
         return std::make_unique<IconInterface>(static_cast<QAbstractButton*>(object)).release();
     const auto role = roles.constFind(className);
     auto* const widget = qobject_cast<QWidget*>(object);

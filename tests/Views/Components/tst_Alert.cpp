@@ -3,6 +3,7 @@
 #include "Buttons.h"
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
+#include "Literals.h"
 
 #include <QSignalSpy>
 
@@ -38,8 +39,8 @@ void tst_Alert::init()
     m_window->setGeometry(50, 50, 1000, 700);
     activate(*m_window);
     m_alert = std::make_unique<Alert>(m_window.get());
-    m_alert->setTitle(QStringLiteral("Conferma Eliminazione"));
-    m_alert->setMessage(QStringLiteral("Sei sicuro di voler eliminare l'attrezzatura 'GAV'?"));
+    m_alert->setTitle(u"Conferma Eliminazione"_s);
+    m_alert->setMessage(u"Sei sicuro di voler eliminare l'attrezzatura 'GAV'?"_s);
 }
 
 void tst_Alert::cleanup()
@@ -100,7 +101,7 @@ void tst_Alert::aNoticeHasOneButton()
     m_alert->makeNotice();
     m_alert->open();
     QVERIFY(!m_alert->destructiveButton()->isVisible());
-    QCOMPARE(m_alert->safeButton()->text(), QStringLiteral("OK"));
+    QCOMPARE(m_alert->safeButton()->text(), u"OK"_s);
     QTest::mouseClick(m_alert->safeButton(), Qt::LeftButton);
     QVERIFY(!m_alert->isVisible());
 }
@@ -108,24 +109,22 @@ void tst_Alert::aNoticeHasOneButton()
 void tst_Alert::itIsReadAsAnAlert()
 {
     QCOMPARE(roleOf(*m_alert), QAccessible::AlertMessage);
-    QCOMPARE(nameOf(*m_alert), QStringLiteral("Conferma Eliminazione"));
+    QCOMPARE(nameOf(*m_alert), u"Conferma Eliminazione"_s);
     QCOMPARE(QAccessible::queryAccessibleInterface(m_alert.get())->text(QAccessible::Description), m_alert->message());
 }
 
 void tst_Alert::aLongMessageFits_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("words") << QStringLiteral("Computer Suunto EON Core ").repeated(6);
-    QTest::newRow("one word") << QStringLiteral("Computer").repeated(20);
+    QTest::newRow("words") << u"Computer Suunto EON Core "_s.repeated(6);
+    QTest::newRow("one word") << u"Computer"_s.repeated(20);
 }
 
 void tst_Alert::aLongMessageFits()
 {
     QFETCH(QString, name);
-    m_alert->setMessage(
-        QStringLiteral("Sei sicuro di voler eliminare l'attrezzatura '%1'? Questa azione non può essere "
-                       "annullata.")
-            .arg(name));
+    m_alert->setMessage(u"Sei sicuro di voler eliminare l'attrezzatura '%1'? Questa azione non può essere "
+                        "annullata."_s.arg(name));
     m_alert->open();
     QCoreApplication::processEvents();
     QCOMPARE(test::clippedTexts(*m_alert), QStringList());
@@ -134,7 +133,7 @@ void tst_Alert::aLongMessageFits()
 
 void tst_Alert::anEndlessMessageLeavesTheButtonsInTheirPlace()
 {
-    m_alert->setMessage(QStringLiteral("Computer ").repeated(2000));
+    m_alert->setMessage(u"Computer "_s.repeated(2000));
     m_alert->open();
     QCoreApplication::processEvents();
     QVERIFY(m_window->geometry().contains(m_alert->geometry()));

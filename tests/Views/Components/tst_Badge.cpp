@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Badge.h"
 #include "ComponentTest.h"
+#include "Literals.h"
 
 using namespace abissora;
 
@@ -32,7 +33,7 @@ void tst_Badge::itIsReadAsItsCount()
     Badge badge(&window);
     badge.setCount(12);
     QCOMPARE(roleOf(badge), QAccessible::StaticText);
-    QCOMPARE(nameOf(badge), QStringLiteral("12"));
+    QCOMPARE(nameOf(badge), u"12"_s);
 }
 
 void tst_Badge::itIsRoundForOneDigitAndWiderForMore()
@@ -42,7 +43,7 @@ void tst_Badge::itIsRoundForOneDigitAndWiderForMore()
     badge.setCount(3);
     QCOMPARE(badge.sizeHint().width(), badge.sizeHint().height());
     badge.setCount(1234);
-    QVERIFY(badge.sizeHint().width() > badge.fontMetrics().horizontalAdvance(QStringLiteral("1234")));
+    QVERIFY(badge.sizeHint().width() > badge.fontMetrics().horizontalAdvance(u"1234"_s));
 }
 
 ABISSORA_TEST(tst_Badge);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Buttons.h"
 #include "ComponentTest.h"
+#include "Literals.h"
 #include "SymbolIcon.h"
 
 #include <QSignalSpy>
@@ -30,7 +31,7 @@ void tst_Buttons::everyKindHasItsLook()
 
 void tst_Buttons::aButtonIsPressedByMouseAndSpace()
 {
-    PrimaryButton button(QStringLiteral("Salva"));
+    PrimaryButton button(u"Salva"_s);
     activate(button);
     const QSignalSpy clicked(&button, &QAbstractButton::clicked);
     QTest::mouseClick(&button, Qt::LeftButton);
@@ -42,7 +43,7 @@ void tst_Buttons::aButtonIsPressedByMouseAndSpace()
     QTest::mouseClick(&button, Qt::LeftButton);
     QCOMPARE(clicked.size(), 2);
     QCOMPARE(roleOf(button), QAccessible::Button);
-    QCOMPARE(nameOf(button), QStringLiteral("Salva"));
+    QCOMPARE(nameOf(button), u"Salva"_s);
 }
 
 void tst_Buttons::theFocusMakesNoButtonTheDefault()
@@ -53,14 +54,14 @@ void tst_Buttons::theFocusMakesNoButtonTheDefault()
 
 void tst_Buttons::anIconButtonHasANameAndAToolTip()
 {
-    IconButton button(symbolIcon(QStringLiteral("xmark")), QStringLiteral("Chiudi"));
-    QCOMPARE(nameOf(button), QStringLiteral("Chiudi"));
-    QCOMPARE(button.toolTip(), QStringLiteral("Chiudi"));
+    IconButton button(symbolIcon(u"xmark"_s), u"Chiudi"_s);
+    QCOMPARE(nameOf(button), u"Chiudi"_s);
+    QCOMPARE(button.toolTip(), u"Chiudi"_s);
 }
 
 void tst_Buttons::anIconButtonTakesTheFocusByTab()
 {
-    const IconButton button(symbolIcon(QStringLiteral("xmark")), QStringLiteral("Chiudi"));
+    const IconButton button(symbolIcon(u"xmark"_s), u"Chiudi"_s);
     QVERIFY(button.focusPolicy() & Qt::TabFocus);
 }
 

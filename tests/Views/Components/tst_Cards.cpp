@@ -5,6 +5,7 @@
 #include "IconLabel.h"
 #include "IconTile.h"
 #include "IconView.h"
+#include "Literals.h"
 #include "Separator.h"
 #include "SymbolIcon.h"
 
@@ -49,28 +50,28 @@ void tst_Cards::aCardFollowsTheScheme()
 
 void tst_Cards::aGroupBoxIsNamedAfterItsTitle()
 {
-    GroupBox box(QStringLiteral("Notifiche"), QStringLiteral("bell"));
+    GroupBox box(u"Notifiche"_s, u"bell"_s);
     QCOMPARE(roleOf(box), QAccessible::Grouping);
-    QCOMPARE(nameOf(box), QStringLiteral("Notifiche"));
-    box.setTitle(QStringLiteral("Aspetto"));
-    QCOMPARE(nameOf(box), QStringLiteral("Aspetto"));
-    QCOMPARE(box.title(), QStringLiteral("Aspetto"));
+    QCOMPARE(nameOf(box), u"Notifiche"_s);
+    box.setTitle(u"Aspetto"_s);
+    QCOMPARE(nameOf(box), u"Aspetto"_s);
+    QCOMPARE(box.title(), u"Aspetto"_s);
 }
 
 void tst_Cards::anIconLabelLeavesRoomForItsIcon()
 {
-    IconLabel label({}, QStringLiteral("Attivo"));
+    IconLabel label({}, u"Attivo"_s);
     const int plain = label.sizeHint().width();
-    label.setIcon(symbolIcon(QStringLiteral("checkmark.circle")));
+    label.setIcon(symbolIcon(u"checkmark.circle"_s));
     QVERIFY(label.sizeHint().width() >= plain + 16);
     QVERIFY(label.sizeHint().height() >= 16);
     QCOMPARE(roleOf(label), QAccessible::StaticText);
-    QCOMPARE(nameOf(label), QStringLiteral("Attivo"));
+    QCOMPARE(nameOf(label), u"Attivo"_s);
 }
 
 void tst_Cards::picturesAreReadAsPictures()
 {
-    IconView view(symbolIcon(QStringLiteral("tray")), 44);
+    IconView view(symbolIcon(u"tray"_s), 44);
     QCOMPARE(view.sizeHint(), QSize(44, 44));
     QCOMPARE(roleOf(view), QAccessible::Graphic);
     IconTile tile(56);

@@ -2,6 +2,7 @@
 #include "Chip.h"
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
+#include "Literals.h"
 
 #include <QLabel>
 #include <QSignalSpy>
@@ -24,7 +25,7 @@ private Q_SLOTS:
 void tst_Chip::theMarkClears()
 {
     Chip chip;
-    chip.setText(QStringLiteral("Filtro: GAV"));
+    chip.setText(u"Filtro: GAV"_s);
     activate(chip);
     const QSignalSpy cleared(&chip, &Chip::clearClicked);
     QTest::mouseClick(chip.findChild<QToolButton*>(), Qt::LeftButton);
@@ -46,30 +47,30 @@ void tst_Chip::theMarkIsReachedByTheKeyboard()
 void tst_Chip::itIsNamedAfterItsText()
 {
     Chip chip;
-    chip.setText(QStringLiteral("Filtro: GAV"));
+    chip.setText(u"Filtro: GAV"_s);
     QCOMPARE(roleOf(chip), QAccessible::Grouping);
-    QCOMPARE(nameOf(chip), QStringLiteral("Filtro: GAV"));
+    QCOMPARE(nameOf(chip), u"Filtro: GAV"_s);
     auto& mark = *chip.findChild<QToolButton*>();
-    QCOMPARE(nameOf(mark), QStringLiteral("Cancella filtri"));
-    chip.setClearName(QStringLiteral("Mostra tutti"));
-    QCOMPARE(nameOf(mark), QStringLiteral("Mostra tutti"));
-    QCOMPARE(mark.toolTip(), QStringLiteral("Mostra tutti"));
+    QCOMPARE(nameOf(mark), u"Cancella filtri"_s);
+    chip.setClearName(u"Mostra tutti"_s);
+    QCOMPARE(nameOf(mark), u"Mostra tutti"_s);
+    QCOMPARE(mark.toolTip(), u"Mostra tutti"_s);
 }
 
 void tst_Chip::itsToolTipTakesNothingForMarkup()
 {
     Chip chip;
     const auto* const text = chip.findChild<QLabel*>();
-    chip.setText(QStringLiteral("Filtro: <b>GAV</b>"));
-    QCOMPARE(text->toolTip(), QStringLiteral("<p>Filtro: &lt;b&gt;GAV&lt;/b&gt;</p>"));
-    chip.setText(QStringLiteral("Filtro: A & B < C"));
-    QCOMPARE(text->toolTip(), QStringLiteral("Filtro: A & B < C"));
+    chip.setText(u"Filtro: <b>GAV</b>"_s);
+    QCOMPARE(text->toolTip(), u"<p>Filtro: &lt;b&gt;GAV&lt;/b&gt;</p>"_s);
+    chip.setText(u"Filtro: A & B < C"_s);
+    QCOMPARE(text->toolTip(), u"Filtro: A & B < C"_s);
 }
 
 void tst_Chip::nothingIsClipped()
 {
     Chip chip;
-    chip.setText(QStringLiteral("Filtro: Computer Subacqueo"));
+    chip.setText(u"Filtro: Computer Subacqueo"_s);
     activate(chip);
     QCOMPARE(test::clippedTexts(chip), QStringList());
 }

@@ -3,6 +3,7 @@
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
 #include "EmptyState.h"
+#include "Literals.h"
 
 #include <QSignalSpy>
 
@@ -21,10 +22,10 @@ private Q_SLOTS:
 
 void tst_EmptyState::theButtonIsThereOnceItHasAText()
 {
-    EmptyState state(QStringLiteral("tray"), QStringLiteral("Nessuna attrezzatura trovata"));
+    EmptyState state(u"tray"_s, u"Nessuna attrezzatura trovata"_s);
     activate(state);
     QVERIFY(!state.button()->isVisible());
-    state.setButtonText(QStringLiteral("Cancella filtri"));
+    state.setButtonText(u"Cancella filtri"_s);
     QVERIFY(state.button()->isVisible());
     state.setButtonText({});
     QVERIFY(!state.button()->isVisible());
@@ -33,7 +34,7 @@ void tst_EmptyState::theButtonIsThereOnceItHasAText()
 void tst_EmptyState::theButtonIsPressed()
 {
     EmptyState state;
-    state.setButtonText(QStringLiteral("Cancella filtri"));
+    state.setButtonText(u"Cancella filtri"_s);
     activate(state);
     const QSignalSpy clicked(&state, &EmptyState::buttonClicked);
     QTest::mouseClick(state.button(), Qt::LeftButton);
@@ -42,16 +43,16 @@ void tst_EmptyState::theButtonIsPressed()
 
 void tst_EmptyState::itIsNamedAfterItsTitle()
 {
-    EmptyState state(QStringLiteral("tray"), QStringLiteral("Nessuna attrezzatura trovata"));
+    EmptyState state(u"tray"_s, u"Nessuna attrezzatura trovata"_s);
     QCOMPARE(roleOf(state), QAccessible::Grouping);
-    QCOMPARE(nameOf(state), QStringLiteral("Nessuna attrezzatura trovata"));
+    QCOMPARE(nameOf(state), u"Nessuna attrezzatura trovata"_s);
 }
 
 void tst_EmptyState::longTextsWrap()
 {
-    EmptyState state(QStringLiteral("tray"), QStringLiteral("Nessuna attrezzatura trovata"));
-    state.setText(QStringLiteral("Aggiungi il primo articolo del registro, poi le sue manutenzioni"));
-    state.setButtonText(QStringLiteral("Aggiungi la prima attrezzatura"));
+    EmptyState state(u"tray"_s, u"Nessuna attrezzatura trovata"_s);
+    state.setText(u"Aggiungi il primo articolo del registro, poi le sue manutenzioni"_s);
+    state.setButtonText(u"Aggiungi la prima attrezzatura"_s);
     state.resize(300, 400);
     activate(state);
     QCOMPARE(test::clippedTexts(state), QStringList());

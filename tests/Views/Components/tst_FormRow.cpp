@@ -3,6 +3,7 @@
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
 #include "FormRow.h"
+#include "Literals.h"
 #include "ScaledText.h"
 #include "Stepper.h"
 
@@ -28,11 +29,11 @@ private Q_SLOTS:
 void tst_FormRow::theLabelNamesTheField()
 {
     auto* const line = new QLineEdit;
-    const FormRow row(QStringLiteral("Nome*"), line);
-    QCOMPARE(nameOf(*line), QStringLiteral("Nome*"));
+    const FormRow row(u"Nome*"_s, line);
+    QCOMPARE(nameOf(*line), u"Nome*"_s);
     auto* const stepper = new Stepper;
-    const FormRow other(QStringLiteral("Giorni & mesi"), stepper);
-    QCOMPARE(nameOf(*stepper), QStringLiteral("Giorni & mesi"));
+    const FormRow other(u"Giorni & mesi"_s, stepper);
+    QCOMPARE(nameOf(*stepper), u"Giorni & mesi"_s);
 }
 
 void tst_FormRow::fieldsOfAFormStandInOneColumn()
@@ -41,8 +42,8 @@ void tst_FormRow::fieldsOfAFormStandInOneColumn()
     auto* const layout = new QVBoxLayout(&form);
     auto* const first = new QLineEdit;
     auto* const second = new QLineEdit;
-    layout->addWidget(new FormRow(QStringLiteral("Nome*"), first));
-    layout->addWidget(new FormRow(QStringLiteral("Numero Seriale"), second));
+    layout->addWidget(new FormRow(u"Nome*"_s, first));
+    layout->addWidget(new FormRow(u"Numero Seriale"_s, second));
     form.resize(520, 120);
     activate(form);
     const auto left = [&](const QWidget* field) { return field->mapTo(&form, QPoint()).x(); };
@@ -54,7 +55,7 @@ void tst_FormRow::aShortFieldKeepsItsWidth()
 {
     auto* const line = new QLineEdit;
     line->setFixedWidth(170);
-    FormRow row(QStringLiteral("Data Acquisto"), line);
+    FormRow row(u"Data Acquisto"_s, line);
     row.resize(520, 30);
     activate(row);
     QCOMPARE(line->width(), 170);
@@ -64,8 +65,8 @@ void tst_FormRow::aShortFieldKeepsItsWidth()
 void tst_FormRow::aHintStandsBelowTheField()
 {
     auto* const line = new QLineEdit;
-    FormRow row(QStringLiteral("Nome*"), line);
-    row.setHint(QStringLiteral("* Campo obbligatorio"));
+    FormRow row(u"Nome*"_s, line);
+    row.setHint(u"* Campo obbligatorio"_s);
     row.resize(520, row.sizeHint().height());
     activate(row);
     const QLabel* const hint = row.findChildren<QLabel*>().last();
@@ -85,17 +86,17 @@ void tst_FormRow::theErrorOfAFieldStandsBelowIt()
         }
     };
     auto* const field = new Field;
-    FormRow row(QStringLiteral("Data"), field);
+    FormRow row(u"Data"_s, field);
     row.resize(520, 30);
     activate(row);
     const int height = row.sizeHint().height();
-    field->setText(QStringLiteral("Data non valida"));
+    field->setText(u"Data non valida"_s);
     QVERIFY(!field->commit());
     QTRY_VERIFY(row.sizeHint().height() > height);
     row.resize(520, row.sizeHint().height());
-    auto* const error = row.findChild<QLabel*>(QStringLiteral("error"));
+    auto* const error = row.findChild<QLabel*>(u"error"_s);
     QVERIFY(error && error->isVisible());
-    QCOMPARE(error->text(), QStringLiteral("Data non valida"));
+    QCOMPARE(error->text(), u"Data non valida"_s);
     QCOMPARE(error->x(), field->x());
     QVERIFY(error->y() > field->geometry().bottom());
     QCOMPARE(test::clippedTexts(row), QStringList());
@@ -107,7 +108,7 @@ void tst_FormRow::theErrorOfAFieldStandsBelowIt()
 void tst_FormRow::largerTextFits()
 {
     const test::ScaledText larger(1.25);
-    FormRow row(QStringLiteral("Intervallo Tagliando"), new QLineEdit);
+    FormRow row(u"Intervallo Tagliando"_s, new QLineEdit);
     row.resize(420, row.sizeHint().height());
     activate(row);
     QCOMPARE(test::clippedTexts(row), QStringList());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ComponentTest.h"
+#include "Literals.h"
 #include "ProgressIndicator.h"
 
 #include <QProxyStyle>
@@ -62,9 +63,9 @@ void tst_ProgressIndicator::itStandsStillWithoutAnimations()
 void tst_ProgressIndicator::itCanBeNamed()
 {
     ProgressIndicator indicator;
-    indicator.setAccessibleName(QStringLiteral("Controllo in corso..."));
+    indicator.setAccessibleName(u"Controllo in corso..."_s);
     QCOMPARE(roleOf(indicator), QAccessible::Animation);
-    QCOMPARE(nameOf(indicator), QStringLiteral("Controllo in corso..."));
+    QCOMPARE(nameOf(indicator), u"Controllo in corso..."_s);
 }
 
 ABISSORA_TEST(tst_ProgressIndicator);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ComponentTest.h"
+#include "Literals.h"
 #include "SearchField.h"
 
 #include <QAction>
@@ -24,7 +25,7 @@ private:
     static QToolButton* clearMark(const SearchField& field)
     {
         for (QToolButton* button : field.findChildren<QToolButton*>()) {
-            if (button->defaultAction() == field.findChild<QAction*>(QStringLiteral("clear")))
+            if (button->defaultAction() == field.findChild<QAction*>(u"clear"_s))
                 return button;
         }
         return nullptr;
@@ -33,29 +34,29 @@ private:
 
 void tst_SearchField::everyKeystrokeIsOneEdit()
 {
-    SearchField field(QStringLiteral("Cerca attrezzatura..."));
+    SearchField field(u"Cerca attrezzatura..."_s);
     activate(field);
     field.setFocus();
     const QSignalSpy edited(&field, &QLineEdit::textEdited);
-    QTest::keyClicks(&field, QStringLiteral("gav"));
+    QTest::keyClicks(&field, u"gav"_s);
     QCOMPARE(edited.size(), 3);
-    QCOMPARE(edited.last().first().toString(), QStringLiteral("gav"));
+    QCOMPARE(edited.last().first().toString(), u"gav"_s);
 }
 
 void tst_SearchField::theProgramsTextIsNoEdit()
 {
-    SearchField field(QStringLiteral("Cerca"));
+    SearchField field(u"Cerca"_s);
     const QSignalSpy edited(&field, &QLineEdit::textEdited);
-    field.setText(QStringLiteral("gav"));
+    field.setText(u"gav"_s);
     field.setText({});
     QCOMPARE(edited.size(), 0);
 }
 
 void tst_SearchField::theClearMarkEmptiesTheFieldOnce()
 {
-    SearchField field(QStringLiteral("Cerca"));
+    SearchField field(u"Cerca"_s);
     field.resize(240, field.sizeHint().height());
-    field.setText(QStringLiteral("gav"));
+    field.setText(u"gav"_s);
     activate(field);
     const QSignalSpy edited(&field, &QLineEdit::textEdited);
     QToolButton* const mark = clearMark(field);
@@ -70,10 +71,10 @@ void tst_SearchField::theClearMarkEmptiesTheFieldOnce()
 
 void tst_SearchField::theClearMarkIsThereOnlyForAText()
 {
-    SearchField field(QStringLiteral("Cerca"));
+    SearchField field(u"Cerca"_s);
     activate(field);
     QVERIFY(!clearMark(field)->isVisible());
-    field.setText(QStringLiteral("gav"));
+    field.setText(u"gav"_s);
     QTRY_VERIFY(clearMark(field)->isVisible());
     field.setText({});
     QTRY_VERIFY(!clearMark(field)->isVisible());
@@ -82,8 +83,8 @@ void tst_SearchField::theClearMarkIsThereOnlyForAText()
 void tst_SearchField::escapeClearsAndThenGoesOn()
 {
     QWidget window;
-    SearchField field(QStringLiteral("Cerca"), &window);
-    field.setText(QStringLiteral("gav"));
+    SearchField field(u"Cerca"_s, &window);
+    field.setText(u"gav"_s);
     activate(window);
     field.setFocus();
     const QSignalSpy edited(&field, &QLineEdit::textEdited);
@@ -99,11 +100,11 @@ void tst_SearchField::escapeClearsAndThenGoesOn()
 
 void tst_SearchField::itIsReadAsAFieldWithAName()
 {
-    SearchField field(QStringLiteral("Cerca attrezzatura..."));
+    SearchField field(u"Cerca attrezzatura..."_s);
     QCOMPARE(roleOf(field), QAccessible::EditableText);
-    QCOMPARE(nameOf(field), QStringLiteral("Cerca attrezzatura..."));
-    QCOMPARE(nameOf(*clearMark(field)), QStringLiteral("Cancella la ricerca"));
-    QCOMPARE(clearMark(field)->toolTip(), QStringLiteral("Cancella la ricerca"));
+    QCOMPARE(nameOf(field), u"Cerca attrezzatura..."_s);
+    QCOMPARE(nameOf(*clearMark(field)), u"Cancella la ricerca"_s);
+    QCOMPARE(clearMark(field)->toolTip(), u"Cancella la ricerca"_s);
 }
 
 ABISSORA_TEST(tst_SearchField);

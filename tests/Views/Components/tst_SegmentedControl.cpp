@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ComponentTest.h"
+#include "Literals.h"
 #include "SegmentedControl.h"
 
 #include <QAbstractButton>
@@ -34,9 +35,9 @@ private:
 std::unique_ptr<SegmentedControl> tst_SegmentedControl::intervals(SegmentedControl::Purpose purpose)
 {
     auto control = std::make_unique<SegmentedControl>(purpose);
-    control->addSegment(QStringLiteral("6 Mesi"));
-    control->addSegment(QStringLiteral("1 Anno"));
-    control->addSegment(QStringLiteral("2 Anni"));
+    control->addSegment(u"6 Mesi"_s);
+    control->addSegment(u"1 Anno"_s);
+    control->addSegment(u"2 Anni"_s);
     return control;
 }
 
@@ -124,7 +125,7 @@ void tst_SegmentedControl::tabsAreReadAsTabs()
     control->setCurrentIndex(1);
     QCOMPARE(roleOf(*control), QAccessible::PageTabList);
     QCOMPARE(roleOf(*segment(*control, 1)), QAccessible::PageTab);
-    QCOMPARE(nameOf(*segment(*control, 1)), QStringLiteral("1 Anno"));
+    QCOMPARE(nameOf(*segment(*control, 1)), u"1 Anno"_s);
     QVERIFY(QAccessible::queryAccessibleInterface(segment(*control, 1))->state().selected);
     QVERIFY(!QAccessible::queryAccessibleInterface(segment(*control, 0))->state().selected);
 }

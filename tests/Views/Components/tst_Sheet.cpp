@@ -4,6 +4,7 @@
 #include "ComponentTest.h"
 #include "FormRow.h"
 #include "GroupBox.h"
+#include "Literals.h"
 #include "Scrim.h"
 #include "Sheet.h"
 
@@ -55,12 +56,12 @@ void tst_Sheet::init()
     activate(*m_window);
     m_opener->setFocus();
 
-    m_sheet = std::make_unique<Sheet>(QStringLiteral("Nuova Attrezzatura"), m_window.get());
-    m_sheet->setPrimaryText(QStringLiteral("Salva"));
-    auto* const group = new GroupBox(QStringLiteral("Informazioni Generali"));
+    m_sheet = std::make_unique<Sheet>(u"Nuova Attrezzatura"_s, m_window.get());
+    m_sheet->setPrimaryText(u"Salva"_s);
+    auto* const group = new GroupBox(u"Informazioni Generali"_s);
     m_first = new QLineEdit;
     m_notes = new QPlainTextEdit;
-    group->content()->addWidget(new FormRow(QStringLiteral("Nome*"), m_first));
+    group->content()->addWidget(new FormRow(u"Nome*"_s, m_first));
     group->content()->addWidget(m_notes);
     m_sheet->body()->addWidget(group);
 }
@@ -76,7 +77,7 @@ void tst_Sheet::itIsAModalDialogNamedAfterItsTitle()
     m_sheet->open();
     QCOMPARE(m_sheet->windowModality(), Qt::WindowModal);
     QCOMPARE(roleOf(*m_sheet), QAccessible::Dialog);
-    QCOMPARE(nameOf(*m_sheet), QStringLiteral("Nuova Attrezzatura"));
+    QCOMPARE(nameOf(*m_sheet), u"Nuova Attrezzatura"_s);
 }
 
 void tst_Sheet::escapeAndTheButtonCancel()
@@ -205,7 +206,7 @@ void tst_Sheet::aTallBodyScrolls()
 
 void tst_Sheet::theHeaderIsNotClipped()
 {
-    m_sheet->setTitle(QStringLiteral("Modifica Attrezzatura"));
+    m_sheet->setTitle(u"Modifica Attrezzatura"_s);
     m_sheet->open();
     QCoreApplication::processEvents();
     QCOMPARE(test::clippedTexts(*m_sheet), QStringList());

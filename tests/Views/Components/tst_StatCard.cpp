@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ComponentTest.h"
+#include "Literals.h"
 #include "StatCard.h"
 #include "TypeScale.h"
 
@@ -17,28 +18,28 @@ private Q_SLOTS:
 
 void tst_StatCard::itIsOneObjectThatReadsTitleAndValue()
 {
-    StatCard card(QStringLiteral("Totale Articoli"), QStringLiteral("folder.fill"), NamedColor::blue);
-    card.setValue(QStringLiteral("7"));
+    StatCard card(u"Totale Articoli"_s, u"folder.fill"_s, NamedColor::blue);
+    card.setValue(u"7"_s);
     QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(&card);
     QCOMPARE(read->role(), QAccessible::StaticText);
-    QCOMPARE(read->text(QAccessible::Name), QStringLiteral("Totale Articoli: 7"));
+    QCOMPARE(read->text(QAccessible::Name), u"Totale Articoli: 7"_s);
     QCOMPARE(read->childCount(), 0);
-    card.setValue(QStringLiteral("8"));
-    QCOMPARE(read->text(QAccessible::Name), QStringLiteral("Totale Articoli: 8"));
+    card.setValue(u"8"_s);
+    QCOMPARE(read->text(QAccessible::Name), u"Totale Articoli: 8"_s);
 }
 
 void tst_StatCard::digitsAreEquallyWide()
 {
-    StatCard card({}, QStringLiteral("folder.fill"), NamedColor::blue);
-    card.setValue(QStringLiteral("1111"));
+    StatCard card({}, u"folder.fill"_s, NamedColor::blue);
+    card.setValue(u"1111"_s);
     const int narrow = card.sizeHint().width();
-    card.setValue(QStringLiteral("8888"));
+    card.setValue(u"8888"_s);
     QCOMPARE(card.sizeHint().width(), narrow);
 }
 
 void tst_StatCard::titleAndValueFit()
 {
-    const StatCard card(QStringLiteral("Manutenzioni Scadute"), QStringLiteral("folder.fill"), NamedColor::red);
+    const StatCard card(u"Manutenzioni Scadute"_s, u"folder.fill"_s, NamedColor::red);
     const QFontMetrics caption(font(TextStyle::Caption));
     QVERIFY(card.sizeHint().width() > caption.horizontalAdvance(card.title()));
     QVERIFY(card.sizeHint().height() > caption.height() + QFontMetrics(font(TextStyle::StatisticsValue)).height());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ComponentTest.h"
+#include "Literals.h"
 #include "Stepper.h"
 
 #include <QLineEdit>
@@ -38,7 +39,7 @@ std::unique_ptr<Stepper> tst_Stepper::reminder(qint64 value)
     auto stepper = std::make_unique<Stepper>();
     stepper->setRange(7, 90);
     stepper->setSingleStep(7);
-    stepper->setSuffix(QStringLiteral(" giorni"));
+    stepper->setSuffix(u" giorni"_s);
     stepper->setValue(value);
     return stepper;
 }
@@ -119,11 +120,11 @@ void tst_Stepper::typedTextChangesNothing()
     activate(*stepper);
     stepper->setFocus();
     const QSignalSpy edited(stepper.get(), &Stepper::edited);
-    QTest::keyClicks(stepper.get(), QStringLiteral("12"));
+    QTest::keyClicks(stepper.get(), u"12"_s);
     QTest::keyClick(stepper.get(), Qt::Key_Backspace);
     stepper->clearFocus();
     QCOMPARE(stepper->value(), 30);
-    QCOMPARE(stepper->text(), QStringLiteral("30 giorni"));
+    QCOMPARE(stepper->text(), u"30 giorni"_s);
     QCOMPARE(edited.size(), 0);
 }
 
@@ -141,7 +142,7 @@ void tst_Stepper::aValueOutsideTheRangeIsShownAsItIs()
 {
     const auto stepper = reminder(400);
     QCOMPARE(stepper->value(), 400);
-    QCOMPARE(stepper->text(), QStringLiteral("400 giorni"));
+    QCOMPARE(stepper->text(), u"400 giorni"_s);
 }
 
 void tst_Stepper::tabReachesIt()
@@ -172,9 +173,9 @@ void tst_Stepper::theWheelNeedsTheFocus()
 void tst_Stepper::itShowsValueAndUnit()
 {
     const auto stepper = reminder(30);
-    QCOMPARE(stepper->text(), QStringLiteral("30 giorni"));
+    QCOMPARE(stepper->text(), u"30 giorni"_s);
     stepper->stepUp();
-    QCOMPARE(stepper->text(), QStringLiteral("37 giorni"));
+    QCOMPARE(stepper->text(), u"37 giorni"_s);
 }
 
 void tst_Stepper::theWidestValueFits()
@@ -189,11 +190,11 @@ void tst_Stepper::theWidestValueFits()
 void tst_Stepper::itIsReadAsASpinBox()
 {
     const auto stepper = reminder(30);
-    stepper->setAccessibleName(QStringLiteral("Giorni di anticipo"));
+    stepper->setAccessibleName(u"Giorni di anticipo"_s);
     QAccessibleInterface* const read = QAccessible::queryAccessibleInterface(stepper.get());
     QCOMPARE(read->role(), QAccessible::SpinBox);
-    QCOMPARE(read->text(QAccessible::Name), QStringLiteral("Giorni di anticipo"));
-    QCOMPARE(read->text(QAccessible::Value), QStringLiteral("30 giorni"));
+    QCOMPARE(read->text(QAccessible::Name), u"Giorni di anticipo"_s);
+    QCOMPARE(read->text(QAccessible::Value), u"30 giorni"_s);
     QCOMPARE(read->valueInterface()->currentValue().toInt(), 30);
     QCOMPARE(read->valueInterface()->minimumValue().toInt(), 7);
     QCOMPARE(read->valueInterface()->maximumValue().toInt(), 90);

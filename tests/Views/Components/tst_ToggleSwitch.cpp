@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ComponentTest.h"
+#include "Literals.h"
 #include "ToggleSwitch.h"
 
 #include <QSignalSpy>
@@ -22,7 +23,7 @@ private Q_SLOTS:
 
 void tst_ToggleSwitch::aClickAnywhereSwitchesOnce()
 {
-    ToggleSwitch toggle(QStringLiteral("Abilita Notifiche"));
+    ToggleSwitch toggle(u"Abilita Notifiche"_s);
     toggle.resize(400, toggle.sizeHint().height());
     activate(toggle);
     const QSignalSpy clicked(&toggle, &QAbstractButton::clicked);
@@ -71,16 +72,16 @@ void tst_ToggleSwitch::itLooksOnAndOff()
 
 void tst_ToggleSwitch::itIsReadAsACheckBox()
 {
-    ToggleSwitch toggle(QStringLiteral("Modalità Scura"));
+    ToggleSwitch toggle(u"Modalità Scura"_s);
     QCOMPARE(roleOf(toggle), QAccessible::CheckBox);
-    QCOMPARE(nameOf(toggle), QStringLiteral("Modalità Scura"));
+    QCOMPARE(nameOf(toggle), u"Modalità Scura"_s);
     toggle.setChecked(true);
     QVERIFY(QAccessible::queryAccessibleInterface(&toggle)->state().checked);
 }
 
 void tst_ToggleSwitch::theTextFits()
 {
-    const ToggleSwitch toggle(QStringLiteral("Controlla aggiornamenti all'avvio"));
+    const ToggleSwitch toggle(u"Controlla aggiornamenti all'avvio"_s);
     QVERIFY(toggle.sizeHint().width() > toggle.fontMetrics().horizontalAdvance(toggle.text()) + 36);
 }
 

@@ -1,66 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Gui.h"
+#include "Literals.h"
 #include "ScreenFixture.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
 #include <QFile>
-#include <QLabel>
 #include <QLineEdit>
 
 namespace abissora::test {
-
-/// The visible widget of that name; a test that asks for a hidden or missing one ends.
-template <typename Widget = QWidget>
-Widget& part(QWidget& parent, const QString& name)
-{
-    for (Widget* found : parent.findChildren<Widget*>(name)) {
-        if (found->isVisible())
-            return *found;
-    }
-    qFatal("no visible widget called %s", qUtf8Printable(name));
-}
-
-inline bool isShown(const QWidget& parent, const QString& name)
-{
-    const auto found = parent.findChildren<QWidget*>(name);
-    return std::any_of(found.begin(), found.end(), [](const QWidget* widget) { return widget->isVisible(); });
-}
-
-inline void click(QWidget& parent, const QString& name)
-{
-    QTest::mouseClick(&part(parent, name), Qt::LeftButton);
-}
-
-inline QString textOf(QWidget& parent, const QString& name)
-{
-    return part<QLabel>(parent, name).text();
-}
-
-inline void settle()
-{
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-}
-
-/// The dialog that is open over `parent`'s window.
-template <typename Dialog = QDialog>
-Dialog& openDialog(const QWidget& parent)
-{
-    for (Dialog* dialog : parent.window()->findChildren<Dialog*>()) {
-        if (dialog->isVisible())
-            return *dialog;
-    }
-    qFatal("no dialog is open");
-}
-
-inline bool isDialogOpen(const QWidget& parent)
-{
-    const auto dialogs = parent.window()->findChildren<QDialog*>();
-    return std::any_of(dialogs.begin(), dialogs.end(), [](const QDialog* dialog) { return dialog->isVisible(); });
-}
 
 /// A file outside the register, to be picked.
 inline QString writePdf(const ScreenFixture& f, const QString& name)
@@ -86,7 +34,7 @@ inline Maintenance makeRecord(const ScreenFixture& f, int id, int daysAgo, const
     record.date = f.inDays(-daysAgo);
     record.nextServiceDate = f.inDays(365 - daysAgo);
     record.description = description;
-    record.performedBy = QStringLiteral("Blu Service");
+    record.performedBy = u"Blu Service"_s;
     record.isCompleted = true;
     return record;
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "CostField.h"
+#include "Literals.h"
 
 #include "TestRunner.h"
 
@@ -20,13 +21,13 @@ private Q_SLOTS:
         QTest::addColumn<QString>("keys");
         QTest::addColumn<QString>("text");
         QTest::addColumn<double>("cost");
-        QTest::newRow("comma") << QStringLiteral("12,50") << QStringLiteral("12,50") << 12.5;
-        QTest::newRow("full stop") << QStringLiteral("12.50") << QStringLiteral("12.50") << 12.5;
-        QTest::newRow("both") << QStringLiteral("1.234,50") << QStringLiteral("1.234,50") << 1234.5;
-        QTest::newRow("letters are refused") << QStringLiteral("a1b2c") << QStringLiteral("12") << 12.0;
-        QTest::newRow("a sign is refused") << QStringLiteral("-5") << QStringLiteral("5") << 5.0;
-        QTest::newRow("an exponent is refused") << QStringLiteral("1e3") << QStringLiteral("13") << 13.0;
-        QTest::newRow("a second comma is refused") << QStringLiteral("1,5,2") << QStringLiteral("1,52") << 1.52;
+        QTest::newRow("comma") << u"12,50"_s << u"12,50"_s << 12.5;
+        QTest::newRow("full stop") << u"12.50"_s << u"12.50"_s << 12.5;
+        QTest::newRow("both") << u"1.234,50"_s << u"1.234,50"_s << 1234.5;
+        QTest::newRow("letters are refused") << u"a1b2c"_s << u"12"_s << 12.0;
+        QTest::newRow("a sign is refused") << u"-5"_s << u"5"_s << 5.0;
+        QTest::newRow("an exponent is refused") << u"1e3"_s << u"13"_s << 13.0;
+        QTest::newRow("a second comma is refused") << u"1,5,2"_s << u"1,52"_s << 1.52;
     }
 
     void typing()
@@ -69,11 +70,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("pasted");
         QTest::addColumn<QString>("text");
-        QTest::newRow("a number") << QStringLiteral("€ 1.234,50") << QStringLiteral("€ 1.234,50");
-        QTest::newRow("a word") << QStringLiteral("gratis") << QStringLiteral("7,00");
-        QTest::newRow("a number and a word") << QStringLiteral("12 euro") << QStringLiteral("7,00");
-        QTest::newRow("a negative number") << QStringLiteral("-12") << QStringLiteral("7,00");
-        QTest::newRow("an unfinished number") << QStringLiteral("1.234.5") << QStringLiteral("7,00");
+        QTest::newRow("a number") << u"€ 1.234,50"_s << u"€ 1.234,50"_s;
+        QTest::newRow("a word") << u"gratis"_s << u"7,00"_s;
+        QTest::newRow("a number and a word") << u"12 euro"_s << u"7,00"_s;
+        QTest::newRow("a negative number") << u"-12"_s << u"7,00"_s;
+        QTest::newRow("an unfinished number") << u"1.234.5"_s << u"7,00"_s;
     }
 
     void pasting()
@@ -96,23 +97,23 @@ private Q_SLOTS:
         field.activateWindow();
         field.setFocus();
         QTRY_VERIFY(field.hasFocus());
-        QTest::keyClicks(&field, QStringLiteral("1.234.5"));
+        QTest::keyClicks(&field, u"1.234.5"_s);
         QVERIFY(field.error().isEmpty());
         field.clearFocus();
-        QCOMPARE(field.text(), QStringLiteral("1.234.5"));
-        QCOMPARE(field.error(), QStringLiteral("Importo non valido: scrivi un numero, per esempio 45,50"));
+        QCOMPARE(field.text(), u"1.234.5"_s);
+        QCOMPARE(field.error(), u"Importo non valido: scrivi un numero, per esempio 45,50"_s);
         QVERIFY(!field.commit());
-        QTest::keyClicks(&field, QStringLiteral("00"));
+        QTest::keyClicks(&field, u"00"_s);
         QVERIFY(field.error().isEmpty());
     }
 
     void digitsCanBeReplacedOneByOne()
     {
         CostField field;
-        QTest::keyClicks(&field, QStringLiteral("1.234,50"));
+        QTest::keyClicks(&field, u"1.234,50"_s);
         field.setCursorPosition(5);
         QTest::keyClick(&field, Qt::Key_Backspace);
-        QCOMPARE(field.text(), QStringLiteral("1.23,50"));
+        QCOMPARE(field.text(), u"1.23,50"_s);
         QCOMPARE(field.cost(), std::nullopt);
         QTest::keyClick(&field, Qt::Key_9);
         QCOMPARE(field.cost(), std::optional(1239.5));

@@ -2,6 +2,7 @@
 #include "Alert.h"
 #include "DetailParts.h"
 #include "EquipmentDetailView.h"
+#include "Literals.h"
 #include "MaintenanceRow.h"
 #include "TestRunner.h"
 
@@ -19,8 +20,8 @@ struct Shown
 
     explicit Shown(const Names& attach = [](ScreenFixture&, Maintenance&) {})
     {
-        Equipment item = makeItem(1, QStringLiteral("Bombola"), EquipmentType::cylinder, f.inDays(100));
-        Maintenance record = makeRecord(f, 1, 1, QStringLiteral("Collaudo"));
+        Equipment item = makeItem(1, u"Bombola"_s, EquipmentType::cylinder, f.inDays(100));
+        Maintenance record = makeRecord(f, 1, 1, u"Collaudo"_s);
         attach(f, record);
         item.maintenanceHistory = {record};
         id = item.id;
@@ -45,7 +46,7 @@ struct Shown
 
 void attachReceipt(ScreenFixture& f, Maintenance& record)
 {
-    record.receiptFileName = storedDocument(f, QStringLiteral("scontrino.pdf"));
+    record.receiptFileName = storedDocument(f, u"scontrino.pdf"_s);
 }
 
 } // namespace
@@ -59,52 +60,49 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         MaintenanceRow row(f.context);
-        row.setMaintenance(makeRecord(f, 1, 5, QStringLiteral("Revisione")));
-        const QAbstractButton* remove = row.findChild<QAbstractButton*>(QStringLiteral("deleteMaintenance"));
-        QCOMPARE(remove->accessibleDescription(), QStringLiteral("10 giu 2026, Revisione"));
-        row.setMaintenance(makeRecord(f, 2, 6, QStringLiteral("Lavaggio")));
-        QCOMPARE(remove->accessibleDescription(), QStringLiteral("9 giu 2026, Lavaggio"));
+        row.setMaintenance(makeRecord(f, 1, 5, u"Revisione"_s));
+        const QAbstractButton* remove = row.findChild<QAbstractButton*>(u"deleteMaintenance"_s);
+        QCOMPARE(remove->accessibleDescription(), u"10 giu 2026, Revisione"_s);
+        row.setMaintenance(makeRecord(f, 2, 6, u"Lavaggio"_s));
+        QCOMPARE(remove->accessibleDescription(), u"9 giu 2026, Lavaggio"_s);
     }
 
     void withoutDocuments()
     {
         Shown s;
-        QCOMPARE(part<QAbstractButton>(*s.view, QStringLiteral("uploadReceipt")).text(),
-                 QStringLiteral("Carica Scontrino"));
-        QCOMPARE(part<QAbstractButton>(*s.view, QStringLiteral("uploadCertificate")).text(),
-                 QStringLiteral("Carica Certificato"));
-        QVERIFY(!isShown(*s.view, QStringLiteral("openReceipt")));
-        QVERIFY(!isShown(*s.view, QStringLiteral("replaceReceipt")));
+        QCOMPARE(part<QAbstractButton>(*s.view, u"uploadReceipt"_s).text(), u"Carica Scontrino"_s);
+        QCOMPARE(part<QAbstractButton>(*s.view, u"uploadCertificate"_s).text(), u"Carica Certificato"_s);
+        QVERIFY(!isShown(*s.view, u"openReceipt"_s));
+        QVERIFY(!isShown(*s.view, u"replaceReceipt"_s));
     }
 
     void uploading()
     {
         Shown s;
-        s.f.panel.answer(writePdf(s.f, QStringLiteral("a.pdf")));
-        click(*s.view, QStringLiteral("uploadCertificate"));
+        s.f.panel.answer(writePdf(s.f, u"a.pdf"_s));
+        click(*s.view, u"uploadCertificate"_s);
         QCOMPARE(s.f.panel.requests().size(), 1);
         QVERIFY(!s.stored().receiptFileName);
         QCOMPARE(s.files(), QStringList(s.stored().certificateFileName.value()));
-        QCOMPARE(part<QAbstractButton>(*s.view, QStringLiteral("openCertificate")).text(),
-                 QStringLiteral("Certificato"));
-        QVERIFY(part(*s.view, QStringLiteral("openCertificate")).hasFocus());
-        QVERIFY(!isShown(*s.view, QStringLiteral("uploadCertificate")));
+        QCOMPARE(part<QAbstractButton>(*s.view, u"openCertificate"_s).text(), u"Certificato"_s);
+        QVERIFY(part(*s.view, u"openCertificate"_s).hasFocus());
+        QVERIFY(!isShown(*s.view, u"uploadCertificate"_s));
     }
 
     void cancelledPanel()
     {
         Shown s;
         s.f.takeLog();
-        click(*s.view, QStringLiteral("uploadReceipt"));
+        click(*s.view, u"uploadReceipt"_s);
         QVERIFY(!s.stored().receiptFileName);
-        QCOMPARE(s.f.takeLog(), QStringList(QStringLiteral("✏️ Aggiornato equipaggiamento: Bombola")));
-        QVERIFY(isShown(*s.view, QStringLiteral("uploadReceipt")));
+        QCOMPARE(s.f.takeLog(), QStringList(u"✏️ Aggiornato equipaggiamento: Bombola"_s));
+        QVERIFY(isShown(*s.view, u"uploadReceipt"_s));
     }
 
     void opening()
     {
         Shown s(attachReceipt);
-        click(*s.view, QStringLiteral("openReceipt"));
+        click(*s.view, u"openReceipt"_s);
         QCOMPARE(s.f.opener.opened(),
                  QList<QUrl>({QUrl::fromLocalFile(s.f.documents.url(*s.stored().receiptFileName).value())}));
     }
@@ -113,27 +111,26 @@ private Q_SLOTS:
     {
         Shown s(attachReceipt);
         s.f.opener.succeed(false);
-        click(*s.view, QStringLiteral("openReceipt"));
+        click(*s.view, u"openReceipt"_s);
         Alert& notice = openDialog<Alert>(*s.view);
-        QCOMPARE(notice.windowTitle(), QStringLiteral("Documento non aperto"));
+        QCOMPARE(notice.windowTitle(), u"Documento non aperto"_s);
         QVERIFY(notice.message().endsWith(s.f.documents.url(*s.stored().receiptFileName).value()));
         notice.activateWindow();
         QTRY_COMPARE(QApplication::activeWindow(), &notice);
-        click(notice, QStringLiteral("safe"));
+        click(notice, u"safe"_s);
         settle();
         QVERIFY(!isDialogOpen(*s.view));
-        QTRY_VERIFY(part(*s.view, QStringLiteral("openReceipt")).hasFocus());
+        QTRY_VERIFY(part(*s.view, u"openReceipt"_s).hasFocus());
     }
 
     void replacingDeletesTheFileAndOffersTheUpload()
     {
         Shown s(attachReceipt);
-        QCOMPARE(part(*s.view, QStringLiteral("replaceReceipt")).toolTip(),
-                 QStringLiteral("Sostituisci il documento allegato"));
-        click(*s.view, QStringLiteral("replaceReceipt"));
+        QCOMPARE(part(*s.view, u"replaceReceipt"_s).toolTip(), u"Sostituisci il documento allegato"_s);
+        click(*s.view, u"replaceReceipt"_s);
         QVERIFY(!s.stored().receiptFileName);
         QCOMPARE(s.files(), QStringList());
-        QVERIFY(isShown(*s.view, QStringLiteral("uploadReceipt")));
+        QVERIFY(isShown(*s.view, u"uploadReceipt"_s));
         QCOMPARE(s.f.panel.requests().size(), 0);
     }
 
@@ -143,17 +140,17 @@ private Q_SLOTS:
             attachReceipt(f, record);
             record.certificateFileName = record.receiptFileName;
         });
-        click(*s.view, QStringLiteral("replaceCertificate"));
+        click(*s.view, u"replaceCertificate"_s);
         QVERIFY(!s.stored().receiptFileName && !s.stored().certificateFileName);
-        QVERIFY(isShown(*s.view, QStringLiteral("uploadReceipt")));
+        QVERIFY(isShown(*s.view, u"uploadReceipt"_s));
     }
 
     void missingFileIsOfferedForUpload()
     {
-        Shown s([](ScreenFixture&, Maintenance& record) { record.receiptFileName = QStringLiteral("SPARITO.pdf"); });
-        QVERIFY(isShown(*s.view, QStringLiteral("uploadReceipt")));
-        s.f.panel.answer(writePdf(s.f, QStringLiteral("b.pdf")));
-        click(*s.view, QStringLiteral("uploadReceipt"));
+        Shown s([](ScreenFixture&, Maintenance& record) { record.receiptFileName = u"SPARITO.pdf"_s; });
+        QVERIFY(isShown(*s.view, u"uploadReceipt"_s));
+        s.f.panel.answer(writePdf(s.f, u"b.pdf"_s));
+        click(*s.view, u"uploadReceipt"_s);
         QCOMPARE(s.files(), QStringList(s.stored().receiptFileName.value()));
     }
 
@@ -161,26 +158,26 @@ private Q_SLOTS:
     {
         Shown s(attachReceipt);
         s.f.documents.deleteDocument(*s.stored().receiptFileName);
-        click(*s.view, QStringLiteral("openReceipt"));
+        click(*s.view, u"openReceipt"_s);
         QCOMPARE(s.f.opener.opened(), QList<QUrl>());
-        QVERIFY(isShown(*s.view, QStringLiteral("uploadReceipt")));
+        QVERIFY(isShown(*s.view, u"uploadReceipt"_s));
     }
 
     void failedCopy()
     {
         Shown s;
         s.f.takeLog();
-        s.f.panel.answer(s.f.folder.filePath(QStringLiteral("non-esiste.pdf")));
-        click(*s.view, QStringLiteral("uploadReceipt"));
-        QVERIFY(s.f.takeLog().first().startsWith(QStringLiteral("Errore salvataggio documento: ")));
+        s.f.panel.answer(s.f.folder.filePath(u"non-esiste.pdf"_s));
+        click(*s.view, u"uploadReceipt"_s);
+        QVERIFY(s.f.takeLog().first().startsWith(u"Errore salvataggio documento: "_s));
         QVERIFY(!s.stored().receiptFileName);
     }
 
     void deletingTheRecordDeletesItsFiles()
     {
         Shown s(attachReceipt);
-        click(*s.view, QStringLiteral("deleteMaintenance"));
-        click(openDialog<Alert>(*s.view), QStringLiteral("destructive"));
+        click(*s.view, u"deleteMaintenance"_s);
+        click(openDialog<Alert>(*s.view), u"destructive"_s);
         QCOMPARE(s.files(), QStringList());
     }
 };

@@ -7,6 +7,7 @@
 #include "EquipmentDetailView.h"
 #include "EquipmentListView.h"
 #include "EquipmentTableView.h"
+#include "Literals.h"
 #include "MainWindow.h"
 #include "Metrics.h"
 #include "TestRunner.h"
@@ -38,7 +39,7 @@ struct Shown
         table().selectRow(row);
         settle();
     }
-    [[nodiscard]] bool isPaneShown() const { return isShown(window, QStringLiteral("detailPane")); }
+    [[nodiscard]] bool isPaneShown() const { return isShown(window, u"detailPane"_s); }
 
     MainWindow window;
 
@@ -63,10 +64,10 @@ private Q_SLOTS:
         QVERIFY(!s.isPaneShown());
         s.select(0);
         QVERIFY(s.isPaneShown());
-        QCOMPARE(textOf(s.window, QStringLiteral("detailName")), QStringLiteral("Computer Suunto EON Core"));
+        QCOMPARE(textOf(s.window, u"detailName"_s), u"Computer Suunto EON Core"_s);
         QVERIFY(std::abs(s.splitter().sizes().last() - 385) <= 2);
         s.select(1);
-        QCOMPARE(textOf(s.window, QStringLiteral("detailName")), QStringLiteral("GAV Scubapro Hydros"));
+        QCOMPARE(textOf(s.window, u"detailName"_s), u"GAV Scubapro Hydros"_s);
     }
 
     void closeMarkClearsTheSelection()
@@ -74,7 +75,7 @@ private Q_SLOTS:
         ScreenFixture f;
         Shown s(f);
         s.select(0);
-        click(s.window, QStringLiteral("closeDetail"));
+        click(s.window, u"closeDetail"_s);
         QVERIFY(!s.isPaneShown());
         QVERIFY(!s.window.content().selectedEquipment());
         QVERIFY(s.table().selectionModel()->selectedRows().isEmpty());
@@ -86,11 +87,11 @@ private Q_SLOTS:
         ScreenFixture f;
         Shown s(f);
         s.select(0);
-        click(s.window, QStringLiteral("deleteEquipment"));
+        click(s.window, u"deleteEquipment"_s);
         auto& alert = openDialog<Alert>(s.window);
         alert.activateWindow();
         QTRY_COMPARE(QApplication::activeWindow(), &alert);
-        click(alert, QStringLiteral("destructive"));
+        click(alert, u"destructive"_s);
         settle();
         QVERIFY(!s.isPaneShown());
         QVERIFY(!s.window.content().selectedEquipment());
@@ -108,7 +109,7 @@ private Q_SLOTS:
         QScrollBar& bar = *s.window.findChild<EquipmentDetailView*>()->findChild<QScrollArea*>()->verticalScrollBar();
         QVERIFY(bar.maximum() > 0);
         bar.setValue(bar.maximum());
-        click(s.window, QStringLiteral("toggleActive"));
+        click(s.window, u"toggleActive"_s);
         QVERIFY(bar.value() > 0);
         s.select(1);
         QCOMPARE(bar.value(), 0);
@@ -136,7 +137,7 @@ private Q_SLOTS:
         Shown s(f);
         s.window.resize(1000, 700);
         s.select(0);
-        f.equipment.filterByTypeName(QStringLiteral("GAV"));
+        f.equipment.filterByTypeName(u"GAV"_s);
         // A changed text travels upward one layout at a time, each by an event of its own.
         for (int level = 0; level < 5; ++level)
             settle();
@@ -170,7 +171,7 @@ private Q_SLOTS:
             width = s.splitter().sizes().last();
             QVERIFY(std::abs(width - 440) <= 2);
             if (closedFirst)
-                click(s.window, QStringLiteral("closeDetail"));
+                click(s.window, u"closeDetail"_s);
             s.window.close();
         }
         Shown s(f);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentDetailView.h"
+#include "Literals.h"
 #include "ScaledText.h"
 
 #include "Alert.h"
@@ -27,7 +28,7 @@ namespace {
 struct Shown
 {
     explicit Shown(const QList<Maintenance>& history = {}, int days = 100)
-        : item(makeItem(1, QStringLiteral("Erogatore di riserva"), EquipmentType::regulator, {}))
+        : item(makeItem(1, u"Erogatore di riserva"_s, EquipmentType::regulator, {}))
     {
         item.nextServiceDate = f.inDays(days);
         item.maintenanceHistory = history;
@@ -57,7 +58,7 @@ struct Shown
         }
         return texts;
     }
-    MaintenanceRow& row(int index) { return part<MaintenanceRow>(*view, QStringLiteral("maintenance%1").arg(index)); }
+    MaintenanceRow& row(int index) { return part<MaintenanceRow>(*view, u"maintenance%1"_s.arg(index)); }
 
     ScreenFixture f;
     Equipment item;
@@ -67,8 +68,7 @@ struct Shown
 QList<Maintenance> threeRecords()
 {
     const ScreenFixture f;
-    return {makeRecord(f, 1, 20, QStringLiteral("metà")), makeRecord(f, 2, 40, QStringLiteral("prima")),
-            makeRecord(f, 3, 5, QStringLiteral("ultima"))};
+    return {makeRecord(f, 1, 20, u"metà"_s), makeRecord(f, 2, 40, u"prima"_s), makeRecord(f, 3, 5, u"ultima"_s)};
 }
 
 } // namespace
@@ -81,12 +81,12 @@ private Q_SLOTS:
     void header()
     {
         Shown s({}, 30);
-        QCOMPARE(textOf(*s.view, QStringLiteral("detailName")), s.item.name);
-        QCOMPARE(textOf(*s.view, QStringLiteral("detailType")), QStringLiteral("Erogatore"));
-        QCOMPARE(textOf(*s.view, QStringLiteral("detailState")), QStringLiteral("Attivo"));
-        QVERIFY(isShown(*s.view, QStringLiteral("dueBadge")));
+        QCOMPARE(textOf(*s.view, u"detailName"_s), s.item.name);
+        QCOMPARE(textOf(*s.view, u"detailType"_s), u"Erogatore"_s);
+        QCOMPARE(textOf(*s.view, u"detailState"_s), u"Attivo"_s);
+        QVERIFY(isShown(*s.view, u"dueBadge"_s));
         Shown later({}, 31);
-        QVERIFY(!isShown(*later.view, QStringLiteral("dueBadge")));
+        QVERIFY(!isShown(*later.view, u"dueBadge"_s));
     }
 
     void order()
@@ -99,12 +99,12 @@ private Q_SLOTS:
             bottom = top + widget.height();
             return isBelow;
         };
-        QVERIFY(below(part(*s.view, QStringLiteral("closeDetail"))));
-        QVERIFY(below(part(*s.view, QStringLiteral("detailName"))));
+        QVERIFY(below(part(*s.view, u"closeDetail"_s)));
+        QVERIFY(below(part(*s.view, u"detailName"_s)));
         for (const DetailRow* row : s.view->findChildren<DetailRow*>())
             QVERIFY2(below(*row), qPrintable(row->label()));
-        QVERIFY(below(part(*s.view, QStringLiteral("notes"))));
-        QVERIFY(below(part(*s.view, QStringLiteral("editEquipment"))));
+        QVERIFY(below(part(*s.view, u"notes"_s)));
+        QVERIFY(below(part(*s.view, u"editEquipment"_s)));
         for (int i = 0; i < 3; ++i)
             QVERIFY(below(s.row(i)));
     }
@@ -112,9 +112,9 @@ private Q_SLOTS:
     void notesCanBeSelected()
     {
         Shown s;
-        auto& notes = part<SelectableText>(*s.view, QStringLiteral("notes"));
-        QCOMPARE(notes.toPlainText(), QStringLiteral("Nessuna nota inserita"));
-        s.item.notes = QStringLiteral("Prima riga\nseconda <b>riga</b>");
+        auto& notes = part<SelectableText>(*s.view, u"notes"_s);
+        QCOMPARE(notes.toPlainText(), u"Nessuna nota inserita"_s);
+        s.item.notes = u"Prima riga\nseconda <b>riga</b>"_s;
         s.f.equipment.updateEquipment(s.item);
         QCOMPARE(notes.toPlainText(), s.item.notes);
         QVERIFY(notes.isReadOnly());
@@ -127,24 +127,24 @@ private Q_SLOTS:
     {
         Shown s;
         const auto helpOf = [&](const char* name) { return part(*s.view, QLatin1String(name)).toolTip(); };
-        QCOMPARE(helpOf("editEquipment"), QStringLiteral("Modifica l'attrezzatura"));
-        QCOMPARE(helpOf("addMaintenance"), QStringLiteral("Aggiungi una nuova manutenzione"));
-        QCOMPARE(helpOf("toggleActive"), QStringLiteral("Disattiva l'attrezzatura"));
-        QCOMPARE(helpOf("deleteEquipment"), QStringLiteral("Elimina l'attrezzatura"));
+        QCOMPARE(helpOf("editEquipment"), u"Modifica l'attrezzatura"_s);
+        QCOMPARE(helpOf("addMaintenance"), u"Aggiungi una nuova manutenzione"_s);
+        QCOMPARE(helpOf("toggleActive"), u"Disattiva l'attrezzatura"_s);
+        QCOMPARE(helpOf("deleteEquipment"), u"Elimina l'attrezzatura"_s);
     }
 
     void activeIsSwitchedOffAndOn()
     {
         Shown s;
-        auto& toggle = part<LookButton>(*s.view, QStringLiteral("toggleActive"));
+        auto& toggle = part<LookButton>(*s.view, u"toggleActive"_s);
         QCOMPARE(buttonLook(&toggle, ButtonLook::Plain), ButtonLook::Caution);
         QTest::mouseClick(&toggle, Qt::LeftButton);
         QVERIFY(!s.stored().isActive);
-        QCOMPARE(s.f.takeLog(), QStringList(QStringLiteral("✏️ Aggiornato equipaggiamento: ") + s.item.name));
-        QCOMPARE(toggle.text(), QStringLiteral("Attiva"));
-        QCOMPARE(toggle.toolTip(), QStringLiteral("Attiva l'attrezzatura"));
+        QCOMPARE(s.f.takeLog(), QStringList(u"✏️ Aggiornato equipaggiamento: "_s + s.item.name));
+        QCOMPARE(toggle.text(), u"Attiva"_s);
+        QCOMPARE(toggle.toolTip(), u"Attiva l'attrezzatura"_s);
         QCOMPARE(buttonLook(&toggle, ButtonLook::Plain), ButtonLook::Positive);
-        QCOMPARE(textOf(*s.view, QStringLiteral("detailState")), QStringLiteral("Inattivo"));
+        QCOMPARE(textOf(*s.view, u"detailState"_s), u"Inattivo"_s);
         QTest::mouseClick(&toggle, Qt::LeftButton);
         QVERIFY(s.stored().isActive);
     }
@@ -152,52 +152,49 @@ private Q_SLOTS:
     void historyNewestFirst()
     {
         Shown s(threeRecords());
-        QCOMPARE(s.descriptions(),
-                 QStringList({QStringLiteral("ultima"), QStringLiteral("metà"), QStringLiteral("prima")}));
-        QVERIFY(!isShown(*s.view, QStringLiteral("emptyHistory")));
+        QCOMPARE(s.descriptions(), QStringList({u"ultima"_s, u"metà"_s, u"prima"_s}));
+        QVERIFY(!isShown(*s.view, u"emptyHistory"_s));
     }
 
     void rowTexts()
     {
         const ScreenFixture f;
-        Maintenance done = makeRecord(f, 1, 1, QStringLiteral("Tagliando"));
+        Maintenance done = makeRecord(f, 1, 1, u"Tagliando"_s);
         done.cost = 12.5;
-        Maintenance open = makeRecord(f, 2, 2, QStringLiteral("Prova"));
+        Maintenance open = makeRecord(f, 2, 2, u"Prova"_s);
         open.type = MaintenanceType::test;
         open.isCompleted = false;
-        Maintenance old = makeRecord(f, 3, 3, QStringLiteral("Antica"));
+        Maintenance old = makeRecord(f, 3, 3, u"Antica"_s);
         old.isCompleted.reset();
         Shown s({done, open, old});
-        QCOMPARE(textOf(s.row(0), QStringLiteral("maintenanceType")), QStringLiteral("Manutenzione Annuale"));
-        QCOMPARE(textOf(s.row(0), QStringLiteral("maintenanceCost")), QStringLiteral("€12.50"));
-        QCOMPARE(textOf(s.row(0), QStringLiteral("maintenanceDescription")), QStringLiteral("Tagliando"));
-        QCOMPARE(textOf(s.row(0), QStringLiteral("maintenanceDate")),
-                 QStringLiteral("14 giu 2026 · Eseguito da: Blu Service"));
-        QCOMPARE(textOf(s.row(0), QStringLiteral("completed")), QStringLiteral("Manutenzione avvenuta"));
-        QVERIFY(!isShown(s.row(0), QStringLiteral("notCompleted")));
-        QCOMPARE(textOf(s.row(1), QStringLiteral("maintenanceType")), QStringLiteral("Test"));
-        QVERIFY(!isShown(s.row(1), QStringLiteral("maintenanceCost")));
-        QCOMPARE(textOf(s.row(1), QStringLiteral("notCompleted")), QStringLiteral("Manutenzione non avvenuta"));
-        QVERIFY(!isShown(s.row(1), QStringLiteral("completed")));
-        QVERIFY(isShown(s.row(2), QStringLiteral("completed")));
+        QCOMPARE(textOf(s.row(0), u"maintenanceType"_s), u"Manutenzione Annuale"_s);
+        QCOMPARE(textOf(s.row(0), u"maintenanceCost"_s), u"€12.50"_s);
+        QCOMPARE(textOf(s.row(0), u"maintenanceDescription"_s), u"Tagliando"_s);
+        QCOMPARE(textOf(s.row(0), u"maintenanceDate"_s), u"14 giu 2026 · Eseguito da: Blu Service"_s);
+        QCOMPARE(textOf(s.row(0), u"completed"_s), u"Manutenzione avvenuta"_s);
+        QVERIFY(!isShown(s.row(0), u"notCompleted"_s));
+        QCOMPARE(textOf(s.row(1), u"maintenanceType"_s), u"Test"_s);
+        QVERIFY(!isShown(s.row(1), u"maintenanceCost"_s));
+        QCOMPARE(textOf(s.row(1), u"notCompleted"_s), u"Manutenzione non avvenuta"_s);
+        QVERIFY(!isShown(s.row(1), u"completed"_s));
+        QVERIFY(isShown(s.row(2), u"completed"_s));
     }
 
     void recordIsDeletedAfterItsConfirmation()
     {
         Shown s(threeRecords());
-        click(s.row(0), QStringLiteral("deleteMaintenance"));
+        click(s.row(0), u"deleteMaintenance"_s);
         auto& alert = openDialog<Alert>(*s.view);
-        QCOMPARE(alert.windowTitle(), QStringLiteral("Elimina Manutenzione"));
-        QCOMPARE(alert.message(),
-                 QStringLiteral("Eliminare la manutenzione del 10 giu 2026?\nAnche eventuali documenti "
-                                "allegati verranno rimossi."));
+        QCOMPARE(alert.windowTitle(), u"Elimina Manutenzione"_s);
+        QCOMPARE(alert.message(), u"Eliminare la manutenzione del 10 giu 2026?\nAnche eventuali documenti "
+                                  "allegati verranno rimossi."_s);
         QTest::keyClick(&alert, Qt::Key_Return);
         QCOMPARE(s.descriptions().size(), 3);
         QCOMPARE(s.stored().maintenanceHistory.size(), 3);
 
-        click(s.row(0), QStringLiteral("deleteMaintenance"));
-        click(openDialog<Alert>(*s.view), QStringLiteral("destructive"));
-        QCOMPARE(s.descriptions(), QStringList({QStringLiteral("metà"), QStringLiteral("prima")}));
+        click(s.row(0), u"deleteMaintenance"_s);
+        click(openDialog<Alert>(*s.view), u"destructive"_s);
+        QCOMPARE(s.descriptions(), QStringList({u"metà"_s, u"prima"_s}));
         const Equipment stored = s.stored();
         QCOMPARE(stored.maintenanceHistory.size(), 2);
         QCOMPARE(stored.lastServiceDate, s.f.inDays(-20));
@@ -208,10 +205,10 @@ private Q_SLOTS:
     void lastRecordLeavesTheEmptyHistoryAtOnce()
     {
         const ScreenFixture f;
-        Shown s({makeRecord(f, 1, 1, QStringLiteral("sola"))});
-        click(s.row(0), QStringLiteral("deleteMaintenance"));
-        click(openDialog<Alert>(*s.view), QStringLiteral("destructive"));
-        QVERIFY(isShown(*s.view, QStringLiteral("emptyHistory")));
+        Shown s({makeRecord(f, 1, 1, u"sola"_s)});
+        click(s.row(0), u"deleteMaintenance"_s);
+        click(openDialog<Alert>(*s.view), u"destructive"_s);
+        QVERIFY(isShown(*s.view, u"emptyHistory"_s));
         QCOMPARE(s.descriptions(), QStringList());
     }
 
@@ -219,10 +216,9 @@ private Q_SLOTS:
     {
         Shown s(threeRecords());
         for (int left = 2; left >= 0; --left) {
-            click(s.row(left), QStringLiteral("deleteMaintenance"));
-            click(openDialog<Alert>(*s.view), QStringLiteral("destructive"));
-            QWidget& next = left > 0 ? part(s.row(left - 1), QStringLiteral("editMaintenance"))
-                                     : part(*s.view, QStringLiteral("addMaintenance"));
+            click(s.row(left), u"deleteMaintenance"_s);
+            click(openDialog<Alert>(*s.view), u"destructive"_s);
+            QWidget& next = left > 0 ? part(s.row(left - 1), u"editMaintenance"_s) : part(*s.view, u"addMaintenance"_s);
             QCOMPARE(s.view->focusWidget(), &next);
         }
     }
@@ -232,29 +228,29 @@ private Q_SLOTS:
         Shown s(threeRecords());
         s.view->confirmDeleteMaintenance(SequentialIds::at(99'999));
         auto& alert = openDialog<Alert>(*s.view);
-        QCOMPARE(alert.message(), QStringLiteral("Eliminare questa manutenzione?"));
+        QCOMPARE(alert.message(), u"Eliminare questa manutenzione?"_s);
         s.f.takeLog();
-        click(alert, QStringLiteral("destructive"));
+        click(alert, u"destructive"_s);
         QCOMPARE(s.stored().maintenanceHistory.size(), 3);
         QCOMPARE(s.f.takeLog(), QStringList());
         s.view->startEditingMaintenance(SequentialIds::at(99'999));
-        QCOMPARE(openDialog<MaintenanceFormView>(*s.view).windowTitle(), QStringLiteral("Nuova Manutenzione"));
+        QCOMPARE(openDialog<MaintenanceFormView>(*s.view).windowTitle(), u"Nuova Manutenzione"_s);
     }
 
     void itemIsDeletedAfterItsConfirmation()
     {
         Shown s;
         QSignalSpy closed(s.view.get(), &EquipmentDetailView::closed);
-        click(*s.view, QStringLiteral("deleteEquipment"));
+        click(*s.view, u"deleteEquipment"_s);
         auto& alert = openDialog<Alert>(*s.view);
-        QCOMPARE(alert.windowTitle(), QStringLiteral("Conferma Eliminazione"));
-        QCOMPARE(alert.message(), QStringLiteral("Sei sicuro di voler eliminare l'attrezzatura 'Erogatore di riserva'? "
-                                                 "Questa azione non può essere annullata."));
+        QCOMPARE(alert.windowTitle(), u"Conferma Eliminazione"_s);
+        QCOMPARE(alert.message(), u"Sei sicuro di voler eliminare l'attrezzatura 'Erogatore di riserva'? "
+                                  "Questa azione non può essere annullata."_s);
         QTest::keyClick(&alert, Qt::Key_Escape);
         QCOMPARE(s.stored().id, s.item.id);
         QCOMPARE(closed.size(), 0);
-        click(*s.view, QStringLiteral("deleteEquipment"));
-        click(openDialog<Alert>(*s.view), QStringLiteral("destructive"));
+        click(*s.view, u"deleteEquipment"_s);
+        click(openDialog<Alert>(*s.view), u"destructive"_s);
         QVERIFY(s.stored().id.isNull());
         QCOMPARE(closed.size(), 1);
     }
@@ -266,9 +262,9 @@ private Q_SLOTS:
         const auto count = s.f.equipment.equipment().size();
         s.f.takeLog();
         QCOMPARE(s.view->equipment().name, s.item.name);
-        click(*s.view, QStringLiteral("toggleActive"));
-        click(s.row(0), QStringLiteral("deleteMaintenance"));
-        click(openDialog<Alert>(*s.view), QStringLiteral("destructive"));
+        click(*s.view, u"toggleActive"_s);
+        click(s.row(0), u"deleteMaintenance"_s);
+        click(openDialog<Alert>(*s.view), u"destructive"_s);
         QCOMPARE(s.descriptions().size(), 2);
         QCOMPARE(s.f.equipment.equipment().size(), count);
         QCOMPARE(s.f.takeLog(), QStringList());
@@ -277,61 +273,61 @@ private Q_SLOTS:
     void followsTheRegisterAndTheTypes()
     {
         Shown s;
-        s.item.name = QStringLiteral("Nuovo nome");
+        s.item.name = u"Nuovo nome"_s;
         s.f.equipment.updateEquipment(s.item);
-        QCOMPARE(textOf(*s.view, QStringLiteral("detailName")), s.item.name);
-        s.f.equipment.addMaintenance(s.item.id, makeRecord(s.f, 1, 1, QStringLiteral("aggiunta")));
+        QCOMPARE(textOf(*s.view, u"detailName"_s), s.item.name);
+        s.f.equipment.addMaintenance(s.item.id, makeRecord(s.f, 1, 1, u"aggiunta"_s));
         settle();
-        QCOMPARE(s.descriptions(), QStringList(QStringLiteral("aggiunta")));
+        QCOMPARE(s.descriptions(), QStringList(u"aggiunta"_s));
         QCOMPARE(s.view->equipment().lastServiceDate, s.f.inDays(-1));
     }
 
     void recordIsEditedFromItsButtonAndItsMenu()
     {
         Shown s(threeRecords());
-        click(s.row(1), QStringLiteral("editMaintenance"));
+        click(s.row(1), u"editMaintenance"_s);
         auto& form = openDialog<MaintenanceFormView>(*s.view);
-        QCOMPARE(form.windowTitle(), QStringLiteral("Modifica Manutenzione"));
-        auto& description = part<QLineEdit>(form, QStringLiteral("description"));
-        QCOMPARE(description.text(), QStringLiteral("metà"));
+        QCOMPARE(form.windowTitle(), u"Modifica Manutenzione"_s);
+        auto& description = part<QLineEdit>(form, u"description"_s);
+        QCOMPARE(description.text(), u"metà"_s);
         description.selectAll();
-        QTest::keyClicks(&description, QStringLiteral("cambiata"));
-        click(form, QStringLiteral("primary"));
+        QTest::keyClicks(&description, u"cambiata"_s);
+        click(form, u"primary"_s);
         QVERIFY(!isDialogOpen(*s.view));
-        QCOMPARE(s.descriptions().at(1), QStringLiteral("cambiata"));
+        QCOMPARE(s.descriptions().at(1), u"cambiata"_s);
 
-        click(s.row(1), QStringLiteral("maintenanceMenu"));
+        click(s.row(1), u"maintenanceMenu"_s);
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         QVERIFY(menu != nullptr);
-        QCOMPARE(menu->actions().at(0)->text(), QStringLiteral("Modifica manutenzione"));
-        QCOMPARE(menu->actions().at(1)->text(), QStringLiteral("Elimina manutenzione"));
+        QCOMPARE(menu->actions().at(0)->text(), u"Modifica manutenzione"_s);
+        QCOMPARE(menu->actions().at(1)->text(), u"Elimina manutenzione"_s);
         QTest::keyClick(menu, Qt::Key_Down);
         QTest::keyClick(menu, Qt::Key_Down);
         QTest::keyClick(menu, Qt::Key_Return);
-        QCOMPARE(openDialog<Alert>(*s.view).windowTitle(), QStringLiteral("Elimina Manutenzione"));
+        QCOMPARE(openDialog<Alert>(*s.view).windowTitle(), u"Elimina Manutenzione"_s);
     }
 
     void itemIsEdited()
     {
         Shown s;
-        click(*s.view, QStringLiteral("editEquipment"));
+        click(*s.view, u"editEquipment"_s);
         auto& form = openDialog<EditEquipmentView>(*s.view);
-        form.findChild<QLineEdit*>()->setText(QStringLiteral("Rinominato"));
-        click(form, QStringLiteral("primary"));
-        QCOMPARE(textOf(*s.view, QStringLiteral("detailName")), QStringLiteral("Rinominato"));
-        QCOMPARE(s.stored().name, QStringLiteral("Rinominato"));
+        form.findChild<QLineEdit*>()->setText(u"Rinominato"_s);
+        click(form, u"primary"_s);
+        QCOMPARE(textOf(*s.view, u"detailName"_s), u"Rinominato"_s);
+        QCOMPARE(s.stored().name, u"Rinominato"_s);
     }
 
     void newRecordIsAdded()
     {
         Shown s;
-        click(*s.view, QStringLiteral("addMaintenance"));
+        click(*s.view, u"addMaintenance"_s);
         auto& form = openDialog<MaintenanceFormView>(*s.view);
         settle();
-        QTest::keyClicks(&part(form, QStringLiteral("description")), QStringLiteral("Revisione"));
+        QTest::keyClicks(&part(form, u"description"_s), u"Revisione"_s);
         QTest::keyClick(&form, Qt::Key_Return, Qt::ControlModifier);
         settle();
-        QCOMPARE(s.descriptions(), QStringList(QStringLiteral("Revisione")));
+        QCOMPARE(s.descriptions(), QStringList(u"Revisione"_s));
         QCOMPARE(s.stored().maintenanceHistory.size(), 1);
     }
 
@@ -339,7 +335,7 @@ private Q_SLOTS:
     {
         Shown s(threeRecords());
         QStringList order;
-        part(*s.view, QStringLiteral("closeDetail")).setFocus();
+        part(*s.view, u"closeDetail"_s).setFocus();
         for (int i = 0; i < 11; ++i) {
             QWidget* const focused = QApplication::focusWidget();
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(focused);
@@ -348,11 +344,9 @@ private Q_SLOTS:
             QTest::keyClick(focused, Qt::Key_Tab);
         }
         QCOMPARE(order,
-                 QStringList({QStringLiteral("closeDetail"), QStringLiteral("notes"), QStringLiteral("editEquipment"),
-                              QStringLiteral("addMaintenance"), QStringLiteral("toggleActive"),
-                              QStringLiteral("deleteEquipment"), QStringLiteral("editMaintenance"),
-                              QStringLiteral("deleteMaintenance"), QStringLiteral("maintenanceMenu"),
-                              QStringLiteral("uploadReceipt"), QStringLiteral("uploadCertificate")}));
+                 QStringList({u"closeDetail"_s, u"notes"_s, u"editEquipment"_s, u"addMaintenance"_s, u"toggleActive"_s,
+                              u"deleteEquipment"_s, u"editMaintenance"_s, u"deleteMaintenance"_s, u"maintenanceMenu"_s,
+                              u"uploadReceipt"_s, u"uploadCertificate"_s}));
     }
 
     void nothingIsCutOff_data()
@@ -367,13 +361,13 @@ private Q_SLOTS:
         QFETCH(qreal, size);
         const ScaledText scaled(size);
         const ScreenFixture f;
-        Maintenance record = makeRecord(f, 1, 1, QStringLiteral("Sostituzione degli anelli di tenuta e prova"));
+        Maintenance record = makeRecord(f, 1, 1, u"Sostituzione degli anelli di tenuta e prova"_s);
         record.cost = 1234.5;
-        record.performedBy = QString(60, QLatin1Char('W'));
+        record.performedBy = QString(60, u'W');
         Shown s({record}, 3);
-        s.item.name = QString(70, QLatin1Char('W'));
-        s.item.serialNumber = QString(50, QLatin1Char('8'));
-        s.item.notes = QString(200, QLatin1Char('n'));
+        s.item.name = QString(70, u'W');
+        s.item.serialNumber = QString(50, u'8');
+        s.item.notes = QString(200, u'n');
         s.f.equipment.updateEquipment(s.item);
         s.view->resize(s.view->minimumWidth(), 2400);
         settle();
@@ -389,8 +383,8 @@ private Q_SLOTS:
         EquipmentDetailSheet sheet(f.context, f.equipment.equipment().first(), &below);
         sheet.open();
         QCOMPARE(sheet.size(), QSize(750, 650));
-        QCOMPARE(sheet.windowTitle(), QStringLiteral("Dettagli Attrezzatura"));
-        click(sheet, QStringLiteral("closeDetail"));
+        QCOMPARE(sheet.windowTitle(), u"Dettagli Attrezzatura"_s);
+        click(sheet, u"closeDetail"_s);
         QVERIFY(!sheet.isVisible());
     }
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "DetailParts.h"
+#include "Literals.h"
 #include "MaintenanceFormView.h"
 #include "TestRunner.h"
 
@@ -14,10 +15,10 @@ struct Shown
 {
     explicit Shown(bool withReceipt)
     {
-        Equipment item = makeItem(1, QStringLiteral("Articolo"), EquipmentType::fins, f.inDays(100));
-        Maintenance record = makeRecord(f, 1, 1, QStringLiteral("Collaudo"));
+        Equipment item = makeItem(1, u"Articolo"_s, EquipmentType::fins, f.inDays(100));
+        Maintenance record = makeRecord(f, 1, 1, u"Collaudo"_s);
         if (withReceipt)
-            record.receiptFileName = storedDocument(f, QStringLiteral("vecchio.pdf"));
+            record.receiptFileName = storedDocument(f, u"vecchio.pdf"_s);
         item.maintenanceHistory = {record};
         f.equipment.addEquipment(item);
         below.resize(1280, 1300);
@@ -29,10 +30,10 @@ struct Shown
 
     void attach(const char* slot)
     {
-        f.panel.answer(writePdf(f, QStringLiteral("nuovo.pdf")));
-        click(*form, QStringLiteral("attach") + QLatin1String(slot));
+        f.panel.answer(writePdf(f, u"nuovo.pdf"_s));
+        click(*form, u"attach"_s + QLatin1String(slot));
     }
-    void save() { click(*form, QStringLiteral("primary")); }
+    void save() { click(*form, u"primary"_s); }
     [[nodiscard]] Maintenance stored() const { return f.equipment.equipment().last().maintenanceHistory.first(); }
     [[nodiscard]] QStringList files() const
     {
@@ -55,9 +56,9 @@ private Q_SLOTS:
     {
         Shown s(false);
         s.attach("Certificato");
-        QVERIFY(part(*s.form, QStringLiteral("openCertificato")).hasFocus());
-        QVERIFY(!isShown(*s.form, QStringLiteral("attachCertificato")));
-        QVERIFY(isShown(*s.form, QStringLiteral("attachScontrino")));
+        QVERIFY(part(*s.form, u"openCertificato"_s).hasFocus());
+        QVERIFY(!isShown(*s.form, u"attachCertificato"_s));
+        QVERIFY(isShown(*s.form, u"attachScontrino"_s));
         s.save();
         QCOMPARE(s.files(), QStringList(s.stored().certificateFileName.value()));
         QVERIFY(!s.stored().receiptFileName);
@@ -66,9 +67,9 @@ private Q_SLOTS:
     void cancelledPanelAndFailedCopyLeaveTheSlotEmpty()
     {
         Shown s(false);
-        click(*s.form, QStringLiteral("attachScontrino"));
-        s.f.panel.answer(s.f.folder.filePath(QStringLiteral("non-esiste.pdf")));
-        click(*s.form, QStringLiteral("attachScontrino"));
+        click(*s.form, u"attachScontrino"_s);
+        s.f.panel.answer(s.f.folder.filePath(u"non-esiste.pdf"_s));
+        click(*s.form, u"attachScontrino"_s);
         QCOMPARE(s.f.panel.requests().size(), 2);
         s.save();
         QVERIFY(!s.stored().receiptFileName);
@@ -77,18 +78,18 @@ private Q_SLOTS:
     void opened()
     {
         Shown s(true);
-        QCOMPARE(part<QAbstractButton>(*s.form, QStringLiteral("openScontrino")).text(), QStringLiteral("Apri"));
-        click(*s.form, QStringLiteral("openScontrino"));
+        QCOMPARE(part<QAbstractButton>(*s.form, u"openScontrino"_s).text(), u"Apri"_s);
+        click(*s.form, u"openScontrino"_s);
         QCOMPARE(s.f.opener.opened().size(), 1);
     }
 
     void removedAtOnce()
     {
         Shown s(true);
-        QCOMPARE(part<QAbstractButton>(*s.form, QStringLiteral("removeScontrino")).text(), QStringLiteral("Rimuovi"));
-        click(*s.form, QStringLiteral("removeScontrino"));
+        QCOMPARE(part<QAbstractButton>(*s.form, u"removeScontrino"_s).text(), u"Rimuovi"_s);
+        click(*s.form, u"removeScontrino"_s);
         QCOMPARE(s.files(), QStringList());
-        QVERIFY(isShown(*s.form, QStringLiteral("attachScontrino")));
+        QVERIFY(isShown(*s.form, u"attachScontrino"_s));
         s.save();
         QVERIFY(!s.stored().receiptFileName);
     }
@@ -111,9 +112,9 @@ private Q_SLOTS:
         Shown s(true);
         const QString name = s.stored().receiptFileName.value();
         s.f.documents.deleteDocument(name);
-        click(*s.form, QStringLiteral("openScontrino"));
-        QVERIFY(isShown(*s.form, QStringLiteral("attachScontrino")));
-        click(*s.form, QStringLiteral("attachScontrino"));
+        click(*s.form, u"openScontrino"_s);
+        QVERIFY(isShown(*s.form, u"attachScontrino"_s));
+        click(*s.form, u"attachScontrino"_s);
         s.save();
         QCOMPARE(s.stored().receiptFileName, std::optional(name));
     }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "MaintenanceFormView.h"
 #include "ScaledText.h"
 
@@ -27,7 +28,7 @@ struct Shown
     explicit Shown(const std::optional<Maintenance>& editing = std::nullopt,
                    EquipmentType kind = EquipmentType::regulator)
     {
-        Equipment item = makeItem(1, QStringLiteral("Articolo"), kind, f.inDays(100));
+        Equipment item = makeItem(1, u"Articolo"_s, kind, f.inDays(100));
         if (editing)
             item.maintenanceHistory = {*editing};
         id = item.id;
@@ -56,7 +57,7 @@ struct Shown
         QTest::keyClicks(&date, text);
         QTest::keyClick(&date, Qt::Key_Tab);
     }
-    void save() { click(*form, QStringLiteral("primary")); }
+    void save() { click(*form, u"primary"_s); }
     [[nodiscard]] QList<Maintenance> history() const { return f.equipment.equipment().last().maintenanceHistory; }
 
     ScreenFixture f;
@@ -83,29 +84,28 @@ private Q_SLOTS:
     void newForm()
     {
         Shown s;
-        QCOMPARE(s.form->windowTitle(), QStringLiteral("Nuova Manutenzione"));
-        QCOMPARE(s.form->cancelButton()->text(), QStringLiteral("Annulla"));
-        QCOMPARE(s.form->primaryButton()->text(), QStringLiteral("Salva"));
+        QCOMPARE(s.form->windowTitle(), u"Nuova Manutenzione"_s);
+        QCOMPARE(s.form->cancelButton()->text(), u"Annulla"_s);
+        QCOMPARE(s.form->primaryButton()->text(), u"Salva"_s);
         QVERIFY(!s.form->primaryButton()->isEnabled());
         QStringList groups;
         for (const GroupBox* group : s.form->findChildren<GroupBox*>())
             groups.append(group->title());
-        QCOMPARE(groups, QStringList({QStringLiteral("Dettagli Manutenzione"),
-                                      QStringLiteral("Informazioni Aggiuntive"), QStringLiteral("Esito e Documenti"),
-                                      QStringLiteral("Prossimo Tagliando"), QStringLiteral("Note")}));
-        QCOMPARE(s.field<DateField>("date").text(), QStringLiteral("15/06/2026"));
-        QCOMPARE(s.field<QLineEdit>("description").placeholderText(), QStringLiteral("Inserisci la descrizione"));
-        QCOMPARE(s.field<QLineEdit>("performedBy").placeholderText(), QStringLiteral("Nome del tecnico"));
+        QCOMPARE(groups, QStringList({u"Dettagli Manutenzione"_s, u"Informazioni Aggiuntive"_s, u"Esito e Documenti"_s,
+                                      u"Prossimo Tagliando"_s, u"Note"_s}));
+        QCOMPARE(s.field<DateField>("date").text(), u"15/06/2026"_s);
+        QCOMPARE(s.field<QLineEdit>("description").placeholderText(), u"Inserisci la descrizione"_s);
+        QCOMPARE(s.field<QLineEdit>("performedBy").placeholderText(), u"Nome del tecnico"_s);
         QCOMPARE(s.field<CostField>("cost").cost(), std::optional(0.0));
         QVERIFY(s.field<ToggleSwitch>("isCompleted").isChecked());
-        QCOMPARE(s.field<QAbstractButton>("attachScontrino").text(), QStringLiteral("Carica scontrino (PDF)"));
-        QCOMPARE(s.field<QAbstractButton>("attachCertificato").text(), QStringLiteral("Carica certificato (PDF)"));
+        QCOMPARE(s.field<QAbstractButton>("attachScontrino").text(), u"Carica scontrino (PDF)"_s);
+        QCOMPARE(s.field<QAbstractButton>("attachCertificato").text(), u"Carica certificato (PDF)"_s);
         auto& type = s.field<QComboBox>("type");
         QStringList kinds;
         for (int i = 0; i < type.count(); ++i)
             kinds.append(type.itemText(i));
-        QCOMPARE(kinds, QStringList({QStringLiteral("Manutenzione Annuale"), QStringLiteral("Riparazione"),
-                                     QStringLiteral("Test"), QStringLiteral("Pulizia"), QStringLiteral("Altro")}));
+        QCOMPARE(kinds,
+                 QStringList({u"Manutenzione Annuale"_s, u"Riparazione"_s, u"Test"_s, u"Pulizia"_s, u"Altro"_s}));
         QCOMPARE(type.currentIndex(), 0);
     }
 
@@ -117,13 +117,13 @@ private Q_SLOTS:
         QTest::addColumn<int>("expected");
         const auto regulator = static_cast<int>(EquipmentType::regulator);
         const auto computer = static_cast<int>(EquipmentType::computer);
-        QTest::newRow("of the type") << regulator << 180 << QStringLiteral("Erogatore") << 180;
-        QTest::newRow("unmatched") << regulator << 180 << QStringLiteral("Pinne") << 365;
-        QTest::newRow("exact case") << regulator << 180 << QStringLiteral("erogatore") << 365;
-        QTest::newRow("unmatched computer") << computer << 180 << QStringLiteral("Pinne") << 730;
-        QTest::newRow("computer of a type") << computer << 90 << QStringLiteral("Computer Subacqueo") << 90;
-        QTest::newRow("none") << regulator << 0 << QStringLiteral("Erogatore") << 1;
-        QTest::newRow("negative") << regulator << -5 << QStringLiteral("Erogatore") << 1;
+        QTest::newRow("of the type") << regulator << 180 << u"Erogatore"_s << 180;
+        QTest::newRow("unmatched") << regulator << 180 << u"Pinne"_s << 365;
+        QTest::newRow("exact case") << regulator << 180 << u"erogatore"_s << 365;
+        QTest::newRow("unmatched computer") << computer << 180 << u"Pinne"_s << 730;
+        QTest::newRow("computer of a type") << computer << 90 << u"Computer Subacqueo"_s << 90;
+        QTest::newRow("none") << regulator << 0 << u"Erogatore"_s << 1;
+        QTest::newRow("negative") << regulator << -5 << u"Erogatore"_s << 1;
     }
 
     void interval()
@@ -136,16 +136,15 @@ private Q_SLOTS:
         s.f.types.setTypes({typeCalled(typeName, typeDays)});
         s.open(std::nullopt);
         QCOMPARE(s.form->equipmentIntervalDays(), expected);
-        QCOMPARE(textOf(*s.form, QStringLiteral("intervalExplanation")),
-                 QStringLiteral("Calcolata automaticamente: %1 giorni dall'intervallo configurato per la tipologia")
-                     .arg(expected));
+        QCOMPARE(textOf(*s.form, u"intervalExplanation"_s),
+                 u"Calcolata automaticamente: %1 giorni dall'intervallo configurato per la tipologia"_s.arg(expected));
         QCOMPARE(s.field<DateField>("nextServiceDate").instant(), s.f.inDays(expected));
     }
 
     void inactiveTypesAndUnknownItemsDoNotCount()
     {
         Shown s;
-        EquipmentTypeModel inactive = typeCalled(QStringLiteral("Erogatore"), 10);
+        EquipmentTypeModel inactive = typeCalled(u"Erogatore"_s, 10);
         inactive.isActive = false;
         s.f.types.setTypes({inactive});
         QCOMPARE(s.form->equipmentIntervalDays(), 365);
@@ -156,7 +155,7 @@ private Q_SLOTS:
     void intervalBeyondTheCalendar()
     {
         Shown s;
-        EquipmentTypeModel type = typeCalled(QStringLiteral("Erogatore"), 1);
+        EquipmentTypeModel type = typeCalled(u"Erogatore"_s, 1);
         type.serviceIntervalDays = std::numeric_limits<std::int64_t>::max();
         s.f.types.setTypes({type});
         s.open(std::nullopt);
@@ -166,40 +165,40 @@ private Q_SLOTS:
     void nextDateFollowsTheDateUntilChangedByHand()
     {
         Shown s;
-        s.f.types.setTypes({typeCalled(QStringLiteral("Erogatore"), 10)});
-        s.typeDate("date", QStringLiteral("01062026"));
-        QCOMPARE(s.field<DateField>("nextServiceDate").text(), QStringLiteral("11/06/2026"));
-        s.typeDate("nextServiceDate", QStringLiteral("31122026"));
-        s.typeDate("date", QStringLiteral("02062026"));
-        QCOMPARE(s.field<DateField>("nextServiceDate").text(), QStringLiteral("31/12/2026"));
+        s.f.types.setTypes({typeCalled(u"Erogatore"_s, 10)});
+        s.typeDate("date", u"01062026"_s);
+        QCOMPARE(s.field<DateField>("nextServiceDate").text(), u"11/06/2026"_s);
+        s.typeDate("nextServiceDate", u"31122026"_s);
+        s.typeDate("date", u"02062026"_s);
+        QCOMPARE(s.field<DateField>("nextServiceDate").text(), u"31/12/2026"_s);
     }
 
     void editingChangesNothingUntilTheDateChanges()
     {
         ScreenFixture f;
-        Maintenance record = makeRecord(f, 1, 30, QStringLiteral("Vecchia"));
+        Maintenance record = makeRecord(f, 1, 30, u"Vecchia"_s);
         record.nextServiceDate = f.inDays(777);
         Shown s(record);
-        QCOMPARE(s.form->windowTitle(), QStringLiteral("Modifica Manutenzione"));
+        QCOMPARE(s.form->windowTitle(), u"Modifica Manutenzione"_s);
         QCOMPARE(s.field<DateField>("nextServiceDate").instant(), record.nextServiceDate);
         s.save();
         QCOMPARE(s.history(), QList({record}));
         s.open(record);
-        s.f.types.setTypes({typeCalled(QStringLiteral("Erogatore"), 10)});
-        s.typeDate("date", QStringLiteral("01062026"));
-        QCOMPARE(s.field<DateField>("nextServiceDate").text(), QStringLiteral("11/06/2026"));
+        s.f.types.setTypes({typeCalled(u"Erogatore"_s, 10)});
+        s.typeDate("date", u"01062026"_s);
+        QCOMPARE(s.field<DateField>("nextServiceDate").text(), u"11/06/2026"_s);
     }
 
     void untouchedRecordComesBackBitForBit()
     {
         ScreenFixture f;
-        Maintenance record = makeRecord(f, 1, 30, QStringLiteral("a\u00a0b\tc\nd\u2028e"));
+        Maintenance record = makeRecord(f, 1, 30, u"a\u00a0b\tc\nd\u2028e"_s);
         record.type = MaintenanceType::cleaning;
         record.cost = 0.1 + 0.2;
-        record.notes = QStringLiteral("uno\r\ndue\u00a0tre");
-        record.performedBy = QStringLiteral(" spazi ");
+        record.notes = u"uno\r\ndue\u00a0tre"_s;
+        record.performedBy = u" spazi "_s;
         record.isCompleted = false;
-        record.receiptFileName = QStringLiteral("SPARITO.pdf");
+        record.receiptFileName = u"SPARITO.pdf"_s;
         record.date += std::chrono::milliseconds(123);
         Shown s(record);
         s.save();
@@ -211,27 +210,27 @@ private Q_SLOTS:
     {
         Shown s;
         QVERIFY(s.field<QLineEdit>("description").hasFocus());
-        QTest::keyClicks(&s.field<QLineEdit>("description"), QStringLiteral("Revisione"));
-        QTest::keyClicks(&s.field<QComboBox>("type"), QStringLiteral("R"));
-        QTest::keyClicks(&s.field<QLineEdit>("performedBy"), QStringLiteral("Blu Service"));
-        QTest::keyClicks(&s.field<CostField>("cost"), QStringLiteral("1.234,50"));
+        QTest::keyClicks(&s.field<QLineEdit>("description"), u"Revisione"_s);
+        QTest::keyClicks(&s.field<QComboBox>("type"), u"R"_s);
+        QTest::keyClicks(&s.field<QLineEdit>("performedBy"), u"Blu Service"_s);
+        QTest::keyClicks(&s.field<CostField>("cost"), u"1.234,50"_s);
         QTest::mouseClick(&s.field<ToggleSwitch>("isCompleted"), Qt::LeftButton);
-        QTest::keyClicks(&s.field<QPlainTextEdit>("notes"), QStringLiteral("nota"));
-        s.typeDate("date", QStringLiteral("01062026"));
-        s.typeDate("nextServiceDate", QStringLiteral("01062027"));
+        QTest::keyClicks(&s.field<QPlainTextEdit>("notes"), u"nota"_s);
+        s.typeDate("date", u"01062026"_s);
+        s.typeDate("nextServiceDate", u"01062027"_s);
         const int idsBefore = s.f.ids.count();
         s.save();
         QVERIFY(!s.form->isVisible());
         const Maintenance saved = s.history().value(0);
         QCOMPARE(saved.id, SequentialIds::at(idsBefore + 1));
-        QCOMPARE(saved.description, QStringLiteral("Revisione"));
+        QCOMPARE(saved.description, u"Revisione"_s);
         QCOMPARE(saved.type, MaintenanceType::repair);
-        QCOMPARE(saved.performedBy, QStringLiteral("Blu Service"));
+        QCOMPARE(saved.performedBy, u"Blu Service"_s);
         QCOMPARE(saved.cost, 1234.5);
         QCOMPARE(saved.isCompleted, std::optional(false));
-        QCOMPARE(saved.notes, QStringLiteral("nota"));
-        QCOMPARE(s.f.context.dates.dayAndTime(saved.date), QStringLiteral("01/06/2026 12:00"));
-        QCOMPARE(s.f.context.dates.dayAndTime(saved.nextServiceDate), QStringLiteral("01/06/2027 12:00"));
+        QCOMPARE(saved.notes, u"nota"_s);
+        QCOMPARE(s.f.context.dates.dayAndTime(saved.date), u"01/06/2026 12:00"_s);
+        QCOMPARE(s.f.context.dates.dayAndTime(saved.nextServiceDate), u"01/06/2027 12:00"_s);
         QCOMPARE(s.f.equipment.equipment().last().nextServiceDate, saved.nextServiceDate);
     }
 
@@ -241,28 +240,28 @@ private Q_SLOTS:
         const auto putIn = [&s](const char* name, const QString& text) {
             QAccessible::queryAccessibleInterface(&s.field<QWidget>(name))->setText(QAccessible::Value, text);
         };
-        putIn("description", QStringLiteral("Revisione"));
-        putIn("performedBy", QStringLiteral("Blu Service"));
-        putIn("cost", QStringLiteral("45,50"));
-        putIn("notes", QStringLiteral("nota"));
+        putIn("description", u"Revisione"_s);
+        putIn("performedBy", u"Blu Service"_s);
+        putIn("cost", u"45,50"_s);
+        putIn("notes", u"nota"_s);
         s.save();
         const Maintenance saved = s.history().value(0);
-        QCOMPARE(saved.description, QStringLiteral("Revisione"));
-        QCOMPARE(saved.performedBy, QStringLiteral("Blu Service"));
+        QCOMPARE(saved.description, u"Revisione"_s);
+        QCOMPARE(saved.performedBy, u"Blu Service"_s);
         QCOMPARE(saved.cost, 45.5);
-        QCOMPARE(saved.notes, QStringLiteral("nota"));
+        QCOMPARE(saved.notes, u"nota"_s);
     }
 
     void dateStillBeingTypedIsSaved()
     {
         Shown s;
-        QTest::keyClicks(&s.field<QLineEdit>("description"), QStringLiteral("x"));
+        QTest::keyClicks(&s.field<QLineEdit>("description"), u"x"_s);
         auto& date = s.field<DateField>("date");
         date.setFocus();
         date.selectAll();
-        QTest::keyClicks(&date, QStringLiteral("01062026"));
+        QTest::keyClicks(&date, u"01062026"_s);
         QTest::keyClick(&date, Qt::Key_Return, Qt::ControlModifier);
-        QCOMPARE(s.f.context.dates.dayAndTime(s.history().value(0).date), QStringLiteral("01/06/2026 12:00"));
+        QCOMPARE(s.f.context.dates.dayAndTime(s.history().value(0).date), u"01/06/2026 12:00"_s);
     }
 
     void descriptionIsRequiredAsItStands()
@@ -270,17 +269,17 @@ private Q_SLOTS:
         Shown s;
         QTest::keyClick(s.form.get(), Qt::Key_Return, Qt::ControlModifier);
         QVERIFY(s.form->isVisible());
-        QTest::keyClicks(&s.field<QLineEdit>("description"), QStringLiteral("  "));
+        QTest::keyClicks(&s.field<QLineEdit>("description"), u"  "_s);
         QVERIFY(s.form->primaryButton()->isEnabled());
         s.save();
-        QCOMPARE(s.history().value(0).description, QStringLiteral("  "));
+        QCOMPARE(s.history().value(0).description, u"  "_s);
     }
 
     void unfinishedCostIsNotSaved()
     {
         Shown s;
-        QTest::keyClicks(&s.field<QLineEdit>("description"), QStringLiteral("x"));
-        QTest::keyClicks(&s.field<CostField>("cost"), QStringLiteral("1.234.5"));
+        QTest::keyClicks(&s.field<QLineEdit>("description"), u"x"_s);
+        QTest::keyClicks(&s.field<CostField>("cost"), u"1.234.5"_s);
         s.save();
         QVERIFY(s.form->isVisible());
         QVERIFY(s.field<CostField>("cost").hasFocus());
@@ -290,8 +289,8 @@ private Q_SLOTS:
     void unfinishedDatesAreNotSaved()
     {
         Shown s;
-        QTest::keyClicks(&s.field<QLineEdit>("description"), QStringLiteral("Prova"));
-        s.typeDate("nextServiceDate", QStringLiteral("12/2027"));
+        QTest::keyClicks(&s.field<QLineEdit>("description"), u"Prova"_s);
+        s.typeDate("nextServiceDate", u"12/2027"_s);
         auto& date = s.field<DateField>("date");
         date.setFocus();
         date.selectAll();
@@ -299,15 +298,15 @@ private Q_SLOTS:
         s.save();
         QVERIFY(s.history().isEmpty());
         QVERIFY(date.hasFocus());
-        QVERIFY(textOf(*s.form, QStringLiteral("dateError")).startsWith(QStringLiteral("Manca la data")));
-        s.typeDate("date", QStringLiteral("01/06/2026"));
-        QVERIFY(!isShown(*s.form, QStringLiteral("dateError")));
+        QVERIFY(textOf(*s.form, u"dateError"_s).startsWith(u"Manca la data"_s));
+        s.typeDate("date", u"01/06/2026"_s);
+        QVERIFY(!isShown(*s.form, u"dateError"_s));
         // The next date follows no more: what stands there unfinished is the person's own.
-        QCOMPARE(s.field<DateField>("nextServiceDate").text(), QStringLiteral("12/2027"));
+        QCOMPARE(s.field<DateField>("nextServiceDate").text(), u"12/2027"_s);
         s.save();
         QVERIFY(s.history().isEmpty());
         QVERIFY(s.field<DateField>("nextServiceDate").hasFocus());
-        s.typeDate("nextServiceDate", QStringLiteral("01/12/2027"));
+        s.typeDate("nextServiceDate", u"01/12/2027"_s);
         s.save();
         QCOMPARE(s.history().size(), 1);
     }
@@ -316,7 +315,7 @@ private Q_SLOTS:
     {
         Shown s;
         const QList<Equipment> before = s.f.equipment.equipment();
-        QTest::keyClicks(&s.field<QLineEdit>("description"), QStringLiteral("x"));
+        QTest::keyClicks(&s.field<QLineEdit>("description"), u"x"_s);
         s.f.takeLog();
         QTest::keyClick(s.form.get(), Qt::Key_Escape);
         QVERIFY(!s.form->isVisible());
@@ -329,7 +328,7 @@ private Q_SLOTS:
         Shown s;
         s.f.equipment.deleteEquipment(s.f.equipment.equipment().last());
         const QList<Equipment> before = s.f.equipment.equipment();
-        QTest::keyClicks(&s.field<QLineEdit>("description"), QStringLiteral("x"));
+        QTest::keyClicks(&s.field<QLineEdit>("description"), u"x"_s);
         s.save();
         QVERIFY(!s.form->isVisible());
         QCOMPARE(s.f.equipment.equipment(), before);
@@ -341,7 +340,7 @@ private Q_SLOTS:
         s.form->activateWindow();
         s.form->cancelButton()->setFocus();
         QStringList order;
-        QTest::keyClicks(&s.field<QLineEdit>("description"), QStringLiteral("x"));
+        QTest::keyClicks(&s.field<QLineEdit>("description"), u"x"_s);
         for (int i = 0; i < 12; ++i) {
             QWidget* const focused = QApplication::focusWidget();
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(focused);
@@ -349,12 +348,9 @@ private Q_SLOTS:
             order.append(focused->objectName());
             QTest::keyClick(focused, Qt::Key_Tab);
         }
-        QCOMPARE(order,
-                 QStringList({QStringLiteral("cancel"), QStringLiteral("primary"), QStringLiteral("date"),
-                              QStringLiteral("type"), QStringLiteral("description"), QStringLiteral("performedBy"),
-                              QStringLiteral("cost"), QStringLiteral("isCompleted"), QStringLiteral("attachScontrino"),
-                              QStringLiteral("attachCertificato"), QStringLiteral("nextServiceDate"),
-                              QStringLiteral("notes")}));
+        QCOMPARE(order, QStringList({u"cancel"_s, u"primary"_s, u"date"_s, u"type"_s, u"description"_s,
+                                     u"performedBy"_s, u"cost"_s, u"isCompleted"_s, u"attachScontrino"_s,
+                                     u"attachCertificato"_s, u"nextServiceDate"_s, u"notes"_s}));
     }
 
     void nothingIsCutOffWithLargerText()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ControlLook.h"
 #include "DateField.h"
+#include "Literals.h"
 
 #include "TestRunner.h"
 
@@ -71,8 +72,8 @@ private Q_SLOTS:
     void showsTheDay()
     {
         Shown s;
-        s.field->setInstant(at(QStringLiteral("2026-03-04T23:30:00.123Z")));
-        QCOMPARE(s.field->text(), QStringLiteral("05/03/2026"));
+        s.field->setInstant(at(u"2026-03-04T23:30:00.123Z"_s));
+        QCOMPARE(s.field->text(), u"05/03/2026"_s);
     }
 
     void untouchedGivesTheVeryInstant_data()
@@ -144,20 +145,18 @@ private Q_SLOTS:
         s.field->setInstant(at(given));
         s.typeOver(typed);
         QCOMPARE(iso(s.field->instant()), expected);
-        s.typeOver(QDateTime::fromString(given, Qt::ISODateWithMs)
-                       .toTimeZone(rome().zone())
-                       .toString(QStringLiteral("ddMMyyyy")));
+        s.typeOver(QDateTime::fromString(given, Qt::ISODateWithMs).toTimeZone(rome().zone()).toString(u"ddMMyyyy"_s));
         QCOMPARE(iso(s.field->instant()), given);
     }
 
     void theSecondOfTwoEqualTimesIsKept()
     {
         Shown s;
-        const QString second = QStringLiteral("2026-10-25T01:30:00.000Z");
+        const QString second = u"2026-10-25T01:30:00.000Z"_s;
         s.field->setInstant(at(second));
-        s.typeOver(QStringLiteral("26102026"));
-        QCOMPARE(iso(s.field->instant()), QStringLiteral("2026-10-26T01:30:00.000Z"));
-        s.typeOver(QStringLiteral("25102026"));
+        s.typeOver(u"26102026"_s);
+        QCOMPARE(iso(s.field->instant()), u"2026-10-26T01:30:00.000Z"_s);
+        s.typeOver(u"25102026"_s);
         QCOMPARE(iso(s.field->instant()), second);
     }
 
@@ -165,8 +164,8 @@ private Q_SLOTS:
     {
         Shown s;
         QSignalSpy edited(s.field, &DateField::edited);
-        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00Z")));
-        s.field->setInstant(at(QStringLiteral("2027-06-15T10:00:00Z")));
+        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
+        s.field->setInstant(at(u"2027-06-15T10:00:00Z"_s));
         QVERIFY(edited.isEmpty());
     }
 
@@ -193,7 +192,7 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(QString, day);
         Shown s;
-        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00Z")));
+        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
         QStringList days;
         connect(s.field, &DateField::edited, this, [&] { days.append(iso(s.field->instant()).left(10)); });
         s.typeOver(typed);
@@ -201,49 +200,49 @@ private Q_SLOTS:
         QTest::keyClick(s.field, Qt::Key_Return);
         s.other->setFocus();
         QCOMPARE(days, QStringList(day));
-        QCOMPARE(s.field->text(), QDate::fromString(day, Qt::ISODate).toString(QStringLiteral("dd/MM/yyyy")));
+        QCOMPARE(s.field->text(), QDate::fromString(day, Qt::ISODate).toString(u"dd/MM/yyyy"_s));
     }
 
     void assistiveTechnologyMaySetTheText()
     {
         Shown s;
-        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00Z")));
+        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
         QSignalSpy edited(s.field, &DateField::edited);
-        QAccessible::queryAccessibleInterface(s.field)->setText(QAccessible::Value, QStringLiteral("16/06/2026"));
+        QAccessible::queryAccessibleInterface(s.field)->setText(QAccessible::Value, u"16/06/2026"_s);
         QCOMPARE(edited.size(), 1);
-        QCOMPARE(iso(s.field->instant()), QStringLiteral("2026-06-16T10:00:00.000Z"));
+        QCOMPARE(iso(s.field->instant()), u"2026-06-16T10:00:00.000Z"_s);
     }
 
     void correctingOneDigitEmitsOnce()
     {
         Shown s;
-        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00Z")));
+        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
         QSignalSpy edited(s.field, &DateField::edited);
         s.field->setFocus();
         s.field->setCursorPosition(2);
         QTest::keyClick(s.field, Qt::Key_Backspace);
         QTest::keyClick(s.field, Qt::Key_7);
         QCOMPARE(edited.size(), 1);
-        QCOMPARE(s.field->text(), QStringLiteral("17/06/2026"));
+        QCOMPARE(s.field->text(), u"17/06/2026"_s);
         QCOMPARE(s.field->cursorPosition(), 2);
     }
 
     void steps()
     {
         Shown s;
-        s.field->setInstant(at(QStringLiteral("2026-01-30T10:00:00Z")));
+        s.field->setInstant(at(u"2026-01-30T10:00:00Z"_s));
         QSignalSpy edited(s.field, &DateField::edited);
         QTest::keyClick(s.field, Qt::Key_Up);
-        QCOMPARE(s.field->text(), QStringLiteral("31/01/2026"));
+        QCOMPARE(s.field->text(), u"31/01/2026"_s);
         QTest::keyClick(s.field, Qt::Key_PageUp);
-        QCOMPARE(s.field->text(), QStringLiteral("28/02/2026"));
+        QCOMPARE(s.field->text(), u"28/02/2026"_s);
         QTest::keyClick(s.field, Qt::Key_Down);
         QTest::keyClick(s.field, Qt::Key_PageDown);
-        QCOMPARE(s.field->text(), QStringLiteral("27/01/2026"));
+        QCOMPARE(s.field->text(), u"27/01/2026"_s);
         QCOMPARE(edited.size(), 4);
-        s.field->setInstant(at(QStringLiteral("9999-12-31T10:00:00Z")));
+        s.field->setInstant(at(u"9999-12-31T10:00:00Z"_s));
         QTest::keyClick(s.field, Qt::Key_Up);
-        QCOMPARE(s.field->text(), QStringLiteral("31/12/9999"));
+        QCOMPARE(s.field->text(), u"31/12/9999"_s);
         QCOMPARE(edited.size(), 4);
     }
 
@@ -259,7 +258,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, typed);
         Shown s;
-        const QString given = QStringLiteral("2026-06-15T10:00:00.007Z");
+        const QString given = u"2026-06-15T10:00:00.007Z"_s;
         s.field->setInstant(at(given));
         QSignalSpy edited(s.field, &DateField::edited);
         s.field->setFocus();
@@ -269,7 +268,7 @@ private Q_SLOTS:
         QVERIFY(s.field->error().isEmpty()); // it may become a day yet
         s.other->setFocus();
         QCOMPARE(s.field->text(), typed);
-        QVERIFY(s.field->error().endsWith(QStringLiteral("scrivi giorno, mese e anno, per esempio 15/06/2026")));
+        QVERIFY(s.field->error().endsWith(u"scrivi giorno, mese e anno, per esempio 15/06/2026"_s));
         QCOMPARE(s.field->accessibleDescription(), s.field->error());
         QVERIFY(hasInvalidLook(s.field));
         QVERIFY(!s.field->commit());
@@ -289,8 +288,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, typed);
         Shown s;
-        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00Z")));
-        s.typeOver(QStringLiteral("31/02"));
+        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
+        s.typeOver(u"31/02"_s);
         s.other->setFocus();
         QSignalSpy error(s.field, &CheckedField::errorChanged);
         s.typeOver(typed);
@@ -303,26 +302,26 @@ private Q_SLOTS:
     void anErrorGoesWithTheNextInstant()
     {
         Shown s;
-        s.typeOver(QStringLiteral("x"));
+        s.typeOver(u"x"_s);
         s.other->setFocus();
         QVERIFY(!s.field->error().isEmpty());
-        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00Z")));
+        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
         QVERIFY(s.field->error().isEmpty());
     }
 
     void steppingStartsFromTheLastDay()
     {
         Shown s;
-        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00Z")));
-        s.typeOver(QStringLiteral("x"));
+        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
+        s.typeOver(u"x"_s);
         QTest::keyClick(s.field, Qt::Key_Up);
-        QCOMPARE(s.field->text(), QStringLiteral("16/06/2026"));
+        QCOMPARE(s.field->text(), u"16/06/2026"_s);
     }
 
     void theWheelBelongsToWhatIsAround()
     {
         Shown s;
-        const QString given = QStringLiteral("2026-06-15T10:00:00.000Z");
+        const QString given = u"2026-06-15T10:00:00.000Z"_s;
         s.field->setInstant(at(given));
         const QPointF place = s.field->rect().center();
         QWheelEvent wheel(place, s.field->mapToGlobal(place), {}, QPoint(0, 120), Qt::NoButton, {}, Qt::NoScrollPhase,
@@ -346,7 +345,7 @@ private Q_SLOTS:
         QFETCH(int, key);
         QFETCH(Qt::KeyboardModifiers, modifiers);
         Shown s;
-        s.field->setInstant(at(QStringLiteral("2026-06-15T10:00:00.007Z")));
+        s.field->setInstant(at(u"2026-06-15T10:00:00.007Z"_s));
         QSignalSpy edited(s.field, &DateField::edited);
         QVERIFY(!s.field->findChild<QCalendarWidget*>());
         if (key != 0)
@@ -357,14 +356,14 @@ private Q_SLOTS:
         QVERIFY(calendar && calendar->isVisible());
         QCOMPARE(calendar->firstDayOfWeek(), Qt::Monday);
         QCOMPARE(calendar->selectedDate(), QDate(2026, 6, 15));
-        auto* days = calendar->findChild<QWidget*>(QStringLiteral("qt_calendar_calendarview"));
+        auto* days = calendar->findChild<QWidget*>(u"qt_calendar_calendarview"_s);
         QCOMPARE(QApplication::activePopupWidget()->focusWidget(), days); // where a popup's keys go
         QTest::keyClick(days, Qt::Key_Right);
         QVERIFY(edited.isEmpty());
         QTest::keyClick(days, Qt::Key_Return);
         QVERIFY(!calendar->isVisible());
         QCOMPARE(edited.size(), 1);
-        QCOMPARE(iso(s.field->instant()), QStringLiteral("2026-06-16T10:00:00.007Z"));
+        QCOMPARE(iso(s.field->instant()), u"2026-06-16T10:00:00.007Z"_s);
     }
 
     void escapeLeavesTheCalendarOnly()
@@ -373,7 +372,7 @@ private Q_SLOTS:
         QSignalSpy edited(s.field, &DateField::edited);
         QTest::keyClick(s.field, Qt::Key_F4);
         auto* calendar = s.field->findChild<QCalendarWidget*>();
-        auto* days = calendar->findChild<QWidget*>(QStringLiteral("qt_calendar_calendarview"));
+        auto* days = calendar->findChild<QWidget*>(u"qt_calendar_calendarview"_s);
         QTest::keyClick(days, Qt::Key_Right);
         QTest::keyClick(days, Qt::Key_Escape);
         QVERIFY(!calendar->isVisible());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EditEquipmentView.h"
+#include "Literals.h"
 
 #include "FormDriver.h"
 #include "GroupBox.h"
@@ -41,12 +42,12 @@ Instant at(const char* iso)
 /// An item as the form would write it: saving it unchanged changes nothing.
 Equipment settled(const ScreenFixture& f)
 {
-    Equipment item = makeItem(1, QStringLiteral("Erogatore vecchio"), EquipmentType::regulator, {});
-    item.serialNumber = QStringLiteral("A\u00A0B");
+    Equipment item = makeItem(1, u"Erogatore vecchio"_s, EquipmentType::regulator, {});
+    item.serialNumber = u"A\u00A0B"_s;
     item.purchaseDate = at("2020-03-29T00:59:59.999Z");
     item.lastServiceDate = f.inDays(-200);
     item.nextServiceDate = *f.calendar.addDays(item.lastServiceDate, 365);
-    item.notes = QStringLiteral("prima\r\nseconda\u00A0riga\u2028terza");
+    item.notes = u"prima\r\nseconda\u00A0riga\u2028terza"_s;
     item.maintenanceHistory.append(Maintenance());
     return item;
 }
@@ -65,20 +66,20 @@ private Q_SLOTS:
         ScreenFixture f;
         const Equipment item = settled(f);
         Open o(f.context, item);
-        QCOMPARE(o.form.windowTitle(), QStringLiteral("Modifica Attrezzatura"));
+        QCOMPARE(o.form.windowTitle(), u"Modifica Attrezzatura"_s);
         QStringList groups;
         for (const GroupBox* group : o.form.findChildren<GroupBox*>())
             groups.append(group->title());
-        QCOMPARE(groups, QStringList({QStringLiteral("Informazioni Generali"), QStringLiteral("Dettagli Tecnici"),
-                                      QStringLiteral("Date"), QStringLiteral("Stato"), QStringLiteral("Note")}));
+        QCOMPARE(groups,
+                 QStringList({u"Informazioni Generali"_s, u"Dettagli Tecnici"_s, u"Date"_s, u"Stato"_s, u"Note"_s}));
         QCOMPARE(o.driver.part<QLineEdit>("name").text(), item.name);
         QCOMPARE(o.driver.part<QLineEdit>("brand").text(), item.brand);
         QCOMPARE(o.driver.part<QLineEdit>("model").text(), item.model);
         QCOMPARE(o.driver.part<QLineEdit>("serialNumber").text(), item.serialNumber);
-        QCOMPARE(o.driver.part<DateField>("purchaseDate").text(), QStringLiteral("29/03/2020"));
-        QCOMPARE(o.driver.chosenType(), QStringLiteral("Erogatore"));
-        QCOMPARE(o.driver.text("interval"), QStringLiteral("365 giorni"));
-        QCOMPARE(o.driver.part<ToggleSwitch>("isActive").text(), QStringLiteral("Attivo"));
+        QCOMPARE(o.driver.part<DateField>("purchaseDate").text(), u"29/03/2020"_s);
+        QCOMPARE(o.driver.chosenType(), u"Erogatore"_s);
+        QCOMPARE(o.driver.text("interval"), u"365 giorni"_s);
+        QCOMPARE(o.driver.part<ToggleSwitch>("isActive").text(), u"Attivo"_s);
         QVERIFY(o.driver.part<ToggleSwitch>("isActive").isChecked());
         QVERIFY(!o.driver.shows("incomplete"));
         QVERIFY(o.driver.shows("required"));
@@ -89,7 +90,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         Equipment item = settled(f);
-        item.brand = QStringLiteral(" ");
+        item.brand = u" "_s;
         Open o(f.context, item);
         QCOMPARE(QApplication::focusWidget(), &o.driver.part<QLineEdit>("brand"));
         QVERIFY(o.driver.shows("incomplete"));
@@ -101,38 +102,38 @@ private Q_SLOTS:
         const Equipment item = settled(f);
         f.equipment.addEquipment(item);
         Open o(f.context, item);
-        o.driver.type("name", QStringLiteral("Luce"));
-        o.driver.choose(QStringLiteral("Torcia"));
-        o.driver.type("brand", QStringLiteral("Altra"));
+        o.driver.type("name", u"Luce"_s);
+        o.driver.choose(u"Torcia"_s);
+        o.driver.type("brand", u"Altra"_s);
         o.driver.type("model", QString());
-        o.driver.type("serialNumber", QStringLiteral("9"));
-        o.driver.type("purchaseDate", QStringLiteral("30/03/2020"));
-        o.driver.type("lastServiceDate", QStringLiteral("25/10/2026"));
+        o.driver.type("serialNumber", u"9"_s);
+        o.driver.type("purchaseDate", u"30/03/2020"_s);
+        o.driver.type("lastServiceDate", u"25/10/2026"_s);
         o.driver.click("isActive");
-        o.driver.type("notes", QStringLiteral("nuove"));
-        QCOMPARE(o.driver.text("nextServiceDate"), QStringLiteral("25 ott 2027"));
+        o.driver.type("notes", u"nuove"_s);
+        QCOMPARE(o.driver.text("nextServiceDate"), u"25 ott 2027"_s);
         QSignalSpy changed(&f.equipment, &EquipmentViewModel::equipmentChanged);
         f.console.clear();
         o.driver.save();
 
         Equipment expected = item;
-        expected.name = QStringLiteral("Luce");
+        expected.name = u"Luce"_s;
         expected.type = EquipmentType::other;
-        expected.customTypeName = QStringLiteral("Torcia");
-        expected.brand = QStringLiteral("Altra");
+        expected.customTypeName = u"Torcia"_s;
+        expected.brand = u"Altra"_s;
         expected.model.clear();
-        expected.serialNumber = QStringLiteral("9");
+        expected.serialNumber = u"9"_s;
         expected.purchaseDate = *f.calendar.instant(QDate(2020, 3, 30), f.calendar.local(item.purchaseDate).time());
         expected.lastServiceDate =
             *f.calendar.instant(QDate(2026, 10, 25), f.calendar.local(item.lastServiceDate).time());
         expected.nextServiceDate = *f.calendar.addDays(expected.lastServiceDate, 365);
         expected.isActive = false;
-        expected.notes = QStringLiteral("nuove");
+        expected.notes = u"nuove"_s;
         QCOMPARE(f.equipment.equipment().last(), expected);
         QCOMPARE(changed.size(), 1);
         QCOMPARE(o.saved.size(), 1);
         QCOMPARE(o.saved.first().first().value<Equipment>(), expected);
-        QCOMPARE(f.takeLog(), QStringList(QStringLiteral("✏️ Aggiornato equipaggiamento: Luce")));
+        QCOMPARE(f.takeLog(), QStringList(u"✏️ Aggiornato equipaggiamento: Luce"_s));
         QVERIFY(!o.form.isVisible());
     }
 
@@ -141,11 +142,11 @@ private Q_SLOTS:
         ScreenFixture f;
         Equipment item = settled(f);
         item.type = EquipmentType::other;
-        item.customTypeName = QStringLiteral("Torcia");
+        item.customTypeName = u"Torcia"_s;
         f.equipment.addEquipment(item);
         Open o(f.context, item);
-        QCOMPARE(o.driver.chosenType(), QStringLiteral("Torcia"));
-        o.driver.choose(QStringLiteral("Bombola"));
+        QCOMPARE(o.driver.chosenType(), u"Torcia"_s);
+        o.driver.choose(u"Bombola"_s);
         o.driver.save();
         QCOMPARE(f.equipment.equipment().last().type, EquipmentType::cylinder);
         QVERIFY(!f.equipment.equipment().last().customTypeName);
@@ -192,8 +193,8 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         Equipment item = settled(f);
-        item.name = QString(50'000, QLatin1Char('x'));
-        item.brand = QStringLiteral("due\nrighe");
+        item.name = QString(50'000, u'x');
+        item.brand = u"due\nrighe"_s;
         f.equipment.addEquipment(item);
         Open o(f.context, item);
         o.driver.save();
@@ -205,12 +206,12 @@ private Q_SLOTS:
         ScreenFixture f;
         Equipment item = settled(f);
         item.type = EquipmentType::other;
-        item.customTypeName = QStringLiteral("Faro");
+        item.customTypeName = u"Faro"_s;
         f.equipment.addEquipment(item);
         Open o(f.context, item);
-        QCOMPARE(o.driver.chosenType(), QStringLiteral("Faro"));
+        QCOMPARE(o.driver.chosenType(), u"Faro"_s);
         QCOMPARE(o.driver.offeredTypes().size(), 17);
-        QCOMPARE(o.driver.offeredTypes().last(), QStringLiteral("Faro"));
+        QCOMPARE(o.driver.offeredTypes().last(), u"Faro"_s);
         QVERIFY(!o.driver.part<TypePicker>("type").itemIcon(16).isNull());
         QVERIFY(!o.driver.shows("interval"));
         o.driver.save();
@@ -221,25 +222,25 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         Equipment item = settled(f);
-        item.customTypeName = QStringLiteral("Faro");
+        item.customTypeName = u"Faro"_s;
         Open o(f.context, item);
-        o.driver.choose(QStringLiteral("Computer Subacqueo"));
-        QVERIFY(!o.driver.offeredTypes().contains(QStringLiteral("Faro")));
-        QCOMPARE(o.driver.text("interval"), QStringLiteral("730 giorni"));
+        o.driver.choose(u"Computer Subacqueo"_s);
+        QVERIFY(!o.driver.offeredTypes().contains(u"Faro"_s));
+        QCOMPARE(o.driver.text("interval"), u"730 giorni"_s);
     }
 
     void theIntervalFollowsTheCatalogue()
     {
         ScreenFixture f;
         Open o(f.context, settled(f));
-        EquipmentTypeModel type = *f.types.getTypeByName(QStringLiteral("Erogatore"));
+        EquipmentTypeModel type = *f.types.getTypeByName(u"Erogatore"_s);
         type.serviceIntervalDays = 30;
         f.types.updateType(type);
-        QCOMPARE(o.driver.text("interval"), QStringLiteral("30 giorni"));
+        QCOMPARE(o.driver.text("interval"), u"30 giorni"_s);
         type.isActive = false;
         f.types.updateType(type);
         QVERIFY(!o.driver.shows("interval"));
-        QCOMPARE(o.driver.chosenType(), QStringLiteral("Erogatore")); // as the appended entry
+        QCOMPARE(o.driver.chosenType(), u"Erogatore"_s); // as the appended entry
     }
 
     void escapeWritesNothing()
@@ -248,7 +249,7 @@ private Q_SLOTS:
         const Equipment item = settled(f);
         f.equipment.addEquipment(item);
         Open o(f.context, item);
-        o.driver.type("name", QStringLiteral("Altro nome"));
+        o.driver.type("name", u"Altro nome"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(!o.form.isVisible());
         QCOMPARE(f.equipment.equipment().last(), item);
@@ -279,11 +280,8 @@ private Q_SLOTS:
             order.append(QApplication::focusWidget()->objectName());
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
-        QCOMPARE(order,
-                 QStringList({QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("brand"),
-                              QStringLiteral("model"), QStringLiteral("serialNumber"), QStringLiteral("purchaseDate"),
-                              QStringLiteral("lastServiceDate"), QStringLiteral("isActive"), QStringLiteral("notes"),
-                              QStringLiteral("cancel"), QStringLiteral("primary")}));
+        QCOMPARE(order, QStringList({u"name"_s, u"type"_s, u"brand"_s, u"model"_s, u"serialNumber"_s, u"purchaseDate"_s,
+                                     u"lastServiceDate"_s, u"isActive"_s, u"notes"_s, u"cancel"_s, u"primary"_s}));
     }
 };
 

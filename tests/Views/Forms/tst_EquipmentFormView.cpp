@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentFormView.h"
+#include "Literals.h"
 #include "ScaledText.h"
 
 #include "ClippedTexts.h"
@@ -58,31 +59,25 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         Open o(f);
-        QCOMPARE(o.form.windowTitle(), QStringLiteral("Nuova Attrezzatura"));
+        QCOMPARE(o.form.windowTitle(), u"Nuova Attrezzatura"_s);
         QStringList groups;
         for (const GroupBox* group : o.form.findChildren<GroupBox*>()) {
             if (group->isVisible())
                 groups.append(group->title());
         }
-        QCOMPARE(groups, QStringList({QStringLiteral("Informazioni Generali"), QStringLiteral("Dettagli Tecnici"),
-                                      QStringLiteral("Date"), QStringLiteral("Note")}));
+        QCOMPARE(groups, QStringList({u"Informazioni Generali"_s, u"Dettagli Tecnici"_s, u"Date"_s, u"Note"_s}));
         QStringList texts = visibleTexts(o.form);
-        texts.removeOne(QStringLiteral("Nuova Attrezzatura"));
-        QCOMPARE(
-            texts,
-            QStringList({QStringLiteral("Informazioni Generali"), QStringLiteral("Nome*"), QStringLiteral("Tipo*"),
-                         QStringLiteral("Dettagli Tecnici"), QStringLiteral("Marca*"), QStringLiteral("Modello"),
-                         QStringLiteral("Numero Seriale"), QStringLiteral("Date"), QStringLiteral("Data Acquisto"),
-                         QStringLiteral("Ultimo Tagliando"), QStringLiteral("Prossimo Tagliando"),
-                         QStringLiteral("15 giu 2027"), QStringLiteral("Note"), QStringLiteral("* Campi obbligatori"),
-                         QStringLiteral("Compila tutti i campi obbligatori")}));
-        QCOMPARE(o.driver.part<QLineEdit>("name").placeholderText(), QStringLiteral("Inserisci il nome"));
-        QCOMPARE(o.driver.part<QLineEdit>("brand").placeholderText(), QStringLiteral("Inserisci la marca"));
-        QCOMPARE(o.driver.part<QLineEdit>("model").placeholderText(), QStringLiteral("Inserisci il modello"));
-        QCOMPARE(o.driver.part<QLineEdit>("serialNumber").placeholderText(),
-                 QStringLiteral("Inserisci il numero seriale"));
-        QCOMPARE(o.driver.part<QAbstractButton>("cancel").text(), QStringLiteral("Annulla"));
-        QCOMPARE(o.driver.part<QAbstractButton>("primary").text(), QStringLiteral("Salva"));
+        texts.removeOne(u"Nuova Attrezzatura"_s);
+        QCOMPARE(texts, QStringList({u"Informazioni Generali"_s, u"Nome*"_s, u"Tipo*"_s, u"Dettagli Tecnici"_s,
+                                     u"Marca*"_s, u"Modello"_s, u"Numero Seriale"_s, u"Date"_s, u"Data Acquisto"_s,
+                                     u"Ultimo Tagliando"_s, u"Prossimo Tagliando"_s, u"15 giu 2027"_s, u"Note"_s,
+                                     u"* Campi obbligatori"_s, u"Compila tutti i campi obbligatori"_s}));
+        QCOMPARE(o.driver.part<QLineEdit>("name").placeholderText(), u"Inserisci il nome"_s);
+        QCOMPARE(o.driver.part<QLineEdit>("brand").placeholderText(), u"Inserisci la marca"_s);
+        QCOMPARE(o.driver.part<QLineEdit>("model").placeholderText(), u"Inserisci il modello"_s);
+        QCOMPARE(o.driver.part<QLineEdit>("serialNumber").placeholderText(), u"Inserisci il numero seriale"_s);
+        QCOMPARE(o.driver.part<QAbstractButton>("cancel").text(), u"Annulla"_s);
+        QCOMPARE(o.driver.part<QAbstractButton>("primary").text(), u"Salva"_s);
     }
 
     void startsEmptyOnToday()
@@ -93,7 +88,7 @@ private Q_SLOTS:
             QCOMPARE(o.driver.part<QLineEdit>(field).text(), QString());
         for (const char* field : {"purchaseDate", "lastServiceDate"})
             QCOMPARE(o.driver.part<DateField>(field).instant(), f.clock.now());
-        QCOMPARE(o.driver.chosenType(), QStringLiteral("Erogatore"));
+        QCOMPARE(o.driver.chosenType(), u"Erogatore"_s);
         QCOMPARE(o.driver.offeredTypes().size(), 16);
         QCOMPARE(QApplication::focusWidget(), &o.driver.part<QLineEdit>("name"));
         QVERIFY(!o.driver.shows("isActive"));
@@ -105,18 +100,18 @@ private Q_SLOTS:
     {
         ScreenFixture f(QList<Equipment>{});
         Open o(f);
-        o.driver.type("name", QStringLiteral("  Bombola 12 litri "));
-        o.driver.choose(QStringLiteral("Bombola"));
-        o.driver.type("brand", QStringLiteral("Faber"));
-        o.driver.type("model", QStringLiteral(" Hot Dipped"));
-        o.driver.type("serialNumber", QStringLiteral("A-1 "));
-        o.driver.type("purchaseDate", QStringLiteral("29/02/2024"));
-        o.driver.type("lastServiceDate", QStringLiteral("31/12/2025"));
-        o.driver.type("notes", QStringLiteral(" due righe"));
+        o.driver.type("name", u"  Bombola 12 litri "_s);
+        o.driver.choose(u"Bombola"_s);
+        o.driver.type("brand", u"Faber"_s);
+        o.driver.type("model", u" Hot Dipped"_s);
+        o.driver.type("serialNumber", u"A-1 "_s);
+        o.driver.type("purchaseDate", u"29/02/2024"_s);
+        o.driver.type("lastServiceDate", u"31/12/2025"_s);
+        o.driver.type("notes", u" due righe"_s);
         QTest::keyClick(&o.driver.part<QPlainTextEdit>("notes"), Qt::Key_Return);
-        QTest::keyClicks(&o.driver.part<QPlainTextEdit>("notes"), QStringLiteral("di note "));
+        QTest::keyClicks(&o.driver.part<QPlainTextEdit>("notes"), u"di note "_s);
         QVERIFY(!o.driver.shows("incomplete"));
-        QCOMPARE(o.driver.text("nextServiceDate"), QStringLiteral("31 dic 2026"));
+        QCOMPARE(o.driver.text("nextServiceDate"), u"31 dic 2026"_s);
         const int idsBefore = f.ids.count();
         QSignalSpy changed(&f.equipment, &EquipmentViewModel::equipmentChanged);
         f.console.clear();
@@ -124,19 +119,19 @@ private Q_SLOTS:
 
         Equipment expected;
         expected.id = SequentialIds::at(idsBefore + 1);
-        expected.name = QStringLiteral("Bombola 12 litri");
+        expected.name = u"Bombola 12 litri"_s;
         expected.type = EquipmentType::cylinder;
-        expected.brand = QStringLiteral("Faber");
-        expected.model = QStringLiteral("Hot Dipped");
-        expected.serialNumber = QStringLiteral("A-1");
+        expected.brand = u"Faber"_s;
+        expected.model = u"Hot Dipped"_s;
+        expected.serialNumber = u"A-1"_s;
         const QTime time = f.calendar.local(f.clock.now()).time();
         expected.purchaseDate = *f.calendar.instant(QDate(2024, 2, 29), time);
         expected.lastServiceDate = *f.calendar.instant(QDate(2025, 12, 31), time);
         expected.nextServiceDate = *f.calendar.instant(QDate(2026, 12, 31), time);
-        expected.notes = QStringLiteral("due righe\ndi note");
+        expected.notes = u"due righe\ndi note"_s;
         QCOMPARE(f.equipment.equipment(), QList<Equipment>{expected});
         QCOMPARE(changed.size(), 1);
-        QCOMPARE(f.takeLog(), QStringList(QStringLiteral("➕ Aggiunto equipaggiamento: Bombola 12 litri")));
+        QCOMPARE(f.takeLog(), QStringList(u"➕ Aggiunto equipaggiamento: Bombola 12 litri"_s));
         QVERIFY(!o.form.isVisible());
         QCOMPARE(o.form.result(), int{QDialog::Accepted});
     }
@@ -145,12 +140,12 @@ private Q_SLOTS:
     {
         ScreenFixture f(QList<Equipment>{});
         Open o(f);
-        o.driver.type("name", QStringLiteral("Luce"));
-        o.driver.type("brand", QStringLiteral("X"));
-        o.driver.choose(QStringLiteral("Torcia"));
+        o.driver.type("name", u"Luce"_s);
+        o.driver.type("brand", u"X"_s);
+        o.driver.choose(u"Torcia"_s);
         o.driver.save();
         QCOMPARE(f.equipment.equipment().first().type, EquipmentType::other);
-        QCOMPARE(f.equipment.equipment().first().customTypeName, std::optional(QStringLiteral("Torcia")));
+        QCOMPARE(f.equipment.equipment().first().customTypeName, std::optional(u"Torcia"_s));
     }
 
     void anInvalidFormAlertsAndKeepsEverything_data()
@@ -158,9 +153,9 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("brand");
         QTest::addColumn<QString>("focused");
-        QTest::newRow("nothing") << QString() << QString() << QStringLiteral("name");
-        QTest::newRow("no brand") << QStringLiteral("Nome") << QString() << QStringLiteral("brand");
-        QTest::newRow("spaces") << QStringLiteral("   ") << QStringLiteral("Marca") << QStringLiteral("name");
+        QTest::newRow("nothing") << QString() << QString() << u"name"_s;
+        QTest::newRow("no brand") << u"Nome"_s << QString() << u"brand"_s;
+        QTest::newRow("spaces") << u"   "_s << u"Marca"_s << u"name"_s;
     }
 
     void anInvalidFormAlertsAndKeepsEverything()
@@ -172,25 +167,25 @@ private Q_SLOTS:
         Open o(f);
         o.driver.type("name", name);
         o.driver.type("brand", brand);
-        o.driver.type("model", QStringLiteral("Modello"));
+        o.driver.type("model", u"Modello"_s);
         QVERIFY(o.driver.shows("incomplete"));
         o.driver.save();
         Alert* alert = o.driver.alert();
         QVERIFY(alert);
-        QCOMPARE(alert->windowTitle(), QStringLiteral("Errore"));
-        QCOMPARE(alert->message(), QStringLiteral("Per favore, compila tutti i campi obbligatori."));
+        QCOMPARE(alert->windowTitle(), u"Errore"_s);
+        QCOMPARE(alert->message(), u"Per favore, compila tutti i campi obbligatori."_s);
         QStringList buttons;
         for (const QAbstractButton* button : alert->findChildren<QAbstractButton*>()) {
             if (button->isVisible())
                 buttons.append(button->text());
         }
-        QCOMPARE(buttons, QStringList(QStringLiteral("OK")));
+        QCOMPARE(buttons, QStringList(u"OK"_s));
         FormDriver(*alert).click("safe");
         QVERIFY(!o.driver.alert());
         QVERIFY(o.form.isVisible());
         QCOMPARE(f.equipment.equipment().size(), 3);
         QCOMPARE(o.driver.part<QLineEdit>("name").text(), name);
-        QCOMPARE(o.driver.part<QLineEdit>("model").text(), QStringLiteral("Modello"));
+        QCOMPARE(o.driver.part<QLineEdit>("model").text(), u"Modello"_s);
         o.form.activateWindow();
         QCOMPARE(o.form.focusWidget()->objectName(), focused);
         QVERIFY(o.form.rect().contains(o.form.focusWidget()->mapTo(&o.form, QPoint(0, 0))));
@@ -201,13 +196,13 @@ private Q_SLOTS:
         ScreenFixture f;
         Open o(f);
         const QSize before = o.form.size();
-        o.driver.type("name", QStringLiteral("N"));
+        o.driver.type("name", u"N"_s);
         QVERIFY(o.driver.shows("incomplete"));
-        o.driver.type("brand", QStringLiteral("B"));
+        o.driver.type("brand", u"B"_s);
         QVERIFY(!o.driver.shows("incomplete"));
         QVERIFY(o.driver.shows("required"));
         QCOMPARE(o.form.size(), before);
-        o.driver.type("name", QStringLiteral(" "));
+        o.driver.type("name", u" "_s);
         QVERIFY(o.driver.shows("incomplete"));
     }
 
@@ -216,8 +211,8 @@ private Q_SLOTS:
         ScreenFixture f;
         for (const bool byKey : {false, true}) {
             Open o(f);
-            o.driver.type("name", QStringLiteral("N"));
-            o.driver.type("brand", QStringLiteral("B"));
+            o.driver.type("name", u"N"_s);
+            o.driver.type("brand", u"B"_s);
             f.console.clear();
             if (byKey)
                 QTest::keyClick(&o.driver.part<QLineEdit>("brand"), Qt::Key_Escape);
@@ -234,9 +229,9 @@ private Q_SLOTS:
     {
         ScreenFixture f(QList<Equipment>{});
         Open o(f);
-        o.driver.type("name", QStringLiteral("N"));
-        o.driver.type("brand", QStringLiteral("B"));
-        o.driver.type("lastServiceDate", QStringLiteral("1/2/25"));
+        o.driver.type("name", u"N"_s);
+        o.driver.type("brand", u"B"_s);
+        o.driver.type("lastServiceDate", u"1/2/25"_s);
         QTest::keyClick(&o.driver.part<DateField>("lastServiceDate"), Qt::Key_Return, Qt::ControlModifier);
         QVERIFY(!o.form.isVisible());
         const Equipment item = f.equipment.equipment().first();
@@ -248,33 +243,32 @@ private Q_SLOTS:
     {
         ScreenFixture f(QList<Equipment>{});
         Open o(f);
-        o.driver.type("name", QStringLiteral("Pinne"));
-        o.driver.type("brand", QStringLiteral("Mares"));
-        o.driver.type("purchaseDate", QStringLiteral("31/02/2026"));
-        o.driver.type("lastServiceDate", QStringLiteral("1/2"));
+        o.driver.type("name", u"Pinne"_s);
+        o.driver.type("brand", u"Mares"_s);
+        o.driver.type("purchaseDate", u"31/02/2026"_s);
+        o.driver.type("lastServiceDate", u"1/2"_s);
         QTest::keyClick(&o.form, Qt::Key_Return, Qt::ControlModifier);
         QVERIFY(o.form.isVisible());
         QVERIFY(!o.driver.alert());
         QVERIFY(f.equipment.equipment().isEmpty());
         auto& date = o.driver.part<DateField>("purchaseDate");
         QVERIFY(date.hasFocus());
-        QCOMPARE(date.selectedText(), QStringLiteral("31/02/2026"));
-        QCOMPARE(visibleTexts(o.form).filter(QStringLiteral("Data non valida")).size(), 2);
+        QCOMPARE(date.selectedText(), u"31/02/2026"_s);
+        QCOMPARE(visibleTexts(o.form).filter(u"Data non valida"_s).size(), 2);
 
-        o.driver.type("purchaseDate", QStringLiteral("28/02/2026"));
-        o.driver.type("lastServiceDate", QStringLiteral("1/2/26"));
+        o.driver.type("purchaseDate", u"28/02/2026"_s);
+        o.driver.type("lastServiceDate", u"1/2/26"_s);
         QTest::keyClick(&o.form, Qt::Key_Return, Qt::ControlModifier);
         QCOMPARE(f.equipment.equipment().size(), 1);
-        QCOMPARE(f.context.dates.abbreviatedDate(f.equipment.equipment().first().lastServiceDate),
-                 QStringLiteral("1 feb 2026"));
+        QCOMPARE(f.context.dates.abbreviatedDate(f.equipment.equipment().first().lastServiceDate), u"1 feb 2026"_s);
     }
 
     void returnInAFieldSavesNothing()
     {
         ScreenFixture f;
         Open o(f);
-        o.driver.type("name", QStringLiteral("N"));
-        o.driver.type("brand", QStringLiteral("B"));
+        o.driver.type("name", u"N"_s);
+        o.driver.type("brand", u"B"_s);
         QTest::keyClick(&o.driver.part<QLineEdit>("brand"), Qt::Key_Return);
         QVERIFY(o.form.isVisible());
         QCOMPARE(f.equipment.equipment().size(), 3);
@@ -284,38 +278,38 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         Open o(f);
-        o.driver.choose(QStringLiteral("Computer Subacqueo"));
-        QCOMPARE(o.driver.text("nextServiceDate"), QStringLiteral("14 giu 2028"));
-        o.driver.type("lastServiceDate", QStringLiteral("01/01/2025"));
-        QCOMPARE(o.driver.text("nextServiceDate"), QStringLiteral("1 gen 2027"));
-        o.driver.type("purchaseDate", QStringLiteral("01/01/2020"));
-        QCOMPARE(o.driver.text("nextServiceDate"), QStringLiteral("1 gen 2027"));
-        EquipmentTypeModel computer = *f.types.getTypeByName(QStringLiteral("Computer Subacqueo"));
+        o.driver.choose(u"Computer Subacqueo"_s);
+        QCOMPARE(o.driver.text("nextServiceDate"), u"14 giu 2028"_s);
+        o.driver.type("lastServiceDate", u"01/01/2025"_s);
+        QCOMPARE(o.driver.text("nextServiceDate"), u"1 gen 2027"_s);
+        o.driver.type("purchaseDate", u"01/01/2020"_s);
+        QCOMPARE(o.driver.text("nextServiceDate"), u"1 gen 2027"_s);
+        EquipmentTypeModel computer = *f.types.getTypeByName(u"Computer Subacqueo"_s);
         computer.serviceIntervalDays = 1;
         f.types.updateType(computer);
-        QCOMPARE(o.driver.text("nextServiceDate"), QStringLiteral("2 gen 2025"));
+        QCOMPARE(o.driver.text("nextServiceDate"), u"2 gen 2025"_s);
     }
 
     void theTypeIsChosenAnewWhenItIsNoLongerOffered()
     {
         ScreenFixture f;
         Open o(f);
-        o.driver.choose(QStringLiteral("Pinne"));
-        f.types.deleteType(*f.types.getTypeByName(QStringLiteral("Muta")));
-        QCOMPARE(o.driver.chosenType(), QStringLiteral("Pinne"));
+        o.driver.choose(u"Pinne"_s);
+        f.types.deleteType(*f.types.getTypeByName(u"Muta"_s));
+        QCOMPARE(o.driver.chosenType(), u"Pinne"_s);
         QCOMPARE(o.driver.offeredTypes().size(), 15);
-        f.types.deleteType(*f.types.getTypeByName(QStringLiteral("Pinne")));
-        QCOMPARE(o.driver.chosenType(), QStringLiteral("Erogatore"));
-        f.types.deleteType(*f.types.getTypeByName(QStringLiteral("Erogatore")));
-        QCOMPARE(o.driver.chosenType(), QStringLiteral("Altro")); // the first
-        f.types.setSearchText(QStringLiteral("stagna"));
-        QCOMPARE(o.driver.offeredTypes(), QStringList(QStringLiteral("Muta Stagna")));
-        QCOMPARE(o.driver.chosenType(), QStringLiteral("Muta Stagna"));
+        f.types.deleteType(*f.types.getTypeByName(u"Pinne"_s));
+        QCOMPARE(o.driver.chosenType(), u"Erogatore"_s);
+        f.types.deleteType(*f.types.getTypeByName(u"Erogatore"_s));
+        QCOMPARE(o.driver.chosenType(), u"Altro"_s); // the first
+        f.types.setSearchText(u"stagna"_s);
+        QCOMPARE(o.driver.offeredTypes(), QStringList(u"Muta Stagna"_s));
+        QCOMPARE(o.driver.chosenType(), u"Muta Stagna"_s);
         f.types.setTypes({});
         QCOMPARE(o.driver.chosenType(), QString());
         f.types.setSearchText({});
         f.types.setTypes(f.types.getDefaultTypes());
-        QCOMPARE(o.driver.chosenType(), QStringLiteral("Erogatore"));
+        QCOMPARE(o.driver.chosenType(), u"Erogatore"_s);
     }
 
     void tabFollowsTheReadingOrder()
@@ -327,11 +321,8 @@ private Q_SLOTS:
             order.append(QApplication::focusWidget()->objectName());
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
-        QCOMPARE(order,
-                 QStringList({QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("brand"),
-                              QStringLiteral("model"), QStringLiteral("serialNumber"), QStringLiteral("purchaseDate"),
-                              QStringLiteral("lastServiceDate"), QStringLiteral("notes"), QStringLiteral("cancel"),
-                              QStringLiteral("primary"), QStringLiteral("name")}));
+        QCOMPARE(order, QStringList({u"name"_s, u"type"_s, u"brand"_s, u"model"_s, u"serialNumber"_s, u"purchaseDate"_s,
+                                     u"lastServiceDate"_s, u"notes"_s, u"cancel"_s, u"primary"_s, u"name"_s}));
     }
 
     void tabBringsFieldsIntoView()
@@ -350,15 +341,15 @@ private Q_SLOTS:
         ScreenFixture f;
         Open o(f);
         const QList<QPair<const char*, QString>> names{
-            {"name", QStringLiteral("Nome*")},
-            {"brand", QStringLiteral("Marca*")},
-            {"model", QStringLiteral("Modello")},
-            {"serialNumber", QStringLiteral("Numero Seriale")},
-            {"purchaseDate", QStringLiteral("Data Acquisto")},
-            {"lastServiceDate", QStringLiteral("Ultimo Tagliando")},
-            {"notes", QStringLiteral("Note")},
-            {"cancel", QStringLiteral("Annulla")},
-            {"primary", QStringLiteral("Salva")},
+            {"name", u"Nome*"_s},
+            {"brand", u"Marca*"_s},
+            {"model", u"Modello"_s},
+            {"serialNumber", u"Numero Seriale"_s},
+            {"purchaseDate", u"Data Acquisto"_s},
+            {"lastServiceDate", u"Ultimo Tagliando"_s},
+            {"notes", u"Note"_s},
+            {"cancel", u"Annulla"_s},
+            {"primary", u"Salva"_s},
         };
         for (const auto& [part, name] : names) {
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&o.driver.part<QWidget>(part));
@@ -368,7 +359,7 @@ private Q_SLOTS:
         QAccessibleInterface* picker = QAccessible::queryAccessibleInterface(&o.driver.part<QWidget>("type"));
         const auto labels = picker->relations(QAccessible::Label);
         QCOMPARE(labels.size(), 1);
-        QCOMPARE(labels.first().first->text(QAccessible::Name), QStringLiteral("Tipo*"));
+        QCOMPARE(labels.first().first->text(QAccessible::Name), u"Tipo*"_s);
     }
 
     void nothingIsCutOffWithLargerText()
@@ -376,7 +367,7 @@ private Q_SLOTS:
         const ScaledText scaled(1.25);
         ScreenFixture f;
         Open o(f);
-        QCOMPARE(clippedTexts(o.form).join(QLatin1Char('|')), QString());
+        QCOMPARE(clippedTexts(o.form).join(u'|'), QString());
         for (const char* field : {"purchaseDate", "lastServiceDate", "name", "type"})
             QVERIFY(o.driver.part<QWidget>(field).height() >= o.driver.part<QWidget>(field).sizeHint().height());
         QVERIFY(o.form.width() < 1000 && o.form.height() < 700);

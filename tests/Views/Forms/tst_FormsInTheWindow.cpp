@@ -5,6 +5,7 @@
 #include "EquipmentListView.h"
 #include "EquipmentTableView.h"
 #include "FormDriver.h"
+#include "Literals.h"
 #include "MainWindow.h"
 #include "RowActionsMenu.h"
 #include "ScreenFixture.h"
@@ -46,7 +47,7 @@ struct Shown
 void fill(const FormDriver& driver, const QString& name)
 {
     driver.type("name", name);
-    driver.type("brand", QStringLiteral("Marca"));
+    driver.type("brand", u"Marca"_s);
 }
 
 } // namespace
@@ -60,7 +61,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         Shown s(f);
-        auto* add = s.window.findChild<QAbstractButton*>(QStringLiteral("addButton"));
+        auto* add = s.window.findChild<QAbstractButton*>(u"addButton"_s);
         QVERIFY(!s.window.content().showingAddSheet());
         add->setFocus();
         QTest::mouseClick(add, Qt::LeftButton);
@@ -70,7 +71,7 @@ private Q_SLOTS:
         QVERIFY(s.window.content().showingAddSheet());
         QVERIFY(f.equipment.isAddingEquipment());
         const FormDriver driver(*form);
-        fill(driver, QStringLiteral("Nuovo erogatore"));
+        fill(driver, u"Nuovo erogatore"_s);
         driver.save();
         QVERIFY(!s.window.content().showingAddSheet());
         QVERIFY(!f.equipment.isAddingEquipment());
@@ -85,7 +86,7 @@ private Q_SLOTS:
         ScreenFixture f;
         Shown s(f);
         QAction* add = s.window.menuBar()->actions().first()->menu()->actions().first();
-        QCOMPARE(add->text().remove(QLatin1Char('&')), QStringLiteral("Aggiungi"));
+        QCOMPARE(add->text().remove(u'&'), u"Aggiungi"_s);
         QCOMPARE(add->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_N));
         s.table().setFocus();
         QTest::keyClick(&s.window, Qt::Key_N, Qt::ControlModifier);
@@ -107,14 +108,14 @@ private Q_SLOTS:
         ScreenFixture f(QList<Equipment>{});
         Shown s(f);
         for (QAbstractButton* button : s.window.findChildren<QAbstractButton*>()) {
-            if (button->text() == QStringLiteral("Aggiungi la prima attrezzatura") && button->isVisible()) {
+            if (button->text() == u"Aggiungi la prima attrezzatura"_s && button->isVisible()) {
                 QTest::mouseClick(button, Qt::LeftButton);
                 break;
             }
         }
         auto* form = s.openForm<EquipmentFormView>();
         QVERIFY(form);
-        fill(FormDriver(*form), QStringLiteral("Primo"));
+        fill(FormDriver(*form), u"Primo"_s);
         FormDriver(*form).save();
         QCoreApplication::processEvents();
         QCOMPARE(s.table().model()->rowCount(), 1);
@@ -131,7 +132,7 @@ private Q_SLOTS:
         QTest::mouseClick(s.table().viewport(), Qt::LeftButton, {}, s.table().visualRect(actions).center());
         auto* menu = s.window.findChild<RowActionsMenu*>();
         for (QAction* action : menu->actions()) {
-            if (action->text() == QStringLiteral("Modifica attrezzatura"))
+            if (action->text() == u"Modifica attrezzatura"_s)
                 action->trigger();
         }
         menu->close();
@@ -139,13 +140,13 @@ private Q_SLOTS:
         QVERIFY(form);
         QVERIFY(!s.window.content().showingAddSheet());
         QVERIFY(!f.equipment.isAddingEquipment());
-        QCOMPARE(s.window.content().selectedEquipment()->name, QStringLiteral("GAV Scubapro Hydros"));
+        QCOMPARE(s.window.content().selectedEquipment()->name, u"GAV Scubapro Hydros"_s);
         const FormDriver driver(*form);
-        QCOMPARE(driver.part<QLineEdit>("name").text(), QStringLiteral("GAV Scubapro Hydros"));
-        driver.type("name", QStringLiteral("GAV rosso"));
+        QCOMPARE(driver.part<QLineEdit>("name").text(), u"GAV Scubapro Hydros"_s);
+        driver.type("name", u"GAV rosso"_s);
         driver.save();
         QCoreApplication::processEvents();
-        QCOMPARE(s.window.content().selectedEquipment()->name, QStringLiteral("GAV rosso"));
+        QCOMPARE(s.window.content().selectedEquipment()->name, u"GAV rosso"_s);
         QVERIFY(f.equipment.equipment().contains(*s.window.content().selectedEquipment()));
         QVERIFY(s.table().selectionModel()->hasSelection());
         QCOMPARE(s.window.focusWidget(), &s.table());

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "TypePicker.h"
 
 #include "Fakes.h"
@@ -18,11 +19,11 @@ QList<EquipmentTypeModel> makeTypes(const QStringList& names)
 {
     QList<EquipmentTypeModel> types;
     for (const QString& name : names)
-        types.append({SequentialIds::at(1), name, QStringLiteral("dive.bcd"), QStringLiteral("blue"), 365, true});
+        types.append({SequentialIds::at(1), name, u"dive.bcd"_s, u"blue"_s, 365, true});
     return types;
 }
 
-const QStringList threeNames{QStringLiteral("GAV"), QStringLiteral("Muta"), QStringLiteral("muta")};
+const QStringList threeNames{u"GAV"_s, u"Muta"_s, u"muta"_s};
 
 } // namespace
 
@@ -35,11 +36,11 @@ private Q_SLOTS:
     {
         TypePicker picker;
         QSignalSpy chosen(&picker, &TypePicker::chosen);
-        picker.setTypes(makeTypes(threeNames), QStringLiteral("Muta"));
-        picker.setTypes(makeTypes(threeNames), QStringLiteral("GAV"));
-        picker.setTypes(makeTypes(threeNames.mid(1)), QStringLiteral("muta"));
-        QCOMPARE(picker.currentText(), QStringLiteral("muta"));
-        picker.setTypes(makeTypes(threeNames), QStringLiteral("Faro"));
+        picker.setTypes(makeTypes(threeNames), u"Muta"_s);
+        picker.setTypes(makeTypes(threeNames), u"GAV"_s);
+        picker.setTypes(makeTypes(threeNames.mid(1)), u"muta"_s);
+        QCOMPARE(picker.currentText(), u"muta"_s);
+        picker.setTypes(makeTypes(threeNames), u"Faro"_s);
         QCOMPARE(picker.currentIndex(), -1);
         QVERIFY(chosen.isEmpty());
     }
@@ -47,12 +48,12 @@ private Q_SLOTS:
     void choosingEmitsOnce()
     {
         TypePicker picker;
-        picker.setTypes(makeTypes(threeNames), QStringLiteral("GAV"));
+        picker.setTypes(makeTypes(threeNames), u"GAV"_s);
         picker.show();
         QSignalSpy chosen(&picker, &TypePicker::chosen);
         QTest::keyClick(&picker, Qt::Key_Down);
         QCOMPARE(chosen.size(), 1);
-        QCOMPARE(chosen.first().first().toString(), QStringLiteral("Muta"));
+        QCOMPARE(chosen.first().first().toString(), u"Muta"_s);
         picker.showPopup();
         QTest::keyClick(picker.view(), Qt::Key_Return); // the one it has
         QCOMPARE(chosen.size(), 1);
@@ -60,20 +61,20 @@ private Q_SLOTS:
         QTest::keyClick(picker.view(), Qt::Key_Up);
         QTest::keyClick(picker.view(), Qt::Key_Return);
         QCOMPARE(chosen.size(), 2);
-        QCOMPARE(picker.currentText(), QStringLiteral("GAV"));
+        QCOMPARE(picker.currentText(), u"GAV"_s);
     }
 
     void theWheelBelongsToWhatIsAround()
     {
         TypePicker picker;
-        picker.setTypes(makeTypes(threeNames), QStringLiteral("Muta"));
+        picker.setTypes(makeTypes(threeNames), u"Muta"_s);
         picker.show();
         const QPointF place = picker.rect().center();
         QWheelEvent wheel(place, picker.mapToGlobal(place), {}, QPoint(0, 120), Qt::NoButton, {}, Qt::NoScrollPhase,
                           false);
         QCoreApplication::sendEvent(&picker, &wheel);
         QVERIFY(!wheel.isAccepted());
-        QCOMPARE(picker.currentText(), QStringLiteral("Muta"));
+        QCOMPARE(picker.currentText(), u"Muta"_s);
     }
 
     void eachTypeHasItsPicture()
@@ -81,7 +82,7 @@ private Q_SLOTS:
         auto types = makeTypes(threeNames);
         types[1].icon.clear(); // shown as unknown
         TypePicker picker;
-        picker.setTypes(types, QStringLiteral("GAV"));
+        picker.setTypes(types, u"GAV"_s);
         for (int i = 0; i < picker.count(); ++i)
             QVERIFY(!picker.itemIcon(i).isNull());
     }

@@ -5,6 +5,7 @@
 #include "HelpPage.h"
 #include "HelpParts.h"
 #include "HelpView.h"
+#include "Literals.h"
 #include "SearchField.h"
 
 #include <QLabel>
@@ -20,8 +21,8 @@ struct ShownHelp
 {
     explicit ShownHelp(const QList<HelpSection>& sections = threeSections())
         : view(sections, opener)
-        , search(*view.findChild<SearchField*>(QStringLiteral("helpSearch")))
-        , list(*view.findChild<QListView*>(QStringLiteral("helpSections")))
+        , search(*view.findChild<SearchField*>(u"helpSearch"_s))
+        , list(*view.findChild<QListView*>(u"helpSections"_s))
         , page(*view.findChild<HelpPage*>())
     {
         view.resize(smallest);
@@ -43,7 +44,7 @@ struct ShownHelp
 
     [[nodiscard]] QString pageTitle() const
     {
-        return page.isVisible() ? page.toPlainText().section(QLatin1Char('\n'), 0, 0) : QString();
+        return page.isVisible() ? page.toPlainText().section(u'\n', 0, 0) : QString();
     }
 
     [[nodiscard]] QLabel* label(const QString& text) const

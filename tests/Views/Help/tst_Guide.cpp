@@ -2,6 +2,7 @@
 #include "HelpBlockParser.h"
 #include "HelpLoader.h"
 #include "InlineText.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QDirIterator>
@@ -45,14 +46,14 @@ QList<InlineRun> allRuns()
 /// The string literals of one source file; those that follow each other are one.
 QStringList literalsOf(const QString& source)
 {
-    static const QRegularExpression comment(QStringLiteral("^\\s*//.*$"), QRegularExpression::MultilineOption);
-    static const QRegularExpression literals(QStringLiteral("\"((?:[^\"\\\\\\n]|\\\\.)*)\"(\\s*)"));
+    static const QRegularExpression comment(u"^\\s*//.*$"_s, QRegularExpression::MultilineOption);
+    static const QRegularExpression literals(u"\"((?:[^\"\\\\\\n]|\\\\.)*)\"(\\s*)"_s);
     QString code = source;
     code.remove(comment);
     QStringList found;
     qsizetype end = -1;
     for (const QRegularExpressionMatch& match : literals.globalMatch(code)) {
-        const QString text = match.captured(1).replace(QLatin1String("\\\""), QLatin1String("\""));
+        const QString text = match.captured(1).replace("\\\""_L1, "\""_L1);
         if (match.capturedStart() == end)
             found.last() += text;
         else
@@ -65,14 +66,14 @@ QStringList literalsOf(const QString& source)
 QSet<QString> programTexts()
 {
     QSet<QString> texts;
-    QDirIterator files(QStringLiteral(PROGRAM_SOURCES), {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
+    QDirIterator files(QStringLiteral(PROGRAM_SOURCES), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
         if (!file.open(QIODevice::ReadOnly))
             qFatal("%s cannot be read", qPrintable(file.fileName()));
         for (const QString& text : literalsOf(QString::fromUtf8(file.readAll())))
-            texts.insert(QString(text).remove(QLatin1Char('&'))); // mnemonics
+            texts.insert(QString(text).remove(u'&')); // mnemonics
     }
     return texts;
 }
@@ -101,8 +102,8 @@ void tst_Guide::hasItsSections()
         titles.insert(section.title);
     QVERIFY(sections.size() >= 12);
     QCOMPARE(titles.size(), sections.size());
-    QVERIFY(!titles.contains(QStringLiteral("Guida non disponibile")));
-    QVERIFY2(!titles.contains(QStringLiteral("Introduzione")), "nothing stands before the first heading");
+    QVERIFY(!titles.contains(u"Guida non disponibile"_s));
+    QVERIFY2(!titles.contains(u"Introduzione"_s), "nothing stands before the first heading");
 }
 
 void tst_Guide::usesEveryKindOfBlock()
@@ -138,14 +139,14 @@ void tst_Guide::leavesNoMarkupUnread()
 {
     for (const InlineRun& run : allRuns()) {
         if (!run.isCode)
-            QVERIFY2(!run.text.contains(QRegularExpression(QStringLiteral("[*`_\\]\\[]"))), qPrintable(run.text));
+            QVERIFY2(!run.text.contains(QRegularExpression(u"[*`_\\]\\[]"_s)), qPrintable(run.text));
     }
 }
 
 void tst_Guide::namesNoRawHtml()
 {
     for (const InlineRun& run : allRuns())
-        QVERIFY2(!run.text.contains(QRegularExpression(QStringLiteral("</?[a-z]"))), qPrintable(run.text));
+        QVERIFY2(!run.text.contains(QRegularExpression(u"</?[a-z]"_s)), qPrintable(run.text));
 }
 
 ABISSORA_TEST(tst_Guide);

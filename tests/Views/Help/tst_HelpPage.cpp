@@ -4,6 +4,7 @@
 #include "Fakes.h"
 #include "HelpPage.h"
 #include "HelpPageFormat.h"
+#include "Literals.h"
 #include "Tokens.h"
 
 #include <QClipboard>
@@ -31,12 +32,12 @@ const char* const everyKind = "Un *testo* in **grassetto**\nsu due righe.\n"
 
 HelpSection section(const QString& body)
 {
-    return {QStringLiteral("sezione-0"), QStringLiteral("Titolo"), body};
+    return {u"sezione-0"_s, u"Titolo"_s, body};
 }
 
 QString manyParagraphs()
 {
-    return QStringLiteral("Una riga di testo.\n\n").repeated(80);
+    return u"Una riga di testo.\n\n"_s.repeated(80);
 }
 
 struct Shown
@@ -118,35 +119,34 @@ void tst_HelpPage::everythingIsCopiedAsItReads()
     activate(shown.page);
     QTest::keySequence(&shown.page, QKeySequence::SelectAll);
     QTest::keySequence(&shown.page, QKeySequence::Copy);
-    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("Titolo\n"
-                                                                  "Un testo in grassetto\n"
-                                                                  "su due righe.\n"
-                                                                  "Passi\n"
-                                                                  "1. Primo\n"
-                                                                  "2. Secondo\n"
-                                                                  "3. Terzo con codice\n"
-                                                                  "Una citazione.\n"
-                                                                  "• Uno\n"
-                                                                  "• Due\n"
-                                                                  "\n"
-                                                                  "**uno**\n"
-                                                                  "due"));
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"Titolo\n"
+                                                   "Un testo in grassetto\n"
+                                                   "su due righe.\n"
+                                                   "Passi\n"
+                                                   "1. Primo\n"
+                                                   "2. Secondo\n"
+                                                   "3. Terzo con codice\n"
+                                                   "Una citazione.\n"
+                                                   "• Uno\n"
+                                                   "• Due\n"
+                                                   "\n"
+                                                   "**uno**\n"
+                                                   "due"_s);
 }
 
 void tst_HelpPage::aSelectionGoesAcrossBlocks()
 {
     Shown shown(QString::fromUtf8(everyKind));
     activate(shown.page);
-    const QRect first = shown.page.cursorRect(at(shown.page, QStringLiteral("Primo")));
-    const QRect last = shown.page.cursorRect(at(shown.page, QStringLiteral("Due")));
+    const QRect first = shown.page.cursorRect(at(shown.page, u"Primo"_s));
+    const QRect last = shown.page.cursorRect(at(shown.page, u"Due"_s));
     QWidget* const viewport = shown.page.viewport();
     QTest::mousePress(viewport, Qt::LeftButton, {}, QPoint(35, first.center().y()));
     QTest::mouseMove(viewport, last.center());
     QTest::mouseRelease(viewport, Qt::LeftButton, {}, last.center());
     shown.page.copy();
     const QString copied = QGuiApplication::clipboard()->text();
-    QVERIFY2(copied.contains(QStringLiteral("2. Secondo\n3. Terzo con codice\nUna citazione.\n• Uno")),
-             qPrintable(copied));
+    QVERIFY2(copied.contains(u"2. Secondo\n3. Terzo con codice\nUna citazione.\n• Uno"_s), qPrintable(copied));
 }
 
 void tst_HelpPage::blocksHaveTheirBackdrops()
@@ -172,41 +172,38 @@ void tst_HelpPage::textsHaveTheirDress()
     QCOMPARE(format("Passi").fontWeight(), static_cast<int>(QFont::DemiBold));
     QCOMPARE(format("2.").fontWeight(), static_cast<int>(QFont::DemiBold));
     QVERIFY(format("codice").font().families() != format("Terzo").font().families());
-    QCOMPARE(inkOf(shown.page, QStringLiteral("2.")), tokens.named(NamedColor::blue));
-    QCOMPARE(inkOf(shown.page, QStringLiteral("•")), tokens.named(NamedColor::blue));
-    QCOMPARE(inkOf(shown.page, QStringLiteral("Una ")), tokens.secondaryText);
-    QCOMPARE(inkOf(shown.page, QStringLiteral("citazione")), tokens.accentInk);
+    QCOMPARE(inkOf(shown.page, u"2."_s), tokens.named(NamedColor::blue));
+    QCOMPARE(inkOf(shown.page, u"•"_s), tokens.named(NamedColor::blue));
+    QCOMPARE(inkOf(shown.page, u"Una "_s), tokens.secondaryText);
+    QCOMPARE(inkOf(shown.page, u"citazione"_s), tokens.accentInk);
     QVERIFY(format("Una ").font().pointSizeF() < format("Primo").font().pointSizeF());
     QVERIFY(format("Titolo").font().pointSizeF() > format("Passi").font().pointSizeF());
 }
 
 void tst_HelpPage::htmlIsText()
 {
-    const QString html = QStringLiteral("<b>a</b> <script>alert(1)</script> <img src=\"x.png\"> &lt;i&gt;");
+    const QString html = u"<b>a</b> <script>alert(1)</script> <img src=\"x.png\"> &lt;i&gt;"_s;
     const Shown shown(html);
-    QVERIFY(shown.page.toPlainText().contains(
-        QStringLiteral("<b>a</b> <script>alert(1)</script> <img src=\"x.png\"> <i>")));
+    QVERIFY(shown.page.toPlainText().contains(u"<b>a</b> <script>alert(1)</script> <img src=\"x.png\"> <i>"_s));
 }
 
 void tst_HelpPage::picturesAreNeverLoaded()
 {
-    Shown shown(
-        QStringLiteral("![una bombola](:/appicon/abissora.svg)\n\n- ![](file:///a.png)\n\n<img src=\"b.png\">"));
+    Shown shown(u"![una bombola](:/appicon/abissora.svg)\n\n- ![](file:///a.png)\n\n<img src=\"b.png\">"_s);
     activate(shown.page);
     QVERIFY(!shown.page.toPlainText().contains(QChar::ObjectReplacementCharacter));
-    QVERIFY(shown.page.toPlainText().contains(QStringLiteral("una bombola")));
-    QVERIFY(!shown.page.loadResource(QTextDocument::ImageResource, QUrl(QStringLiteral(":/appicon/abissora.svg")))
-                 .isValid());
+    QVERIFY(shown.page.toPlainText().contains(u"una bombola"_s));
+    QVERIFY(!shown.page.loadResource(QTextDocument::ImageResource, QUrl(u":/appicon/abissora.svg"_s)).isValid());
 }
 
 void tst_HelpPage::aLinkIsOpenedByAClick()
 {
     Shown shown(QString::fromUtf8(everyKind));
     activate(shown.page);
-    const QPoint link = shown.page.cursorRect(at(shown.page, QStringLiteral("cita"))).center();
+    const QPoint link = shown.page.cursorRect(at(shown.page, u"cita"_s)).center();
     QTest::mouseClick(shown.page.viewport(), Qt::LeftButton, {}, link);
-    QCOMPARE(shown.opener.opened(), QList<QUrl>{QUrl(QStringLiteral("https://abissora.example/a?b=c&d=e"))});
-    QVERIFY2(shown.page.toPlainText().startsWith(QStringLiteral("Titolo")), "the page itself goes nowhere");
+    QCOMPARE(shown.opener.opened(), QList<QUrl>{QUrl(u"https://abissora.example/a?b=c&d=e"_s)});
+    QVERIFY2(shown.page.toPlainText().startsWith(u"Titolo"_s), "the page itself goes nowhere");
 }
 
 void tst_HelpPage::aLinkIsOpenedByTheKeyboard()
@@ -216,7 +213,7 @@ void tst_HelpPage::aLinkIsOpenedByTheKeyboard()
     shown.page.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&shown.page, Qt::Key_Tab);
     QTest::keyClick(&shown.page, Qt::Key_Return);
-    QCOMPARE(shown.opener.opened(), QList<QUrl>{QUrl(QStringLiteral("https://abissora.example/a?b=c&d=e"))});
+    QCOMPARE(shown.opener.opened(), QList<QUrl>{QUrl(u"https://abissora.example/a?b=c&d=e"_s)});
 }
 
 void tst_HelpPage::aLinkThatNothingOpensIsTold()
@@ -224,17 +221,17 @@ void tst_HelpPage::aLinkThatNothingOpensIsTold()
     Shown shown(QString::fromUtf8(everyKind));
     shown.opener.succeed(false);
     activate(shown.page);
-    const QPoint link = shown.page.cursorRect(at(shown.page, QStringLiteral("cita"))).center();
+    const QPoint link = shown.page.cursorRect(at(shown.page, u"cita"_s)).center();
     QTest::mouseClick(shown.page.viewport(), Qt::LeftButton, {}, link);
     const auto* notice = shown.page.findChild<Alert*>();
     QVERIFY(notice != nullptr && notice->isVisible());
-    QVERIFY(notice->message().contains(QLatin1String("https://abissora.example/a?b=c&d=e")));
+    QVERIFY(notice->message().contains("https://abissora.example/a?b=c&d=e"_L1));
 }
 
 void tst_HelpPage::hostileLinksAreText()
 {
-    Shown shown(QStringLiteral("[uno](javascript:alert(1)) [due](file:///etc/passwd)\n\n- [tre](data:text/html,a)\n"
-                               "1. [quattro](HELP.md)\n> [cinque](qrc:/a)"));
+    Shown shown(u"[uno](javascript:alert(1)) [due](file:///etc/passwd)\n\n- [tre](data:text/html,a)\n"
+                "1. [quattro](HELP.md)\n> [cinque](qrc:/a)"_s);
     activate(shown.page);
     for (const char* text : {"uno", "due", "tre", "quattro", "cinque"}) {
         const QTextCursor link = at(shown.page, QString::fromUtf8(text));
@@ -249,16 +246,16 @@ void tst_HelpPage::theSchemeSwitchesLive()
 {
     Shown shown(QString::fromUtf8(everyKind) + manyParagraphs());
     activate(shown.page);
-    QTextCursor selected = at(shown.page, QStringLiteral("Terzo"));
+    QTextCursor selected = at(shown.page, u"Terzo"_s);
     shown.page.setTextCursor(selected);
     shown.page.verticalScrollBar()->setValue(70);
     applyTheme(*qApp, Scheme::Dark);
-    QTRY_COMPARE(inkOf(shown.page, QStringLiteral("citazione")), Tokens::of(Scheme::Dark).accentInk);
-    QCOMPARE(shown.page.textCursor().selectedText(), QStringLiteral("Terzo"));
+    QTRY_COMPARE(inkOf(shown.page, u"citazione"_s), Tokens::of(Scheme::Dark).accentInk);
+    QCOMPARE(shown.page.textCursor().selectedText(), u"Terzo"_s);
     QCOMPARE(shown.page.verticalScrollBar()->value(), 70);
 
     Shown fresh(QString::fromUtf8(everyKind) + manyParagraphs());
-    fresh.page.setTextCursor(at(fresh.page, QStringLiteral("Terzo")));
+    fresh.page.setTextCursor(at(fresh.page, u"Terzo"_s));
     activate(fresh.page);
     fresh.page.verticalScrollBar()->setValue(70);
     QCOMPARE(shown.page.viewport()->grab().toImage(), fresh.page.viewport()->grab().toImage());
@@ -268,7 +265,7 @@ void tst_HelpPage::theTextSizeFollowsTheApplication()
 {
     Shown shown(QString::fromUtf8(everyKind));
     activate(shown.page);
-    const auto size = [&] { return at(shown.page, QStringLiteral("Primo")).charFormat().font().pointSizeF(); };
+    const auto size = [&] { return at(shown.page, u"Primo"_s).charFormat().font().pointSizeF(); };
     const qreal before = size();
     QFont larger = m_font;
     larger.setPointSizeF(m_font.pointSizeF() * 1.5);
@@ -317,7 +314,7 @@ void tst_HelpPage::shiftedKeysSelect()
     activate(shown.page);
     sendKey(shown.page, Qt::Key_Down, Qt::ShiftModifier);
     sendKey(shown.page, Qt::Key_Down, Qt::ShiftModifier);
-    QVERIFY(shown.page.textCursor().selectedText().startsWith(QStringLiteral("Titolo\u2029Una riga di testo.\u2029")));
+    QVERIFY(shown.page.textCursor().selectedText().startsWith(u"Titolo\u2029Una riga di testo.\u2029"_s));
     QCOMPARE(shown.page.verticalScrollBar()->value(), 0);
 }
 
@@ -336,10 +333,10 @@ void tst_HelpPage::anotherSectionIsShownFromItsTop()
     activate(shown.page);
     shown.page.selectAll();
     shown.page.verticalScrollBar()->setValue(200);
-    shown.page.setSection({QStringLiteral("sezione-1"), QStringLiteral("Altro"), manyParagraphs()});
+    shown.page.setSection({u"sezione-1"_s, u"Altro"_s, manyParagraphs()});
     QCOMPARE(shown.page.verticalScrollBar()->value(), 0);
     QVERIFY(!shown.page.textCursor().hasSelection());
-    QVERIFY(shown.page.toPlainText().startsWith(QStringLiteral("Altro\n")));
+    QVERIFY(shown.page.toPlainText().startsWith(u"Altro\n"_s));
 }
 
 void tst_HelpPage::theSameSectionStaysWhereItIs()
@@ -354,14 +351,14 @@ void tst_HelpPage::theSameSectionStaysWhereItIs()
 void tst_HelpPage::nothingIsWiderThanThePage_data()
 {
     QTest::addColumn<QString>("body");
-    const QString word = QString(400, QLatin1Char('m'));
+    const QString word = QString(400, u'm');
     QTest::newRow("a long word") << word;
-    QTest::newRow("a long subheading") << QStringLiteral("### ") + word;
-    QTest::newRow("a long item") << QStringLiteral("- ") + word;
-    QTest::newRow("a long quote") << QStringLiteral("> ") + word;
-    QTest::newRow("a long line of code") << QStringLiteral("```\n") + word + QStringLiteral("\n```");
-    QTest::newRow("a long code span") << QLatin1Char('`') + word + QLatin1Char('`');
-    QTest::newRow("a thousand items") << QStringLiteral("1. a\n").repeated(1000);
+    QTest::newRow("a long subheading") << u"### "_s + word;
+    QTest::newRow("a long item") << u"- "_s + word;
+    QTest::newRow("a long quote") << u"> "_s + word;
+    QTest::newRow("a long line of code") << u"```\n"_s + word + u"\n```"_s;
+    QTest::newRow("a long code span") << u'`' + word + u'`';
+    QTest::newRow("a thousand items") << u"1. a\n"_s.repeated(1000);
 }
 
 void tst_HelpPage::nothingIsWiderThanThePage()
@@ -375,7 +372,7 @@ void tst_HelpPage::nothingIsWiderThanThePage()
 
 void tst_HelpPage::linesOfAWidePageStayReadable()
 {
-    Shown shown(QStringLiteral("parola ").repeated(400));
+    Shown shown(u"parola "_s.repeated(400));
     shown.page.resize(1600, 600);
     activate(shown.page);
     const QTextLayout& lines = *shown.page.document()->begin().next().layout();
@@ -389,11 +386,11 @@ void tst_HelpPage::itIsReadAsTextWithTheSectionsName()
 {
     Shown shown(QString::fromUtf8(everyKind));
     activate(shown.page);
-    QCOMPARE(nameOf(shown.page), QStringLiteral("Titolo"));
+    QCOMPARE(nameOf(shown.page), u"Titolo"_s);
     QAccessibleInterface* const page = QAccessible::queryAccessibleInterface(&shown.page);
     QVERIFY(page->textInterface() != nullptr);
     const QString text = page->textInterface()->text(0, page->textInterface()->characterCount());
-    QVERIFY2(text.contains(QStringLiteral("2.\tSecondo")), qPrintable(text));
+    QVERIFY2(text.contains(u"2.\tSecondo"_s), qPrintable(text));
 }
 
 ABISSORA_TEST(tst_HelpPage);

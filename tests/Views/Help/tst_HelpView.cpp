@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
+#include "Literals.h"
 #include "ScaledText.h"
 #include "ShownHelp.h"
 
@@ -48,13 +49,12 @@ void tst_HelpView::opensAtTheFirstSection()
 {
     ShownHelp shown;
     activate(shown.view);
-    QVERIFY(shown.label(QStringLiteral("Aiuto")) != nullptr);
-    QVERIFY(shown.label(QStringLiteral("Guida all'uso di Abissora")) != nullptr);
-    QCOMPARE(shown.search.placeholderText(), QStringLiteral("Cerca nella guida…"));
-    QCOMPARE(shown.rows(), (QStringList{QStringLiteral("Primi passi"), QStringLiteral("Manutenzioni"),
-                                        QStringLiteral("Tipologie e qualità")}));
+    QVERIFY(shown.label(u"Aiuto"_s) != nullptr);
+    QVERIFY(shown.label(u"Guida all'uso di Abissora"_s) != nullptr);
+    QCOMPARE(shown.search.placeholderText(), u"Cerca nella guida…"_s);
+    QCOMPARE(shown.rows(), (QStringList{u"Primi passi"_s, u"Manutenzioni"_s, u"Tipologie e qualità"_s}));
     QCOMPARE(shown.selectedRow(), 0);
-    QCOMPARE(shown.pageTitle(), QStringLiteral("Primi passi"));
+    QCOMPARE(shown.pageTitle(), u"Primi passi"_s);
 }
 
 void tst_HelpView::aClickSelects()
@@ -63,7 +63,7 @@ void tst_HelpView::aClickSelects()
     activate(shown.view);
     shown.click(2);
     QCOMPARE(shown.selectedRow(), 2);
-    QCOMPARE(shown.pageTitle(), QStringLiteral("Tipologie e qualità"));
+    QCOMPARE(shown.pageTitle(), u"Tipologie e qualità"_s);
 }
 
 void tst_HelpView::theArrowsSelect()
@@ -72,22 +72,22 @@ void tst_HelpView::theArrowsSelect()
     activate(shown.view);
     shown.list.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&shown.list, Qt::Key_Down);
-    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
+    QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
     QTest::keyClick(&shown.list, Qt::Key_End);
-    QCOMPARE(shown.pageTitle(), QStringLiteral("Tipologie e qualità"));
+    QCOMPARE(shown.pageTitle(), u"Tipologie e qualità"_s);
 }
 
 void tst_HelpView::enterSelectsTheRowOfTheKeyboard()
 {
     ShownHelp shown;
     activate(shown.view);
-    shown.type(QStringLiteral("rebreather"));
-    shown.type(QStringLiteral("scontrino"));
+    shown.type(u"rebreather"_s);
+    shown.type(u"scontrino"_s);
     QCOMPARE(shown.selectedRow(), -1);
     shown.list.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&shown.list, Qt::Key_Return);
     QCOMPARE(shown.selectedRow(), 0);
-    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
+    QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
 }
 
 void tst_HelpView::aScreenReaderSelects()
@@ -95,17 +95,17 @@ void tst_HelpView::aScreenReaderSelects()
     ShownHelp shown;
     activate(shown.view);
     shown.list.selectionModel()->select(shown.list.model()->index(1, 0), QItemSelectionModel::ClearAndSelect);
-    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
+    QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
 }
 
 void tst_HelpView::theSearchNarrowsTheIndex()
 {
     ShownHelp shown;
     activate(shown.view);
-    shown.type(QStringLiteral("MANUTENZIONE"));
-    QCOMPARE(shown.rows(), (QStringList{QStringLiteral("Primi passi"), QStringLiteral("Manutenzioni")}));
+    shown.type(u"MANUTENZIONE"_s);
+    QCOMPARE(shown.rows(), (QStringList{u"Primi passi"_s, u"Manutenzioni"_s}));
     QCOMPARE(shown.selectedRow(), 0);
-    shown.type(QStringLiteral("   "));
+    shown.type(u"   "_s);
     QCOMPARE(shown.rows().size(), qsizetype(3));
 }
 
@@ -113,53 +113,53 @@ void tst_HelpView::aSearchThatIsDictatedCounts()
 {
     ShownHelp shown;
     activate(shown.view);
-    QAccessible::queryAccessibleInterface(&shown.search)->setText(QAccessible::Value, QStringLiteral("scontrino"));
-    QCOMPARE(shown.rows(), QStringList{QStringLiteral("Manutenzioni")});
+    QAccessible::queryAccessibleInterface(&shown.search)->setText(QAccessible::Value, u"scontrino"_s);
+    QCOMPARE(shown.rows(), QStringList{u"Manutenzioni"_s});
 }
 
 void tst_HelpView::theSelectionMovesToTheFirstMatchAndStays()
 {
     ShownHelp shown;
     activate(shown.view);
-    shown.type(QStringLiteral("scontrino"));
-    QCOMPARE(shown.rows(), QStringList{QStringLiteral("Manutenzioni")});
+    shown.type(u"scontrino"_s);
+    QCOMPARE(shown.rows(), QStringList{u"Manutenzioni"_s});
     QCOMPARE(shown.selectedRow(), 0);
-    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
+    QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
     QTest::keyClick(&shown.search, Qt::Key_Escape);
     QCOMPARE(shown.rows().size(), qsizetype(3));
     QCOMPARE(shown.selectedRow(), 1);
-    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
+    QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
 }
 
 void tst_HelpView::nothingFoundIsSaid()
 {
     ShownHelp shown;
     activate(shown.view);
-    QVERIFY(shown.label(QStringLiteral("Seleziona un argomento")) == nullptr);
-    shown.type(QStringLiteral("rebreather"));
-    const QLabel* const said = shown.label(QStringLiteral("Nessun risultato per\n\"rebreather\""));
+    QVERIFY(shown.label(u"Seleziona un argomento"_s) == nullptr);
+    shown.type(u"rebreather"_s);
+    const QLabel* const said = shown.label(u"Nessun risultato per\n\"rebreather\""_s);
     QVERIFY(said != nullptr);
     QVERIFY(said->alignment().testFlag(Qt::AlignHCenter));
     QVERIFY(!shown.list.isVisible());
     QVERIFY(!shown.page.isVisible());
-    QVERIFY(shown.label(QStringLiteral("Seleziona un argomento")) != nullptr);
-    QVERIFY(shown.label(QStringLiteral("Scegli una sezione dall'indice a sinistra per leggere la guida.")) != nullptr);
+    QVERIFY(shown.label(u"Seleziona un argomento"_s) != nullptr);
+    QVERIFY(shown.label(u"Scegli una sezione dall'indice a sinistra per leggere la guida."_s) != nullptr);
 }
 
 void tst_HelpView::blanksAroundTheSearchAreShownAsTyped()
 {
     ShownHelp shown;
     activate(shown.view);
-    shown.type(QStringLiteral(" rebreather "));
-    QVERIFY(shown.label(QStringLiteral("Nessun risultato per\n\" rebreather \"")) != nullptr);
+    shown.type(u" rebreather "_s);
+    QVERIFY(shown.label(u"Nessun risultato per\n\" rebreather \""_s) != nullptr);
 }
 
 void tst_HelpView::theSearchIsNoMarkup()
 {
     ShownHelp shown;
     activate(shown.view);
-    shown.type(QStringLiteral("<b>%1</b>"));
-    const QLabel* const said = shown.label(QStringLiteral("Nessun risultato per\n\"<b>%1</b>\""));
+    shown.type(u"<b>%1</b>"_s);
+    const QLabel* const said = shown.label(u"Nessun risultato per\n\"<b>%1</b>\""_s);
     QVERIFY(said != nullptr);
     QCOMPARE(said->textFormat(), Qt::PlainText);
 }
@@ -168,7 +168,7 @@ void tst_HelpView::afterNothingFoundTheReaderPicks()
 {
     ShownHelp shown;
     activate(shown.view);
-    shown.type(QStringLiteral("rebreather"));
+    shown.type(u"rebreather"_s);
     QTest::keyClick(&shown.search, Qt::Key_Escape);
     QCOMPARE(shown.rows().size(), qsizetype(3));
     QCOMPARE(shown.selectedRow(), -1);
@@ -177,18 +177,18 @@ void tst_HelpView::afterNothingFoundTheReaderPicks()
     QVERIFY(shown.list.hasFocus());
     QCOMPARE(shown.selectedRow(), -1);
     shown.click(1);
-    QCOMPARE(shown.pageTitle(), QStringLiteral("Manutenzioni"));
+    QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
 }
 
 void tst_HelpView::theClearMarkEmptiesTheSearch()
 {
     ShownHelp shown;
     activate(shown.view);
-    auto* const action = shown.search.findChild<QAction*>(QStringLiteral("clear"));
+    auto* const action = shown.search.findChild<QAction*>(u"clear"_s);
     QVERIFY(!action->isVisible());
-    shown.type(QStringLiteral("scontrino"));
+    shown.type(u"scontrino"_s);
     QVERIFY(action->isVisible());
-    QCOMPARE(action->toolTip(), QStringLiteral("Cancella la ricerca"));
+    QCOMPARE(action->toolTip(), u"Cancella la ricerca"_s);
     action->trigger();
     QVERIFY(shown.search.text().isEmpty());
     QVERIFY(!action->isVisible());
@@ -200,7 +200,7 @@ void tst_HelpView::everyNewViewStartsAfresh()
     {
         ShownHelp shown;
         activate(shown.view);
-        shown.type(QStringLiteral("scontrino"));
+        shown.type(u"scontrino"_s);
     }
     const ShownHelp again;
     QVERIFY(again.search.text().isEmpty());
@@ -209,13 +209,13 @@ void tst_HelpView::everyNewViewStartsAfresh()
 
 void tst_HelpView::aMissingGuideIsExplained()
 {
-    ShownHelp shown(HelpLoader::load(QStringLiteral(":/guide/none.md")));
+    ShownHelp shown(HelpLoader::load(u":/guide/none.md"_s));
     activate(shown.view);
-    QCOMPARE(shown.rows(), QStringList{QStringLiteral("Guida non disponibile")});
+    QCOMPARE(shown.rows(), QStringList{u"Guida non disponibile"_s});
     QCOMPARE(shown.selectedRow(), 0);
     QCOMPARE(shown.page.toPlainText(),
-             QStringLiteral("Guida non disponibile\nIl file HELP.md non è presente nel bundle dell'app.\nApri la "
-                            "cartella dell'app e verifica che la guida sia stata inclusa tra le risorse."));
+             u"Guida non disponibile\nIl file HELP.md non è presente nel bundle dell'app.\nApri la "
+             "cartella dell'app e verifica che la guida sia stata inclusa tra le risorse."_s);
 }
 
 void tst_HelpView::anEmptyGuideShowsTheEmptyState()
@@ -223,9 +223,9 @@ void tst_HelpView::anEmptyGuideShowsTheEmptyState()
     ShownHelp shown(QList<HelpSection>{});
     activate(shown.view);
     QVERIFY(shown.rows().isEmpty());
-    QVERIFY(shown.label(QStringLiteral("Seleziona un argomento")) != nullptr);
-    shown.type(QStringLiteral("a"));
-    QVERIFY(shown.label(QStringLiteral("Nessun risultato per\n\"a\"")) != nullptr);
+    QVERIFY(shown.label(u"Seleziona un argomento"_s) != nullptr);
+    shown.type(u"a"_s);
+    QVERIFY(shown.label(u"Nessun risultato per\n\"a\""_s) != nullptr);
 }
 
 void tst_HelpView::theProgramsGuideIsShown()
@@ -233,7 +233,7 @@ void tst_HelpView::theProgramsGuideIsShown()
     test::RecordingOpener opener;
     HelpView view(opener);
     activate(view);
-    const auto* const list = view.findChild<QListView*>(QStringLiteral("helpSections"));
+    const auto* const list = view.findChild<QListView*>(u"helpSections"_s);
     QCOMPARE(list->model()->rowCount(), static_cast<int>(HelpLoader::load().size()));
 }
 
@@ -241,18 +241,18 @@ void tst_HelpView::controlFGoesToTheSearch()
 {
     ShownHelp shown;
     activate(shown.view);
-    shown.type(QStringLiteral("manu"));
+    shown.type(u"manu"_s);
     shown.page.setFocus();
     QTest::keySequence(&shown.page, QKeySequence::Find);
     QVERIFY(shown.search.hasFocus());
-    QCOMPARE(shown.search.selectedText(), QStringLiteral("manu"));
+    QCOMPARE(shown.search.selectedText(), u"manu"_s);
 }
 
 void tst_HelpView::escapeClearsTheSearchAndThenGoesOn()
 {
     ShownHelp shown;
     activate(shown.view);
-    shown.type(QStringLiteral("manu"));
+    shown.type(u"manu"_s);
     QTest::keyClick(&shown.search, Qt::Key_Escape);
     QVERIFY(shown.search.text().isEmpty());
     for (QWidget* widget : {static_cast<QWidget*>(&shown.search), static_cast<QWidget*>(&shown.list),
@@ -286,16 +286,15 @@ void tst_HelpView::everythingHasAName()
     }
     QCOMPARE(roleOf(shown.search), QAccessible::EditableText);
     QCOMPARE(roleOf(shown.list), QAccessible::List);
-    QCOMPARE(QAccessible::queryAccessibleInterface(&shown.list)->child(1)->text(QAccessible::Name),
-             QStringLiteral("Manutenzioni"));
+    QCOMPARE(QAccessible::queryAccessibleInterface(&shown.list)->child(1)->text(QAccessible::Name), u"Manutenzioni"_s);
 }
 
 void tst_HelpView::noTextIsClipped_data()
 {
     QTest::addColumn<QString>("search");
     QTest::newRow("a section") << QString();
-    QTest::newRow("nothing found") << QStringLiteral("rebreather");
-    QTest::newRow("nothing found for a long word") << QStringLiteral("lunghissimaparola").repeated(4);
+    QTest::newRow("nothing found") << u"rebreather"_s;
+    QTest::newRow("nothing found for a long word") << u"lunghissimaparola"_s.repeated(4);
 }
 
 void tst_HelpView::noTextIsClipped()

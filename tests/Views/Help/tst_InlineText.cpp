@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "InlineText.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QRandomGenerator>
@@ -15,12 +16,12 @@ QString described(const QList<InlineRun>& runs)
     QString all;
     for (const InlineRun& run : runs) {
         if (run.isStrong)
-            all += QLatin1Char('s');
+            all += u's';
         if (run.isEmphasis)
-            all += QLatin1Char('e');
+            all += u'e';
         if (run.isCode)
-            all += QLatin1Char('c');
-        all += run.link.toString(QUrl::FullyEncoded) + QLatin1Char('{') + run.text + QLatin1Char('}');
+            all += u'c';
+        all += run.link.toString(QUrl::FullyEncoded) + u'{' + run.text + u'}';
     }
     return all;
 }
@@ -152,14 +153,13 @@ void tst_InlineText::leavesAsItIsWritten_data()
                              "\\",
                              "\u2009",
                              "\u2009a\u2009"})
-        QTest::newRow(qPrintable(QString::fromUtf8(text).replace(QLatin1Char('\n'), QLatin1Char('|'))))
-            << QString::fromUtf8(text);
+        QTest::newRow(qPrintable(QString::fromUtf8(text).replace(u'\n', u'|'))) << QString::fromUtf8(text);
 }
 
 void tst_InlineText::leavesAsItIsWritten()
 {
     QFETCH(const QString, text);
-    QCOMPARE(described(readInline(text)), QLatin1Char('{') + text + QLatin1Char('}'));
+    QCOMPARE(described(readInline(text)), u'{' + text + u'}');
 }
 
 void tst_InlineText::refusesTheLink_data()
@@ -196,22 +196,18 @@ void tst_InlineText::refusesTheLink_data()
 void tst_InlineText::refusesTheLink()
 {
     QFETCH(const QString, address);
-    const QList<InlineRun> runs = readInline(QStringLiteral("[testo](%1)").arg(address));
+    const QList<InlineRun> runs = readInline(u"[testo](%1)"_s.arg(address));
     for (const InlineRun& run : runs)
         QVERIFY2(run.link.isEmpty(), qPrintable(run.link.toString()));
-    QVERIFY(described(runs).contains(QStringLiteral("testo")));
+    QVERIFY(described(runs).contains(u"testo"_s));
 }
 
 /// Letters survive whatever marks stand around them: nothing that was written is lost, but for addresses.
 void tst_InlineText::takesAnyText()
 {
-    const QStringList units{
-        QStringLiteral("*"),  QStringLiteral("**"), QStringLiteral("_"),    QStringLiteral("`"),
-        QStringLiteral("["),  QStringLiteral("]"),  QStringLiteral("("),    QStringLiteral(")"),
-        QStringLiteral("!"),  QStringLiteral("<"),  QStringLiteral(">"),    QStringLiteral("\\"),
-        QStringLiteral("\n"), QStringLiteral(" "),  QStringLiteral("#"),    QStringLiteral("- "),
-        QStringLiteral("1."), QStringLiteral("~"),  QStringLiteral("|"),    QStringLiteral("\t"),
-        QStringLiteral("a"),  QStringLiteral("è"),  QStringLiteral("🤿"), QStringLiteral("\u2009")};
+    const QStringList units{u"*"_s,  u"**"_s, u"_"_s, u"`"_s,  u"["_s,  u"]"_s, u"("_s,    u")"_s,
+                            u"!"_s,  u"<"_s,  u">"_s, u"\\"_s, u"\n"_s, u" "_s, u"#"_s,    u"- "_s,
+                            u"1."_s, u"~"_s,  u"|"_s, u"\t"_s, u"a"_s,  u"è"_s, u"🤿"_s, u"\u2009"_s};
     QRandomGenerator random(20261121);
     for (int i = 0; i < 3000; ++i) {
         QString text;
@@ -222,9 +218,9 @@ void tst_InlineText::takesAnyText()
             QVERIFY2(!run.text.isEmpty() && run.link.isEmpty(), qPrintable(text));
             read += run.text;
         }
-        const bool hasAddress = text.contains(QLatin1Char('('));
-        QVERIFY2(hasAddress || read.count(QLatin1Char('a')) == text.count(QLatin1Char('a')), qPrintable(text));
-        QVERIFY2(hasAddress || read.count(QLatin1Char('\n')) == text.count(QLatin1Char('\n')), qPrintable(text));
+        const bool hasAddress = text.contains(u'(');
+        QVERIFY2(hasAddress || read.count(u'a') == text.count(u'a'), qPrintable(text));
+        QVERIFY2(hasAddress || read.count(u'\n') == text.count(u'\n'), qPrintable(text));
     }
 }
 

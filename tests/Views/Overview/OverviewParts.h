@@ -4,19 +4,13 @@
 #include "ContentView.h"
 #include "DetailParts.h"
 #include "DueList.h"
+#include "Literals.h"
 #include "MainWindow.h"
 #include "StatCard.h"
 
 #include <QScrollArea>
 
 namespace abissora::test {
-
-/// Layouts pass a change upward one level at a time, each by an event of its own.
-inline void settleLayouts()
-{
-    for (int level = 0; level < 6; ++level)
-        settle();
-}
 
 /// The main window with one of its tabs, shown and active.
 struct ShownTab
@@ -28,10 +22,10 @@ struct ShownTab
         window.resize(size);
         window.show();
         window.activateWindow();
-        settleLayouts();
+        settle();
     }
 
-    [[nodiscard]] DueList& dueList() { return part<DueList>(window, QStringLiteral("dueList")); }
+    [[nodiscard]] DueList& dueList() { return part<DueList>(window, u"dueList"_s); }
 
     MainWindow window;
 };
@@ -64,8 +58,7 @@ inline QList<Equipment> dueItems(const Calendar& calendar, Instant now, int coun
 {
     QList<Equipment> items;
     for (int i = 0; i < count; ++i)
-        items.append(
-            makeItem(i, QStringLiteral("Articolo %1").arg(i), EquipmentType::mask, calendar.addDays(now, -i).value()));
+        items.append(makeItem(i, u"Articolo %1"_s.arg(i), EquipmentType::mask, calendar.addDays(now, -i).value()));
     return items;
 }
 

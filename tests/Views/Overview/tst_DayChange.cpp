@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DayWatch.h"
 #include "EquipmentTableView.h"
+#include "Literals.h"
 #include "OverviewParts.h"
 #include "SidebarView.h"
 #include "TestRunner.h"
@@ -27,11 +28,11 @@ struct Running
     {
         f.clock.advance(hours(24));
         watch.check();
-        settleLayouts();
+        settle();
     }
 
-    ScreenFixture f{QList<Equipment>{
-        makeItem(1, QStringLiteral("Muta"), EquipmentType::wetsuit, ScreenFixture().inDays(31) + hours(11))}};
+    ScreenFixture f{
+        QList<Equipment>{makeItem(1, u"Muta"_s, EquipmentType::wetsuit, ScreenFixture().inDays(31) + hours(11))}};
     DayWatch watch;
     ShownTab s;
 };
@@ -52,41 +53,39 @@ private Q_SLOTS:
     void overviewAndBadge()
     {
         Running r(ContentView::MaintenanceTab);
-        QVERIFY(isShown(r.s.window, QStringLiteral("allInOrder")));
-        QCOMPARE(badge(r.s.window), QStringLiteral("Manutenzione scaduta"));
+        QVERIFY(isShown(r.s.window, u"allInOrder"_s));
+        QCOMPARE(badge(r.s.window), u"Manutenzione scaduta"_s);
         r.passADay();
-        QCOMPARE(rowTexts(r.s.dueList()), QStringList(QStringLiteral("Muta, Scaduto da 30 giorni")));
-        QCOMPARE(cardTexts(r.s.window),
-                 QStringList({QStringLiteral("Totale Articoli: 1"), QStringLiteral("Manutenzioni Scadute: 1"),
-                              QStringLiteral("In Scadenza (30gg): 1"), QStringLiteral("In Regola: 0")}));
-        QCOMPARE(badge(r.s.window), QStringLiteral("Manutenzione scaduta, 1"));
+        QCOMPARE(rowTexts(r.s.dueList()), QStringList(u"Muta, Scaduto da 30 giorni"_s));
+        QCOMPARE(cardTexts(r.s.window), QStringList({u"Totale Articoli: 1"_s, u"Manutenzioni Scadute: 1"_s,
+                                                     u"In Scadenza (30gg): 1"_s, u"In Regola: 0"_s}));
+        QCOMPARE(badge(r.s.window), u"Manutenzione scaduta, 1"_s);
         r.passADay();
-        QCOMPARE(rowTexts(r.s.dueList()), QStringList(QStringLiteral("Muta, Scaduto da 29 giorni")));
+        QCOMPARE(rowTexts(r.s.dueList()), QStringList(u"Muta, Scaduto da 29 giorni"_s));
     }
 
     void statistics()
     {
         Running r(ContentView::StatisticsTab);
-        QCOMPARE(cardTexts(r.s.window).at(4), QStringLiteral("In Regola: 1"));
+        QCOMPARE(cardTexts(r.s.window).at(4), u"In Regola: 1"_s);
         r.passADay();
         QCOMPARE(cardTexts(r.s.window).mid(2, 3),
-                 QStringList({QStringLiteral("Manutenzioni Scadute: 1"), QStringLiteral("In Scadenza (30gg): 1"),
-                              QStringLiteral("In Regola: 0")}));
+                 QStringList({u"Manutenzioni Scadute: 1"_s, u"In Scadenza (30gg): 1"_s, u"In Regola: 0"_s}));
     }
 
     void listAndDetail()
     {
         Running r(ContentView::ListTab);
         r.s.window.content().setSelectedEquipment(r.f.equipment.equipment().first());
-        settleLayouts();
+        settle();
         const auto remaining = [&r] {
             return r.s.window.findChild<EquipmentTableView*>()->model()->index(0, 3).data().toString();
         };
-        QVERIFY(remaining().contains(QLatin1String("31 giorni")));
-        QVERIFY(!isShown(r.s.window, QStringLiteral("dueBadge")));
+        QVERIFY(remaining().contains("31 giorni"_L1));
+        QVERIFY(!isShown(r.s.window, u"dueBadge"_s));
         r.passADay();
-        QVERIFY(remaining().contains(QLatin1String("SCADUTO!")));
-        QVERIFY(isShown(r.s.window, QStringLiteral("dueBadge")));
+        QVERIFY(remaining().contains("SCADUTO!"_L1));
+        QVERIFY(isShown(r.s.window, u"dueBadge"_s));
         QVERIFY(r.s.window.content().selectedEquipment().has_value());
     }
 
@@ -102,10 +101,10 @@ private Q_SLOTS:
         QCOMPARE(r.f.takeLog(), QStringList());
         r.passADay();
         r.passADay();
-        QCOMPARE(r.f.takeLog().filter(QStringLiteral("FILTRO ATTIVO")).size(), 0);
+        QCOMPARE(r.f.takeLog().filter(u"FILTRO ATTIVO"_s).size(), 0);
         r.s.window.content().setSelectedTab(ContentView::ListTab);
         settle();
-        QCOMPARE(r.f.takeLog().filter(QStringLiteral("FILTRO ATTIVO")).size(), 1);
+        QCOMPARE(r.f.takeLog().filter(u"FILTRO ATTIVO"_s).size(), 1);
     }
 };
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "OverviewParts.h"
 #include "TestRunner.h"
 
@@ -14,8 +15,7 @@ constexpr int many = 3000;
 
 QScrollArea& page(QWidget& window)
 {
-    for (QWidget* above = part(window, QStringLiteral("dueList")).parentWidget(); above != nullptr;
-         above = above->parentWidget()) {
+    for (QWidget* above = part(window, u"dueList"_s).parentWidget(); above != nullptr; above = above->parentWidget()) {
         if (auto* area = qobject_cast<QScrollArea*>(above))
             return *area;
     }
@@ -41,8 +41,7 @@ DueRow* rowWithFocus()
 QString focusText()
 {
     const DueRow* row = rowWithFocus();
-    return row == nullptr ? QStringLiteral("elsewhere")
-                          : row->equipment().name + QLatin1Char('/') + QApplication::focusWidget()->objectName();
+    return row == nullptr ? u"elsewhere"_s : row->equipment().name + u'/' + QApplication::focusWidget()->objectName();
 }
 
 void press(Qt::Key key)
@@ -98,7 +97,7 @@ private Q_SLOTS:
         QRegion covered;
         for (const DueRow* row : list.rows()) {
             const int index = row->equipment().name.mid(9).toInt();
-            QCOMPARE(row->accessibleName(), QStringLiteral("Articolo %1, Scaduto da %1 giorni").arg(index));
+            QCOMPARE(row->accessibleName(), u"Articolo %1, Scaduto da %1 giorni"_s.arg(index));
             QCOMPARE(row->y(), index * (DueRow::rowHeight() + 1) + 1);
             QCOMPARE(row->width(), list.width());
             covered += row->geometry().adjusted(0, -1, 0, 1);
@@ -113,7 +112,7 @@ private Q_SLOTS:
         ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
         const qsizetype before = s.dueList().rows().size();
         s.window.resize(1200, 1000);
-        settleLayouts();
+        settle();
         QVERIFY(s.dueList().rows().size() >= before + 4);
         QCOMPARE(s.dueList().rows().first()->width(), s.dueList().width());
     }
@@ -122,23 +121,23 @@ private Q_SLOTS:
     {
         ScreenFixture f(dueItems(60));
         ShownTab s(f, ContentView::MaintenanceTab);
-        rowOf(s.dueList(), QStringLiteral("Articolo 0"))->button(DueRow::AddMaintenance)->setFocus(Qt::TabFocusReason);
+        rowOf(s.dueList(), u"Articolo 0"_s)->button(DueRow::AddMaintenance)->setFocus(Qt::TabFocusReason);
         for (int i = 0; i < 60; ++i) {
-            QCOMPARE(focusText(), QStringLiteral("Articolo %1/addMaintenance").arg(i));
+            QCOMPARE(focusText(), u"Articolo %1/addMaintenance"_s.arg(i));
             press(Qt::Key_Tab);
-            QCOMPARE(focusText(), QStringLiteral("Articolo %1/showDetails").arg(i));
+            QCOMPARE(focusText(), u"Articolo %1/showDetails"_s.arg(i));
             QVERIFY(isInSight(*rowWithFocus(), page(s.window)));
             press(Qt::Key_Tab);
         }
-        QCOMPARE(focusText(), QStringLiteral("elsewhere"));
+        QCOMPARE(focusText(), u"elsewhere"_s);
         press(Qt::Key_Backtab);
         for (int i = 59; i >= 0; --i) {
-            QCOMPARE(focusText(), QStringLiteral("Articolo %1/showDetails").arg(i));
+            QCOMPARE(focusText(), u"Articolo %1/showDetails"_s.arg(i));
             press(Qt::Key_Backtab);
-            QCOMPARE(focusText(), QStringLiteral("Articolo %1/addMaintenance").arg(i));
+            QCOMPARE(focusText(), u"Articolo %1/addMaintenance"_s.arg(i));
             press(Qt::Key_Backtab);
         }
-        QCOMPARE(focusText(), QStringLiteral("elsewhere"));
+        QCOMPARE(focusText(), u"elsewhere"_s);
     }
 
     void tabStartsAtTheFirstRowHoweverFarScrolled()
@@ -149,7 +148,7 @@ private Q_SLOTS:
         area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum() / 2);
         area.setFocus(Qt::TabFocusReason);
         press(Qt::Key_Tab);
-        QCOMPARE(focusText(), QStringLiteral("Articolo 0/addMaintenance"));
+        QCOMPARE(focusText(), u"Articolo 0/addMaintenance"_s);
         QVERIFY(isInSight(*rowWithFocus(), area));
     }
 
@@ -157,10 +156,10 @@ private Q_SLOTS:
     {
         ScreenFixture f(dueItems(many));
         ShownTab s(f, ContentView::MaintenanceTab);
-        rowOf(s.dueList(), QStringLiteral("Articolo 0"))->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
+        rowOf(s.dueList(), u"Articolo 0"_s)->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         const auto expect = [&](Qt::Key key, int index) {
             press(key);
-            QCOMPARE(focusText(), QStringLiteral("Articolo %1/showDetails").arg(index));
+            QCOMPARE(focusText(), u"Articolo %1/showDetails"_s.arg(index));
             QVERIFY(isInSight(*rowWithFocus(), page(s.window)));
         };
         expect(Qt::Key_Up, 0);
@@ -183,13 +182,13 @@ private Q_SLOTS:
     {
         ScreenFixture f(dueItems(many));
         ShownTab s(f, ContentView::MaintenanceTab);
-        rowOf(s.dueList(), QStringLiteral("Articolo 3"))->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
+        rowOf(s.dueList(), u"Articolo 3"_s)->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         QScrollBar& bar = *page(s.window).verticalScrollBar();
         bar.setValue(bar.maximum());
         bar.setValue(bar.maximum() / 2);
-        QCOMPARE(focusText(), QStringLiteral("Articolo 3/showDetails"));
+        QCOMPARE(focusText(), u"Articolo 3/showDetails"_s);
         press(Qt::Key_Down);
-        QCOMPARE(focusText(), QStringLiteral("Articolo 4/showDetails"));
+        QCOMPARE(focusText(), u"Articolo 4/showDetails"_s);
         QVERIFY(isInSight(*rowWithFocus(), page(s.window)));
     }
 
@@ -197,24 +196,24 @@ private Q_SLOTS:
     {
         ScreenFixture f(dueItems(40));
         ShownTab s(f, ContentView::MaintenanceTab);
-        rowOf(s.dueList(), QStringLiteral("Articolo 5"))->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
+        rowOf(s.dueList(), u"Articolo 5"_s)->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         f.equipment.deleteEquipment(f.equipment.equipment().at(2));
-        settleLayouts();
-        QCOMPARE(focusText(), QStringLiteral("Articolo 5/showDetails"));
+        settle();
+        QCOMPARE(focusText(), u"Articolo 5/showDetails"_s);
         QCOMPARE(rowWithFocus()->y(), 4 * (DueRow::rowHeight() + 1) + 1);
-        QCOMPARE(rowTexts(s.dueList()).mid(2, 3), QStringList({QStringLiteral("Articolo 3, Scaduto da 3 giorni"),
-                                                               QStringLiteral("Articolo 4, Scaduto da 4 giorni"),
-                                                               QStringLiteral("Articolo 5, Scaduto da 5 giorni")}));
+        QCOMPARE(rowTexts(s.dueList()).mid(2, 3),
+                 QStringList({u"Articolo 3, Scaduto da 3 giorni"_s, u"Articolo 4, Scaduto da 4 giorni"_s,
+                              u"Articolo 5, Scaduto da 5 giorni"_s}));
         press(Qt::Key_Down);
-        QCOMPARE(focusText(), QStringLiteral("Articolo 6/showDetails"));
+        QCOMPARE(focusText(), u"Articolo 6/showDetails"_s);
     }
 
     void theFocusStaysInThePlaceOfAnItemThatGoes_data()
     {
         QTest::addColumn<int>("focused");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("in the middle") << 2 << QStringLiteral("Articolo 3/addMaintenance");
-        QTest::newRow("the last") << 4 << QStringLiteral("Articolo 3/addMaintenance");
+        QTest::newRow("in the middle") << 2 << u"Articolo 3/addMaintenance"_s;
+        QTest::newRow("the last") << 4 << u"Articolo 3/addMaintenance"_s;
     }
 
     void theFocusStaysInThePlaceOfAnItemThatGoes()
@@ -226,7 +225,7 @@ private Q_SLOTS:
         const Equipment item = f.equipment.equipment().at(focused);
         rowOf(s.dueList(), item.name)->button(DueRow::AddMaintenance)->setFocus(Qt::TabFocusReason);
         f.equipment.deleteEquipment(item);
-        settleLayouts();
+        settle();
         QCOMPARE(focusText(), expected);
         QCOMPARE(s.dueList().rows().size(), 4);
     }
@@ -237,8 +236,8 @@ private Q_SLOTS:
         ShownTab s(f, ContentView::MaintenanceTab);
         s.dueList().rows().first()->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         f.equipment.deleteEquipment(f.equipment.equipment().first());
-        settleLayouts();
-        QVERIFY(!isShown(s.window, QStringLiteral("dueList")));
+        settle();
+        QVERIFY(!isShown(s.window, u"dueList"_s));
         QVERIFY(QApplication::focusWidget() != nullptr);
         QVERIFY(QApplication::focusWidget()->isVisible());
     }
@@ -249,11 +248,11 @@ private Q_SLOTS:
         ShownTab s(f, ContentView::MaintenanceTab);
         // Rows were made in another order than they stand in.
         f.equipment.deleteEquipment(f.equipment.equipment().first());
-        f.equipment.addEquipment(makeItem(9, QStringLiteral("Nuovo"), EquipmentType::fins, f.inDays(12)));
-        settleLayouts();
+        f.equipment.addEquipment(makeItem(9, u"Nuovo"_s, EquipmentType::fins, f.inDays(12)));
+        settle();
         QAccessibleInterface* const list = QAccessible::queryAccessibleInterface(&s.dueList());
         QCOMPARE(list->role(), QAccessible::List);
-        QCOMPARE(list->text(QAccessible::Name), QStringLiteral("Manutenzioni Scadute"));
+        QCOMPARE(list->text(QAccessible::Name), u"Manutenzioni Scadute"_s);
         QStringList read;
         for (int i = 0; i < list->childCount(); ++i) {
             QAccessibleInterface* const row = list->child(i);
@@ -262,24 +261,22 @@ private Q_SLOTS:
             QCOMPARE(row->parent(), list);
             read.append(row->text(QAccessible::Name));
         }
-        QCOMPARE(read, QStringList({QStringLiteral("Articolo 1, Scaduto da 1 giorni"),
-                                    QStringLiteral("Articolo 2, Scaduto da 2 giorni"),
-                                    QStringLiteral("Articolo 3, Scaduto da 3 giorni"),
-                                    QStringLiteral("Nuovo, Scaduto da 12 giorni")}));
+        QCOMPARE(read, QStringList({u"Articolo 1, Scaduto da 1 giorni"_s, u"Articolo 2, Scaduto da 2 giorni"_s,
+                                    u"Articolo 3, Scaduto da 3 giorni"_s, u"Nuovo, Scaduto da 12 giorni"_s}));
         QAccessibleInterface* const button =
             QAccessible::queryAccessibleInterface(s.dueList().rows().first()->button(DueRow::AddMaintenance));
-        QCOMPARE(button->text(QAccessible::Name), QStringLiteral("Aggiungi Manutenzione"));
-        QCOMPARE(button->text(QAccessible::Description), QStringLiteral("Articolo 1"));
+        QCOMPARE(button->text(QAccessible::Name), u"Aggiungi Manutenzione"_s);
+        QCOMPARE(button->text(QAccessible::Description), u"Articolo 1"_s);
     }
 
     void aLongNameGivesWay()
     {
         QList<Equipment> items = dueItems(1);
-        items[0].name = QStringLiteral("<b>Erogatore</b>\n") + QString(400, QLatin1Char('x'));
+        items[0].name = u"<b>Erogatore</b>\n"_s + QString(400, u'x');
         ScreenFixture f(items);
         ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
         DueRow* const row = s.dueList().rows().first();
-        QCOMPARE(row->accessibleName(), items.at(0).name + QStringLiteral(", Scaduto da 0 giorni"));
+        QCOMPARE(row->accessibleName(), items.at(0).name + u", Scaduto da 0 giorni"_s);
         QCOMPARE(row->height(), DueRow::rowHeight());
         QVERIFY(isInSight(*row->button(DueRow::Details), page(s.window)));
         QCOMPARE(page(s.window).horizontalScrollBar()->maximum(), 0);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "MaintenanceOverviewView.h"
 #include "ScaledText.h"
 
@@ -18,14 +19,14 @@ namespace {
 
 QStringList cards(qsizetype total, qsizetype due, qsizetype expiring, qsizetype inOrder)
 {
-    return {QStringLiteral("Totale Articoli: %1").arg(total), QStringLiteral("Manutenzioni Scadute: %1").arg(due),
-            QStringLiteral("In Scadenza (30gg): %1").arg(expiring), QStringLiteral("In Regola: %1").arg(inOrder)};
+    return {u"Totale Articoli: %1"_s.arg(total), u"Manutenzioni Scadute: %1"_s.arg(due),
+            u"In Scadenza (30gg): %1"_s.arg(expiring), u"In Regola: %1"_s.arg(inOrder)};
 }
 
 /// The tile as it is drawn for an item of the list.
 QImage tileOf(DueList& list, int row)
 {
-    return list.rows().at(row)->findChild<QWidget*>(QStringLiteral("dueIcon"))->grab().toImage();
+    return list.rows().at(row)->findChild<QWidget*>(u"dueIcon"_s)->grab().toImage();
 }
 
 QImage tileFor(const QString& icon, NamedColor color)
@@ -52,10 +53,9 @@ private Q_SLOTS:
         ScreenFixture f;
         ShownTab s(f, ContentView::MaintenanceTab);
         QCOMPARE(cardTexts(s.window), cards(3, 2, 2, 1));
-        QCOMPARE(rowTexts(s.dueList()),
-                 QStringList({QStringLiteral("GAV Scubapro Hydros, Scaduto da 30 giorni"),
-                              QStringLiteral("Computer Suunto EON Core, Scaduto da 15 giorni")}));
-        QVERIFY(!isShown(s.window, QStringLiteral("allInOrder")));
+        QCOMPARE(rowTexts(s.dueList()), QStringList({u"GAV Scubapro Hydros, Scaduto da 30 giorni"_s,
+                                                     u"Computer Suunto EON Core, Scaduto da 15 giorni"_s}));
+        QVERIFY(!isShown(s.window, u"allInOrder"_s));
     }
 
     void emptyRegister()
@@ -63,32 +63,32 @@ private Q_SLOTS:
         ScreenFixture f(QList<Equipment>{});
         ShownTab s(f, ContentView::MaintenanceTab);
         QCOMPARE(cardTexts(s.window), cards(0, 0, 0, 0));
-        QVERIFY(isShown(s.window, QStringLiteral("allInOrder")));
-        QVERIFY(!isShown(s.window, QStringLiteral("dueList")));
-        QWidget& empty = part(s.window, QStringLiteral("allInOrder"));
-        QCOMPARE(empty.accessibleName(), QStringLiteral("Tutte le attrezzature sono in regola!"));
+        QVERIFY(isShown(s.window, u"allInOrder"_s));
+        QVERIFY(!isShown(s.window, u"dueList"_s));
+        QWidget& empty = part(s.window, u"allInOrder"_s);
+        QCOMPARE(empty.accessibleName(), u"Tutte le attrezzature sono in regola!"_s);
     }
 
     void anInactiveOverdueItemCountsInTheTotalOnly()
     {
         ScreenFixture f(QList<Equipment>{});
-        Equipment item = makeItem(1, QStringLiteral("Vecchia muta"), EquipmentType::wetsuit, f.inDays(-10));
+        Equipment item = makeItem(1, u"Vecchia muta"_s, EquipmentType::wetsuit, f.inDays(-10));
         item.isActive = false;
         f.equipment.addEquipment(item);
         ShownTab s(f, ContentView::MaintenanceTab);
         QCOMPARE(cardTexts(s.window), cards(1, 0, 0, 0));
-        QVERIFY(isShown(s.window, QStringLiteral("allInOrder")));
+        QVERIFY(isShown(s.window, u"allInOrder"_s));
     }
 
     void dueTexts_data()
     {
         QTest::addColumn<int>("days");
         QTest::addColumn<QString>("text");
-        QTest::newRow("overdue") << -12 << QStringLiteral("Scaduto da 12 giorni");
-        QTest::newRow("a day overdue") << -1 << QStringLiteral("Scaduto da 1 giorni");
-        QTest::newRow("today") << 0 << QStringLiteral("Scaduto da 0 giorni");
-        QTest::newRow("not yet") << 12 << QStringLiteral("Scaduto da 12 giorni");
-        QTest::newRow("long ago") << -3000 << QStringLiteral("Scaduto da 3000 giorni");
+        QTest::newRow("overdue") << -12 << u"Scaduto da 12 giorni"_s;
+        QTest::newRow("a day overdue") << -1 << u"Scaduto da 1 giorni"_s;
+        QTest::newRow("today") << 0 << u"Scaduto da 0 giorni"_s;
+        QTest::newRow("not yet") << 12 << u"Scaduto da 12 giorni"_s;
+        QTest::newRow("long ago") << -3000 << u"Scaduto da 3000 giorni"_s;
     }
 
     void dueTexts()
@@ -96,76 +96,75 @@ private Q_SLOTS:
         QFETCH(int, days);
         QFETCH(QString, text);
         ScreenFixture f(QList<Equipment>{});
-        f.equipment.addEquipment(makeItem(1, QStringLiteral("Pinne"), EquipmentType::fins, f.inDays(days)));
+        f.equipment.addEquipment(makeItem(1, u"Pinne"_s, EquipmentType::fins, f.inDays(days)));
         ShownTab s(f, ContentView::MaintenanceTab);
-        QCOMPARE(textOf(s.window, QStringLiteral("dueName")), QStringLiteral("Pinne"));
-        QCOMPARE(textOf(s.window, QStringLiteral("dueState")), text);
+        QCOMPARE(textOf(s.window, u"dueName"_s), u"Pinne"_s);
+        QCOMPARE(textOf(s.window, u"dueState"_s), text);
     }
 
     void catalogueOrder()
     {
         ScreenFixture f(QList<Equipment>{});
-        f.equipment.addEquipment(makeItem(1, QStringLiteral("b"), EquipmentType::fins, f.inDays(20)));
-        f.equipment.addEquipment(makeItem(2, QStringLiteral("c"), EquipmentType::fins, f.inDays(31)));
-        f.equipment.addEquipment(makeItem(3, QStringLiteral("a"), EquipmentType::fins, f.inDays(-20)));
-        f.equipment.setSearchText(QStringLiteral("zzz")); // a filter of the list does not matter here
+        f.equipment.addEquipment(makeItem(1, u"b"_s, EquipmentType::fins, f.inDays(20)));
+        f.equipment.addEquipment(makeItem(2, u"c"_s, EquipmentType::fins, f.inDays(31)));
+        f.equipment.addEquipment(makeItem(3, u"a"_s, EquipmentType::fins, f.inDays(-20)));
+        f.equipment.setSearchText(u"zzz"_s); // a filter of the list does not matter here
         ShownTab s(f, ContentView::MaintenanceTab);
-        QCOMPARE(rowTexts(s.dueList()),
-                 QStringList({QStringLiteral("b, Scaduto da 20 giorni"), QStringLiteral("a, Scaduto da 20 giorni")}));
+        QCOMPARE(rowTexts(s.dueList()), QStringList({u"b, Scaduto da 20 giorni"_s, u"a, Scaduto da 20 giorni"_s}));
     }
 
     void everyChangeShows()
     {
         ScreenFixture f;
         ShownTab s(f, ContentView::MaintenanceTab);
-        Equipment fins = makeItem(1, QStringLiteral("Pinne"), EquipmentType::fins, f.inDays(-3));
+        Equipment fins = makeItem(1, u"Pinne"_s, EquipmentType::fins, f.inDays(-3));
         f.equipment.addEquipment(fins);
-        settleLayouts();
+        settle();
         QCOMPARE(cardTexts(s.window), cards(4, 3, 2, 1));
         fins.isActive = false;
         f.equipment.updateEquipment(fins);
-        settleLayouts();
+        settle();
         QCOMPARE(cardTexts(s.window), cards(4, 2, 2, 1));
-        f.equipment.addMaintenance(f.equipment.equipment().at(1).id, makeRecord(f, 1, 0, QStringLiteral("Revisione")));
-        settleLayouts();
+        f.equipment.addMaintenance(f.equipment.equipment().at(1).id, makeRecord(f, 1, 0, u"Revisione"_s));
+        settle();
         QCOMPARE(cardTexts(s.window), cards(4, 1, 1, 2));
-        QCOMPARE(rowTexts(s.dueList()), QStringList(QStringLiteral("Computer Suunto EON Core, Scaduto da 15 giorni")));
+        QCOMPARE(rowTexts(s.dueList()), QStringList(u"Computer Suunto EON Core, Scaduto da 15 giorni"_s));
         f.equipment.deleteEquipment(f.equipment.equipment().at(2));
-        settleLayouts();
-        QVERIFY(isShown(s.window, QStringLiteral("allInOrder")));
-        f.equipment.addEquipment(makeItem(2, QStringLiteral("Maschera"), EquipmentType::mask, f.inDays(1)));
-        settleLayouts();
-        QVERIFY(!isShown(s.window, QStringLiteral("allInOrder")));
-        QCOMPARE(rowTexts(s.dueList()), QStringList(QStringLiteral("Maschera, Scaduto da 1 giorni")));
+        settle();
+        QVERIFY(isShown(s.window, u"allInOrder"_s));
+        f.equipment.addEquipment(makeItem(2, u"Maschera"_s, EquipmentType::mask, f.inDays(1)));
+        settle();
+        QVERIFY(!isShown(s.window, u"allInOrder"_s));
+        QCOMPARE(rowTexts(s.dueList()), QStringList(u"Maschera, Scaduto da 1 giorni"_s));
     }
 
     void typeSymbols()
     {
         ScreenFixture f(QList<Equipment>{});
-        Equipment lamp = makeItem(1, QStringLiteral("Faro"), EquipmentType::other, f.inDays(1));
-        lamp.customTypeName = QStringLiteral("Torcia");
+        Equipment lamp = makeItem(1, u"Faro"_s, EquipmentType::other, f.inDays(1));
+        lamp.customTypeName = u"Torcia"_s;
         f.equipment.addEquipment(lamp);
         ShownTab s(f, ContentView::MaintenanceTab);
-        QCOMPARE(tileOf(s.dueList(), 0), tileFor(QStringLiteral("dive.light"), NamedColor::yellow));
+        QCOMPARE(tileOf(s.dueList(), 0), tileFor(u"dive.light"_s, NamedColor::yellow));
 
         // Renamed: the item keeps the old name, which no record carries any more.
-        EquipmentTypeModel type = *f.types.getTypeByName(QStringLiteral("Torcia"));
-        type.name = QStringLiteral("Lampada");
+        EquipmentTypeModel type = *f.types.getTypeByName(u"Torcia"_s);
+        type.name = u"Lampada"_s;
         f.types.updateType(type);
-        settleLayouts();
-        QCOMPARE(tileOf(s.dueList(), 0), tileFor(QStringLiteral("questionmark.circle.fill"), NamedColor::secondary));
+        settle();
+        QCOMPARE(tileOf(s.dueList(), 0), tileFor(u"questionmark.circle.fill"_s, NamedColor::secondary));
 
-        type.name = QStringLiteral("Torcia");
-        type.icon = QStringLiteral("dive.knife");
-        type.color = QStringLiteral("pink");
+        type.name = u"Torcia"_s;
+        type.icon = u"dive.knife"_s;
+        type.color = u"pink"_s;
         f.types.updateType(type);
-        settleLayouts();
-        QCOMPARE(tileOf(s.dueList(), 0), tileFor(QStringLiteral("dive.knife"), NamedColor::pink));
+        settle();
+        QCOMPARE(tileOf(s.dueList(), 0), tileFor(u"dive.knife"_s, NamedColor::pink));
 
         type.icon = QString();
         f.types.updateType(type);
-        settleLayouts();
-        QCOMPARE(tileOf(s.dueList(), 0), tileFor(QStringLiteral("questionmark.circle.fill"), NamedColor::pink));
+        settle();
+        QCOMPARE(tileOf(s.dueList(), 0), tileFor(u"questionmark.circle.fill"_s, NamedColor::pink));
     }
 
     void builtInSymbols_data()
@@ -193,7 +192,7 @@ private Q_SLOTS:
         QFETCH(QString, icon);
         QFETCH(int, color);
         ScreenFixture f(QList<Equipment>{});
-        f.equipment.addEquipment(makeItem(1, QStringLiteral("x"), static_cast<EquipmentType>(type), f.inDays(1)));
+        f.equipment.addEquipment(makeItem(1, u"x"_s, static_cast<EquipmentType>(type), f.inDays(1)));
         f.types.setTypes({});
         ShownTab s(f, ContentView::MaintenanceTab);
         QCOMPARE(tileOf(s.dueList(), 0), tileFor(icon, static_cast<NamedColor>(color)));
@@ -204,9 +203,9 @@ private Q_SLOTS:
         ScreenFixture f;
         MaintenanceOverviewView view(f.context);
         view.show();
-        settleLayouts();
+        settle();
         f.types.resetToDefaults();
-        settleLayouts();
+        settle();
         QCOMPARE(f.takeLog(), QStringList());
     }
 
@@ -217,13 +216,13 @@ private Q_SLOTS:
         const StatCard& total = *view.findChildren<StatCard*>().first();
         QCOMPARE(total.value(), QString());
         view.show();
-        QCOMPARE(total.value(), QStringLiteral("3")); // before anything was painted
+        QCOMPARE(total.value(), u"3"_s); // before anything was painted
         view.hide();
         f.equipment.deleteEquipment(f.equipment.equipment().first());
-        settleLayouts();
-        QCOMPARE(total.value(), QStringLiteral("3"));
+        settle();
+        QCOMPARE(total.value(), u"3"_s);
         view.show();
-        QCOMPARE(total.value(), QStringLiteral("2"));
+        QCOMPARE(total.value(), u"2"_s);
     }
 
     void cardsAreReadAsTitleAndValue()
@@ -243,7 +242,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         ShownTab s(f, ContentView::MaintenanceTab);
-        part(s.window, QStringLiteral("sidebar")).setFocus();
+        part(s.window, u"sidebar"_s).setFocus();
         QStringList order;
         for (int i = 0; i < 7; ++i) {
             const QWidget* focused = QApplication::focusWidget();
@@ -251,10 +250,8 @@ private Q_SLOTS:
                                                           : focused->parentWidget()->objectName());
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         }
-        QCOMPARE(order,
-                 QStringList({QStringLiteral("sidebar"), QStringLiteral("tabSwitch"), QStringLiteral("addMaintenance"),
-                              QStringLiteral("showDetails"), QStringLiteral("addMaintenance"),
-                              QStringLiteral("showDetails"), QStringLiteral("sidebar")}));
+        QCOMPARE(order, QStringList({u"sidebar"_s, u"tabSwitch"_s, u"addMaintenance"_s, u"showDetails"_s,
+                                     u"addMaintenance"_s, u"showDetails"_s, u"sidebar"_s}));
     }
 
     void nothingIsClipped_data()
@@ -285,7 +282,7 @@ private Q_SLOTS:
         ScreenFixture f;
         ShownTab s(f, ContentView::MaintenanceTab);
         const ScaledText twice(2);
-        settleLayouts();
+        settle();
         QCOMPARE(s.dueList().rows().at(1)->height(), DueRow::rowHeight());
         QCOMPARE(s.dueList().rows().at(1)->y(), DueRow::rowHeight() + 2);
         QVERIFY(s.dueList().rows().at(1)->geometry().bottom() < s.dueList().height());

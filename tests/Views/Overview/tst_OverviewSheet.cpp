@@ -3,6 +3,7 @@
 #include "ClippedTexts.h"
 #include "EquipmentDetailSheet.h"
 #include "EquipmentDetailView.h"
+#include "Literals.h"
 #include "MaintenanceFormView.h"
 #include "MaintenanceOverviewView.h"
 #include "OverviewParts.h"
@@ -63,15 +64,15 @@ private Q_SLOTS:
         } else {
             QTest::mouseClick(&button, Qt::LeftButton);
         }
-        settleLayouts();
-        QCOMPARE(s.view().selectedEquipment()->name, QStringLiteral("Computer Suunto EON Core"));
+        settle();
+        QCOMPARE(s.view().selectedEquipment()->name, u"Computer Suunto EON Core"_s);
         QCOMPARE(s.sheet().size(), QSize(750, 650));
-        QCOMPARE(textOf(s.sheet(), QStringLiteral("detailName")), QStringLiteral("Computer Suunto EON Core"));
+        QCOMPARE(textOf(s.sheet(), u"detailName"_s), u"Computer Suunto EON Core"_s);
         QVERIFY(!s.window.content().selectedEquipment());
         QVERIFY(!f.equipment.selectedEquipment());
 
         QTest::keyClick(&s.sheet(), Qt::Key_Escape);
-        settleLayouts();
+        settle();
         QVERIFY(!s.isSheetOpen());
         QVERIFY(!s.view().selectedEquipment());
         QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&button));
@@ -86,9 +87,9 @@ private Q_SLOTS:
         QAccessible::queryAccessibleInterface(&button)->actionInterface()->doAction(
             QAccessibleActionInterface::pressAction());
         QTRY_VERIFY(s.isSheetOpen()); // the button shows itself pressed for a moment
-        settleLayouts();
-        click(s.sheet(), QStringLiteral("closeDetail"));
-        settleLayouts();
+        settle();
+        click(s.sheet(), u"closeDetail"_s);
+        settle();
         QVERIFY(!s.isSheetOpen());
         QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&button));
     }
@@ -98,7 +99,7 @@ private Q_SLOTS:
         ScreenFixture f;
         Shown s(f, {1000, 700});
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
-        settleLayouts();
+        settle();
         QCOMPARE(s.sheet().size(), QSize(750, 650));
         QVERIFY(s.window.geometry().contains(s.sheet().geometry()));
         QCOMPARE(clippedTexts(s.sheet()), QStringList());
@@ -109,13 +110,13 @@ private Q_SLOTS:
         ScreenFixture f;
         Shown s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
-        settleLayouts();
-        click(s.sheet(), QStringLiteral("deleteEquipment"));
-        click(openDialog<Alert>(s.sheet()), QStringLiteral("destructive"));
-        settleLayouts();
+        settle();
+        click(s.sheet(), u"deleteEquipment"_s);
+        click(openDialog<Alert>(s.sheet()), u"destructive"_s);
+        settle();
         QVERIFY(!s.isSheetOpen());
         QVERIFY(!s.view().selectedEquipment());
-        QCOMPARE(rowTexts(s.dueList()), QStringList(QStringLiteral("Computer Suunto EON Core, Scaduto da 15 giorni")));
+        QCOMPARE(rowTexts(s.dueList()), QStringList(u"Computer Suunto EON Core, Scaduto da 15 giorni"_s));
         QCOMPARE(f.equipment.equipment().size(), 2);
         // What took its place in the list has the focus.
         QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&s.button(0, DueRow::Details)));
@@ -126,11 +127,11 @@ private Q_SLOTS:
         ScreenFixture f;
         Shown s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
-        settleLayouts();
+        settle();
         s.sheet().detail().openMaintenanceForm(); // another sheet lies over it
-        settleLayouts();
+        settle();
         f.equipment.deleteEquipment(*s.view().selectedEquipment());
-        settleLayouts();
+        settle();
         QVERIFY(!s.isSheetOpen());
         QVERIFY(!s.view().selectedEquipment());
         QVERIFY(s.window.isEnabled());
@@ -141,18 +142,18 @@ private Q_SLOTS:
         ScreenFixture f;
         Shown s(f);
         QTest::mouseClick(&s.button(1, DueRow::AddMaintenance), Qt::LeftButton);
-        settleLayouts();
-        click(s.sheet(), QStringLiteral("addMaintenance"));
-        settleLayouts();
+        settle();
+        click(s.sheet(), u"addMaintenance"_s);
+        settle();
         auto& form = openDialog<MaintenanceFormView>(s.sheet());
-        part<QLineEdit>(form, QStringLiteral("description")).setText(QStringLiteral("Batteria"));
-        click(form, QStringLiteral("primary"));
-        settleLayouts();
-        QCOMPARE(rowTexts(s.dueList()), QStringList(QStringLiteral("GAV Scubapro Hydros, Scaduto da 30 giorni")));
+        part<QLineEdit>(form, u"description"_s).setText(u"Batteria"_s);
+        click(form, u"primary"_s);
+        settle();
+        QCOMPARE(rowTexts(s.dueList()), QStringList(u"GAV Scubapro Hydros, Scaduto da 30 giorni"_s));
         QCOMPARE(s.sheet().detail().equipment().maintenanceHistory.size(), 1);
-        QCOMPARE(s.sheet().detail().equipment().maintenanceHistory.first().description, QStringLiteral("Batteria"));
+        QCOMPARE(s.sheet().detail().equipment().maintenanceHistory.first().description, u"Batteria"_s);
         QTest::keyClick(&s.sheet(), Qt::Key_Escape);
-        settleLayouts();
+        settle();
         QVERIFY(!s.view().selectedEquipment());
         QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&s.button(0, DueRow::AddMaintenance)));
     }
@@ -162,14 +163,13 @@ private Q_SLOTS:
         ScreenFixture f(dueItems(1));
         Shown s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
-        settleLayouts();
-        f.equipment.addMaintenance(f.equipment.equipment().first().id,
-                                   makeRecord(f, 1, 0, QStringLiteral("Revisione")));
-        settleLayouts();
+        settle();
+        f.equipment.addMaintenance(f.equipment.equipment().first().id, makeRecord(f, 1, 0, u"Revisione"_s));
+        settle();
         QVERIFY(s.isSheetOpen());
-        QVERIFY(isShown(s.window, QStringLiteral("allInOrder")));
+        QVERIFY(isShown(s.window, u"allInOrder"_s));
         QTest::keyClick(&s.sheet(), Qt::Key_Escape);
-        settleLayouts();
+        settle();
         QVERIFY(!s.isSheetOpen());
         QVERIFY(QApplication::focusWidget() != nullptr);
         QVERIFY(QApplication::focusWidget()->isVisible());
@@ -182,14 +182,14 @@ private Q_SLOTS:
         Shown s(f);
         const auto& items = f.equipment.equipment();
         s.view().setSelectedEquipment(items.at(0));
-        settleLayouts();
+        settle();
         s.view().setSelectedEquipment(items.at(1));
-        settleLayouts();
+        settle();
         QCOMPARE(s.window.findChildren<EquipmentDetailSheet*>().size(), 1);
         QCOMPARE(s.view().selectedEquipment()->id, items.at(1).id);
-        QCOMPARE(textOf(s.sheet(), QStringLiteral("detailName")), items.at(1).name);
+        QCOMPARE(textOf(s.sheet(), u"detailName"_s), items.at(1).name);
         s.view().setSelectedEquipment(std::nullopt);
-        settleLayouts();
+        settle();
         QVERIFY(!s.isSheetOpen());
         QVERIFY(!s.view().selectedEquipment());
     }
@@ -199,7 +199,7 @@ private Q_SLOTS:
         ScreenFixture f;
         Shown s(f);
         s.view().setSelectedEquipment(f.equipment.equipment().first());
-        settleLayouts();
+        settle();
         QVERIFY(s.isSheetOpen());
     }
 };

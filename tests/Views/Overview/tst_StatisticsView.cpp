@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "ScaledText.h"
 #include "StatisticsView.h"
 
@@ -22,10 +23,9 @@ namespace {
 QStringList cards(qsizetype total, qsizetype active, qsizetype due, qsizetype expiring, qsizetype inOrder,
                   qsizetype types)
 {
-    return {
-        QStringLiteral("Totale Attrezzatura: %1").arg(total), QStringLiteral("Attrezzatura Attiva: %1").arg(active),
-        QStringLiteral("Manutenzioni Scadute: %1").arg(due),  QStringLiteral("In Scadenza (30gg): %1").arg(expiring),
-        QStringLiteral("In Regola: %1").arg(inOrder),         QStringLiteral("Tipologie: %1").arg(types)};
+    return {u"Totale Attrezzatura: %1"_s.arg(total), u"Attrezzatura Attiva: %1"_s.arg(active),
+            u"Manutenzioni Scadute: %1"_s.arg(due),  u"In Scadenza (30gg): %1"_s.arg(expiring),
+            u"In Regola: %1"_s.arg(inOrder),         u"Tipologie: %1"_s.arg(types)};
 }
 
 struct Shown : ShownTab
@@ -35,23 +35,18 @@ struct Shown : ShownTab
     {}
 
     [[nodiscard]] QScrollArea& page() { return *window.findChild<StatisticsView*>()->findChild<QScrollArea*>(); }
-    [[nodiscard]] QProgressBar& bar(int row)
-    {
-        return part<QProgressBar>(window, QStringLiteral("typeBar%1").arg(row));
-    }
+    [[nodiscard]] QProgressBar& bar(int row) { return part<QProgressBar>(window, u"typeBar%1"_s.arg(row)); }
 
     /// "name count/total" of every row of the distribution.
     [[nodiscard]] QStringList distribution()
     {
         QStringList rows;
-        for (int i = 0; isShown(window, QStringLiteral("typeName%1").arg(i)); ++i) {
+        for (int i = 0; isShown(window, u"typeName%1"_s.arg(i)); ++i) {
             const QProgressBar& shown = bar(i);
-            const QString count = textOf(window, QStringLiteral("typeCount%1").arg(i));
+            const QString count = textOf(window, u"typeCount%1"_s.arg(i));
             if (count != QString::number(shown.value()))
                 qFatal("bar and count differ in row %d", i);
-            rows.append(QStringLiteral("%1 %2/%3")
-                            .arg(textOf(window, QStringLiteral("typeName%1").arg(i)), count)
-                            .arg(shown.maximum()));
+            rows.append(u"%1 %2/%3"_s.arg(textOf(window, u"typeName%1"_s.arg(i)), count).arg(shown.maximum()));
         }
         return rows;
     }
@@ -59,7 +54,7 @@ struct Shown : ShownTab
 
 EquipmentTypeModel type(int id, const QString& name, const QString& color)
 {
-    return {SequentialIds::at(30'000 + id), name, QStringLiteral("dive.tank"), color, 365, true};
+    return {SequentialIds::at(30'000 + id), name, u"dive.tank"_s, color, 365, true};
 }
 
 } // namespace
@@ -78,11 +73,11 @@ private Q_SLOTS:
         QCOMPARE(cardTexts(s.window), cards(3, 3, 2, 2, 1, 16));
         const QStringList rows = s.distribution();
         QCOMPARE(rows.size(), 16);
-        QCOMPARE(rows.first(), QStringLiteral("Altro 0/3"));
-        QCOMPARE(rows.last(), QStringLiteral("Torcia 0/3"));
-        QVERIFY(rows.contains(QStringLiteral("Erogatore 1/3")));
-        QVERIFY(rows.contains(QStringLiteral("GAV 1/3")));
-        QVERIFY(rows.contains(QStringLiteral("Computer Subacqueo 1/3")));
+        QCOMPARE(rows.first(), u"Altro 0/3"_s);
+        QCOMPARE(rows.last(), u"Torcia 0/3"_s);
+        QVERIFY(rows.contains(u"Erogatore 1/3"_s));
+        QVERIFY(rows.contains(u"GAV 1/3"_s));
+        QVERIFY(rows.contains(u"Computer Subacqueo 1/3"_s));
     }
 
     void emptyRegister()
@@ -91,14 +86,14 @@ private Q_SLOTS:
         Shown s(f);
         QCOMPARE(cardTexts(s.window), cards(0, 0, 0, 0, 0, 16));
         QCOMPARE(s.distribution(), QStringList());
-        QCOMPARE(textOf(s.window, QStringLiteral("noEquipment")), QStringLiteral("Nessuna attrezzatura registrata"));
-        f.equipment.addEquipment(makeItem(1, QStringLiteral("x"), EquipmentType::fins, f.inDays(31)));
-        settleLayouts();
-        QVERIFY(!isShown(s.window, QStringLiteral("noEquipment")));
+        QCOMPARE(textOf(s.window, u"noEquipment"_s), u"Nessuna attrezzatura registrata"_s);
+        f.equipment.addEquipment(makeItem(1, u"x"_s, EquipmentType::fins, f.inDays(31)));
+        settle();
+        QVERIFY(!isShown(s.window, u"noEquipment"_s));
         QCOMPARE(s.distribution().size(), 16);
         f.equipment.deleteEquipment(f.equipment.equipment().first());
-        settleLayouts();
-        QVERIFY(isShown(s.window, QStringLiteral("noEquipment")));
+        settle();
+        QVERIFY(isShown(s.window, u"noEquipment"_s));
         QCOMPARE(s.distribution(), QStringList());
     }
 
@@ -107,24 +102,21 @@ private Q_SLOTS:
         ScreenFixture f;
         f.types.setTypes({});
         Shown s(f);
-        QCOMPARE(cardTexts(s.window).last(), QStringLiteral("Tipologie: 0"));
+        QCOMPARE(cardTexts(s.window).last(), u"Tipologie: 0"_s);
         QCOMPARE(s.distribution(), QStringList());
-        QVERIFY(!isShown(s.window, QStringLiteral("noEquipment")));
+        QVERIFY(!isShown(s.window, u"noEquipment"_s));
     }
 
     void whatCountsForAType()
     {
         ScreenFixture f(QList<Equipment>{});
-        f.types.setTypes({type(1, QStringLiteral("GAV"), QStringLiteral("orange")),
-                          type(2, QStringLiteral("gav"), QStringLiteral("blue")),
-                          type(3, QStringLiteral("Boa"), QStringLiteral("red")),
-                          type(4, QStringLiteral("Boa"), QStringLiteral("green")),
-                          type(5, QStringLiteral("Spenta"), QStringLiteral("green"))});
+        f.types.setTypes({type(1, u"GAV"_s, u"orange"_s), type(2, u"gav"_s, u"blue"_s), type(3, u"Boa"_s, u"red"_s),
+                          type(4, u"Boa"_s, u"green"_s), type(5, u"Spenta"_s, u"green"_s)});
         QList<EquipmentTypeModel> types = f.types.types();
         types[4].isActive = false;
         f.types.setTypes(types);
         const auto add = [&f](int id, EquipmentType kind, const std::optional<QString>& custom, bool isActive) {
-            Equipment item = makeItem(id, QStringLiteral("x"), kind, f.inDays(40));
+            Equipment item = makeItem(id, u"x"_s, kind, f.inDays(40));
             item.customTypeName = custom;
             item.isActive = isActive;
             f.equipment.addEquipment(item);
@@ -132,13 +124,12 @@ private Q_SLOTS:
         add(1, EquipmentType::bcd, std::nullopt, true);
         add(2, EquipmentType::bcd, QString(), true); // an empty name counts as absent
         add(3, EquipmentType::bcd, std::nullopt, false);
-        add(4, EquipmentType::bcd, QStringLiteral("Boa"), true);
-        add(5, EquipmentType::other, QStringLiteral("Spenta"), true);
+        add(4, EquipmentType::bcd, u"Boa"_s, true);
+        add(5, EquipmentType::other, u"Spenta"_s, true);
         add(6, EquipmentType::mask, std::nullopt, true);
         Shown s(f);
         // By name in code-point order; types of one name count the same items; inactive items are in the total only.
-        QCOMPARE(s.distribution(), QStringList({QStringLiteral("Boa 1/6"), QStringLiteral("Boa 1/6"),
-                                                QStringLiteral("GAV 2/6"), QStringLiteral("gav 0/6")}));
+        QCOMPARE(s.distribution(), QStringList({u"Boa 1/6"_s, u"Boa 1/6"_s, u"GAV 2/6"_s, u"gav 0/6"_s}));
         QCOMPARE(cardTexts(s.window), cards(6, 5, 0, 0, 6, 4));
     }
 
@@ -156,11 +147,10 @@ private Q_SLOTS:
         qsizetype lamps = 0;
         for (int i = 0; i < 1000; ++i) {
             const int left = draw(-60, 60);
-            Equipment item =
-                makeItem(i, QStringLiteral("x"), static_cast<EquipmentType>(draw(0, 8)), zone.inDays(left));
+            Equipment item = makeItem(i, u"x"_s, static_cast<EquipmentType>(draw(0, 8)), zone.inDays(left));
             item.isActive = draw(0, 4) != 0;
             if (draw(0, 3) == 0)
-                item.customTypeName = QStringLiteral("Torcia");
+                item.customTypeName = u"Torcia"_s;
             active += item.isActive ? 1 : 0;
             due += item.isActive && left <= 30 ? 1 : 0;
             expiring += left >= 1 && left <= 30 ? 1 : 0;
@@ -172,48 +162,44 @@ private Q_SLOTS:
         ScreenFixture f(items);
         Shown s(f);
         QCOMPARE(cardTexts(s.window), cards(1000, active, due, expiring, inOrder, 16));
-        QVERIFY(s.distribution().contains(QStringLiteral("Torcia %1/1000").arg(lamps)));
-        QVERIFY(s.distribution().contains(QStringLiteral("Maschera %1/1000").arg(masks)));
+        QVERIFY(s.distribution().contains(u"Torcia %1/1000"_s.arg(lamps)));
+        QVERIFY(s.distribution().contains(u"Maschera %1/1000"_s.arg(masks)));
         s.window.content().setSelectedTab(ContentView::MaintenanceTab);
-        settleLayouts();
-        QCOMPARE(cardTexts(s.window), QStringList({QStringLiteral("Totale Articoli: 1000"),
-                                                   QStringLiteral("Manutenzioni Scadute: %1").arg(due),
-                                                   QStringLiteral("In Scadenza (30gg): %1").arg(expiring),
-                                                   QStringLiteral("In Regola: %1").arg(inOrder)}));
+        settle();
+        QCOMPARE(cardTexts(s.window),
+                 QStringList({u"Totale Articoli: 1000"_s, u"Manutenzioni Scadute: %1"_s.arg(due),
+                              u"In Scadenza (30gg): %1"_s.arg(expiring), u"In Regola: %1"_s.arg(inOrder)}));
     }
 
     void typesAreFollowed()
     {
         ScreenFixture f;
         Shown s(f);
-        EquipmentTypeModel bcd = *f.types.getTypeByName(QStringLiteral("GAV"));
-        bcd.name = QStringLiteral("Gilet");
-        bcd.color = QStringLiteral("pink");
+        EquipmentTypeModel bcd = *f.types.getTypeByName(u"GAV"_s);
+        bcd.name = u"Gilet"_s;
+        bcd.color = u"pink"_s;
         f.types.updateType(bcd);
-        settleLayouts();
+        settle();
         QStringList rows = s.distribution();
-        QVERIFY(rows.contains(QStringLiteral("Gilet 0/3"))); // the item keeps the old name
-        QVERIFY(!rows.join(QLatin1Char(' ')).contains(QLatin1String("GAV")));
-        QCOMPARE(barColor(&s.bar(static_cast<int>(rows.indexOf(QStringLiteral("Gilet 0/3"))))),
-                 std::optional(NamedColor::pink));
+        QVERIFY(rows.contains(u"Gilet 0/3"_s)); // the item keeps the old name
+        QVERIFY(!rows.join(u' ').contains("GAV"_L1));
+        QCOMPARE(barColor(&s.bar(static_cast<int>(rows.indexOf(u"Gilet 0/3"_s)))), std::optional(NamedColor::pink));
         f.types.deleteType(bcd);
-        settleLayouts();
+        settle();
         rows = s.distribution();
         QCOMPARE(rows.size(), 15);
-        QCOMPARE(cardTexts(s.window).last(), QStringLiteral("Tipologie: 15"));
-        f.types.setSearchText(QStringLiteral("tor"));
-        settleLayouts();
-        QCOMPARE(s.distribution(), QStringList({QStringLiteral("Computer Subacqueo 1/3"),
-                                                QStringLiteral("Erogatore 1/3"), QStringLiteral("Torcia 0/3")})
-                                       .filter(QStringLiteral("tor"), Qt::CaseInsensitive));
-        QCOMPARE(cardTexts(s.window).last(), QStringLiteral("Tipologie: %1").arg(s.distribution().size()));
+        QCOMPARE(cardTexts(s.window).last(), u"Tipologie: 15"_s);
+        f.types.setSearchText(u"tor"_s);
+        settle();
+        QCOMPARE(s.distribution(), QStringList({u"Computer Subacqueo 1/3"_s, u"Erogatore 1/3"_s, u"Torcia 0/3"_s})
+                                       .filter(u"tor"_s, Qt::CaseInsensitive));
+        QCOMPARE(cardTexts(s.window).last(), u"Tipologie: %1"_s.arg(s.distribution().size()));
     }
 
     void barsAreDrawnInTheColourOfTheType()
     {
         ScreenFixture f;
-        f.types.setTypes({type(1, QStringLiteral("GAV"), QStringLiteral("pink")),
-                          type(2, QStringLiteral("Zero"), QStringLiteral("green"))});
+        f.types.setTypes({type(1, u"GAV"_s, u"pink"_s), type(2, u"Zero"_s, u"green"_s)});
         for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
             applyTheme(*qApp, scheme);
             Shown s(f);
@@ -232,13 +218,13 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         Shown s(f);
-        const QWidget& card = part(s.window, QStringLiteral("distribution"));
-        const QLabel& name = part<QLabel>(s.window, QStringLiteral("typeName0"));
+        const QWidget& card = part(s.window, u"distribution"_s);
+        const QLabel& name = part<QLabel>(s.window, u"typeName0"_s);
         const auto left = [&card](const QWidget& widget) { return widget.mapTo(&card, QPoint()).x(); };
         QCOMPARE(left(name), 16 + 24 + 12);
         QVERIFY(name.width() >= 150);
         QCOMPARE(left(s.bar(0)), left(name) + name.width() + 12);
-        const QWidget& count = part(s.window, QStringLiteral("typeCount0"));
+        const QWidget& count = part(s.window, u"typeCount0"_s);
         QVERIFY(count.width() >= 40);
         QCOMPARE(left(count) + count.width(), card.width() - 16);
         for (int row = 1; row < 16; ++row) {
@@ -251,15 +237,14 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         Shown s(f);
-        const qsizetype row = s.distribution().indexOf(QStringLiteral("GAV 1/3"));
+        const qsizetype row = s.distribution().indexOf(u"GAV 1/3"_s);
         QAccessibleInterface* const bar = QAccessible::queryAccessibleInterface(&s.bar(static_cast<int>(row)));
         QCOMPARE(bar->role(), QAccessible::ProgressBar);
-        QCOMPARE(bar->text(QAccessible::Name), QStringLiteral("GAV"));
+        QCOMPARE(bar->text(QAccessible::Name), u"GAV"_s);
         QCOMPARE(bar->valueInterface()->currentValue().toInt(), 1);
         QCOMPARE(bar->valueInterface()->maximumValue().toInt(), 3);
-        QAccessibleInterface* const card =
-            QAccessible::queryAccessibleInterface(&part(s.window, QStringLiteral("distribution")));
-        QCOMPARE(card->text(QAccessible::Name), QStringLiteral("Distribuzione per Tipo"));
+        QAccessibleInterface* const card = QAccessible::queryAccessibleInterface(&part(s.window, u"distribution"_s));
+        QCOMPARE(card->text(QAccessible::Name), u"Distribuzione per Tipo"_s);
     }
 
     void theKeyboardScrollsWhatIsBelow()
@@ -268,12 +253,12 @@ private Q_SLOTS:
         Shown s(f, {1000, 700});
         QScrollBar& scrollBar = *s.page().verticalScrollBar();
         QVERIFY(scrollBar.maximum() > 0);
-        part(s.window, QStringLiteral("tabSwitch")).findChild<QWidget*>()->setFocus();
-        part(s.window, QStringLiteral("sidebar")).setFocus();
+        part(s.window, u"tabSwitch"_s).findChild<QWidget*>()->setFocus();
+        part(s.window, u"sidebar"_s).setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&s.page()));
-        QCOMPARE(s.page().accessibleName(), QStringLiteral("Statistiche"));
+        QCOMPARE(s.page().accessibleName(), u"Statistiche"_s);
         QTest::keyClick(&s.page(), Qt::Key_Down);
         QVERIFY(scrollBar.value() > 0);
         QTest::keyClick(&s.page(), Qt::Key_End);
@@ -282,7 +267,7 @@ private Q_SLOTS:
         QCOMPARE(scrollBar.value(), 0);
 
         s.window.resize(1000, 1100);
-        settleLayouts();
+        settle();
         QCOMPARE(scrollBar.maximum(), 0);
         QCOMPARE(s.page().focusPolicy(), Qt::NoFocus);
     }
@@ -290,11 +275,10 @@ private Q_SLOTS:
     void aLongNameBreaks()
     {
         ScreenFixture f;
-        f.types.setTypes({type(1, QString(80, QLatin1Char('x')), QStringLiteral("red")),
-                          type(2, QStringLiteral("y"), QStringLiteral("red"))});
+        f.types.setTypes({type(1, QString(80, u'x'), u"red"_s), type(2, u"y"_s, u"red"_s)});
         Shown s(f);
-        const QLabel& name = part<QLabel>(s.window, QStringLiteral("typeName0"));
-        QVERIFY(name.height() > part(s.window, QStringLiteral("typeName1")).height() * 2);
+        const QLabel& name = part<QLabel>(s.window, u"typeName0"_s);
+        QVERIFY(name.height() > part(s.window, u"typeName1"_s).height() * 2);
         QCOMPARE(s.page().horizontalScrollBar()->maximum(), 0);
     }
 
@@ -304,17 +288,17 @@ private Q_SLOTS:
         StatisticsView view(f.context);
         const StatCard& total = *view.findChildren<StatCard*>().first();
         view.show();
-        QCOMPARE(total.value(), QStringLiteral("3"));
+        QCOMPARE(total.value(), u"3"_s);
         view.hide();
         f.console.clear();
         f.types.resetToDefaults();
         f.equipment.deleteEquipment(f.equipment.equipment().first());
-        settleLayouts();
-        QCOMPARE(total.value(), QStringLiteral("3"));
+        settle();
+        QCOMPARE(total.value(), u"3"_s);
         view.show();
-        settleLayouts();
-        QCOMPARE(total.value(), QStringLiteral("2"));
-        QCOMPARE(f.takeLog(), QStringList(QStringLiteral("🗑️ Eliminato equipaggiamento: Erogatore Apeks XTX50")));
+        settle();
+        QCOMPARE(total.value(), u"2"_s);
+        QCOMPARE(f.takeLog(), QStringList(u"🗑️ Eliminato equipaggiamento: Erogatore Apeks XTX50"_s));
     }
 
     void nothingIsClipped_data()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "IconLabel.h"
+#include "Literals.h"
 #include "ScreenFixture.h"
 #include "SettingsInfoRow.h"
 #include "SettingsView.h"
@@ -41,7 +42,7 @@ struct ShownSettings
         QCoreApplication::processEvents();
     }
     UpdatesGroup& updates() const { return *view->findChild<UpdatesGroup*>(); }
-    IconLabel& feedback() const { return *view->findChild<IconLabel*>(QStringLiteral("checkFeedback")); }
+    IconLabel& feedback() const { return *view->findChild<IconLabel*>(u"checkFeedback"_s); }
     template <typename Sheet>
     Sheet* sheet() const
     {
@@ -54,7 +55,7 @@ struct ShownSettings
     {
         QStringList lines;
         for (const SettingsInfoRow* row : view->findChildren<SettingsInfoRow*>())
-            lines.append(row->label() + QStringLiteral(": ") + row->value());
+            lines.append(row->label() + u": "_s + row->value());
         return lines;
     }
     QStringList texts() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AboutView.h"
 #include "ClippedTexts.h"
+#include "Literals.h"
 #include "ScaledText.h"
 #include "ScreenFixture.h"
 #include "SettingsInfoRow.h"
@@ -24,8 +25,8 @@ private Q_SLOTS:
     void saysWhatTheProgramIs()
     {
         test::ScreenFixture f;
-        f.product.author = QStringLiteral("Ada Marini");
-        QFile program(f.folder.filePath(QStringLiteral("program")));
+        f.product.author = u"Ada Marini"_s;
+        QFile program(f.folder.filePath(u"program"_s));
         QVERIFY(program.open(QIODevice::WriteOnly));
         QVERIFY(program.setFileTime(QDateTime(QDate(2025, 3, 7), QTime(17, 45), Qt::UTC),
                                     QFileDevice::FileModificationTime));
@@ -35,12 +36,10 @@ private Q_SLOTS:
         QStringList texts;
         for (const QLabel* label : view.findChildren<QLabel*>())
             texts.append(label->text());
-        QVERIFY(texts.contains(QStringLiteral("Abissora")));
-        QVERIFY(texts.contains(QStringLiteral("Gestione attrezzatura subacquea e manutenzioni")));
-        QCOMPARE(
-            rows(view),
-            QStringList({QStringLiteral("Versione=1.2.0 (build 42)"), QStringLiteral("Data Build=07/03/2025 18:45"),
-                         QStringLiteral("Sviluppato da=Ada Marini"), QStringLiteral("Copyright=© 2026 Ada Marini")}));
+        QVERIFY(texts.contains(u"Abissora"_s));
+        QVERIFY(texts.contains(u"Gestione attrezzatura subacquea e manutenzioni"_s));
+        QCOMPARE(rows(view), QStringList({u"Versione=1.2.0 (build 42)"_s, u"Data Build=07/03/2025 18:45"_s,
+                                          u"Sviluppato da=Ada Marini"_s, u"Copyright=© 2026 Ada Marini"_s}));
     }
 
     void whatIsNotKnownIsADash()
@@ -48,8 +47,7 @@ private Q_SLOTS:
         test::ScreenFixture f;
         f.package = {};
         const AboutView view(f.context);
-        QCOMPARE(rows(view).mid(0, 2),
-                 QStringList({QStringLiteral("Versione=— (build —)"), QStringLiteral("Data Build=—")}));
+        QCOMPARE(rows(view).mid(0, 2), QStringList({u"Versione=— (build —)"_s, u"Data Build=—"_s}));
     }
 
     void valuesCanBeSelectedByKeyboardAndAreNamed()
@@ -109,7 +107,7 @@ private:
     {
         QStringList rows;
         for (const SettingsInfoRow* row : view.findChildren<SettingsInfoRow*>())
-            rows.append(row->label() + QLatin1Char('=') + row->value());
+            rows.append(row->label() + u'=' + row->value());
         return rows;
     }
 };

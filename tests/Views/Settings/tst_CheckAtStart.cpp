@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "LocalServer.h"
 #include "MainWindow.h"
 #include "MarevoloApp.h"
@@ -20,10 +21,10 @@ const QByteArray older = QByteArray(newer).replace("999.0", "0.0.1");
 
 Product productAt(const QUrl& manifest)
 {
-    return {QStringLiteral("Autrice"), QUrl(QStringLiteral("https://abissora.example/")), manifest};
+    return {u"Autrice"_s, QUrl(u"https://abissora.example/"_s), manifest};
 }
 
-const Product product = productAt(QUrl(QStringLiteral("https://abissora.example/version.json")));
+const Product product = productAt(QUrl(u"https://abissora.example/version.json"_s));
 
 } // namespace
 
@@ -91,7 +92,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_http->open(), 1);
         m_http->answer(200, newer);
         QCOMPARE(offered.size(), 1);
-        QCOMPARE(offered.first().first().value<UpdateInfo>().id(), QStringLiteral("999.0-57"));
+        QCOMPARE(offered.first().first().value<UpdateInfo>().id(), u"999.0-57"_s);
     }
 
     void isSilentOtherwise_data()

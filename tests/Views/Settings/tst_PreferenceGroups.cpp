@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "PreferenceGroups.h"
 #include "ScreenFixture.h"
 #include "SegmentedControl.h"
@@ -35,17 +36,14 @@ struct Shown
     }
 
     ToggleSwitch& toggle(const char* name) { return *page.findChild<ToggleSwitch*>(QLatin1String(name)); }
-    Stepper& days() { return *page.findChild<Stepper*>(QStringLiteral("reminderDays")); }
-    SegmentedControl& interval()
-    {
-        return *page.findChild<SegmentedControl*>(QStringLiteral("defaultServiceInterval"));
-    }
-    QLineEdit& currency() { return *page.findChild<QLineEdit*>(QStringLiteral("currencySymbol")); }
+    Stepper& days() { return *page.findChild<Stepper*>(u"reminderDays"_s); }
+    SegmentedControl& interval() { return *page.findChild<SegmentedControl*>(u"defaultServiceInterval"_s); }
+    QLineEdit& currency() { return *page.findChild<QLineEdit*>(u"currencySymbol"_s); }
     QStringList segments()
     {
         QStringList texts;
         for (const QAbstractButton* segment : interval().findChildren<QAbstractButton*>())
-            texts.append(segment->text() + (segment->isChecked() ? QStringLiteral("*") : QString()));
+            texts.append(segment->text() + (segment->isChecked() ? u"*"_s : QString()));
         return texts;
     }
 
@@ -70,11 +68,10 @@ private Q_SLOTS:
         ScreenFixture f;
         Shown s(f);
         QVERIFY(s.toggle("notificationsEnabled").isChecked());
-        QCOMPARE(s.days().text(), QStringLiteral("30 giorni"));
-        QCOMPARE(s.segments(),
-                 QStringList({QStringLiteral("6 Mesi"), QStringLiteral("1 Anno*"), QStringLiteral("2 Anni")}));
-        QCOMPARE(s.currency().text(), QStringLiteral("€"));
-        QCOMPARE(s.currency().placeholderText(), QStringLiteral("Simbolo"));
+        QCOMPARE(s.days().text(), u"30 giorni"_s);
+        QCOMPARE(s.segments(), QStringList({u"6 Mesi"_s, u"1 Anno*"_s, u"2 Anni"_s}));
+        QCOMPARE(s.currency().text(), u"€"_s);
+        QCOMPARE(s.currency().placeholderText(), u"Simbolo"_s);
         QVERIFY(!s.toggle("darkMode").isChecked());
     }
 
@@ -85,7 +82,7 @@ private Q_SLOTS:
         f.settings.setReminderDays(44);
         for (const char* key : {"notificationsEnabled", "defaultServiceInterval", "currencySymbol", "darkMode"})
             QVERIFY2(!QFile::exists(f.preferences.path(QLatin1String(key))), key);
-        QCOMPARE(s.days().text(), QStringLiteral("44 giorni"));
+        QCOMPARE(s.days().text(), u"44 giorni"_s);
     }
 
     void aSwitchStoresAtOnce_data()
@@ -123,8 +120,8 @@ private Q_SLOTS:
         dark->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         QVERIFY(f.settings.darkMode());
         QAccessibleInterface* symbol = QAccessible::queryAccessibleInterface(&s.currency());
-        symbol->setText(QAccessible::Value, QStringLiteral("USD"));
-        QCOMPARE(f.settings.currencySymbol(), QStringLiteral("USD"));
+        symbol->setText(QAccessible::Value, u"USD"_s);
+        QCOMPARE(f.settings.currencySymbol(), u"USD"_s);
         QAccessibleInterface* years =
             QAccessible::queryAccessibleInterface(s.interval().findChildren<QAbstractButton*>().at(2));
         years->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
@@ -154,7 +151,7 @@ private Q_SLOTS:
         s.days().setFocus();
         QTest::keyClick(&s.days(), static_cast<Qt::Key>(key));
         QCOMPARE(f.settings.reminderDays(), to);
-        QCOMPARE(s.days().text(), QStringLiteral("%1 giorni").arg(to));
+        QCOMPARE(s.days().text(), u"%1 giorni"_s.arg(to));
     }
 
     void everySegmentStoresItsDays()
@@ -178,7 +175,7 @@ private Q_SLOTS:
         f.settings.setDefaultServiceInterval(200);
         Shown s(f);
         QCOMPARE(s.interval().currentIndex(), -1);
-        QVERIFY(s.segments().filter(QStringLiteral("*")).isEmpty());
+        QVERIFY(s.segments().filter(u"*"_s).isEmpty());
         QCOMPARE(f.settings.defaultServiceInterval(), 200);
     }
 
@@ -189,12 +186,12 @@ private Q_SLOTS:
         const QSignalSpy changed(&f.settings, &SettingsViewModel::currencySymbolChanged);
         s.currency().setFocus();
         s.currency().selectAll();
-        QTest::keyClicks(&s.currency(), QStringLiteral("CHF"));
+        QTest::keyClicks(&s.currency(), u"CHF"_s);
         QCOMPARE(stored(f, "currencySymbol"), QByteArray("\"CHF\""));
         QCOMPARE(changed.size(), 3);
         QTest::keyClick(&s.currency(), Qt::Key_Home);
-        QTest::keyClicks(&s.currency(), QStringLiteral("x"));
-        QCOMPARE(s.currency().text(), QStringLiteral("xCHF"));
+        QTest::keyClicks(&s.currency(), u"x"_s);
+        QCOMPARE(s.currency().text(), u"xCHF"_s);
         QCOMPARE(s.currency().cursorPosition(), 1);
         s.currency().selectAll();
         QTest::keyClick(&s.currency(), Qt::Key_Delete);
@@ -208,12 +205,12 @@ private Q_SLOTS:
         f.settings.setNotificationsEnabled(false);
         f.settings.setReminderDays(14);
         f.settings.setDefaultServiceInterval(180);
-        f.settings.setCurrencySymbol(QStringLiteral("$"));
+        f.settings.setCurrencySymbol(u"$"_s);
         f.settings.setDarkMode(true);
         QVERIFY(!s.toggle("notificationsEnabled").isChecked());
         QCOMPARE(s.days().value(), 14);
         QCOMPARE(s.interval().currentIndex(), 0);
-        QCOMPARE(s.currency().text(), QStringLiteral("$"));
+        QCOMPARE(s.currency().text(), u"$"_s);
         QVERIFY(s.toggle("darkMode").isChecked());
     }
 
@@ -222,10 +219,10 @@ private Q_SLOTS:
         ScreenFixture f;
         Shown s(f);
         // A folder in the file's place: the write fails whoever runs the test.
-        QVERIFY(QDir().mkpath(f.preferences.path(QStringLiteral("darkMode"))));
+        QVERIFY(QDir().mkpath(f.preferences.path(u"darkMode"_s)));
         QTest::mouseClick(&s.toggle("darkMode"), Qt::LeftButton);
         QVERIFY(!s.toggle("darkMode").isChecked());
-        QVERIFY(f.takeLog().join(QLatin1Char('\n')).startsWith(QStringLiteral("Error saving settings: ")));
+        QVERIFY(f.takeLog().join(u'\n').startsWith(u"Error saving settings: "_s));
     }
 
     void everyControlIsNamedByItsCaption()
@@ -235,11 +232,11 @@ private Q_SLOTS:
         const auto name = [](QWidget& widget) {
             return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
         };
-        QCOMPARE(name(s.toggle("notificationsEnabled")), QStringLiteral("Abilita Notifiche"));
-        QCOMPARE(name(s.days()), QStringLiteral("Giorni di anticipo"));
-        QCOMPARE(name(s.interval()), QStringLiteral("Intervallo Tagliando Default"));
-        QCOMPARE(name(s.currency()), QStringLiteral("Simbolo Valuta"));
-        QCOMPARE(name(s.toggle("darkMode")), QStringLiteral("Modalità Scura"));
+        QCOMPARE(name(s.toggle("notificationsEnabled")), u"Abilita Notifiche"_s);
+        QCOMPARE(name(s.days()), u"Giorni di anticipo"_s);
+        QCOMPARE(name(s.interval()), u"Intervallo Tagliando Default"_s);
+        QCOMPARE(name(s.currency()), u"Simbolo Valuta"_s);
+        QCOMPARE(name(s.toggle("darkMode")), u"Modalità Scura"_s);
     }
 };
 

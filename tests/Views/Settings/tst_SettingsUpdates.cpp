@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeManagementView.h"
+#include "Literals.h"
 #include "ShownSettings.h"
 #include "TestRunner.h"
 #include "UpdateSheet.h"
@@ -41,7 +42,7 @@ private Q_SLOTS:
         QCOMPARE(f.http.requested().size(), 1);
         f.http.answer(200, newer);
         QCoreApplication::processEvents();
-        QCOMPARE(s.updates().checkFeedback(), std::optional(QStringLiteral("Versione 1.3.0 (build 57) disponibile")));
+        QCOMPARE(s.updates().checkFeedback(), std::optional(u"Versione 1.3.0 (build 57) disponibile"_s));
         QVERIFY(!s.updates().feedbackIsError());
         QVERIFY(s.feedback().isVisible());
         auto* offer = s.sheet<UpdateSheet>();
@@ -50,7 +51,7 @@ private Q_SLOTS:
         QVERIFY(!f.updates.availableUpdate());
         QCoreApplication::processEvents();
         QVERIFY(s.sheet<UpdateSheet>() == nullptr);
-        QCOMPARE(s.feedback().text(), QStringLiteral("Versione 1.3.0 (build 57) disponibile"));
+        QCOMPARE(s.feedback().text(), u"Versione 1.3.0 (build 57) disponibile"_s);
     }
 
     void aHostileVersionIsToldInShort()
@@ -61,8 +62,8 @@ private Q_SLOTS:
         const QByteArray version("9.\\u202E" + QByteArray(100'000, 'x'));
         f.http.answer(200, QByteArray(newer).replace("\"1.3.0\"", QByteArray('"' + version + '"')));
         QCoreApplication::processEvents();
-        QVERIFY(s.feedback().text().startsWith(QStringLiteral("Versione 9.xx")));
-        QVERIFY(s.feedback().text().endsWith(QStringLiteral("… (build 57) disponibile")));
+        QVERIFY(s.feedback().text().startsWith(u"Versione 9.xx"_s));
+        QVERIFY(s.feedback().text().endsWith(u"… (build 57) disponibile"_s));
         QVERIFY(s.feedback().text().size() < 150);
     }
 
@@ -83,7 +84,7 @@ private Q_SLOTS:
         ShownSettings s(f);
         s.click("checkForUpdates");
         f.http.answer(200, current);
-        QCOMPARE(s.feedback().text(), QStringLiteral("Hai già l'ultima versione"));
+        QCOMPARE(s.feedback().text(), u"Hai già l'ultima versione"_s);
         QVERIFY(!s.updates().feedbackIsError());
         QVERIFY(s.sheet<UpdateSheet>() == nullptr);
         QVERIFY(hasInk(iconOf(s.feedback()), [](const QColor& c) { return c.green() > c.red() + 40; }));
@@ -93,9 +94,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("text");
-        QTest::newRow("the server fails") << 500 << QStringLiteral("Il server non ha risposto correttamente.");
-        QTest::newRow("no manifest") << 200 << QStringLiteral("Il file di aggiornamento sul sito non è valido.");
-        QTest::newRow("no answer") << 0 << QStringLiteral("Impossibile contattare il sito dell'applicazione.");
+        QTest::newRow("the server fails") << 500 << u"Il server non ha risposto correttamente."_s;
+        QTest::newRow("no manifest") << 200 << u"Il file di aggiornamento sul sito non è valido."_s;
+        QTest::newRow("no answer") << 0 << u"Impossibile contattare il sito dell'applicazione."_s;
     }
 
     void aFailureIsTold()
@@ -106,7 +107,7 @@ private Q_SLOTS:
         ShownSettings s(f);
         s.click("checkForUpdates");
         if (status == 0)
-            f.http.answer(tl::unexpected(HttpError{HttpError::Kind::Transfer, QStringLiteral("Connection refused")}));
+            f.http.answer(tl::unexpected(HttpError{HttpError::Kind::Transfer, u"Connection refused"_s}));
         else
             f.http.answer(status, "{}");
         QCOMPARE(s.feedback().text(), text);
@@ -122,14 +123,14 @@ private Q_SLOTS:
         const int width = check.width();
         check.setFocus();
         s.click("checkForUpdates");
-        QCOMPARE(check.text(), QStringLiteral("Verifica in corso…"));
+        QCOMPARE(check.text(), u"Verifica in corso…"_s);
         QCOMPARE(check.width(), width);
         QVERIFY(check.hasFocus());
         s.click("checkForUpdates");
         QCOMPARE(f.http.requested().size(), 1);
         f.http.answer(200, current);
         QCoreApplication::processEvents();
-        QCOMPARE(check.text(), QStringLiteral("Controlla aggiornamenti ora"));
+        QCOMPARE(check.text(), u"Controlla aggiornamenti ora"_s);
         s.click("checkForUpdates");
         QCOMPARE(f.http.requested().size(), 2);
         f.http.answer(200, current);
@@ -166,7 +167,7 @@ private Q_SLOTS:
         s.click("checkForUpdates");
         s.view->hide();
         s.view->show();
-        QCOMPARE(s.button("checkForUpdates").text(), QStringLiteral("Verifica in corso…"));
+        QCOMPARE(s.button("checkForUpdates").text(), u"Verifica in corso…"_s);
         f.http.answer(500, {});
         QVERIFY(!s.updates().checkFeedback());
         QVERIFY(!s.feedback().isVisible());

@@ -3,6 +3,7 @@
 #include "ClippedTexts.h"
 #include "EquipmentTypeManagementView.h"
 #include "HelpSheet.h"
+#include "Literals.h"
 #include "ScaledText.h"
 #include "ShownSettings.h"
 #include "TestRunner.h"
@@ -73,26 +74,23 @@ private Q_SLOTS:
         std::sort(groups.begin(), groups.end(), [](auto* a, auto* b) { return a->y() < b->y(); });
         for (const SettingsGroupBox* group : groups)
             titles.append(group->title());
-        QCOMPARE(titles, QStringList({QStringLiteral("Tipologie Attrezzatura"), QStringLiteral("Notifiche"),
-                                      QStringLiteral("Aggiornamenti"), QStringLiteral("Impostazioni Generali"),
-                                      QStringLiteral("Aspetto"), QStringLiteral("Aiuto"),
-                                      QStringLiteral("Informazioni"), QStringLiteral("Ripristino")}));
+        QCOMPARE(titles, QStringList({u"Tipologie Attrezzatura"_s, u"Notifiche"_s, u"Aggiornamenti"_s,
+                                      u"Impostazioni Generali"_s, u"Aspetto"_s, u"Aiuto"_s, u"Informazioni"_s,
+                                      u"Ripristino"_s}));
     }
 
     void itSaysWhatIsRunning()
     {
         ScreenFixture f;
-        f.product.author = QStringLiteral("Sub Mare");
+        f.product.author = u"Sub Mare"_s;
         ShownSettings s(f);
-        QCOMPARE(
-            s.information(),
-            QStringList({QStringLiteral("Versione: 1.2.0 (build 42)"),
-                         QStringLiteral("Data Build: ") + f.info.buildDate(), QStringLiteral("Sviluppato da: Sub Mare"),
-                         QStringLiteral("Copyright: © 2026 Sub Mare"), QStringLiteral("Tipologie disponibili: 16")}));
+        QCOMPARE(s.information(), QStringList({u"Versione: 1.2.0 (build 42)"_s, u"Data Build: "_s + f.info.buildDate(),
+                                               u"Sviluppato da: Sub Mare"_s, u"Copyright: © 2026 Sub Mare"_s,
+                                               u"Tipologie disponibili: 16"_s}));
         f.clock.advance(std::chrono::hours(24 * 365));
         s.view->hide();
         s.view->show();
-        QCOMPARE(s.information().at(3), QStringLiteral("Copyright: © 2027 Sub Mare"));
+        QCOMPARE(s.information().at(3), u"Copyright: © 2027 Sub Mare"_s);
     }
 
     void theCountsFollowTheTypes()
@@ -101,8 +99,8 @@ private Q_SLOTS:
         ShownSettings s(f);
         f.types.deleteType(f.types.types().first());
         QCoreApplication::processEvents();
-        QVERIFY(s.texts().contains(QStringLiteral("15 tipologie attive")));
-        QCOMPARE(s.information().last(), QStringLiteral("Tipologie disponibili: 15"));
+        QVERIFY(s.texts().contains(u"15 tipologie attive"_s));
+        QCOMPARE(s.information().last(), u"Tipologie disponibili: 15"_s);
     }
 
     void theWebsiteOpensOutside()
@@ -110,7 +108,7 @@ private Q_SLOTS:
         ScreenFixture f;
         ShownSettings s(f);
         s.click("website");
-        QCOMPARE(f.opener.opened(), QList<QUrl>({QUrl(QStringLiteral("https://abissora.example/"))}));
+        QCOMPARE(f.opener.opened(), QList<QUrl>({QUrl(u"https://abissora.example/"_s)}));
     }
 
     void saysWhenNothingOpensTheWebsite()
@@ -121,7 +119,7 @@ private Q_SLOTS:
         s.click("website");
         const auto* notice = s.sheet<Alert>();
         QVERIFY(notice != nullptr);
-        QVERIFY(notice->message().endsWith(QStringLiteral("\nhttps://abissora.example/")));
+        QVERIFY(notice->message().endsWith(u"\nhttps://abissora.example/"_s));
     }
 
     void sheetsOpenAndGiveTheFocusBack()
@@ -138,7 +136,7 @@ private Q_SLOTS:
         s.button("openHelp").setFocus();
         s.click("openHelp");
         QVERIFY(s.view->showingHelp());
-        QCOMPARE(s.sheet<HelpSheet>()->focusWidget()->objectName(), QStringLiteral("helpSearch"));
+        QCOMPARE(s.sheet<HelpSheet>()->focusWidget()->objectName(), u"helpSearch"_s);
         QTest::keyClick(s.sheet<HelpSheet>(), Qt::Key_Escape);
         QCoreApplication::processEvents();
         QVERIFY(!s.view->showingHelp());
@@ -150,19 +148,19 @@ private Q_SLOTS:
         ScreenFixture f;
         f.settings.setReminderDays(44);
         f.settings.setDarkMode(true);
-        f.settings.setCurrencySymbol(QStringLiteral("$"));
+        f.settings.setCurrencySymbol(u"$"_s);
         EquipmentTypeModel own = f.types.types().first();
         own.id = SequentialIds::at(900);
-        own.name = QStringLiteral("Scooter");
+        own.name = u"Scooter"_s;
         f.types.addType(own);
         QVERIFY(f.preferences.setInteger(EquipmentTypeViewModel::iconVersionKey, 3));
         ShownSettings s(f);
         s.click("resetSettings");
         QCOMPARE(f.settings.reminderDays(), 30);
         QCOMPARE(f.settings.darkMode(), false);
-        QCOMPARE(f.settings.currencySymbol(), QStringLiteral("€"));
+        QCOMPARE(f.settings.currencySymbol(), u"€"_s);
         QCOMPARE(f.types.types().size(), 16);
-        QCOMPARE(f.types.getTypeByName(QStringLiteral("Scooter")), std::nullopt);
+        QCOMPARE(f.types.getTypeByName(u"Scooter"_s), std::nullopt);
         QCOMPARE(f.preferences.integer(EquipmentTypeViewModel::iconVersionKey), std::optional<std::int64_t>(4));
         for (const char* key : {"notificationsEnabled", "reminderDays", "defaultServiceInterval", "currencySymbol",
                                 "darkMode", "checkForUpdatesOnLaunch"})
@@ -185,14 +183,11 @@ private Q_SLOTS:
             lastY = y;
             QTest::keyClick(focused, Qt::Key_Tab);
         }
-        QCOMPARE(order, QStringList({QStringLiteral("manageTypes"), QStringLiteral("notificationsEnabled"),
-                                     QStringLiteral("reminderDays"), QStringLiteral("checkForUpdatesOnLaunch"),
-                                     QStringLiteral("checkForUpdates"), QStringLiteral("defaultServiceInterval"),
-                                     QStringLiteral("currencySymbol"), QStringLiteral("darkMode"),
-                                     QStringLiteral("openHelp"), QStringLiteral("informationValue"),
-                                     QStringLiteral("informationValue"), QStringLiteral("informationValue"),
-                                     QStringLiteral("informationValue"), QStringLiteral("informationValue"),
-                                     QStringLiteral("website"), QStringLiteral("resetSettings")}));
+        QCOMPARE(order, QStringList({u"manageTypes"_s, u"notificationsEnabled"_s, u"reminderDays"_s,
+                                     u"checkForUpdatesOnLaunch"_s, u"checkForUpdates"_s, u"defaultServiceInterval"_s,
+                                     u"currencySymbol"_s, u"darkMode"_s, u"openHelp"_s, u"informationValue"_s,
+                                     u"informationValue"_s, u"informationValue"_s, u"informationValue"_s,
+                                     u"informationValue"_s, u"website"_s, u"resetSettings"_s}));
     }
 
     void theFocusIsAlwaysInView()

@@ -3,6 +3,7 @@
 #include "Buttons.h"
 #include "ClippedTexts.h"
 #include "GroupBox.h"
+#include "Literals.h"
 #include "ReleaseNotes.h"
 #include "ScaledText.h"
 #include "ScreenFixture.h"
@@ -19,11 +20,11 @@ using namespace abissora;
 
 namespace {
 
-const QUrl address(QStringLiteral("https://abissora.example/scarica?v=1.3.0"));
+const QUrl address(u"https://abissora.example/scarica?v=1.3.0"_s);
 
-UpdateInfo release(const std::optional<QString>& notes = QStringLiteral("• Ricerca nella guida\n• Correzioni"))
+UpdateInfo release(const std::optional<QString>& notes = u"• Ricerca nella guida\n• Correzioni"_s)
 {
-    return {QStringLiteral("1.3.0"), 57, address, notes};
+    return {u"1.3.0"_s, 57, address, notes};
 }
 
 struct Offer
@@ -39,7 +40,7 @@ struct Offer
     }
 
     [[nodiscard]] ReleaseNotes& notes() const { return *view.findChild<ReleaseNotes*>(); }
-    [[nodiscard]] QString versionLine() const { return view.findChild<QLabel*>(QStringLiteral("newVersion"))->text(); }
+    [[nodiscard]] QString versionLine() const { return view.findChild<QLabel*>(u"newVersion"_s)->text(); }
     [[nodiscard]] QAbstractButton& button(const char* name) const
     {
         return *view.findChild<QAbstractButton*>(QLatin1String(name));
@@ -65,12 +66,12 @@ private Q_SLOTS:
         QStringList texts;
         for (const QLabel* label : o.view.findChildren<QLabel*>())
             texts.append(label->text());
-        QCOMPARE(texts.first(), QStringLiteral("Aggiornamento disponibile"));
-        QVERIFY(texts.contains(QStringLiteral("Novità in questa versione")));
-        QCOMPARE(o.versionLine(), QStringLiteral("Nuova versione · 1.3.0 (build 57)"));
+        QCOMPARE(texts.first(), u"Aggiornamento disponibile"_s);
+        QVERIFY(texts.contains(u"Novità in questa versione"_s));
+        QCOMPARE(o.versionLine(), u"Nuova versione · 1.3.0 (build 57)"_s);
         QCOMPARE(o.notes().toPlainText(), *release().releaseNotes);
-        QCOMPARE(o.button("later").text(), QStringLiteral("Più tardi"));
-        QCOMPARE(o.button("download").text(), QStringLiteral("Scarica la nuova versione"));
+        QCOMPARE(o.button("later").text(), u"Più tardi"_s);
+        QCOMPARE(o.button("download").text(), u"Scarica la nuova versione"_s);
         QCOMPARE(o.view.update(), release());
         QCOMPARE(o.f.http.requested().size(), 0);
     }
@@ -80,15 +81,14 @@ private Q_SLOTS:
         QTest::addColumn<std::optional<QString>>("notes");
         QTest::newRow("none") << std::optional<QString>();
         QTest::newRow("empty") << std::optional(QString());
-        QTest::newRow("blank") << std::optional(QStringLiteral(" \n\u0007\t"));
+        QTest::newRow("blank") << std::optional(u" \n\u0007\t"_s);
     }
 
     void withoutNotes()
     {
         QFETCH(std::optional<QString>, notes);
         const Offer o(release(notes));
-        QCOMPARE(o.notes().toPlainText(),
-                 QStringLiteral("Consulta il sito dell'applicazione per i dettagli del rilascio."));
+        QCOMPARE(o.notes().toPlainText(), u"Consulta il sito dell'applicazione per i dettagli del rilascio."_s);
     }
 
     void laterCloses()
@@ -125,9 +125,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("isOpened");
-        QTest::newRow("https") << QStringLiteral("https://abissora.example/a%20b?c#d") << true;
-        QTest::newRow("http") << QStringLiteral("http://abissora.example:8080/") << true;
-        QTest::newRow("upper case") << QStringLiteral("HTTPS://ABISSORA.EXAMPLE/") << true;
+        QTest::newRow("https") << u"https://abissora.example/a%20b?c#d"_s << true;
+        QTest::newRow("http") << u"http://abissora.example:8080/"_s << true;
+        QTest::newRow("upper case") << u"HTTPS://ABISSORA.EXAMPLE/"_s << true;
         for (const char* text :
              {"file:///etc/passwd", "file://server/share/a.exe", "javascript:alert(1)", "data:text/html,a", "scarica",
               "//abissora.example/", "mailto:a@b.example", "smb://server/share", "ms-msdt:/id", "https:scarica",
@@ -156,7 +156,7 @@ private Q_SLOTS:
         QCOMPARE(o.closed.size(), 0);
         const auto* notice = o.view.findChild<Alert*>();
         QVERIFY(notice != nullptr && notice->isVisible());
-        QVERIFY(notice->message().endsWith(QLatin1Char('\n') + address.toString()));
+        QVERIFY(notice->message().endsWith(u'\n' + address.toString()));
         QTest::mouseClick(notice->safeButton(), Qt::LeftButton);
         QTRY_VERIFY(o.view.findChild<Alert*>() == nullptr);
         QCOMPARE(o.closed.size(), 0);
@@ -164,14 +164,12 @@ private Q_SLOTS:
 
     void hostileTextsStayPlain()
     {
-        UpdateInfo update =
-            release(QStringLiteral("<h1>Titolo</h1><img src=\"https://abissora.example/a.png\">\u0007"));
-        update.version = QStringLiteral("<b>9</b>\n") + QString(100'000, QLatin1Char('9'));
+        UpdateInfo update = release(u"<h1>Titolo</h1><img src=\"https://abissora.example/a.png\">\u0007"_s);
+        update.version = u"<b>9</b>\n"_s + QString(100'000, u'9');
         const Offer o(update);
-        QCOMPARE(o.notes().toPlainText(),
-                 QStringLiteral("<h1>Titolo</h1><img src=\"https://abissora.example/a.png\">"));
-        QVERIFY(o.versionLine().startsWith(QStringLiteral("Nuova versione · <b>9</b> 99")));
-        QVERIFY(o.versionLine().endsWith(QStringLiteral("… (build 57)")));
+        QCOMPARE(o.notes().toPlainText(), u"<h1>Titolo</h1><img src=\"https://abissora.example/a.png\">"_s);
+        QVERIFY(o.versionLine().startsWith(u"Nuova versione · <b>9</b> 99"_s));
+        QVERIFY(o.versionLine().endsWith(u"… (build 57)"_s));
         QVERIFY(o.versionLine().size() < 150);
         for (const QLabel* label : o.view.findChildren<QLabel*>())
             QCOMPARE(label->textFormat(), Qt::PlainText);
@@ -181,16 +179,16 @@ private Q_SLOTS:
     void longNotesScroll_data()
     {
         QTest::addColumn<QString>("notes");
-        QTest::newRow("lines") << QStringLiteral("Riga\n").repeated(500);
-        QTest::newRow("one long line") << QStringLiteral("parola ").repeated(5'000);
-        QTest::newRow("no spaces") << QString(20'000, QLatin1Char('W'));
-        QTest::newRow("a million") << QString(1'000'000, QLatin1Char('\n'));
+        QTest::newRow("lines") << u"Riga\n"_s.repeated(500);
+        QTest::newRow("one long line") << u"parola "_s.repeated(5'000);
+        QTest::newRow("no spaces") << QString(20'000, u'W');
+        QTest::newRow("a million") << QString(1'000'000, u'\n');
     }
 
     void longNotesScroll()
     {
         QFETCH(QString, notes);
-        const Offer o(release(QStringLiteral("Inizio ") + notes));
+        const Offer o(release(u"Inizio "_s + notes));
         QVERIFY(o.view.height() < 700);
         QScrollBar& bar = *o.notes().verticalScrollBar();
         QTRY_VERIFY(bar.maximum() > 0);
@@ -203,8 +201,7 @@ private Q_SLOTS:
 
     void shortNotesNeedNoScrolling()
     {
-        const Offer o(
-            release(QStringLiteral("Una riga che va a capo perché è più larga della finestra. ").repeated(4)));
+        const Offer o(release(u"Una riga che va a capo perché è più larga della finestra. "_s.repeated(4)));
         QCOMPARE(o.notes().verticalScrollBar()->maximum(), 0);
         QVERIFY(o.notes().height() < o.notes().heightForWidth(o.notes().width()) * 2);
     }

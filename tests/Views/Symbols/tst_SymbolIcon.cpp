@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "SchemeSwitch.h"
 #include "SymbolIcon.h"
 #include "TestRunner.h"
@@ -13,8 +14,8 @@ using abissora::test::SchemeSwitch;
 namespace {
 
 // A filled picture, so that some pixel has the ink's full colour.
-const QString filled = QStringLiteral("doc.fill");
-const QString unknown = QStringLiteral("no.such.symbol");
+const QString filled = u"doc.fill"_s;
+const QString unknown = u"no.such.symbol"_s;
 
 QImage imageOf(const QIcon& icon, QSize size = {32, 32}, QIcon::Mode mode = QIcon::Normal, qreal scale = 1)
 {
@@ -107,9 +108,9 @@ void tst_SymbolIcon::anUnknownSymbolIsNullAndPaintsNothing_data()
     QTest::addColumn<QString>("name");
     QTest::newRow("unknown") << unknown;
     QTest::newRow("empty") << QString();
-    QTest::newRow("other case") << QStringLiteral("Dive.regulator");
-    QTest::newRow("with its suffix") << QStringLiteral("doc.fill.svg");
-    QTest::newRow("out of the folder") << QStringLiteral("../appicon/abissora");
+    QTest::newRow("other case") << u"Dive.regulator"_s;
+    QTest::newRow("with its suffix") << u"doc.fill.svg"_s;
+    QTest::newRow("out of the folder") << u"../appicon/abissora"_s;
 }
 
 void tst_SymbolIcon::anUnknownSymbolIsNullAndPaintsNothing()
@@ -126,7 +127,7 @@ void tst_SymbolIcon::anUnknownSymbolIsNullAndPaintsNothing()
 
 void tst_SymbolIcon::theLibraryKnowsWhatItHas()
 {
-    QVERIFY(ResourceSymbolLibrary().contains(QStringLiteral("dive.regulator")));
+    QVERIFY(ResourceSymbolLibrary().contains(u"dive.regulator"_s));
     QVERIFY(ResourceSymbolLibrary().contains(filled));
     QVERIFY(!symbolIcon(filled).isNull());
     QCOMPARE(symbolIcon(filled).name(), filled);
@@ -216,7 +217,7 @@ void tst_SymbolIcon::paintingIsSharpAtEveryScale()
 {
     QFETCH(qreal, scale);
     QFETCH(int, pixels);
-    const QIcon icon = symbolIcon(QStringLiteral("gear"));
+    const QIcon icon = symbolIcon(u"gear"_s);
     QImage canvas = blankCanvas(QSize(64, 64), scale);
     QPainter painter(&canvas);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
@@ -229,7 +230,7 @@ void tst_SymbolIcon::paintingIsSharpAtEveryScale()
 
 void tst_SymbolIcon::aPictureKeepsItsProportionsInTheMiddle()
 {
-    const QIcon icon = symbolIcon(QStringLiteral("checkmark.circle.fill"));
+    const QIcon icon = symbolIcon(u"checkmark.circle.fill"_s);
     for (const QImage& image : {imageOf(icon, {96, 48}), painted(icon, {96, 48})}) {
         QCOMPARE(image.size(), QSize(96, 48));
         const QRect ink = boundsOfInk(image);
@@ -253,7 +254,7 @@ void tst_SymbolIcon::aTypeIsDrawnInItsColour()
 {
     const SchemeSwitch dark(Scheme::Dark);
     const Tokens& tokens = Tokens::of(Scheme::Dark);
-    QCOMPARE(inkOf(typeIcon(QStringLiteral("dive.tank"), NamedColor::blue)), tokens.named(NamedColor::blue));
+    QCOMPARE(inkOf(typeIcon(u"dive.tank"_s, NamedColor::blue)), tokens.named(NamedColor::blue));
     QCOMPARE(inkOf(typeIcon(filled, NamedColor::mint)), tokens.named(NamedColor::mint));
     QCOMPARE(inkOf(typeIcon(filled)), tokens.text);
 }
@@ -261,7 +262,7 @@ void tst_SymbolIcon::aTypeIsDrawnInItsColour()
 void tst_SymbolIcon::aMenuGetsABitmapAtScaleTwo()
 {
     const SchemeSwitch light(Scheme::Light);
-    const QIcon icon = typeIconForMenu(QStringLiteral("dive.knife"), 14, NamedColor::red);
+    const QIcon icon = typeIconForMenu(u"dive.knife"_s, 14, NamedColor::red);
     QCOMPARE(icon.availableSizes(), QList<QSize>{QSize(28, 28)});
     const QImage image = icon.pixmap(QSize(14, 14), 2.0).toImage();
     QCOMPARE(image.size(), QSize(28, 28));

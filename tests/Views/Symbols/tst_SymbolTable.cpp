@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "SymbolIcon.h"
 #include "TestRunner.h"
 
@@ -28,7 +29,7 @@ QList<Row> table()
     file.readLine();
     QList<Row> rows;
     while (!file.atEnd()) {
-        const QStringList cells = QString::fromUtf8(file.readLine()).trimmed().split(QLatin1Char('\t'));
+        const QStringList cells = QString::fromUtf8(file.readLine()).trimmed().split(u'\t');
         rows.append({cells.value(0), cells.value(1), cells.value(2)});
     }
     return rows;
@@ -36,7 +37,7 @@ QList<Row> table()
 
 QString svgOf(const QString& symbol)
 {
-    QFile file(QLatin1String(":/symbols/") + symbol + QLatin1String(".svg"));
+    QFile file(":/symbols/"_L1 + symbol + ".svg"_L1);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
@@ -99,23 +100,23 @@ void tst_SymbolTable::everyPictureIsPlainAndOfOneColour_data()
 void tst_SymbolTable::everyPictureIsPlainAndOfOneColour()
 {
     QFETCH(QString, name);
-    static const QRegularExpression unpaintable(QStringLiteral("<(mask|clipPath|filter|use)\\b"));
-    static const QRegularExpression ownColour(QStringLiteral("(fill|stroke|color)=\"(?!none\"|currentColor\")|style="));
+    static const QRegularExpression unpaintable(u"<(mask|clipPath|filter|use)\\b"_s);
+    static const QRegularExpression ownColour(u"(fill|stroke|color)=\"(?!none\"|currentColor\")|style="_s);
     const QString svg = svgOf(name);
-    QVERIFY(svg.contains(QLatin1String("viewBox=\"")));
-    QVERIFY(svg.contains(QLatin1String("currentColor")));
+    QVERIFY(svg.contains("viewBox=\""_L1));
+    QVERIFY(svg.contains("currentColor"_L1));
     QVERIFY(!unpaintable.match(svg).hasMatch());
     QVERIFY(!ownColour.match(svg).hasMatch());
 }
 
 void tst_SymbolTable::theResourcesAreTheTable()
 {
-    QVERIFY(ResourceSymbolLibrary().contains(QStringLiteral("gear")));
+    QVERIFY(ResourceSymbolLibrary().contains(u"gear"_s));
     QStringList listed;
     for (const Row& row : table())
-        listed.append(row.symbol + QLatin1String(".svg"));
+        listed.append(row.symbol + ".svg"_L1);
     listed.sort();
-    QStringList present = QDir(QStringLiteral(":/symbols")).entryList(QDir::Files);
+    QStringList present = QDir(u":/symbols"_s).entryList(QDir::Files);
     present.sort();
     QCOMPARE(present, listed);
 }
@@ -124,18 +125,17 @@ void tst_SymbolTable::everySetOfTheCreditsIsUsedAndNoOther()
 {
     QSet<QString> sources;
     for (const Row& row : table()) {
-        const QStringList parts = row.picture.split(QLatin1Char(':'));
+        const QStringList parts = row.picture.split(u':');
         sources.insert(parts.at(parts.size() - 2));
     }
-    QCOMPARE(sources, (QSet<QString>{QStringLiteral("game-icons"), QStringLiteral("icon-park-outline"),
-                                     QStringLiteral("lucide"), QStringLiteral("mdi"), QStringLiteral("own")}));
+    QCOMPARE(sources, (QSet<QString>{u"game-icons"_s, u"icon-park-outline"_s, u"lucide"_s, u"mdi"_s, u"own"_s}));
 }
 
 void tst_SymbolTable::aDiscHasAHole_data()
 {
     QTest::addColumn<QString>("name");
     for (const Row& row : table())
-        if (row.picture.startsWith(QLatin1String("disc:")))
+        if (row.picture.startsWith("disc:"_L1))
             QTest::newRow(qPrintable(row.symbol)) << row.symbol;
 }
 

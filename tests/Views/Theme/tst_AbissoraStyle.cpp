@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AbissoraStyle.h"
 #include "ControlLook.h"
+#include "Literals.h"
 #include "Metrics.h"
 #include "SchemePalette.h"
 #include "TestRunner.h"
@@ -88,7 +89,7 @@ void tst_AbissoraStyle::cleanup()
 void tst_AbissoraStyle::theThemeSetsStyleFontAndPalette()
 {
     QVERIFY(qobject_cast<AbissoraStyle*>(QApplication::style()) != nullptr);
-    QCOMPARE(QApplication::font().families().first(), QStringLiteral("Inter"));
+    QCOMPARE(QApplication::font().families().first(), u"Inter"_s);
     QVERIFY2(QApplication::font().families().size() > 1, "the system's font stands in where Inter is missing");
     QCOMPARE(QApplication::palette(), paletteFor(Scheme::Light));
     QCOMPARE(QToolTip::palette().color(QPalette::ToolTipBase), Tokens::of(Scheme::Light).surface);
@@ -107,7 +108,7 @@ void tst_AbissoraStyle::switchingTheSchemeKeepsStyleAndFont()
 
 void tst_AbissoraStyle::widgetsAreRepaintedInTheOtherScheme()
 {
-    QPushButton button(QStringLiteral("Aggiorna"));
+    QPushButton button(u"Aggiorna"_s);
     button.resize(button.sizeHint());
     QVERIFY(shows(picture(button), Tokens::of(Scheme::Light).surface));
     applyTheme(*qApp, Scheme::Dark);
@@ -119,7 +120,7 @@ void tst_AbissoraStyle::widgetsAreRepaintedInTheOtherScheme()
 
 void tst_AbissoraStyle::controlsAreEquallyHigh()
 {
-    QPushButton button(QStringLiteral("Aggiorna"));
+    QPushButton button(u"Aggiorna"_s);
     QLineEdit line;
     QComboBox combo;
     QDateEdit date;
@@ -131,9 +132,9 @@ void tst_AbissoraStyle::controlsAreEquallyHigh()
 
 void tst_AbissoraStyle::aLongerTextMakesAWiderButton()
 {
-    QPushButton button(QStringLiteral("Salva"));
+    QPushButton button(u"Salva"_s);
     const int before = button.sizeHint().width();
-    button.setText(QStringLiteral("Aggiungi la prima attrezzatura"));
+    button.setText(u"Aggiungi la prima attrezzatura"_s);
     QFont drawn = button.font();
     drawn.setWeight(QFont::Medium);
     QVERIFY(button.sizeHint().width() > before);
@@ -144,7 +145,7 @@ void tst_AbissoraStyle::aLongerTextMakesAWiderButton()
 void tst_AbissoraStyle::buttonsShowTheirLook()
 {
     const Tokens& tokens = Tokens::of(Scheme::Light);
-    QPushButton button(QStringLiteral("Elimina"));
+    QPushButton button(u"Elimina"_s);
     button.resize(button.sizeHint());
     QVERIFY(shows(picture(button), tokens.strongBorder));
     QVERIFY(!shows(picture(button), tokens.accentFill));
@@ -162,7 +163,7 @@ void tst_AbissoraStyle::buttonsShowTheirLook()
 
 void tst_AbissoraStyle::hoverPressAndDisabledShow()
 {
-    QPushButton button(QStringLiteral("Aggiorna"));
+    QPushButton button(u"Aggiorna"_s);
     button.resize(button.sizeHint());
     const QImage idle = picture(button);
     button.setAttribute(Qt::WA_UnderMouse);
@@ -267,7 +268,7 @@ void tst_AbissoraStyle::headersAreInCaptionSize()
 void tst_AbissoraStyle::selectedRowsKeepTheirTextColor()
 {
     QTableWidget table(1, 1);
-    table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("Erogatore")));
+    table.setItem(0, 0, new QTableWidgetItem(u"Erogatore"_s));
     table.verticalHeader()->hide();
     table.setFocusPolicy(Qt::NoFocus);
     table.resize(160, 100);
@@ -287,7 +288,7 @@ void tst_AbissoraStyle::animationsAreShort()
 void tst_AbissoraStyle::theWheelDoesNotChangeAComboBox()
 {
     QComboBox combo;
-    combo.addItems({QStringLiteral("Erogatore"), QStringLiteral("Torcia")});
+    combo.addItems({u"Erogatore"_s, u"Torcia"_s});
     QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&combo, &wheel);
     QCOMPARE(combo.currentIndex(), 0);
@@ -296,7 +297,7 @@ void tst_AbissoraStyle::theWheelDoesNotChangeAComboBox()
 void tst_AbissoraStyle::aMenuItemHasRoomForItsShortcut()
 {
     QMenu menu;
-    QAction* const action = menu.addAction(QStringLiteral("Nuova attrezzatura"));
+    QAction* const action = menu.addAction(u"Nuova attrezzatura"_s);
     action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
     const QFontMetrics metrics(menu.font());
     const int texts = metrics.horizontalAdvance(action->text()) +

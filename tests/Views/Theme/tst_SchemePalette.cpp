@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "SchemePalette.h"
 #include "TestRunner.h"
 
@@ -35,7 +36,7 @@ void tst_SchemePalette::everyRoleOfEveryGroupIsSet()
         for (int role = 0; role < QPalette::NColorRoles; ++role) {
             QVERIFY2(
                 palette.isBrushSet(static_cast<QPalette::ColorGroup>(group), static_cast<QPalette::ColorRole>(role)),
-                qPrintable(QStringLiteral("group %1, role %2").arg(group).arg(role)));
+                qPrintable(u"group %1, role %2"_s.arg(group).arg(role)));
         }
     }
 }

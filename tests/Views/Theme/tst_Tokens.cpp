@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Literals.h"
 #include "TestRunner.h"
 #include "Tokens.h"
 
@@ -105,7 +106,7 @@ void tst_Tokens::contrastOfPairs()
     QFETCH(const QColor, ground);
     QFETCH(const double, least);
     const double measured = contrast(ink, ground);
-    QVERIFY2(measured >= least, qPrintable(QStringLiteral("%1:1 where %2:1 is wanted").arg(measured).arg(least)));
+    QVERIFY2(measured >= least, qPrintable(u"%1:1 where %2:1 is wanted"_s.arg(measured).arg(least)));
 }
 
 void tst_Tokens::namedColorsAreReadableIcons_data()

@@ -5,6 +5,8 @@
 #include "EquipmentTypeFormView.h"
 #include "EquipmentTypeManagementView.h"
 #include "FormDriver.h"
+#include "Gui.h"
+#include "Literals.h"
 #include "ScaledText.h"
 #include "ScreenFixture.h"
 #include "TypeRow.h"
@@ -23,36 +25,13 @@ struct OpenSheet
     {
         sheet.open();
         sheet.activateWindow();
-        QCoreApplication::processEvents();
+        settle();
     }
 
     QWidget window;
     SheetClass sheet;
     FormDriver driver;
 };
-
-/// The texts of the visible labels, from top to bottom as they were made.
-inline QStringList visibleLabels(const QWidget& root)
-{
-    QStringList texts;
-    for (const QLabel* label : root.findChildren<QLabel*>()) {
-        if (label->isVisible() && !label->text().isEmpty())
-            texts.append(label->text());
-    }
-    return texts;
-}
-
-/// The object names that Tab visits from the focused widget on, until it is there again.
-inline QStringList tabOrder(const QWidget& root)
-{
-    QStringList order;
-    const QWidget* const first = root.focusWidget();
-    do {
-        order.append(root.focusWidget()->objectName());
-        QTest::keyClick(root.focusWidget(), Qt::Key_Tab);
-    } while (root.focusWidget() != first && order.size() < 200);
-    return order;
-}
 
 /// Runs `check` with the application's font a quarter larger.
 template <typename Check>
@@ -117,25 +96,18 @@ struct OpenManagement : OpenSheet<EquipmentTypeManagementView>
         driver.type("typeSearch", text);
         settle();
     }
-
-    static void settle()
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCoreApplication::processEvents();
-    }
 };
 
 /// As the list orders them.
 inline QStringList defaultNames()
 {
-    return QStringLiteral("Altro,Bombola,Bussola,Cintura Zavorra,Computer Subacqueo,Erogatore,GAV,Kit Pronto Soccorso,"
-                          "Manometro,Maschera,Muta,Muta Stagna,Ossigeno,Pinne,Profondimetro,Torcia")
-        .split(QLatin1Char(','));
+    return u"Altro,Bombola,Bussola,Cintura Zavorra,Computer Subacqueo,Erogatore,GAV,Kit Pronto Soccorso,"
+           "Manometro,Maschera,Muta,Muta Stagna,Ossigeno,Pinne,Profondimetro,Torcia"_s.split(u',');
 }
 
 inline EquipmentTypeModel own(int id, const QString& name)
 {
-    return {SequentialIds::at(id), name, QStringLiteral("dive.reel"), QStringLiteral("teal"), 90, true};
+    return {SequentialIds::at(id), name, u"dive.reel"_s, u"teal"_s, 90, true};
 }
 
 /// The type form; given nothing it is for a new type.
@@ -144,12 +116,7 @@ inline const std::optional<EquipmentTypeModel> newType;
 
 inline EquipmentTypeModel boa()
 {
-    return {SequentialIds::at(900),
-            QStringLiteral("Boa segnasub"),
-            QStringLiteral("dive.compass"),
-            QStringLiteral("orange"),
-            365,
-            true};
+    return {SequentialIds::at(900), u"Boa segnasub"_s, u"dive.compass"_s, u"orange"_s, 365, true};
 }
 
 inline DivingIconButton& cell(TypeForm& form, DivingIcons icon)

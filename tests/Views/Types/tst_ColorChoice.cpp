@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ColorChoice.h"
 #include "ColorSwatch.h"
+#include "Literals.h"
 #include "TestRunner.h"
 #include "Theme.h"
 #include "Tokens.h"
@@ -27,7 +28,7 @@ struct Shown
     }
 
     ColorSwatch& swatch(AvailableColors color) { return *choice.findChild<ColorSwatch*>(caseName(color)); }
-    QString label() { return choice.findChild<QLabel*>(QStringLiteral("colorLabel"))->text(); }
+    QString label() { return choice.findChild<QLabel*>(u"colorLabel"_s)->text(); }
 
     ColorChoice choice;
 };
@@ -51,11 +52,11 @@ private Q_SLOTS:
             QCOMPARE(swatch->toolTip(), accessible->text(QAccessible::Name));
             labels.append(accessible->text(QAccessible::Name));
         }
-        QCOMPARE(labels.join(QLatin1Char(',')), QStringLiteral("Blu,Rosso,Verde,Arancione,Viola,Grigio,Ciano,Indaco,"
-                                                               "Rosa,Giallo,Verde Acqua,Menta,Marrone"));
+        QCOMPARE(labels.join(u','), u"Blu,Rosso,Verde,Arancione,Viola,Grigio,Ciano,Indaco,"
+                                    "Rosa,Giallo,Verde Acqua,Menta,Marrone"_s);
         QAccessibleInterface* group = QAccessible::queryAccessibleInterface(&s.choice);
         QCOMPARE(group->role(), QAccessible::Grouping);
-        QCOMPARE(group->text(QAccessible::Name), QStringLiteral("Colore"));
+        QCOMPARE(group->text(QAccessible::Name), u"Colore"_s);
     }
 
     void settingEmitsNothing()
@@ -66,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(s.choice.selectedColor(), AvailableColors::teal);
         QVERIFY(s.swatch(AvailableColors::teal).isChecked());
         QVERIFY(!s.swatch(AvailableColors::blue).isChecked());
-        QCOMPARE(s.label(), QStringLiteral("Verde Acqua"));
+        QCOMPARE(s.label(), u"Verde Acqua"_s);
         QCOMPARE(chosen.size(), 0);
     }
 
@@ -79,7 +80,7 @@ private Q_SLOTS:
         QCOMPARE(chosen.size(), 1);
         QCOMPARE(chosen.first().first().value<AvailableColors>(), AvailableColors::brown);
         QCOMPARE(s.choice.selectedColor(), AvailableColors::brown);
-        QCOMPARE(s.label(), QStringLiteral("Marrone"));
+        QCOMPARE(s.label(), u"Marrone"_s);
     }
 
     void everyPixelOfASwatchAnswers()
@@ -139,7 +140,7 @@ private Q_SLOTS:
             if (swatch->focusPolicy() & Qt::TabFocus)
                 stops.append(swatch->text());
         }
-        QCOMPARE(stops, QStringList(QStringLiteral("Indaco")));
+        QCOMPARE(stops, QStringList(u"Indaco"_s));
     }
 
     void theChosenOneLooksDifferent()

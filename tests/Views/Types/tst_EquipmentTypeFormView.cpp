@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeFormView.h"
+#include "Literals.h"
 
 #include "Buttons.h"
 #include "ClippedTexts.h"
@@ -30,17 +31,17 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         TypeForm o(f.context, newType);
-        QCOMPARE(o.sheet.windowTitle(), QStringLiteral("Nuova Tipologia"));
+        QCOMPARE(o.sheet.windowTitle(), u"Nuova Tipologia"_s);
         QCOMPARE(o.sheet.windowModality(), Qt::WindowModal);
         const QStringList texts = visibleLabels(o.sheet);
         for (const char* text :
              {"Informazioni Base", "Nome Tipologia*", "* Campo obbligatorio", "Inserisci un nome valido",
               "Intervallo Tagliando", "Blu", "Selezione Icona", "Anteprima", "365 giorni"})
             QVERIFY2(texts.contains(QString::fromUtf8(text)), text);
-        QCOMPARE(o.driver.part<QLineEdit>("name").placeholderText(), QStringLiteral("Inserisci il nome"));
-        QCOMPARE(o.sheet.cancelButton()->text(), QStringLiteral("Annulla"));
-        QCOMPARE(o.sheet.primaryButton()->text(), QStringLiteral("Salva"));
-        QCOMPARE(o.driver.part<Stepper>("interval").text(), QStringLiteral("365 giorni"));
+        QCOMPARE(o.driver.part<QLineEdit>("name").placeholderText(), u"Inserisci il nome"_s);
+        QCOMPARE(o.sheet.cancelButton()->text(), u"Annulla"_s);
+        QCOMPARE(o.sheet.primaryButton()->text(), u"Salva"_s);
+        QCOMPARE(o.driver.part<Stepper>("interval").text(), u"365 giorni"_s);
         QCOMPARE(o.driver.part<ColorChoice>("color").selectedColor(), AvailableColors::blue);
         QVERIFY(cell(o, DivingIcons::regulator).isChecked());
         QVERIFY(o.driver.part<QLineEdit>("name").hasFocus());
@@ -50,12 +51,12 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         TypeForm o(f.context, std::optional(boa()));
-        QCOMPARE(o.sheet.windowTitle(), QStringLiteral("Modifica Tipologia"));
-        QCOMPARE(o.driver.part<QLineEdit>("name").text(), QStringLiteral("Boa segnasub"));
+        QCOMPARE(o.sheet.windowTitle(), u"Modifica Tipologia"_s);
+        QCOMPARE(o.driver.part<QLineEdit>("name").text(), u"Boa segnasub"_s);
         QCOMPARE(o.driver.part<ColorChoice>("color").selectedColor(), AvailableColors::orange);
         QVERIFY(cell(o, DivingIcons::compass).isChecked());
         QVERIFY(!o.driver.shows("invalidName"));
-        QCOMPARE(o.driver.text("previewName"), QStringLiteral("Boa segnasub"));
+        QCOMPARE(o.driver.text("previewName"), u"Boa segnasub"_s);
     }
 
     void nothingJumpsWhileANameIsTyped()
@@ -63,7 +64,7 @@ private Q_SLOTS:
         ScreenFixture f;
         TypeForm o(f.context, newType);
         const QPoint before = o.driver.part<Stepper>("interval").mapTo(&o.sheet, QPoint());
-        o.driver.type("name", QStringLiteral("Boa"));
+        o.driver.type("name", u"Boa"_s);
         QCoreApplication::processEvents();
         QCOMPARE(o.driver.part<Stepper>("interval").mapTo(&o.sheet, QPoint()), before);
     }
@@ -75,8 +76,8 @@ private Q_SLOTS:
         const auto picture = [&o] { return o.driver.part<QWidget>("previewTile").grab().toImage(); };
         QImage last = picture();
         const auto changed = [&] { return std::exchange(last, picture()) != last; };
-        o.driver.type("name", QStringLiteral("Boa"));
-        QCOMPARE(o.driver.text("previewName"), QStringLiteral("Boa"));
+        o.driver.type("name", u"Boa"_s);
+        QCOMPARE(o.driver.text("previewName"), u"Boa"_s);
         QVERIFY(!changed());
         QTest::mouseClick(&o.driver.part<QAbstractButton>("red"), Qt::LeftButton);
         QVERIFY(changed());
@@ -85,7 +86,7 @@ private Q_SLOTS:
         auto& interval = o.driver.part<Stepper>("interval");
         interval.setFocus();
         QTest::keyClick(&interval, Qt::Key_End);
-        QCOMPARE(o.driver.text("previewInterval"), QStringLiteral("730 giorni"));
+        QCOMPARE(o.driver.text("previewInterval"), u"730 giorni"_s);
         applyTheme(*qApp, Scheme::Dark);
         QVERIFY(changed());
         applyTheme(*qApp, Scheme::Light);
@@ -107,7 +108,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         TypeForm o(f.context, newType);
-        o.driver.type("iconSearch", QStringLiteral("bomb"));
+        o.driver.type("iconSearch", u"bomb"_s);
         QTest::keyClick(&o.driver.part<SearchField>("iconSearch"), Qt::Key_Escape);
         QVERIFY(o.sheet.isVisible());
         QTest::keyClick(&o.driver.part<SearchField>("iconSearch"), Qt::Key_Escape);
@@ -118,8 +119,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         TypeForm o(f.context, std::optional(boa()));
-        QCOMPARE(tabOrder(o.sheet).join(QLatin1Char(' ')),
-                 QStringLiteral("name interval orange iconSearch dive.compass cancel primary"));
+        QCOMPARE(tabOrder(o.sheet).join(u' '), u"name interval orange iconSearch dive.compass cancel primary"_s);
     }
 
     void theKeyboardBringsIconsIntoSight()
@@ -140,11 +140,11 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         TypeForm o(f.context, newType);
-        o.driver.type("name", QStringLiteral("Boa"));
+        o.driver.type("name", u"Boa"_s);
         const QList<QPair<const char*, QString>> names{
-            {"name", QStringLiteral("Nome Tipologia*")}, {"interval", QStringLiteral("Intervallo Tagliando")},
-            {"color", QStringLiteral("Colore")},         {"iconSearch", QStringLiteral("Cerca icona...")},
-            {"cancel", QStringLiteral("Annulla")},       {"primary", QStringLiteral("Salva")},
+            {"name", u"Nome Tipologia*"_s}, {"interval", u"Intervallo Tagliando"_s},
+            {"color", u"Colore"_s},         {"iconSearch", u"Cerca icona..."_s},
+            {"cancel", u"Annulla"_s},       {"primary", u"Salva"_s},
         };
         for (const auto& [part, name] : names) {
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&o.driver.part<QWidget>(part));
@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(left("name"), left("interval"));
         QCOMPARE(left("name"), left("color"));
         for (const QLabel* label : o.sheet.findChildren<QLabel*>()) {
-            if (label->text() == QStringLiteral("Intervallo Tagliando"))
+            if (label->text() == u"Intervallo Tagliando"_s)
                 QCOMPARE(label->width(), 140);
         }
     }
@@ -177,12 +177,12 @@ private Q_SLOTS:
         const auto check = [] {
             ScreenFixture f;
             EquipmentTypeModel type = boa();
-            type.name = QStringLiteral("Dispositivo di segnalazione di superficie");
+            type.name = u"Dispositivo di segnalazione di superficie"_s;
             type.serviceIntervalDays = 1234567;
             for (const auto& edited : {newType, std::optional(type)}) {
                 TypeForm o(f.context, edited);
                 QCoreApplication::processEvents();
-                QCOMPARE(clippedTexts(o.sheet).join(QLatin1Char('|')), QString());
+                QCOMPARE(clippedTexts(o.sheet).join(u'|'), QString());
                 QVERIFY(o.sheet.width() < 1000 && o.sheet.height() < 700);
                 const QScrollArea* area = o.sheet.scrollArea();
                 QVERIFY(area->widget()->width() <= area->viewport()->width());

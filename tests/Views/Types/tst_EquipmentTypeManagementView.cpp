@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeManagementView.h"
+#include "Literals.h"
 
 #include "Buttons.h"
 #include "ClippedTexts.h"
@@ -27,14 +28,14 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         OpenManagement o(f);
-        QCOMPARE(o.sheet.windowTitle(), QStringLiteral("Gestione Tipologie"));
+        QCOMPARE(o.sheet.windowTitle(), u"Gestione Tipologie"_s);
         QCOMPARE(o.sheet.windowModality(), Qt::WindowModal);
-        QCOMPARE(o.sheet.cancelButton()->text(), QStringLiteral("Chiudi"));
-        QVERIFY(visibleLabels(o.sheet).contains(QStringLiteral("Tipologie Attrezzatura")));
-        QCOMPARE(o.driver.part<SearchField>("typeSearch").placeholderText(), QStringLiteral("Cerca..."));
-        QCOMPARE(o.driver.part<QAbstractButton>("addType").text(), QStringLiteral("Nuova Tipologia"));
-        QCOMPARE(o.driver.part<QAbstractButton>("resetTypes").text(), QStringLiteral("Ripristina Default"));
-        QCOMPARE(o.driver.text("typeCount"), QStringLiteral("16 tipologie attive"));
+        QCOMPARE(o.sheet.cancelButton()->text(), u"Chiudi"_s);
+        QVERIFY(visibleLabels(o.sheet).contains(u"Tipologie Attrezzatura"_s));
+        QCOMPARE(o.driver.part<SearchField>("typeSearch").placeholderText(), u"Cerca..."_s);
+        QCOMPARE(o.driver.part<QAbstractButton>("addType").text(), u"Nuova Tipologia"_s);
+        QCOMPARE(o.driver.part<QAbstractButton>("resetTypes").text(), u"Ripristina Default"_s);
+        QCOMPARE(o.driver.text("typeCount"), u"16 tipologie attive"_s);
         QVERIFY(o.driver.part<QWidget>("typeSearch").hasFocus());
     }
 
@@ -43,15 +44,14 @@ private Q_SLOTS:
         ScreenFixture f;
         OpenManagement o(f);
         QCOMPARE(o.names(), defaultNames());
-        const TypeRow& computer = o.row(QStringLiteral("Computer Subacqueo"));
-        QCOMPARE(visibleLabels(computer),
-                 QStringList({QStringLiteral("Computer Subacqueo"), QStringLiteral("Intervallo: 730 giorni")}));
+        const TypeRow& computer = o.row(u"Computer Subacqueo"_s);
+        QCOMPARE(visibleLabels(computer), QStringList({u"Computer Subacqueo"_s, u"Intervallo: 730 giorni"_s}));
         QStringList actions;
         for (const QAbstractButton* button : computer.findChildren<QAbstractButton*>()) {
             actions.append(button->text());
             QVERIFY(!button->icon().isNull());
         }
-        QCOMPARE(actions, QStringList({QStringLiteral("Modifica"), QStringLiteral("Elimina")}));
+        QCOMPARE(actions, QStringList({u"Modifica"_s, u"Elimina"_s}));
     }
 
     void whatAScreenReaderPutsInFilters()
@@ -59,48 +59,47 @@ private Q_SLOTS:
         ScreenFixture f;
         OpenManagement o(f);
         QAccessible::queryAccessibleInterface(&o.driver.part<SearchField>("typeSearch"))
-            ->setText(QAccessible::Value, QStringLiteral("erog"));
-        QCOMPARE(o.names(), QStringList(QStringLiteral("Erogatore")));
+            ->setText(QAccessible::Value, u"erog"_s);
+        QCOMPARE(o.names(), QStringList(u"Erogatore"_s));
     }
 
     void screenReadersKnowWhatAnActionIsAbout()
     {
         ScreenFixture f;
         OpenManagement o(f);
-        TypeRow& row = o.row(QStringLiteral("GAV"));
+        TypeRow& row = o.row(u"GAV"_s);
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&row);
         QCOMPARE(accessible->role(), QAccessible::ListItem);
-        QCOMPARE(accessible->text(QAccessible::Name), QStringLiteral("GAV"));
+        QCOMPARE(accessible->text(QAccessible::Name), u"GAV"_s);
         QCOMPARE(QAccessible::queryAccessibleInterface(o.sheet.findChild<TypeList*>())->role(), QAccessible::List);
         for (QAbstractButton* button : row.buttons()) {
             QAccessibleInterface* action = QAccessible::queryAccessibleInterface(button);
             QCOMPARE(action->text(QAccessible::Name), button->text());
-            QCOMPARE(action->text(QAccessible::Description), QStringLiteral("GAV"));
+            QCOMPARE(action->text(QAccessible::Description), u"GAV"_s);
         }
     }
 
     void inactiveTypesAreNeverListed()
     {
         ScreenFixture f;
-        EquipmentTypeModel inactive = own(901, QStringLiteral("Boa"));
+        EquipmentTypeModel inactive = own(901, u"Boa"_s);
         inactive.isActive = false;
         f.types.addType(inactive);
         OpenManagement o(f);
         QCOMPARE(o.names(), defaultNames());
-        o.search(QStringLiteral("boa"));
+        o.search(u"boa"_s);
         QCOMPARE(o.names(), QStringList());
-        QCOMPARE(o.driver.text("typeCount"), QStringLiteral("16 tipologie attive"));
+        QCOMPARE(o.driver.text("typeCount"), u"16 tipologie attive"_s);
     }
 
     void searching_data()
     {
         QTest::addColumn<QString>("text");
         QTest::addColumn<QStringList>("found");
-        QTest::newRow("within") << QStringLiteral("uta")
-                                << QStringList({QStringLiteral("Muta"), QStringLiteral("Muta Stagna")});
-        QTest::newRow("letter case") << QStringLiteral("MUTA S") << QStringList(QStringLiteral("Muta Stagna"));
-        QTest::newRow("not a pattern") << QStringLiteral(".") << QStringList();
-        QTest::newRow("nothing") << QStringLiteral("xyz") << QStringList();
+        QTest::newRow("within") << u"uta"_s << QStringList({u"Muta"_s, u"Muta Stagna"_s});
+        QTest::newRow("letter case") << u"MUTA S"_s << QStringList(u"Muta Stagna"_s);
+        QTest::newRow("not a pattern") << u"."_s << QStringList();
+        QTest::newRow("nothing") << u"xyz"_s << QStringList();
     }
     void searching()
     {
@@ -109,7 +108,7 @@ private Q_SLOTS:
         OpenManagement o(f);
         o.search(text);
         QTEST(o.names(), "found");
-        QCOMPARE(o.driver.text("typeCount"), QStringLiteral("16 tipologie attive"));
+        QCOMPARE(o.driver.text("typeCount"), u"16 tipologie attive"_s);
         QCOMPARE(f.types.searchText(), QString()); // the screen's search is its own
     }
 
@@ -117,21 +116,21 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         OpenManagement o(f);
-        f.types.setSearchText(QStringLiteral("muta"));
-        OpenManagement::settle();
-        QCOMPARE(o.names(), QStringList({QStringLiteral("Muta"), QStringLiteral("Muta Stagna")}));
-        o.search(QStringLiteral("stagna"));
-        QCOMPARE(o.names(), QStringList(QStringLiteral("Muta Stagna")));
-        QCOMPARE(o.driver.text("typeCount"), QStringLiteral("16 tipologie attive"));
+        f.types.setSearchText(u"muta"_s);
+        settle();
+        QCOMPARE(o.names(), QStringList({u"Muta"_s, u"Muta Stagna"_s}));
+        o.search(u"stagna"_s);
+        QCOMPARE(o.names(), QStringList(u"Muta Stagna"_s));
+        QCOMPARE(o.driver.text("typeCount"), u"16 tipologie attive"_s);
     }
 
     void nothingFound()
     {
         ScreenFixture f;
         OpenManagement o(f);
-        o.search(QStringLiteral("xyz"));
-        QVERIFY(visibleLabels(o.sheet).contains(QStringLiteral("Nessuna tipologia trovata")));
-        QCOMPARE(o.driver.part<QAbstractButton>("emptyStateButton").text(), QStringLiteral("Cancella ricerca"));
+        o.search(u"xyz"_s);
+        QVERIFY(visibleLabels(o.sheet).contains(u"Nessuna tipologia trovata"_s));
+        QCOMPARE(o.driver.part<QAbstractButton>("emptyStateButton").text(), u"Cancella ricerca"_s);
         o.driver.click("emptyStateButton");
         QCOMPARE(o.names(), defaultNames());
         QCOMPARE(o.driver.part<SearchField>("typeSearch").text(), QString());
@@ -142,12 +141,12 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         OpenManagement o(f);
-        o.search(QStringLiteral("xyz"));
+        o.search(u"xyz"_s);
         auto& search = o.driver.part<SearchField>("typeSearch");
         QTest::keyClick(&search, Qt::Key_Escape);
         QCOMPARE(o.names(), defaultNames());
-        o.search(QStringLiteral("muta"));
-        search.findChild<QAction*>(QStringLiteral("clear"))->trigger();
+        o.search(u"muta"_s);
+        search.findChild<QAction*>(u"clear"_s)->trigger();
         QCOMPARE(o.names(), defaultNames());
         QTest::keyClick(&search, Qt::Key_Escape);
         QVERIFY(!o.sheet.isVisible());
@@ -157,35 +156,35 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         OpenManagement o(f);
-        f.types.addType(own(901, QStringLiteral("Boa")));
-        OpenManagement::settle();
-        QVERIFY(o.names().contains(QStringLiteral("Boa")));
-        EquipmentTypeModel changed = own(901, QStringLiteral("Boa"));
+        f.types.addType(own(901, u"Boa"_s));
+        settle();
+        QVERIFY(o.names().contains(u"Boa"_s));
+        EquipmentTypeModel changed = own(901, u"Boa"_s);
         changed.serviceIntervalDays = 120;
         f.types.updateType(changed);
-        OpenManagement::settle();
-        QVERIFY(visibleLabels(o.row(QStringLiteral("Boa"))).contains(QStringLiteral("Intervallo: 120 giorni")));
+        settle();
+        QVERIFY(visibleLabels(o.row(u"Boa"_s)).contains(u"Intervallo: 120 giorni"_s));
         f.types.deleteType(changed);
-        OpenManagement::settle();
+        settle();
         QCOMPARE(o.names(), defaultNames());
         f.types.setTypes({});
-        OpenManagement::settle();
-        QVERIFY(visibleLabels(o.sheet).contains(QStringLiteral("Nessuna tipologia trovata")));
+        settle();
+        QVERIFY(visibleLabels(o.sheet).contains(u"Nessuna tipologia trovata"_s));
     }
 
     void tabFollowsTheReadingOrder()
     {
         ScreenFixture f;
         OpenManagement o(f);
-        const QString expected = QStringLiteral("typeSearch addType editType deleteType resetTypes cancel");
-        QCOMPARE(tabOrder(o.sheet).join(QLatin1Char(' ')), expected);
-        f.types.addType(own(901, QStringLiteral("Boa"))); // rows that come later stand in the order too
-        OpenManagement::settle();
-        o.row(QStringLiteral("Altro")).buttons().first()->setFocus();
+        const QString expected = u"typeSearch addType editType deleteType resetTypes cancel"_s;
+        QCOMPARE(tabOrder(o.sheet).join(u' '), expected);
+        f.types.addType(own(901, u"Boa"_s)); // rows that come later stand in the order too
+        settle();
+        o.row(u"Altro"_s).buttons().first()->setFocus();
         QTest::keyClick(o.sheet.focusWidget(), Qt::Key_End);
-        QCOMPARE(o.sheet.focusWidget(), o.row(QStringLiteral("Torcia")).buttons().last());
+        QCOMPARE(o.sheet.focusWidget(), o.row(u"Torcia"_s).buttons().last());
         QTest::keyClick(o.sheet.focusWidget(), Qt::Key_Tab);
-        QCOMPARE(o.sheet.focusWidget()->objectName(), QStringLiteral("resetTypes"));
+        QCOMPARE(o.sheet.focusWidget()->objectName(), u"resetTypes"_s);
     }
 
     void arrowKeysReachEveryRow()
@@ -206,13 +205,13 @@ private Q_SLOTS:
     void unusualRecords()
     {
         ScreenFixture f;
-        EquipmentTypeModel type = own(1, QStringLiteral("Boa"));
+        EquipmentTypeModel type = own(1, u"Boa"_s);
         type.icon.clear();
-        type.color = QStringLiteral("Verde Acqua");
+        type.color = u"Verde Acqua"_s;
         type.serviceIntervalDays = std::numeric_limits<std::int64_t>::min();
         f.types.setTypes({type});
         OpenManagement o(f);
-        QVERIFY(visibleLabels(*o.rows().first()).contains(QStringLiteral("Intervallo: -9223372036854775808 giorni")));
+        QVERIFY(visibleLabels(*o.rows().first()).contains(u"Intervallo: -9223372036854775808 giorni"_s));
     }
 
     void hundredsOfTypes()
@@ -220,7 +219,7 @@ private Q_SLOTS:
         ScreenFixture f;
         QList<EquipmentTypeModel> types;
         for (int i = 0; i < 600; ++i)
-            types.append(own(i + 1, QStringLiteral("Tipo %1").arg(i, 3, 10, QLatin1Char('0'))));
+            types.append(own(i + 1, u"Tipo %1"_s.arg(i, 3, 10, '0'_L1)));
         f.types.setTypes(types);
         OpenManagement o(f);
         QVERIFY2(o.rows().size() < 40, "rows are made when they come into sight");
@@ -231,32 +230,31 @@ private Q_SLOTS:
         };
         for (int i = 1; i < 40; ++i) {
             QTest::keyClick(o.sheet.focusWidget(), Qt::Key_Down);
-            QVERIFY(shows(QStringLiteral("Tipo %1").arg(i, 3, 10, QLatin1Char('0'))));
+            QVERIFY(shows(u"Tipo %1"_s.arg(i, 3, 10, '0'_L1)));
         }
         QTest::keyClick(o.sheet.focusWidget(), Qt::Key_End);
-        QVERIFY(shows(QStringLiteral("Tipo 599")));
+        QVERIFY(shows(u"Tipo 599"_s));
         QTest::keyClick(o.sheet.focusWidget(), Qt::Key_Up);
-        QVERIFY(shows(QStringLiteral("Tipo 598")));
+        QVERIFY(shows(u"Tipo 598"_s));
         QTest::keyClick(o.sheet.focusWidget(), Qt::Key_Home);
-        QVERIFY(shows(QStringLiteral("Tipo 000")));
-        o.search(QStringLiteral("59"));
-        QCOMPARE(o.names().first(), QStringLiteral("Tipo 059"));
-        QCOMPARE(o.row(QStringLiteral("Tipo 159")).y(), o.rows().first()->height());
+        QVERIFY(shows(u"Tipo 000"_s));
+        o.search(u"59"_s);
+        QCOMPARE(o.names().first(), u"Tipo 059"_s);
+        QCOMPARE(o.row(u"Tipo 159"_s).y(), o.rows().first()->height());
         o.search({});
-        f.types.addType(own(999, QStringLiteral("Zaino")));
+        f.types.addType(own(999, u"Zaino"_s));
         EquipmentTypeModel moved = types.first();
-        moved.name = QStringLiteral("Verricello");
+        moved.name = u"Verricello"_s;
         o.rows().first()->buttons().last()->setFocus();
         f.types.updateType(moved);
-        OpenManagement::settle();
-        QVERIFY(shows(QStringLiteral("Verricello")));
+        settle();
+        QVERIFY(shows(u"Verricello"_s));
     }
 
     void rowsAreAsHighAsTheirNames()
     {
         ScreenFixture f;
-        f.types.setTypes({own(1, QStringLiteral("A")), own(2, QStringLiteral("B").repeated(300)),
-                          own(3, QStringLiteral("C\nC")), own(4, QStringLiteral("D"))});
+        f.types.setTypes({own(1, u"A"_s), own(2, u"B"_s.repeated(300)), own(3, u"C\nC"_s), own(4, u"D"_s)});
         OpenManagement o(f);
         QCOMPARE(o.rows().size(), 4);
         QCOMPARE(clippedTexts(o.sheet), QStringList());
@@ -278,12 +276,12 @@ private Q_SLOTS:
         QFETCH(bool, larger);
         const auto check = [] {
             ScreenFixture f;
-            f.types.addType(own(901, QStringLiteral("Dispositivo di segnalazione ").repeated(6)));
+            f.types.addType(own(901, u"Dispositivo di segnalazione "_s.repeated(6)));
             OpenManagement o(f);
-            QCOMPARE(clippedTexts(o.sheet).join(QLatin1Char('|')), QString());
+            QCOMPARE(clippedTexts(o.sheet).join(u'|'), QString());
             QVERIFY(o.sheet.width() < 1000 && o.sheet.height() < 700);
-            o.search(QStringLiteral("xyz"));
-            QCOMPARE(clippedTexts(o.sheet).join(QLatin1Char('|')), QString());
+            o.search(u"xyz"_s);
+            QCOMPARE(clippedTexts(o.sheet).join(u'|'), QString());
         };
         if (larger)
             withLargerText(check);

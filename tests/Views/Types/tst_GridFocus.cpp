@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "GridFocus.h"
+#include "Literals.h"
 #include "TestRunner.h"
 
 #include <QGridLayout>
@@ -24,7 +25,7 @@ struct Grid
         for (int row = 0; row < lengths.size(); ++row) {
             GridFocus::Row cells;
             for (int column = 0; column < lengths.at(row); ++column) {
-                auto* button = new QPushButton(QStringLiteral("%1%2").arg(row).arg(column));
+                auto* button = new QPushButton(u"%1%2"_s.arg(row).arg(column));
                 layout->addWidget(button, row + 1, column);
                 cells.append(button);
             }
@@ -47,9 +48,7 @@ struct Grid
     QString focused() const
     {
         auto* button = qobject_cast<QPushButton*>(window.focusWidget());
-        return button != nullptr               ? button->text()
-               : window.focusWidget() == after ? QStringLiteral("after")
-                                               : QStringLiteral("before");
+        return button != nullptr ? button->text() : window.focusWidget() == after ? u"after"_s : u"before"_s;
     }
 
     QWidget window;
@@ -72,19 +71,19 @@ private Q_SLOTS:
         QTest::addColumn<int>("column");
         QTest::addColumn<Qt::Key>("key");
         QTest::addColumn<QString>("to");
-        QTest::newRow("right") << 0 << 0 << Qt::Key_Right << QStringLiteral("01");
-        QTest::newRow("left") << 0 << 1 << Qt::Key_Left << QStringLiteral("00");
-        QTest::newRow("right, next row") << 0 << 2 << Qt::Key_Right << QStringLiteral("10");
-        QTest::newRow("left, row before") << 1 << 0 << Qt::Key_Left << QStringLiteral("02");
-        QTest::newRow("left at the first") << 0 << 0 << Qt::Key_Left << QStringLiteral("00");
-        QTest::newRow("right at the last") << 2 << 2 << Qt::Key_Right << QStringLiteral("22");
-        QTest::newRow("down") << 0 << 1 << Qt::Key_Down << QStringLiteral("11");
-        QTest::newRow("up") << 2 << 1 << Qt::Key_Up << QStringLiteral("11");
-        QTest::newRow("down into a shorter row") << 0 << 2 << Qt::Key_Down << QStringLiteral("11");
-        QTest::newRow("up at the first row") << 0 << 1 << Qt::Key_Up << QStringLiteral("01");
-        QTest::newRow("down at the last row") << 2 << 1 << Qt::Key_Down << QStringLiteral("21");
-        QTest::newRow("home") << 2 << 1 << Qt::Key_Home << QStringLiteral("00");
-        QTest::newRow("end") << 0 << 1 << Qt::Key_End << QStringLiteral("22");
+        QTest::newRow("right") << 0 << 0 << Qt::Key_Right << u"01"_s;
+        QTest::newRow("left") << 0 << 1 << Qt::Key_Left << u"00"_s;
+        QTest::newRow("right, next row") << 0 << 2 << Qt::Key_Right << u"10"_s;
+        QTest::newRow("left, row before") << 1 << 0 << Qt::Key_Left << u"02"_s;
+        QTest::newRow("left at the first") << 0 << 0 << Qt::Key_Left << u"00"_s;
+        QTest::newRow("right at the last") << 2 << 2 << Qt::Key_Right << u"22"_s;
+        QTest::newRow("down") << 0 << 1 << Qt::Key_Down << u"11"_s;
+        QTest::newRow("up") << 2 << 1 << Qt::Key_Up << u"11"_s;
+        QTest::newRow("down into a shorter row") << 0 << 2 << Qt::Key_Down << u"11"_s;
+        QTest::newRow("up at the first row") << 0 << 1 << Qt::Key_Up << u"01"_s;
+        QTest::newRow("down at the last row") << 2 << 1 << Qt::Key_Down << u"21"_s;
+        QTest::newRow("home") << 2 << 1 << Qt::Key_Home << u"00"_s;
+        QTest::newRow("end") << 0 << 1 << Qt::Key_End << u"22"_s;
     }
     void arrows()
     {
@@ -103,11 +102,11 @@ private Q_SLOTS:
         g.enter(0, 2);
         g.press(Qt::Key_Down);
         g.press(Qt::Key_Down);
-        QCOMPARE(g.focused(), QStringLiteral("22"));
+        QCOMPARE(g.focused(), u"22"_s);
         g.press(Qt::Key_Left);
         g.press(Qt::Key_Up);
         g.press(Qt::Key_Up);
-        QCOMPARE(g.focused(), QStringLiteral("01"));
+        QCOMPARE(g.focused(), u"01"_s);
     }
 
     void rightToLeft()
@@ -116,9 +115,9 @@ private Q_SLOTS:
         g.window.setLayoutDirection(Qt::RightToLeft);
         g.enter(0, 0);
         g.press(Qt::Key_Left);
-        QCOMPARE(g.focused(), QStringLiteral("01"));
+        QCOMPARE(g.focused(), u"01"_s);
         g.press(Qt::Key_Right);
-        QCOMPARE(g.focused(), QStringLiteral("00"));
+        QCOMPARE(g.focused(), u"00"_s);
     }
 
     void otherKeysAreNotTaken()
@@ -129,7 +128,7 @@ private Q_SLOTS:
         g.press(Qt::Key_End, Qt::ControlModifier);
         g.press(Qt::Key_Return, Qt::ControlModifier);
         g.press(Qt::Key_A);
-        QCOMPARE(g.focused(), QStringLiteral("00"));
+        QCOMPARE(g.focused(), u"00"_s);
         QCOMPARE(clicked.size(), 0);
     }
 
@@ -148,15 +147,15 @@ private Q_SLOTS:
         Grid g({3, 3});
         g.before->setFocus();
         g.press(Qt::Key_Tab);
-        QCOMPARE(g.focused(), QStringLiteral("00"));
+        QCOMPARE(g.focused(), u"00"_s);
         g.press(Qt::Key_Down);
         g.press(Qt::Key_Right);
         g.press(Qt::Key_Tab);
-        QCOMPARE(g.focused(), QStringLiteral("after"));
+        QCOMPARE(g.focused(), u"after"_s);
         g.press(Qt::Key_Backtab, Qt::ShiftModifier);
-        QCOMPARE(g.focused(), QStringLiteral("11"));
+        QCOMPARE(g.focused(), u"11"_s);
         g.press(Qt::Key_Backtab, Qt::ShiftModifier);
-        QCOMPARE(g.focused(), QStringLiteral("before"));
+        QCOMPARE(g.focused(), u"before"_s);
     }
 
     void tabStopsAtEveryButtonOfOneRow()
@@ -164,15 +163,15 @@ private Q_SLOTS:
         Grid g({2, 2, 2}, GridFocus::TabStop::Row);
         g.enter(1, 0);
         g.press(Qt::Key_Tab);
-        QCOMPARE(g.focused(), QStringLiteral("11"));
+        QCOMPARE(g.focused(), u"11"_s);
         g.press(Qt::Key_Tab);
-        QCOMPARE(g.focused(), QStringLiteral("after"));
+        QCOMPARE(g.focused(), u"after"_s);
         g.press(Qt::Key_Backtab, Qt::ShiftModifier);
-        QCOMPARE(g.focused(), QStringLiteral("11"));
+        QCOMPARE(g.focused(), u"11"_s);
         g.press(Qt::Key_Up);
-        QCOMPARE(g.focused(), QStringLiteral("01"));
+        QCOMPARE(g.focused(), u"01"_s);
         g.press(Qt::Key_Tab);
-        QCOMPARE(g.focused(), QStringLiteral("after"));
+        QCOMPARE(g.focused(), u"after"_s);
     }
 
     void theCurrentCellIsSetFromOutside()
@@ -181,7 +180,7 @@ private Q_SLOTS:
         g.focus.setCurrent(g.rows.at(1).at(2));
         g.before->setFocus();
         g.press(Qt::Key_Tab);
-        QCOMPARE(g.focused(), QStringLiteral("12"));
+        QCOMPARE(g.focused(), u"12"_s);
     }
 
     void rowsChange()
@@ -191,7 +190,7 @@ private Q_SLOTS:
         g.focus.setRows({g.rows.at(1)}); // the current cell stays
         QCOMPARE(g.focus.current(), g.rows.at(1).at(2));
         g.press(Qt::Key_Up);
-        QCOMPARE(g.focused(), QStringLiteral("12"));
+        QCOMPARE(g.focused(), u"12"_s);
         g.focus.setRows({g.rows.at(0)}); // or the first takes its place
         QCOMPARE(g.focus.current(), g.rows.at(0).at(0));
         g.press(Qt::Key_Left); // no longer one of them
@@ -200,7 +199,7 @@ private Q_SLOTS:
         QCOMPARE(g.focus.current(), nullptr);
         g.before->setFocus();
         g.press(Qt::Key_Tab);
-        QCOMPARE(g.focused(), QStringLiteral("after"));
+        QCOMPARE(g.focused(), u"after"_s);
     }
 
     void buttonsMayGoFirst()
@@ -218,7 +217,7 @@ private Q_SLOTS:
         Grid g({2});
         const QSignalSpy entered(&g.focus, &GridFocus::entered);
         QTest::mouseClick(g.rows.at(0).at(1), Qt::LeftButton);
-        QCOMPARE(g.focused(), QStringLiteral("01"));
+        QCOMPARE(g.focused(), u"01"_s);
         QCOMPARE(entered.size(), 0);
         g.press(Qt::Key_Left);
         QCOMPARE(entered.size(), 1);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IconPicker.h"
+#include "Literals.h"
 
 #include "DivingIconButton.h"
 #include "IconGrid.h"
@@ -30,9 +31,9 @@ struct Shown
             qFatal("the window does not become active");
     }
 
-    SearchField& search() { return *picker.findChild<SearchField*>(QStringLiteral("iconSearch")); }
+    SearchField& search() { return *picker.findChild<SearchField*>(u"iconSearch"_s); }
     DivingIconButton& cell(DivingIcons icon) { return *picker.findChild<DivingIconButton*>(rawValue(icon)); }
-    bool saysNothing() { return picker.findChild<QLabel*>(QStringLiteral("noIcon"))->isVisible(); }
+    bool saysNothing() { return picker.findChild<QLabel*>(u"noIcon"_s)->isVisible(); }
 
     /// Titles and cells as they stand, from the top left to the bottom right.
     QStringList shown()
@@ -67,7 +68,7 @@ struct Shown
 
 QStringList split(const char* texts)
 {
-    return QString::fromUtf8(texts).split(QLatin1Char(','));
+    return QString::fromUtf8(texts).split(u',');
 }
 
 } // namespace
@@ -82,8 +83,8 @@ private Q_SLOTS:
     void sectionsInOrder()
     {
         Shown s;
-        QCOMPARE(s.picker.title(), QStringLiteral("Selezione Icona"));
-        QCOMPARE(s.search().placeholderText(), QStringLiteral("Cerca icona..."));
+        QCOMPARE(s.picker.title(), u"Selezione Icona"_s);
+        QCOMPARE(s.search().placeholderText(), u"Cerca icona..."_s);
         QCOMPARE(s.shown(),
                  split("ACCESSORI,Torcia,Bussola,Profondimetro,Manometro,Coltello,Bozzello,Sacco Sollevamento,"
                        "Cintura Zavorra,ALTRO,Altro,Accessorio,Personalizzato,ATTREZZATURA PRINCIPALE,Erogatore,GAV,"
@@ -120,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(s.picker.grid().selectedIcon(), DivingIcons::cave);
         QAccessibleInterface* group = QAccessible::queryAccessibleInterface(&s.picker.grid());
         QCOMPARE(group->role(), QAccessible::Grouping);
-        QCOMPARE(group->text(QAccessible::Name), QStringLiteral("Selezione Icona"));
+        QCOMPARE(group->text(QAccessible::Name), u"Selezione Icona"_s);
     }
 
     void settingEmitsNothing()
@@ -173,9 +174,9 @@ private Q_SLOTS:
         QCOMPARE(visited, split("Coltello,Personalizzato,Pinne,Campana Sub,Ispezione,Bandiera Sub,Grotta,"
                                 "Kit Riparazione"));
         s.press(Qt::Key_Home);
-        QCOMPARE(s.focused(), QStringLiteral("Torcia"));
+        QCOMPARE(s.focused(), u"Torcia"_s);
         s.press(Qt::Key_End);
-        QCOMPARE(s.focused(), QStringLiteral("Ricambi"));
+        QCOMPARE(s.focused(), u"Ricambi"_s);
     }
 
     void oneTabStopAtTheChosenIcon()
@@ -184,7 +185,7 @@ private Q_SLOTS:
         s.picker.grid().setSelectedIcon(DivingIcons::scuba);
         s.search().setFocus();
         s.press(Qt::Key_Tab);
-        QCOMPARE(s.focused(), QStringLiteral("Subacquea"));
+        QCOMPARE(s.focused(), u"Subacquea"_s);
         s.press(Qt::Key_Right);
         s.press(Qt::Key_Tab);
         QCOMPARE(s.picker.focusWidget(), &s.search());
@@ -194,41 +195,41 @@ private Q_SLOTS:
     {
         Shown s;
         const int before = s.picker.grid().height();
-        s.type(QStringLiteral("bombola"));
+        s.type(u"bombola"_s);
         QCOMPARE(s.shown(), split("ATTREZZATURA PRINCIPALE,Bombola"));
         QVERIFY(s.picker.grid().sizeHint().height() < before);
         QVERIFY(!s.saysNothing());
         s.press(Qt::Key_Tab);
-        QCOMPARE(s.focused(), QStringLiteral("Bombola"));
+        QCOMPARE(s.focused(), u"Bombola"_s);
         s.search().selectAll();
-        s.type(QStringLiteral("dive.k"));
+        s.type(u"dive.k"_s);
         QCOMPARE(s.shown(), split("ACCESSORI,Coltello"));
         s.search().selectAll();
-        s.type(QStringLiteral("sub"));
+        s.type(u"sub"_s);
         QCOMPARE(s.shown(), split("ATTREZZATURA PRINCIPALE,Computer Sub,COMUNICAZIONE,Campana Sub,SICUREZZA,"
                                   "Bandiera Sub,TIPI DI IMMERSIONE,Subacquea,VARIE,Fotocamera Sub,Borsa Sub"));
         s.press(Qt::Key_Tab);
         s.press(Qt::Key_End);
         s.press(Qt::Key_Up);
-        QCOMPARE(s.focused(), QStringLiteral("Subacquea"));
+        QCOMPARE(s.focused(), u"Subacquea"_s);
     }
 
     void theChoiceOutlivesTheSearch()
     {
         Shown s;
         s.picker.grid().setSelectedIcon(DivingIcons::reel);
-        s.type(QStringLiteral("bombola"));
+        s.type(u"bombola"_s);
         QCOMPARE(s.picker.grid().selectedIcon(), DivingIcons::reel);
         QTest::keyClick(&s.search(), Qt::Key_Escape);
         QVERIFY(s.cell(DivingIcons::reel).isVisible() && s.cell(DivingIcons::reel).isChecked());
         s.press(Qt::Key_Tab);
-        QCOMPARE(s.focused(), QStringLiteral("Bozzello"));
+        QCOMPARE(s.focused(), u"Bozzello"_s);
     }
 
     void choosingWhatWasFound()
     {
         Shown s;
-        s.type(QStringLiteral("knife"));
+        s.type(u"knife"_s);
         QTest::mouseClick(&s.cell(DivingIcons::diveKnife), Qt::LeftButton);
         QCOMPARE(s.picker.grid().selectedIcon(), DivingIcons::diveKnife);
         QVERIFY(!s.cell(DivingIcons::regulator).isChecked());
@@ -237,12 +238,12 @@ private Q_SLOTS:
     void nothingFound()
     {
         Shown s;
-        s.type(QStringLiteral("xyz"));
+        s.type(u"xyz"_s);
         QVERIFY(s.saysNothing());
         QVERIFY(!s.picker.grid().isVisible());
-        const QLabel* nothing = s.picker.findChild<QLabel*>(QStringLiteral("noIcon"));
-        QCOMPARE(nothing->text(), QStringLiteral("Nessuna icona trovata"));
-        s.search().findChild<QAction*>(QStringLiteral("clear"))->trigger();
+        const QLabel* nothing = s.picker.findChild<QLabel*>(u"noIcon"_s);
+        QCOMPARE(nothing->text(), u"Nessuna icona trovata"_s);
+        s.search().findChild<QAction*>(u"clear"_s)->trigger();
         QVERIFY(!s.saysNothing());
         QCOMPARE(s.shown().size(), 54);
         QCOMPARE(s.search().text(), QString());

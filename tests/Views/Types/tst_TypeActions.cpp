@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Buttons.h"
+#include "Literals.h"
 #include "TestRunner.h"
 #include "Theme.h"
 #include "TypesParts.h"
@@ -19,11 +20,11 @@ private Q_SLOTS:
         ScreenFixture f;
         f.types.setTypes({});
         OpenManagement o(f);
-        QVERIFY(visibleLabels(o.sheet).contains(QStringLiteral("Nessuna tipologia trovata")));
+        QVERIFY(visibleLabels(o.sheet).contains(u"Nessuna tipologia trovata"_s));
         QVERIFY(!o.driver.shows("emptyStateButton")); // there is no search to clear
-        QCOMPARE(o.driver.text("typeCount"), QStringLiteral("0 tipologie attive"));
+        QCOMPARE(o.driver.text("typeCount"), u"0 tipologie attive"_s);
         o.driver.click("resetTypes");
-        OpenManagement::settle();
+        settle();
         QCOMPARE(o.names(), defaultNames());
     }
 
@@ -35,36 +36,36 @@ private Q_SLOTS:
         o.driver.click("addType");
         EquipmentTypeFormView* form = o.form();
         QVERIFY(form);
-        QCOMPARE(form->windowTitle(), QStringLiteral("Nuova Tipologia"));
+        QCOMPARE(form->windowTitle(), u"Nuova Tipologia"_s);
         QCOMPARE(form->windowModality(), Qt::WindowModal);
         QCOMPARE(form->parentWidget(), &o.sheet);
         const FormDriver driver(*form);
-        driver.type("name", QStringLiteral("Boa"));
+        driver.type("name", u"Boa"_s);
         driver.save();
-        OpenManagement::settle();
+        settle();
         QCOMPARE(o.names().size(), 17);
-        QCOMPARE(o.names().at(1), QStringLiteral("Boa"));
-        QCOMPARE(f.types.types().last().name, QStringLiteral("Boa"));
-        QCOMPARE(o.driver.text("typeCount"), QStringLiteral("17 tipologie attive"));
-        QCOMPARE(o.sheet.focusWidget()->objectName(), QStringLiteral("addType"));
+        QCOMPARE(o.names().at(1), u"Boa"_s);
+        QCOMPARE(f.types.types().last().name, u"Boa"_s);
+        QCOMPARE(o.driver.text("typeCount"), u"17 tipologie attive"_s);
+        QCOMPARE(o.sheet.focusWidget()->objectName(), u"addType"_s);
     }
 
     void editingKeepsTheFocusOnTheType()
     {
         ScreenFixture f;
         OpenManagement o(f);
-        o.press(QStringLiteral("Bussola"), "editType");
+        o.press(u"Bussola"_s, "editType");
         EquipmentTypeFormView* form = o.form();
         QVERIFY(form);
-        QCOMPARE(form->windowTitle(), QStringLiteral("Modifica Tipologia"));
+        QCOMPARE(form->windowTitle(), u"Modifica Tipologia"_s);
         const FormDriver driver(*form);
-        QCOMPARE(driver.part<QLineEdit>("name").text(), QStringLiteral("Bussola"));
-        driver.type("name", QStringLiteral("Zaino"));
+        QCOMPARE(driver.part<QLineEdit>("name").text(), u"Bussola"_s);
+        driver.type("name", u"Zaino"_s);
         driver.save();
-        OpenManagement::settle();
-        QCOMPARE(o.names().last(), QStringLiteral("Zaino"));
-        QVERIFY(!o.names().contains(QStringLiteral("Bussola")));
-        const TypeRow& row = o.row(QStringLiteral("Zaino"));
+        settle();
+        QCOMPARE(o.names().last(), u"Zaino"_s);
+        QVERIFY(!o.names().contains(u"Bussola"_s));
+        const TypeRow& row = o.row(u"Zaino"_s);
         QCOMPARE(o.sheet.focusWidget(), row.buttons().first());
         QCOMPARE(row.visibleRegion().boundingRect(), row.rect()); // it was scrolled to
     }
@@ -74,85 +75,85 @@ private Q_SLOTS:
         ScreenFixture f;
         OpenManagement o(f);
         const QList<EquipmentTypeModel> before = f.types.types();
-        o.press(QStringLiteral("Pinne"), "deleteType");
+        o.press(u"Pinne"_s, "deleteType");
         Alert* alert = o.driver.alert();
         QVERIFY(alert);
         QCOMPARE(alert->windowModality(), Qt::WindowModal);
-        QCOMPARE(alert->windowTitle(), QStringLiteral("Conferma Eliminazione"));
-        QCOMPARE(alert->message(), QStringLiteral("Sei sicuro di voler eliminare la tipologia 'Pinne'?"));
-        QCOMPARE(alert->safeButton()->text(), QStringLiteral("Annulla"));
-        QCOMPARE(alert->destructiveButton()->text(), QStringLiteral("Elimina"));
+        QCOMPARE(alert->windowTitle(), u"Conferma Eliminazione"_s);
+        QCOMPARE(alert->message(), u"Sei sicuro di voler eliminare la tipologia 'Pinne'?"_s);
+        QCOMPARE(alert->safeButton()->text(), u"Annulla"_s);
+        QCOMPARE(alert->destructiveButton()->text(), u"Elimina"_s);
         QTest::keyClick(alert, Qt::Key_Escape);
-        OpenManagement::settle();
+        settle();
         QCOMPARE(f.types.types(), before);
-        QCOMPARE(o.sheet.focusWidget(), o.row(QStringLiteral("Pinne")).buttons().last());
+        QCOMPARE(o.sheet.focusWidget(), o.row(u"Pinne"_s).buttons().last());
 
-        o.press(QStringLiteral("Pinne"), "deleteType");
+        o.press(u"Pinne"_s, "deleteType");
         QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
-        OpenManagement::settle();
-        QVERIFY(!f.types.getTypeByName(QStringLiteral("Pinne")));
+        settle();
+        QVERIFY(!f.types.getTypeByName(u"Pinne"_s));
         QCOMPARE(f.types.types().size(), 15);
-        QCOMPARE(o.driver.text("typeCount"), QStringLiteral("15 tipologie attive"));
-        QCOMPARE(o.sheet.focusWidget(), o.row(QStringLiteral("Profondimetro")).buttons().last()); // the next one
+        QCOMPARE(o.driver.text("typeCount"), u"15 tipologie attive"_s);
+        QCOMPARE(o.sheet.focusWidget(), o.row(u"Profondimetro"_s).buttons().last()); // the next one
     }
 
     void theQuestionWithoutAType()
     {
         QCOMPARE(EquipmentTypeManagementView::deletionQuestion(std::nullopt),
-                 QStringLiteral("Sei sicuro di voler eliminare questa tipologia?"));
+                 u"Sei sicuro di voler eliminare questa tipologia?"_s);
     }
 
     void theFocusSurvivesTheLastRow()
     {
         ScreenFixture f;
-        f.types.setTypes({own(1, QStringLiteral("A")), own(2, QStringLiteral("B"))});
+        f.types.setTypes({own(1, u"A"_s), own(2, u"B"_s)});
         OpenManagement o(f);
-        o.press(QStringLiteral("B"), "deleteType");
+        o.press(u"B"_s, "deleteType");
         QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
-        OpenManagement::settle();
-        QCOMPARE(o.sheet.focusWidget(), o.row(QStringLiteral("A")).buttons().last());
-        o.press(QStringLiteral("A"), "deleteType");
+        settle();
+        QCOMPARE(o.sheet.focusWidget(), o.row(u"A"_s).buttons().last());
+        o.press(u"A"_s, "deleteType");
         QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
-        OpenManagement::settle();
-        QCOMPARE(o.sheet.focusWidget()->objectName(), QStringLiteral("typeSearch"));
+        settle();
+        QCOMPARE(o.sheet.focusWidget()->objectName(), u"typeSearch"_s);
     }
 
     void deletingOneOfTwins()
     {
         ScreenFixture f;
-        f.types.setTypes({own(1, QStringLiteral("Boa")), own(2, QStringLiteral("Boa"))});
+        f.types.setTypes({own(1, u"Boa"_s), own(2, u"Boa"_s)});
         OpenManagement o(f);
         QTest::mouseClick(o.rows().last()->buttons().last(), Qt::LeftButton);
         QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
-        QCOMPARE(f.types.types(), QList<EquipmentTypeModel>({own(1, QStringLiteral("Boa"))}));
+        QCOMPARE(f.types.types(), QList<EquipmentTypeModel>({own(1, u"Boa"_s)}));
     }
 
     void resettingAsksNothing()
     {
         ScreenFixture f;
-        f.types.setTypes({own(1, QStringLiteral("Boa"))});
+        f.types.setTypes({own(1, u"Boa"_s)});
         f.types.saveTypes();
         QVERIFY(f.preferences.setInteger(EquipmentTypeViewModel::iconVersionKey, 3));
         OpenManagement o(f);
-        QCOMPARE(o.names(), QStringList(QStringLiteral("Boa")));
+        QCOMPARE(o.names(), QStringList(u"Boa"_s));
         o.driver.click("resetTypes");
         QVERIFY(!o.driver.alert());
-        OpenManagement::settle();
+        settle();
         QCOMPARE(o.names(), defaultNames());
         QCOMPARE(f.preferences.integer(EquipmentTypeViewModel::iconVersionKey), std::optional<std::int64_t>(4));
         QVERIFY(!f.preferences.data(EquipmentTypeViewModel::typesKey).value()->contains("Boa"));
-        QCOMPARE(o.sheet.focusWidget()->objectName(), QStringLiteral("resetTypes"));
+        QCOMPARE(o.sheet.focusWidget()->objectName(), u"resetTypes"_s);
     }
 
     void hostileNames_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("quotes") << QStringLiteral("L'\"erogatore\"");
-        QTest::newRow("markup") << QStringLiteral("<b>Boa</b>&nbsp;<img src=x>");
-        QTest::newRow("access key") << QStringLiteral("&Boa && Mare");
-        QTest::newRow("place markers") << QStringLiteral("%1 %2 %L1");
+        QTest::newRow("quotes") << u"L'\"erogatore\""_s;
+        QTest::newRow("markup") << u"<b>Boa</b>&nbsp;<img src=x>"_s;
+        QTest::newRow("access key") << u"&Boa && Mare"_s;
+        QTest::newRow("place markers") << u"%1 %2 %L1"_s;
         QTest::newRow("right to left") << QStringLiteral(u"\u202e\u05d0\u05d1 GAV");
-        QTest::newRow("long") << QString(5'000, QLatin1Char('n'));
+        QTest::newRow("long") << QString(5'000, u'n');
         QTest::newRow("empty") << QString();
     }
     void hostileNames()
@@ -161,15 +162,14 @@ private Q_SLOTS:
         ScreenFixture f;
         f.types.setTypes({own(1, name)});
         OpenManagement o(f);
-        const auto* label = o.rows().first()->findChild<QLabel*>(QStringLiteral("typeName"));
+        const auto* label = o.rows().first()->findChild<QLabel*>(u"typeName"_s);
         QCOMPARE(label->text(), name);
         QCOMPARE(label->textFormat(), Qt::PlainText);
         for (const QAbstractButton* button : o.rows().first()->buttons())
             QCOMPARE(button->size(), button->sizeHint());
         QTest::mouseClick(o.rows().first()->buttons().last(), Qt::LeftButton);
         Alert* alert = o.driver.alert();
-        QCOMPARE(alert->message(),
-                 QLatin1String("Sei sicuro di voler eliminare la tipologia '") + name + QLatin1String("'?"));
+        QCOMPARE(alert->message(), "Sei sicuro di voler eliminare la tipologia '"_L1 + name + "'?"_L1);
         QVERIFY(o.window.geometry().contains(alert->geometry()));
         const QWidget* safe = alert->safeButton();
         QVERIFY(alert->rect().contains(QRect(safe->mapTo(alert, QPoint()), safe->size())));

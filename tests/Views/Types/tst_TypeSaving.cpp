@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Buttons.h"
+#include "Literals.h"
 #include "SearchField.h"
 #include "Stepper.h"
 #include "TestRunner.h"
@@ -41,7 +42,7 @@ private Q_SLOTS:
         const QList<EquipmentTypeModel> before = f.types.types();
         const int ids = f.ids.count();
         TypeForm o(f.context, newType);
-        o.driver.type("name", QStringLiteral("Boa"));
+        o.driver.type("name", u"Boa"_s);
         QTest::mouseClick(&o.driver.part<QAbstractButton>("teal"), Qt::LeftButton);
         QTest::mouseClick(&cell(o, DivingIcons::reel), Qt::LeftButton);
         auto& interval = o.driver.part<Stepper>("interval");
@@ -51,9 +52,8 @@ private Q_SLOTS:
         o.driver.save();
         QVERIFY(!o.sheet.isVisible());
         QCOMPARE(changed.size(), 1);
-        QCOMPARE(f.types.types(), before + QList<EquipmentTypeModel>(
-                                               {{SequentialIds::at(ids + 1), QStringLiteral("Boa"),
-                                                 QStringLiteral("dive.reel"), QStringLiteral("teal"), 395, true}}));
+        QCOMPARE(f.types.types(), before + QList<EquipmentTypeModel>({{SequentialIds::at(ids + 1), u"Boa"_s,
+                                                                       u"dive.reel"_s, u"teal"_s, 395, true}}));
         const auto stored = f.preferences.data(EquipmentTypeViewModel::typesKey);
         QVERIFY(stored.value()->endsWith(
             R"("name":"Boa","icon":"dive.reel","color":"teal","serviceIntervalDays":395,"isActive":true}])"));
@@ -63,12 +63,12 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         const EquipmentTypeModel saved = savedAs(f, boa(), [](TypeForm& form) {
-            form.driver.type("name", QStringLiteral("Pallone"));
+            form.driver.type("name", u"Pallone"_s);
             QTest::mouseClick(&form.driver.part<QAbstractButton>("mint"), Qt::LeftButton);
         });
         EquipmentTypeModel expected = boa();
-        expected.name = QStringLiteral("Pallone");
-        expected.color = QStringLiteral("mint");
+        expected.name = u"Pallone"_s;
+        expected.color = u"mint"_s;
         QCOMPARE(saved, expected);
         QCOMPARE(f.types.types().size(), 17);
     }
@@ -82,18 +82,17 @@ private Q_SLOTS:
     void theNameIsStoredAsTyped()
     {
         ScreenFixture f;
-        QCOMPARE(savedAs(f, boa(), [](TypeForm& form) { form.driver.type("name", QStringLiteral("  Boa  ")); }).name,
-                 QStringLiteral("  Boa  "));
+        QCOMPARE(savedAs(f, boa(), [](TypeForm& form) { form.driver.type("name", u"  Boa  "_s); }).name, u"  Boa  "_s);
     }
 
     void longAndHostileNamesSurvive_data()
     {
         QTest::addColumn<QString>("name");
-        QTest::newRow("long") << QString(40'000, QLatin1Char('n'));
-        QTest::newRow("markup") << QStringLiteral("<b>Boa</b> &amp; <img src=x>");
+        QTest::newRow("long") << QString(40'000, u'n');
+        QTest::newRow("markup") << u"<b>Boa</b> &amp; <img src=x>"_s;
         QTest::newRow("right to left") << QStringLiteral(u"\u0645\u0646\u0638\u0645 \u202e\u05d0\u05d1");
-        QTest::newRow("place markers") << QStringLiteral("%1 '%2' \"%n\"");
-        QTest::newRow("line break") << QStringLiteral("Boa\nrossa");
+        QTest::newRow("place markers") << u"%1 '%2' \"%n\""_s;
+        QTest::newRow("line break") << u"Boa\nrossa"_s;
         QTest::newRow("emoji") << QStringLiteral(u"\U0001F93F Boa");
     }
     void longAndHostileNamesSurvive()
@@ -123,20 +122,20 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         EquipmentTypeModel type = boa();
-        type.icon = QStringLiteral("compass.drawing");
+        type.icon = u"compass.drawing"_s;
         const EquipmentTypeModel saved =
             savedAs(f, type, [](TypeForm& form) { QVERIFY(cell(form, DivingIcons::regulator).isChecked()); });
-        QCOMPARE(saved.icon, QStringLiteral("dive.regulator"));
+        QCOMPARE(saved.icon, u"dive.regulator"_s);
     }
 
     void twoTypesMayCarryOneName()
     {
         ScreenFixture f;
         TypeForm o(f.context, newType);
-        o.driver.type("name", QStringLiteral("GAV"));
+        o.driver.type("name", u"GAV"_s);
         o.driver.save();
         QCOMPARE(f.types.types().size(), 17);
-        QCOMPARE(f.types.getTypeByName(QStringLiteral("GAV"))->icon, QStringLiteral("dive.bcd"));
+        QCOMPARE(f.types.getTypeByName(u"GAV"_s)->icon, u"dive.bcd"_s);
     }
 
     void aTypeThatIsGoneIsNotSaved()
@@ -154,8 +153,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<bool>("valid");
         QTest::newRow("nothing") << QString() << false;
-        QTest::newRow("spaces") << QStringLiteral("    ") << false;
-        QTest::newRow("a name") << QStringLiteral(" B") << true;
+        QTest::newRow("spaces") << u"    "_s << false;
+        QTest::newRow("a name") << u" B"_s << true;
     }
     void onlyAValidFormSaves()
     {
@@ -163,7 +162,7 @@ private Q_SLOTS:
         QFETCH(bool, valid);
         ScreenFixture f;
         TypeForm o(f.context, newType);
-        o.driver.type("name", QStringLiteral("x"));
+        o.driver.type("name", u"x"_s);
         o.driver.type("name", name);
         QCOMPARE(o.sheet.primaryButton()->isEnabled(), valid);
         QCOMPARE(o.driver.shows("invalidName"), !valid);
@@ -215,7 +214,7 @@ private Q_SLOTS:
         const QList<EquipmentTypeModel> before = f.types.types();
         for (const bool byKey : {true, false}) {
             TypeForm o(f.context, newType);
-            o.driver.type("name", QStringLiteral("Boa"));
+            o.driver.type("name", u"Boa"_s);
             if (byKey)
                 QTest::keyClick(&o.driver.part<QLineEdit>("name"), Qt::Key_Escape);
             else
@@ -229,9 +228,9 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         TypeForm o(f.context, newType);
-        o.driver.type("name", QStringLiteral("Boa"));
+        o.driver.type("name", u"Boa"_s);
         QTest::keyClick(&o.driver.part<QLineEdit>("name"), Qt::Key_Return);
-        o.driver.type("iconSearch", QStringLiteral("bomb"));
+        o.driver.type("iconSearch", u"bomb"_s);
         QTest::keyClick(&o.driver.part<SearchField>("iconSearch"), Qt::Key_Return);
         QVERIFY(o.sheet.isVisible());
     }
@@ -240,7 +239,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         const EquipmentTypeModel saved = savedAs(f, boa(), [](TypeForm& form) {
-            form.driver.type("iconSearch", QStringLiteral("xyz"));
+            form.driver.type("iconSearch", u"xyz"_s);
             QVERIFY(form.driver.shows("noIcon"));
         });
         QCOMPARE(saved, boa());

@@ -6,6 +6,7 @@
 #include "EquipmentTableView.h"
 #include "FilterMenu.h"
 #include "IconTile.h"
+#include "Literals.h"
 #include "MainWindow.h"
 #include "SidebarView.h"
 #include "SymbolIcon.h"
@@ -21,8 +22,8 @@ namespace {
 
 Equipment buoy()
 {
-    Equipment item = makeItem(1, QStringLiteral("Boa rossa"), EquipmentType::other, {});
-    item.customTypeName = QStringLiteral("Boa");
+    Equipment item = makeItem(1, u"Boa rossa"_s, EquipmentType::other, {});
+    item.customTypeName = u"Boa"_s;
     return item;
 }
 
@@ -40,7 +41,7 @@ struct Shown
     Shown()
         : fixture(QList<Equipment>{buoy()})
     {
-        fixture.types.addType(own(900, QStringLiteral("Boa")));
+        fixture.types.addType(own(900, u"Boa"_s));
         window = std::make_unique<MainWindow>(fixture.context, fixture.directories.windowStateFile());
         window->resize(1280, 800);
         window->show();
@@ -74,7 +75,7 @@ struct Shown
     QString rowText() const { return window->findChild<EquipmentTableView*>()->model()->index(0, 0).data().toString(); }
 
     EquipmentDetailView& detail() const { return *window->findChild<EquipmentDetailView*>(); }
-    QString detailType() const { return detail().findChild<QLabel*>(QStringLiteral("detailType"))->text(); }
+    QString detailType() const { return detail().findChild<QLabel*>(u"detailType"_s)->text(); }
     QImage detailPicture() const { return picture(*detail().findChild<IconTile*>()); }
 
     ScreenFixture fixture;
@@ -90,8 +91,8 @@ QImage pictureOf(const Shown& s, const TypeAppearance& appearance)
     return picture(tile);
 }
 
-const TypeAppearance ownLook{QStringLiteral("dive.reel"), NamedColor::teal};
-const TypeAppearance fallback{QStringLiteral("questionmark.circle.fill"), NamedColor::secondary};
+const TypeAppearance ownLook{u"dive.reel"_s, NamedColor::teal};
+const TypeAppearance fallback{u"questionmark.circle.fill"_s, NamedColor::secondary};
 
 } // namespace
 
@@ -105,11 +106,11 @@ private Q_SLOTS:
     void anOwnTypeIsShownEverywhere()
     {
         const Shown s;
-        QVERIFY(s.sidebar().contains(QStringLiteral("Boa")));
-        QVERIFY(s.filterMenu().contains(QStringLiteral("Boa")));
+        QVERIFY(s.sidebar().contains(u"Boa"_s));
+        QVERIFY(s.filterMenu().contains(u"Boa"_s));
         QCOMPARE(s.row().appearance, ownLook);
-        QCOMPARE(s.rowText(), QStringLiteral("Boa rossa\nBoa"));
-        QCOMPARE(s.detailType(), QStringLiteral("Boa"));
+        QCOMPARE(s.rowText(), u"Boa rossa\nBoa"_s);
+        QCOMPARE(s.detailType(), u"Boa"_s);
         QCOMPARE(s.detailPicture(), pictureOf(s, ownLook));
     }
 
@@ -118,9 +119,9 @@ private Q_SLOTS:
         using Change = std::function<void(EquipmentTypeViewModel&)>;
         QTest::addColumn<Change>("change");
         QTest::newRow("deleted") << Change([](auto& types) { types.deleteType(own(900, {})); });
-        QTest::newRow("renamed") << Change([](auto& types) { types.updateType(own(900, QStringLiteral("Pallone"))); });
+        QTest::newRow("renamed") << Change([](auto& types) { types.updateType(own(900, u"Pallone"_s)); });
         QTest::newRow("deactivated") << Change([](auto& types) {
-            EquipmentTypeModel inactive = own(900, QStringLiteral("Boa"));
+            EquipmentTypeModel inactive = own(900, u"Boa"_s);
             inactive.isActive = false;
             types.updateType(inactive);
         });
@@ -134,11 +135,11 @@ private Q_SLOTS:
         const auto stored = s.fixture.preferences.data(StorageManager::equipmentKey);
         change(s.fixture.types);
         Shown::settle();
-        QVERIFY(!s.sidebar().contains(QStringLiteral("Boa")));
-        QVERIFY(!s.filterMenu().contains(QStringLiteral("Boa")));
+        QVERIFY(!s.sidebar().contains(u"Boa"_s));
+        QVERIFY(!s.filterMenu().contains(u"Boa"_s));
         QCOMPARE(s.row().appearance, fallback);
-        QCOMPARE(s.rowText(), QStringLiteral("Boa rossa\nBoa"));
-        QCOMPARE(s.detailType(), QStringLiteral("Boa"));
+        QCOMPARE(s.rowText(), u"Boa rossa\nBoa"_s);
+        QCOMPARE(s.detailType(), u"Boa"_s);
         QCOMPARE(s.detailPicture(), pictureOf(s, fallback));
         QCOMPARE(s.fixture.equipment.equipment(), before);
         QCOMPARE(s.fixture.preferences.data(StorageManager::equipmentKey), stored);
@@ -146,7 +147,7 @@ private Q_SLOTS:
         EditEquipmentView form(s.fixture.context, before.first(), s.window.get());
         form.open();
         const FormDriver driver(form);
-        QCOMPARE(driver.chosenType(), QStringLiteral("Boa"));
+        QCOMPARE(driver.chosenType(), u"Boa"_s);
         QVERIFY(!driver.shows("interval"));
     }
 
@@ -159,18 +160,18 @@ private Q_SLOTS:
         QVERIFY(driver.shows("interval"));
         s.fixture.types.deleteType(own(900, {}));
         Shown::settle();
-        QCOMPARE(driver.chosenType(), QStringLiteral("Boa"));
+        QCOMPARE(driver.chosenType(), u"Boa"_s);
         QVERIFY(!driver.shows("interval"));
         driver.save();
-        QCOMPARE(s.fixture.equipment.equipment().first().customTypeName, std::optional(QStringLiteral("Boa")));
+        QCOMPARE(s.fixture.equipment.equipment().first().customTypeName, std::optional(u"Boa"_s));
     }
 
     void aNewLookIsShownAtOnce()
     {
         Shown s;
-        EquipmentTypeModel changed = own(900, QStringLiteral("Boa"));
-        changed.icon = QStringLiteral("wrench.fill");
-        changed.color = QStringLiteral("pink");
+        EquipmentTypeModel changed = own(900, u"Boa"_s);
+        changed.icon = u"wrench.fill"_s;
+        changed.color = u"pink"_s;
         s.fixture.types.updateType(changed);
         Shown::settle();
         QCOMPARE(s.row().appearance, appearanceOf(changed));
@@ -196,7 +197,7 @@ private Q_SLOTS:
         const FormDriver fields(*form);
         QTest::keyClick(&fields.part<QLineEdit>("name"), Qt::Key_Escape);
         QVERIFY(management->isVisible());
-        QCOMPARE(management->focusWidget()->objectName(), QStringLiteral("addType"));
+        QCOMPARE(management->focusWidget()->objectName(), u"addType"_s);
         QTest::keyClick(management, Qt::Key_Escape);
         QVERIFY(!management->isVisible());
         QCOMPARE(s.window->focusWidget(), opener);

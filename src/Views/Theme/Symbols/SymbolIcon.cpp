@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SymbolIcon.h"
 
+#include "Literals.h"
 #include "SymbolIconEngine.h"
 
 #include <QFile>
@@ -27,9 +28,9 @@ constexpr qreal menuPictureScale = 2;
 QString symbolPath(const QString& name)
 {
     initializeResources();
-    if (name.isEmpty() || name.contains(QLatin1Char('/')))
+    if (name.isEmpty() || name.contains(u'/'))
         return {};
-    const QString path = QLatin1String(":/symbols/") + name + QLatin1String(".svg");
+    const QString path = ":/symbols/"_L1 + name + ".svg"_L1;
     return QFile::exists(path) ? path : QString();
 }
 
@@ -63,7 +64,7 @@ QIcon typeIcon(const QString& name, NamedColor color)
 QIcon typeIconForMenu(const QString& name, int size, NamedColor color)
 {
     const QIcon icon = typeIcon(name, color);
-    if (!name.startsWith(QLatin1String("dive.")))
+    if (!name.startsWith("dive."_L1))
         return icon;
     const QPixmap picture = icon.pixmap(QSize(size, size), menuPictureScale);
     return picture.isNull() ? icon : QIcon(picture);
@@ -72,7 +73,7 @@ QIcon typeIconForMenu(const QString& name, int size, NamedColor color)
 QIcon applicationIcon()
 {
     initializeResources();
-    return QIcon(new SymbolIconEngine(QStringLiteral("abissora"), QStringLiteral(":/appicon/abissora.svg"), {}));
+    return QIcon(new SymbolIconEngine(u"abissora"_s, u":/appicon/abissora.svg"_s, {}));
 }
 
 } // namespace abissora

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SymbolIconEngine.h"
 
+#include "Literals.h"
 #include "SymbolRenderer.h"
 
 #include <QGuiApplication>
@@ -58,7 +59,7 @@ QIconEngine* SymbolIconEngine::clone() const
 
 QString SymbolIconEngine::key() const
 {
-    return QStringLiteral("AbissoraSymbol");
+    return u"AbissoraSymbol"_s;
 }
 
 QString SymbolIconEngine::iconName()

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "ForeignText.h"
+
+#include "Literals.h"
+
+namespace abissora {
+
+namespace {
+
+constexpr qsizetype longestVersion = 80;
+
+bool isShown(char32_t character)
+{
+    if (character == U'\n' || character == U'\t')
+        return true;
+    const bool turnsDirection =
+        (character >= 0x202A && character <= 0x202E) || (character >= 0x2066 && character <= 0x2069);
+    return !turnsDirection && !QChar::isNonCharacter(character) && QChar::category(character) != QChar::Other_Control;
+}
+
+QString shortened(const QString& text, qsizetype longest)
+{
+    if (text.size() <= longest)
+        return text;
+    const bool cutsPair = text.at(longest - 1).isHighSurrogate();
+    return text.left(cutsPair ? longest - 1 : longest) + QChar(0x2026);
+}
+
+} // namespace
+
+QString shownText(const QString& text, qsizetype longest)
+{
+    QString lines = shortened(text, longest);
+    lines.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
+    std::u32string characters = lines.toStdU32String();
+    std::erase_if(characters, [](char32_t character) { return !isShown(character); });
+    return QString::fromStdU32String(characters);
+}
+
+QString shownLine(const QString& text, qsizetype longest)
+{
+    return shownText(shortened(text, longest).simplified(), longest);
+}
+
+QString shownRelease(const UpdateInfo& update)
+{
+    UpdateInfo shown = update;
+    shown.version = shownLine(update.version, longestVersion);
+    return shown.versionAndBuild();
+}
+
+} // namespace abissora

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "AboutView.h"
+#include "AppWindows.h"
+#include "HelpView.h"
+#include "Literals.h"
+#include "ScreenFixture.h"
+#include "TestRunner.h"
+#include "UpdateView.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEvent>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+UpdateInfo release(const QString& version)
+{
+    UpdateInfo update;
+    update.version = version;
+    update.build = 57;
+    update.downloadURL = QUrl(u"https://abissora.example/"_s + version);
+    return update;
+}
+
+/// The visible windows whose content is a View.
+template <typename View>
+QList<QWidget*> windowsOf()
+{
+    QList<QWidget*> found;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->findChild<View*>() != nullptr)
+            found.append(window);
+    return found;
+}
+
+void deleteClosed()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace
+
+class tst_AppWindows : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void thereIsOneAboutWindow()
+    {
+        ScreenFixture f;
+        AppWindows windows(f.context);
+        windows.openAbout();
+        QCOMPARE(windowsOf<AboutView>().size(), 1);
+        QWidget* about = windowsOf<AboutView>().first();
+        QCOMPARE(about->windowTitle(), u"Informazioni su Abissora"_s);
+        QVERIFY(about->windowFlags() & Qt::FramelessWindowHint);
+        QCOMPARE(about->size(), about->sizeHint());
+        about->setWindowState(Qt::WindowMinimized);
+        windows.openAbout();
+        QCOMPARE(windowsOf<AboutView>(), QList<QWidget*>({about}));
+        QVERIFY(!about->isMinimized());
+    }
+
+    void thereIsOneHelpWindow()
+    {
+        ScreenFixture f;
+        AppWindows windows(f.context);
+        windows.openHelp();
+        windows.openHelp();
+        QCOMPARE(windowsOf<HelpView>().size(), 1);
+        const QWidget* help = windowsOf<HelpView>().first();
+        QCOMPARE(help->windowTitle(), u"Aiuto"_s);
+        QCOMPARE(help->minimumSize(), QSize(880, 640));
+        QVERIFY(!(help->windowFlags() & Qt::FramelessWindowHint));
+    }
+
+    void thereIsOneUpdateWindowForEachOffer()
+    {
+        ScreenFixture f;
+        AppWindows windows(f.context);
+        windows.openUpdate(release(u"1.3.0"_s));
+        windows.openUpdate(release(u"1.3.0"_s));
+        QCOMPARE(windowsOf<UpdateView>().size(), 1);
+        QCOMPARE(windowsOf<UpdateView>().first()->windowTitle(), u"Aggiornamento disponibile"_s);
+        windows.openUpdate(release(u"1.4.0"_s));
+        QCOMPARE(windowsOf<UpdateView>().size(), 2);
+        UpdateInfo withNotes = release(u"1.4.0"_s);
+        withNotes.releaseNotes = u"Novità"_s;
+        windows.openUpdate(withNotes);
+        QCOMPARE(windowsOf<UpdateView>().size(), 3);
+    }
+
+    void theOfferClosesItsWindow()
+    {
+        ScreenFixture f;
+        AppWindows windows(f.context);
+        windows.openUpdate(release(u"1.3.0"_s));
+        Q_EMIT windowsOf<UpdateView>().first()->findChild<UpdateView*>()->closeRequested();
+        QVERIFY(windowsOf<UpdateView>().isEmpty());
+        deleteClosed();
+        windows.openUpdate(release(u"1.3.0"_s));
+        QCOMPARE(windowsOf<UpdateView>().size(), 1);
+    }
+
+    void aClosedWindowOpensAgain_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+        QTest::newRow("Escape") << int(Qt::Key_Escape) << Qt::KeyboardModifiers(Qt::NoModifier);
+        QTest::newRow("Ctrl+W") << int(Qt::Key_W) << Qt::KeyboardModifiers(Qt::ControlModifier);
+    }
+
+    void aClosedWindowOpensAgain()
+    {
+        QFETCH(const int, key);
+        QFETCH(const Qt::KeyboardModifiers, modifiers);
+        ScreenFixture f;
+        AppWindows windows(f.context);
+        windows.openAbout();
+        QCoreApplication::processEvents();
+        QTest::keyClick(windowsOf<AboutView>().first(), static_cast<Qt::Key>(key), modifiers);
+        QVERIFY(windowsOf<AboutView>().isEmpty());
+        deleteClosed();
+        windows.openAbout();
+        QCOMPARE(windowsOf<AboutView>().size(), 1);
+        QTest::mouseClick(windowsOf<AboutView>().first()->findChild<QAbstractButton*>(u"closeWindow"_s),
+                          Qt::LeftButton);
+        QVERIFY(windowsOf<AboutView>().isEmpty());
+    }
+
+    void theyStandOverTheMainWindow()
+    {
+        ScreenFixture f;
+        QWidget main;
+        main.setGeometry(100, 50, 1000, 700);
+        main.show();
+        AppWindows windows(f.context);
+        windows.setMainWindow(&main);
+        windows.openHelp();
+        const QPoint distance = windowsOf<HelpView>().first()->geometry().center() - main.geometry().center();
+        QVERIFY2(distance.manhattanLength() <= 8, qPrintable(u"%1 %2"_s.arg(distance.x()).arg(distance.y())));
+    }
+
+    void allCloseTogether()
+    {
+        ScreenFixture f;
+        AppWindows windows(f.context);
+        windows.openAbout();
+        windows.openHelp();
+        windows.openUpdate(release(u"1.3.0"_s));
+        windows.closeAll();
+        for (const QWidget* window : QApplication::topLevelWidgets())
+            QVERIFY2(!window->isVisible(), qPrintable(window->windowTitle()));
+    }
+};
+
+ABISSORA_TEST(tst_AppWindows);
+#include "tst_AppWindows.moc"
