@@ -39,10 +39,12 @@ class Fixtures(unittest.TestCase):
 
     def test_length(self):
         with tempfile.TemporaryDirectory() as folder:
-            Path(folder, "Short.cpp").write_text("\n" * style.LONGEST_FILE, encoding="utf-8")
-            Path(folder, "Long.cpp").write_text("\n" * (style.LONGEST_FILE + 1), encoding="utf-8")
+            for place, longest in ((".", style.LONGEST_FILE), ("src", style.LONGEST_SOURCE)):
+                Path(folder, place).mkdir(exist_ok=True)
+                Path(folder, place, "Short.cpp").write_text("\n" * longest, encoding="utf-8")
+                Path(folder, place, "Long.cpp").write_text("\n" * (longest + 1), encoding="utf-8")
             findings = RULES["length"].findings(Tree(folder))
-        self.assertEqual([finding.path for finding in findings], [Path("Long.cpp")])
+        self.assertEqual([finding.path for finding in findings], [Path("Long.cpp"), Path("src/Long.cpp")])
 
 
 class Reading(unittest.TestCase):
