@@ -5,7 +5,7 @@
 
 namespace abissora {
 
-QList<ProgramFact> programFacts(const AppInfo& info, const Product& product)
+QList<ProgramFact> ProgramFacts::all() const
 {
     const QString& author = product.author;
     return {

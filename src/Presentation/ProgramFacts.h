@@ -12,7 +12,14 @@ struct ProgramFact
     QString value;
 };
 
-/// Version, date of the build, author and copyright, as they are at the moment of the call.
-[[nodiscard]] QList<ProgramFact> programFacts(const AppInfo& info, const Product& product);
+/// What the program says of itself. Both references must outlive it.
+struct ProgramFacts
+{
+    const AppInfo& info;
+    const Product& product;
+
+    /// Version, date of the build, author and copyright, as they are at the moment of the call.
+    [[nodiscard]] QList<ProgramFact> all() const;
+};
 
 } // namespace abissora

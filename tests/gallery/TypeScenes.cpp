@@ -34,18 +34,18 @@ std::unique_ptr<Management> many(test::ScreenFixture& f)
     }
     types[0].name = u"Erogatore di riserva per immersioni in acque fredde con primo stadio a membrana "_s.repeated(3);
     f.types.setTypes(types);
-    return std::make_unique<Management>(f.context);
+    return std::make_unique<Management>(f.types, f.ids);
 }
 
 std::unique_ptr<EquipmentTypeFormView> newType(test::ScreenFixture& f)
 {
-    return std::make_unique<EquipmentTypeFormView>(f.context, std::nullopt);
+    return std::make_unique<EquipmentTypeFormView>(f.types, f.ids, std::nullopt);
 }
 
 std::unique_ptr<EquipmentTypeFormView> editedType(test::ScreenFixture& f)
 {
     return std::make_unique<EquipmentTypeFormView>(
-        f.context, EquipmentTypeModel{{}, u"Boa segnasub"_s, u"dive.compass"_s, u"orange"_s, 365, true});
+        f.types, f.ids, EquipmentTypeModel{{}, u"Boa segnasub"_s, u"dive.compass"_s, u"orange"_s, 365, true});
 }
 
 std::unique_ptr<QWidget> deletion()
@@ -62,9 +62,9 @@ QList<Scene> typeScenes()
 {
     using Fixture = test::ScreenFixture;
     return {
-        form(u"types"_s, [](Fixture& f) { return std::make_unique<Management>(f.context); }),
+        form(u"types"_s, [](Fixture& f) { return std::make_unique<Management>(f.types, f.ids); }),
         form(u"types-nothing-found"_s,
-             [](Fixture& f) { return searched(std::make_unique<Management>(f.context), u"boa"_s); }),
+             [](Fixture& f) { return searched(std::make_unique<Management>(f.types, f.ids), u"boa"_s); }),
         form(u"types-many"_s, many),
         form(u"type-form-new"_s, newType),
         form(u"type-form-edit"_s, editedType),

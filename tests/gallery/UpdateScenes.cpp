@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AboutView.h"
 #include "Literals.h"
+#include "ProgramFacts.h"
 #include "ScreenStage.h"
 #include "UpdateView.h"
 
@@ -16,7 +17,7 @@ Scene offer(const QString& name, const QString& version, const std::optional<QSt
 {
     return form(name, [=](test::ScreenFixture& fixture) {
         const UpdateInfo update{version, 57, QUrl(u"https://abissora.example/scarica"_s), notes};
-        return std::make_unique<UpdateView>(fixture.context, update);
+        return std::make_unique<UpdateView>(update, fixture.product.websiteURL, fixture.opener);
     });
 }
 
@@ -26,7 +27,10 @@ QList<Scene> updateScenes()
 {
     const QString line = u"Una riga di novità abbastanza lunga da andare a capo nella finestra. "_s;
     return {
-        form(u"about"_s, [](test::ScreenFixture& fixture) { return std::make_unique<AboutView>(fixture.context); }),
+        form(u"about"_s,
+             [](test::ScreenFixture& fixture) {
+                 return std::make_unique<AboutView>(ProgramFacts{fixture.info, fixture.product});
+             }),
         offer(u"update"_s, u"1.3.0"_s, someNotes),
         offer(u"update-without-notes"_s, u"1.3.0"_s, std::nullopt),
         offer(u"update-long-notes"_s, u"1.3.0"_s, line.repeated(40)),

@@ -19,11 +19,11 @@ namespace {
 constexpr int contentWidth = 400;
 constexpr int iconSide = 104;
 
-Card* makeRows(const AppContext& context)
+Card* makeRows(const ProgramFacts& program)
 {
     auto* card = new Card;
     card->content()->setSpacing(metrics::spaceS - 2);
-    for (const ProgramFact& fact : programFacts(context.info, context.product)) {
+    for (const ProgramFact& fact : program.all()) {
         if (!card->findChildren<SettingsInfoRow*>().isEmpty())
             card->content()->addWidget(new Separator(Separator::Weight::Divider));
         auto* row = new SettingsInfoRow(fact.label, &Tokens::secondaryText, TextStyle::Callout);
@@ -35,7 +35,7 @@ Card* makeRows(const AppContext& context)
 
 } // namespace
 
-AboutView::AboutView(const AppContext& context, QWidget* parent)
+AboutView::AboutView(const ProgramFacts& program, QWidget* parent)
     : QWidget(parent)
 {
     setObjectName(u"aboutView"_s);
@@ -50,7 +50,7 @@ AboutView::AboutView(const AppContext& context, QWidget* parent)
     layout->addWidget(name, 0, Qt::AlignHCenter);
     layout->addWidget(subtitle, 0, Qt::AlignHCenter);
     layout->addSpacing(metrics::spaceL);
-    layout->addWidget(makeRows(context));
+    layout->addWidget(makeRows(program));
     layout->addStretch();
     setMinimumWidth(withText(contentWidth, fontMetrics()));
 }

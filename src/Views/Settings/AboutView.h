@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
-
 #include <QWidget>
 
 namespace abissora {
+
+struct ProgramFacts;
 
 /// What the program is and who made it; as large as it needs to be. Read when it is made.
 class AboutView : public QWidget
@@ -13,7 +13,7 @@ class AboutView : public QWidget
     Q_OBJECT
 
 public:
-    explicit AboutView(const AppContext& context, QWidget* parent = nullptr);
+    explicit AboutView(const ProgramFacts& program, QWidget* parent = nullptr);
 
 protected:
     /// Takes the focus, so that no value looks chosen.

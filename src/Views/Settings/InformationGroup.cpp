@@ -5,7 +5,6 @@
 #include "Literals.h"
 #include "Metrics.h"
 #include "PageOpening.h"
-#include "ProgramFacts.h"
 #include "SettingsInfoRow.h"
 #include "WrapLabel.h"
 
@@ -13,19 +12,20 @@
 
 namespace abissora {
 
-InformationGroup::InformationGroup(const AppContext& context, QWidget* parent)
+InformationGroup::InformationGroup(const ProgramFacts& program, EquipmentTypeViewModel& types, Opener& opener,
+                                   QWidget* parent)
     : SettingsGroupBox(u"Informazioni"_s, u"info.circle"_s, parent)
-    , m_context(context)
-    , m_types(nullptr)
+    , m_program(program)
+    , m_types(types)
     , m_update([this] { redraw(); })
 {
-    for (const ProgramFact& fact : programFacts(context.info, context.product))
+    for (const ProgramFact& fact : program.all())
         m_facts.append(addRow(fact.label));
-    m_types = addRow(u"Tipologie disponibili"_s);
+    m_available = addRow(u"Tipologie disponibili"_s);
     content()->addWidget(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText,
                                        u"Icone: Game Icons (CC BY 3.0), MDI, Icon-Park, Lucide"_s));
-    content()->addLayout(makeWebsiteLine());
-    connect(&context.types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
+    content()->addLayout(makeWebsiteLine(opener));
+    connect(&types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
     redraw();
 }
 
@@ -36,14 +36,14 @@ SettingsInfoRow* InformationGroup::addRow(const QString& label)
     return row;
 }
 
-QLayout* InformationGroup::makeWebsiteLine()
+QLayout* InformationGroup::makeWebsiteLine(Opener& opener)
 {
-    const QUrl address = m_context.product.websiteURL;
+    const QUrl address = m_program.product.websiteURL;
     const QString caption = u"— sito dell'applicazione"_s;
     auto* link = new LinkButton(address.host());
     link->setObjectName(u"website"_s);
     link->setAccessibleDescription(caption);
-    connect(link, &QAbstractButton::clicked, this, [this, address] { openPage(address, m_context.opener, *this); });
+    connect(link, &QAbstractButton::clicked, this, [this, address, &opener] { openPage(address, opener, *this); });
     auto* line = new QHBoxLayout;
     line->setSpacing(0);
     line->addSpacing(-metrics::spaceXS); // the link's own padding
@@ -60,10 +60,10 @@ void InformationGroup::showEvent(QShowEvent* event)
 
 void InformationGroup::redraw()
 {
-    const QList<ProgramFact> facts = programFacts(m_context.info, m_context.product);
+    const QList<ProgramFact> facts = m_program.all();
     for (qsizetype i = 0; i < facts.size(); ++i)
         m_facts.at(i)->setValue(facts.at(i).value);
-    m_types->setValue(QString::number(m_context.types.filteredTypes().size()));
+    m_available->setValue(QString::number(m_types.filteredTypes().size()));
 }
 
 } // namespace abissora

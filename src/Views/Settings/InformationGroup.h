@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
 #include "CoalescedUpdate.h"
+#include "EquipmentTypeViewModel.h"
+#include "ProgramFacts.h"
 #include "SettingsGroupBox.h"
 
 namespace abissora {
 
+class Opener;
 class SettingsInfoRow;
 
 /// What the program says of itself, its credits and its website.
@@ -15,19 +17,22 @@ class InformationGroup : public SettingsGroupBox
     Q_OBJECT
 
 public:
-    explicit InformationGroup(const AppContext& context, QWidget* parent = nullptr);
+    /// All that it is given must outlive it.
+    InformationGroup(const ProgramFacts& program, EquipmentTypeViewModel& types, Opener& opener,
+                     QWidget* parent = nullptr);
 
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
     SettingsInfoRow* addRow(const QString& label);
-    [[nodiscard]] QLayout* makeWebsiteLine();
+    [[nodiscard]] QLayout* makeWebsiteLine(Opener& opener);
     void redraw();
 
-    AppContext m_context;
+    ProgramFacts m_program;
+    EquipmentTypeViewModel& m_types;
     QList<SettingsInfoRow*> m_facts;
-    SettingsInfoRow* m_types;
+    SettingsInfoRow* m_available = nullptr;
     CoalescedUpdate m_update;
 };
 

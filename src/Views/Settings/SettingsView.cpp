@@ -27,10 +27,16 @@ constexpr int headerIconSide = 32;
 
 } // namespace
 
-SettingsView::SettingsView(const AppContext& context, QWidget* parent)
+SettingsView::SettingsView(SettingsViewModel& settings, EquipmentTypeViewModel& types, UpdateCheckerViewModel& updates,
+                           const ProgramFacts& program, IdGenerator& ids, Opener& opener, QWidget* parent)
     : QScrollArea(parent)
-    , m_context(context)
-    , m_updates(new UpdatesGroup(context.settings, context.updates))
+    , m_settings(settings)
+    , m_types(types)
+    , m_updates(updates)
+    , m_program(program)
+    , m_ids(ids)
+    , m_opener(opener)
+    , m_updatesGroup(new UpdatesGroup(settings, updates))
 {
     setObjectName(u"settings"_s);
     setAccessibleName(u"Impostazioni"_s);
@@ -58,7 +64,7 @@ SettingsView::SettingsView(const AppContext& context, QWidget* parent)
     page->setAutoFillBackground(false);
     viewport()->setAutoFillBackground(false);
 
-    connect(&context.updates, &UpdateCheckerViewModel::availableUpdateChanged, this, &SettingsView::offerUpdate);
+    connect(&updates, &UpdateCheckerViewModel::availableUpdateChanged, this, &SettingsView::offerUpdate);
 }
 
 QWidget* SettingsView::makeHeader()
@@ -77,7 +83,7 @@ QWidget* SettingsView::makeHeader()
 
 void SettingsView::addGroups(QVBoxLayout* groups)
 {
-    auto* types = new TypesGroup(m_context.types);
+    auto* types = new TypesGroup(m_types);
     connect(types, &TypesGroup::manageRequested, this, &SettingsView::manageTypes);
 
     auto* help = new SettingsGroupBox(u"Aiuto"_s, u"book"_s);
@@ -96,12 +102,12 @@ void SettingsView::addGroups(QVBoxLayout* groups)
     connect(reset, &QAbstractButton::clicked, this, &SettingsView::resetToDefaults);
 
     groups->addWidget(types);
-    groups->addWidget(new NotificationsGroup(m_context.settings));
-    groups->addWidget(m_updates);
-    groups->addWidget(new GeneralGroup(m_context.settings));
-    groups->addWidget(new AppearanceGroup(m_context.settings));
+    groups->addWidget(new NotificationsGroup(m_settings));
+    groups->addWidget(m_updatesGroup);
+    groups->addWidget(new GeneralGroup(m_settings));
+    groups->addWidget(new AppearanceGroup(m_settings));
     groups->addWidget(help);
-    groups->addWidget(new InformationGroup(m_context));
+    groups->addWidget(new InformationGroup(m_program, m_types, m_opener));
     groups->addWidget(restore);
 }
 
@@ -117,32 +123,32 @@ bool SettingsView::showingHelp() const
 
 void SettingsView::manageTypes()
 {
-    openSheet(new EquipmentTypeManagementView(m_context, window()));
+    openSheet(new EquipmentTypeManagementView(m_types, m_ids, window()));
 }
 
 void SettingsView::showHelp()
 {
-    openSheet(new HelpSheet(m_context.opener, window()));
+    openSheet(new HelpSheet(m_opener, window()));
 }
 
 void SettingsView::offerUpdate()
 {
-    const std::optional<UpdateInfo>& update = m_context.updates.availableUpdate();
+    const std::optional<UpdateInfo>& update = m_updates.availableUpdate();
     auto* const offer = qobject_cast<UpdateSheet*>(m_sheet);
     const bool isCovered = m_sheet && m_sheet->isVisible();
     if (!update && offer != nullptr) {
         offer->close();
     } else if (update && !isCovered && isVisible()) {
-        auto* sheet = new UpdateSheet(m_context, *update, window());
-        connect(sheet, &QDialog::finished, &m_context.updates, &UpdateCheckerViewModel::clearAvailableUpdate);
+        auto* sheet = new UpdateSheet(*update, m_program.product.websiteURL, m_opener, window());
+        connect(sheet, &QDialog::finished, &m_updates, &UpdateCheckerViewModel::clearAvailableUpdate);
         openSheet(sheet);
     }
 }
 
 void SettingsView::resetToDefaults()
 {
-    m_context.settings.resetToDefaults();
-    m_context.types.resetToDefaults();
+    m_settings.resetToDefaults();
+    m_types.resetToDefaults();
 }
 
 void SettingsView::openSheet(SheetWindow* sheet)
@@ -165,7 +171,7 @@ void SettingsView::showEvent(QShowEvent* event)
 void SettingsView::hideEvent(QHideEvent* event)
 {
     if (!event->spontaneous())
-        m_updates->forgetFeedback();
+        m_updatesGroup->forgetFeedback();
     QScrollArea::hideEvent(event);
 }
 

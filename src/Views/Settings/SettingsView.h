@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
+#include "ProgramFacts.h"
 
 #include <QPointer>
 #include <QScrollArea>
@@ -10,7 +10,12 @@ class QVBoxLayout;
 
 namespace abissora {
 
+class EquipmentTypeViewModel;
+class IdGenerator;
+class Opener;
+class SettingsViewModel;
 class SheetWindow;
+class UpdateCheckerViewModel;
 class UpdatesGroup;
 
 /// The settings, in groups below one another. Every control stores its value at once.
@@ -19,7 +24,9 @@ class SettingsView : public QScrollArea
     Q_OBJECT
 
 public:
-    explicit SettingsView(const AppContext& context, QWidget* parent = nullptr);
+    /// All that it is given must outlive it.
+    SettingsView(SettingsViewModel& settings, EquipmentTypeViewModel& types, UpdateCheckerViewModel& updates,
+                 const ProgramFacts& program, IdGenerator& ids, Opener& opener, QWidget* parent = nullptr);
 
     [[nodiscard]] bool showingTypeManagement() const;
     [[nodiscard]] bool showingHelp() const;
@@ -37,8 +44,13 @@ private:
     void resetToDefaults();
     void openSheet(SheetWindow* sheet);
 
-    AppContext m_context;
-    UpdatesGroup* m_updates;
+    SettingsViewModel& m_settings;
+    EquipmentTypeViewModel& m_types;
+    UpdateCheckerViewModel& m_updates;
+    ProgramFacts m_program;
+    IdGenerator& m_ids;
+    Opener& m_opener;
+    UpdatesGroup* m_updatesGroup;
     QPointer<SheetWindow> m_sheet;
 };
 

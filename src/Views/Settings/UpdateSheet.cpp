@@ -9,9 +9,9 @@
 
 namespace abissora {
 
-UpdateSheet::UpdateSheet(const AppContext& context, const UpdateInfo& update, QWidget* parent)
+UpdateSheet::UpdateSheet(const UpdateInfo& update, const QUrl& website, Opener& opener, QWidget* parent)
     : SheetWindow(parent)
-    , m_view(new UpdateView(context, update))
+    , m_view(new UpdateView(update, website, opener))
 {
     setWindowTitle(u"Aggiornamento disponibile"_s);
     auto* layout = new QVBoxLayout(this);

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
 #include "SheetWindow.h"
+
+class QUrl;
 
 namespace abissora {
 
+class Opener;
 class UpdateView;
+struct UpdateInfo;
 
 /// The update offer over the settings.
 class UpdateSheet : public SheetWindow
@@ -14,7 +17,7 @@ class UpdateSheet : public SheetWindow
     Q_OBJECT
 
 public:
-    UpdateSheet(const AppContext& context, const UpdateInfo& update, QWidget* parent);
+    UpdateSheet(const UpdateInfo& update, const QUrl& website, Opener& opener, QWidget* parent);
 
 protected:
     [[nodiscard]] QSize preferredSize() const override;

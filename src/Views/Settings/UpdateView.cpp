@@ -33,11 +33,11 @@ bool opensInBrowser(const QUrl& url)
 
 } // namespace
 
-UpdateView::UpdateView(const AppContext& context, const UpdateInfo& update, QWidget* parent)
+UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& opener, QWidget* parent)
     : QWidget(parent)
     , m_update(update)
-    , m_opener(context.opener)
-    , m_address(opensInBrowser(update.downloadURL) ? update.downloadURL : context.product.websiteURL)
+    , m_opener(opener)
+    , m_address(opensInBrowser(update.downloadURL) ? update.downloadURL : website)
     , m_download(new PrimaryButton(u"Scarica la nuova versione"_s))
 {
     setObjectName(u"updateView"_s);

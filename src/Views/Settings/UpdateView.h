@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
+#include "UpdateInfo.h"
 
 #include <QWidget>
 
 namespace abissora {
 
 class GroupBox;
+class Opener;
 class PrimaryButton;
 
 /// Offers a newer release, in a window or a sheet of its own. Everything the release says is shown as plain text.
@@ -16,7 +17,8 @@ class UpdateView : public QWidget
     Q_OBJECT
 
 public:
-    UpdateView(const AppContext& context, const UpdateInfo& update, QWidget* parent = nullptr);
+    /// `website` is opened when the release names no web page of its own; `opener` must outlive it.
+    UpdateView(const UpdateInfo& update, const QUrl& website, Opener& opener, QWidget* parent = nullptr);
 
     [[nodiscard]] const UpdateInfo& update() const { return m_update; }
 

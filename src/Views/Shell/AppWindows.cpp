@@ -5,6 +5,7 @@
 #include "BringForward.h"
 #include "HelpWindow.h"
 #include "Literals.h"
+#include "ProgramFacts.h"
 #include "TitlelessWindow.h"
 #include "UpdateView.h"
 
@@ -26,7 +27,8 @@ AppWindows::~AppWindows()
 void AppWindows::openAbout()
 {
     if (!m_about) {
-        m_about = new TitlelessWindow(u"Informazioni su Abissora"_s, new AboutView(m_context));
+        m_about =
+            new TitlelessWindow(u"Informazioni su Abissora"_s, new AboutView({m_context.info, m_context.product}));
         m_about->setObjectName(u"aboutWindow"_s);
     }
     bringForward(*m_about, m_mainWindow);
@@ -43,7 +45,7 @@ void AppWindows::openUpdate(const UpdateInfo& update)
 {
     QPointer<QWidget>& window = m_updates[update];
     if (!window) {
-        auto* view = new UpdateView(m_context, update);
+        auto* view = new UpdateView(update, m_context.product.websiteURL, m_context.opener);
         window = new TitlelessWindow(u"Aggiornamento disponibile"_s, view);
         window->setObjectName(u"updateWindow"_s);
         connect(view, &UpdateView::closeRequested, window, &QWidget::close);

@@ -199,7 +199,8 @@ void ContentView::showPage()
 {
     if (m_sidebar->selectedSidebarItem() == sidebar::settings) {
         if (!m_settings) {
-            m_settings = new SettingsView(m_context);
+            m_settings = new SettingsView(m_context.settings, m_context.types, m_context.updates,
+                                          {m_context.info, m_context.product}, m_context.ids, m_context.opener);
             m_pages->addWidget(m_settings);
         }
         m_pages->setCurrentWidget(m_settings);

@@ -3,10 +3,12 @@
 
 #include "Buttons.h"
 #include "ColorChoice.h"
+#include "EquipmentTypeViewModel.h"
 #include "FormRow.h"
 #include "GroupBox.h"
 #include "IconGrid.h"
 #include "IconPicker.h"
+#include "IdGenerator.h"
 #include "InkLabel.h"
 #include "Literals.h"
 #include "Metrics.h"
@@ -40,10 +42,11 @@ FormRow* row(const QString& label, QWidget* field)
 
 } // namespace
 
-EquipmentTypeFormView::EquipmentTypeFormView(const AppContext& context,
+EquipmentTypeFormView::EquipmentTypeFormView(EquipmentTypeViewModel& types, IdGenerator& ids,
                                              const std::optional<EquipmentTypeModel>& editingType, QWidget* parent)
     : Sheet(editingType ? u"Modifica Tipologia"_s : u"Nuova Tipologia"_s, parent)
-    , m_context(context)
+    , m_types(types)
+    , m_ids(ids)
     , m_editingType(editingType)
     , m_name(new QLineEdit)
     , m_invalidName(new InkLabel(TextStyle::Caption, &Tokens::danger, u"Inserisci un nome valido"_s))
@@ -141,9 +144,9 @@ void EquipmentTypeFormView::save()
 {
     const EquipmentTypeFormState entered = state();
     if (m_editingType)
-        m_context.types.updateType(entered.toType(m_editingType->id));
+        m_types.updateType(entered.toType(m_editingType->id));
     else
-        m_context.types.addType(entered.toType(m_context.ids.next()));
+        m_types.addType(entered.toType(m_ids.next()));
     accept();
 }
 

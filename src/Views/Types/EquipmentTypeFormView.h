@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
 #include "EquipmentTypeFormState.h"
 #include "Sheet.h"
 
@@ -10,8 +9,10 @@ class QLineEdit;
 namespace abissora {
 
 class ColorChoice;
+class EquipmentTypeViewModel;
 class GroupBox;
 class IconPicker;
+class IdGenerator;
 class InkLabel;
 class Stepper;
 class TypePreview;
@@ -23,8 +24,9 @@ class EquipmentTypeFormView final : public Sheet
     Q_OBJECT
 
 public:
-    EquipmentTypeFormView(const AppContext& context, const std::optional<EquipmentTypeModel>& editingType,
-                          QWidget* parent = nullptr);
+    /// Both references must outlive it.
+    EquipmentTypeFormView(EquipmentTypeViewModel& types, IdGenerator& ids,
+                          const std::optional<EquipmentTypeModel>& editingType, QWidget* parent = nullptr);
 
 private:
     [[nodiscard]] GroupBox* makeBasics();
@@ -36,7 +38,8 @@ private:
     void refresh();
     void save();
 
-    AppContext m_context;
+    EquipmentTypeViewModel& m_types;
+    IdGenerator& m_ids;
     std::optional<EquipmentTypeModel> m_editingType;
 
     QLineEdit* m_name;

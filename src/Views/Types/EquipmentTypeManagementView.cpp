@@ -26,9 +26,11 @@ constexpr int searchWidth = 220;
 
 } // namespace
 
-EquipmentTypeManagementView::EquipmentTypeManagementView(const AppContext& context, QWidget* parent)
+EquipmentTypeManagementView::EquipmentTypeManagementView(EquipmentTypeViewModel& types, IdGenerator& ids,
+                                                         QWidget* parent)
     : Sheet(u"Gestione Tipologie"_s, parent)
-    , m_context(context)
+    , m_types(types)
+    , m_ids(ids)
     , m_update([this] { redraw(); })
     , m_search(new SearchField(u"Cerca..."_s))
     , m_add(new PrimaryButton(u"Nuova Tipologia"_s))
@@ -79,7 +81,7 @@ QWidget* EquipmentTypeManagementView::makeContent()
 
 void EquipmentTypeManagementView::connectControls()
 {
-    connect(&m_context.types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
+    connect(&m_types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
     // A screen reader or a dictation sets the text, which is no edit to the field.
     connect(m_search, &SearchField::textChanged, this, &EquipmentTypeManagementView::redraw);
     connect(m_add, &QAbstractButton::clicked, this, [this] { openForm(std::nullopt); });
@@ -89,13 +91,13 @@ void EquipmentTypeManagementView::connectControls()
         m_search->setFocus(Qt::OtherFocusReason);
         m_search->clear();
     });
-    connect(m_reset, &QAbstractButton::clicked, &m_context.types, &EquipmentTypeViewModel::resetToDefaults);
+    connect(m_reset, &QAbstractButton::clicked, &m_types, &EquipmentTypeViewModel::resetToDefaults);
 }
 
 QList<EquipmentTypeModel> EquipmentTypeManagementView::filteredTypes() const
 {
     const TextSearch search(m_search->text());
-    QList<EquipmentTypeModel> types = m_context.types.filteredTypes();
+    QList<EquipmentTypeModel> types = m_types.filteredTypes();
     types.removeIf([&search](const EquipmentTypeModel& type) { return !search.foundIn(type.name); });
     return types;
 }
@@ -110,7 +112,7 @@ void EquipmentTypeManagementView::redraw()
     if (shown.isEmpty() && focusWasInTheList)
         m_search->setFocus(Qt::OtherFocusReason);
 
-    const QList<EquipmentTypeModel>& all = m_context.types.types();
+    const QList<EquipmentTypeModel>& all = m_types.types();
     const auto active =
         std::count_if(all.begin(), all.end(), [](const EquipmentTypeModel& type) { return type.isActive; });
     m_count->setText(u"%1 tipologie attive"_s.arg(active));
@@ -118,7 +120,7 @@ void EquipmentTypeManagementView::redraw()
 
 void EquipmentTypeManagementView::openForm(const std::optional<EquipmentTypeModel>& selectedType)
 {
-    auto* form = new EquipmentTypeFormView(m_context, selectedType, this);
+    auto* form = new EquipmentTypeFormView(m_types, m_ids, selectedType, this);
     form->setAttribute(Qt::WA_DeleteOnClose);
     form->open();
 }
@@ -129,7 +131,7 @@ void EquipmentTypeManagementView::confirmDeletion(const EquipmentTypeModel& type
     alert->setAttribute(Qt::WA_DeleteOnClose);
     alert->setTitle(u"Conferma Eliminazione"_s);
     alert->setMessage(deletionQuestion(typeToDelete));
-    connect(alert, &QDialog::accepted, this, [this, typeToDelete] { m_context.types.deleteType(typeToDelete); });
+    connect(alert, &QDialog::accepted, this, [this, typeToDelete] { m_types.deleteType(typeToDelete); });
     alert->open();
 }
 

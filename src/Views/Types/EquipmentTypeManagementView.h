@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
 #include "CoalescedUpdate.h"
+#include "EquipmentTypeViewModel.h"
 #include "Sheet.h"
 
 class QStackedWidget;
@@ -10,6 +10,7 @@ class QStackedWidget;
 namespace abissora {
 
 class EmptyState;
+class IdGenerator;
 class InkLabel;
 class PlainButton;
 class PrimaryButton;
@@ -22,7 +23,8 @@ class EquipmentTypeManagementView final : public Sheet
     Q_OBJECT
 
 public:
-    explicit EquipmentTypeManagementView(const AppContext& context, QWidget* parent = nullptr);
+    /// Both references must outlive it.
+    EquipmentTypeManagementView(EquipmentTypeViewModel& types, IdGenerator& ids, QWidget* parent = nullptr);
 
     /// What is asked before the type is deleted.
     [[nodiscard]] static QString deletionQuestion(const std::optional<EquipmentTypeModel>& typeToDelete);
@@ -36,7 +38,8 @@ private:
     void openForm(const std::optional<EquipmentTypeModel>& selectedType);
     void confirmDeletion(const EquipmentTypeModel& typeToDelete);
 
-    AppContext m_context;
+    EquipmentTypeViewModel& m_types;
+    IdGenerator& m_ids;
     CoalescedUpdate m_update;
 
     SearchField* m_search;

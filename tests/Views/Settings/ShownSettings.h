@@ -17,7 +17,7 @@ namespace abissora::test {
 struct ShownSettings
 {
     explicit ShownSettings(ScreenFixture& f, QSize size = {900, 1400})
-        : view(new SettingsView(f.context))
+        : view(new SettingsView(f.settings, f.types, f.updates, {f.info, f.product}, f.ids, f.opener))
     {
         auto* layout = new QVBoxLayout(&window);
         layout->setContentsMargins(0, 0, 0, 0);

@@ -2,6 +2,7 @@
 #include "AboutView.h"
 #include "ClippedTexts.h"
 #include "Literals.h"
+#include "ProgramFacts.h"
 #include "ScaledText.h"
 #include "ScreenFixture.h"
 #include "SettingsInfoRow.h"
@@ -32,7 +33,7 @@ private Q_SLOTS:
                                     QFileDevice::FileModificationTime));
         f.package.setExecutablePath(program.fileName());
 
-        const AboutView view(f.context);
+        const AboutView view({f.info, f.product});
         QStringList texts;
         for (const QLabel* label : view.findChildren<QLabel*>())
             texts.append(label->text());
@@ -46,14 +47,14 @@ private Q_SLOTS:
     {
         test::ScreenFixture f;
         f.package = {};
-        const AboutView view(f.context);
+        const AboutView view({f.info, f.product});
         QCOMPARE(rows(view).mid(0, 2), QStringList({u"Versione=— (build —)"_s, u"Data Build=—"_s}));
     }
 
     void valuesCanBeSelectedByKeyboardAndAreNamed()
     {
         test::ScreenFixture f;
-        AboutView view(f.context);
+        AboutView view({f.info, f.product});
         view.show();
         view.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&view));
@@ -78,7 +79,7 @@ private Q_SLOTS:
         for (const double factor : {1.0, 1.25}) {
             const test::ScaledText scaled(factor);
             test::ScreenFixture f;
-            AboutView view(f.context);
+            AboutView view({f.info, f.product});
             view.show();
             QVERIFY(QTest::qWaitForWindowExposed(&view));
             QCOMPARE(test::clippedTexts(view), QStringList());

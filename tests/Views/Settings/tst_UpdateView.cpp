@@ -30,7 +30,7 @@ UpdateInfo release(const std::optional<QString>& notes = u"• Ricerca nella gui
 struct Offer
 {
     explicit Offer(const UpdateInfo& update = release())
-        : view(f.context, update)
+        : view(update, f.product.websiteURL, f.opener)
         , closed(&view, &UpdateView::closeRequested)
     {
         view.show();

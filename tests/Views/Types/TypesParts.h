@@ -19,7 +19,7 @@ template <typename SheetClass>
 struct OpenSheet
 {
     template <typename... Arguments>
-    explicit OpenSheet(const Arguments&... arguments)
+    explicit OpenSheet(Arguments&&... arguments)
         : sheet((window.resize(1000, 700), window.show(), arguments)..., &window)
         , driver(sheet)
     {
@@ -45,7 +45,7 @@ void withLargerText(Check check)
 struct OpenManagement : OpenSheet<EquipmentTypeManagementView>
 {
     explicit OpenManagement(ScreenFixture& f)
-        : OpenSheet(f.context)
+        : OpenSheet(f.types, f.ids)
     {}
 
     QList<TypeRow*> rows() const
@@ -110,9 +110,14 @@ inline EquipmentTypeModel own(int id, const QString& name)
     return {SequentialIds::at(id), name, u"dive.reel"_s, u"teal"_s, 90, true};
 }
 
-/// The type form; given nothing it is for a new type.
-using TypeForm = OpenSheet<EquipmentTypeFormView>;
 inline const std::optional<EquipmentTypeModel> newType;
+
+struct TypeForm : OpenSheet<EquipmentTypeFormView>
+{
+    TypeForm(ScreenFixture& f, const std::optional<EquipmentTypeModel>& type)
+        : OpenSheet(f.types, f.ids, type)
+    {}
+};
 
 inline EquipmentTypeModel boa()
 {

@@ -30,7 +30,7 @@ private Q_SLOTS:
     void textsOfANewType()
     {
         ScreenFixture f;
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         QCOMPARE(o.sheet.windowTitle(), u"Nuova Tipologia"_s);
         QCOMPARE(o.sheet.windowModality(), Qt::WindowModal);
         const QStringList texts = visibleLabels(o.sheet);
@@ -50,7 +50,7 @@ private Q_SLOTS:
     void textsOfAnEditedType()
     {
         ScreenFixture f;
-        TypeForm o(f.context, std::optional(boa()));
+        TypeForm o(f, std::optional(boa()));
         QCOMPARE(o.sheet.windowTitle(), u"Modifica Tipologia"_s);
         QCOMPARE(o.driver.part<QLineEdit>("name").text(), u"Boa segnasub"_s);
         QCOMPARE(o.driver.part<ColorChoice>("color").selectedColor(), AvailableColors::orange);
@@ -62,7 +62,7 @@ private Q_SLOTS:
     void nothingJumpsWhileANameIsTyped()
     {
         ScreenFixture f;
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         const QPoint before = o.driver.part<Stepper>("interval").mapTo(&o.sheet, QPoint());
         o.driver.type("name", u"Boa"_s);
         QCoreApplication::processEvents();
@@ -72,7 +72,7 @@ private Q_SLOTS:
     void thePreviewIsLive()
     {
         ScreenFixture f;
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         const auto picture = [&o] { return o.driver.part<QWidget>("previewTile").grab().toImage(); };
         QImage last = picture();
         const auto changed = [&] { return std::exchange(last, picture()) != last; };
@@ -95,7 +95,7 @@ private Q_SLOTS:
     void thePreviewStaysInSight()
     {
         ScreenFixture f;
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         o.sheet.scrollArea()->verticalScrollBar()->setValue(o.sheet.scrollArea()->verticalScrollBar()->maximum());
         QCoreApplication::processEvents();
         const auto* preview = o.sheet.findChild<TypePreview*>();
@@ -107,7 +107,7 @@ private Q_SLOTS:
     void escapeClearsTheSearchFirst()
     {
         ScreenFixture f;
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         o.driver.type("iconSearch", u"bomb"_s);
         QTest::keyClick(&o.driver.part<SearchField>("iconSearch"), Qt::Key_Escape);
         QVERIFY(o.sheet.isVisible());
@@ -118,14 +118,14 @@ private Q_SLOTS:
     void tabFollowsTheReadingOrder()
     {
         ScreenFixture f;
-        TypeForm o(f.context, std::optional(boa()));
+        TypeForm o(f, std::optional(boa()));
         QCOMPARE(tabOrder(o.sheet).join(u' '), u"name interval orange iconSearch dive.compass cancel primary"_s);
     }
 
     void theKeyboardBringsIconsIntoSight()
     {
         ScreenFixture f;
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         cell(o, DivingIcons::regulator).setFocus(Qt::TabFocusReason);
         for (const auto& [key, icon] :
              {std::pair(Qt::Key_End, DivingIcons::spareParts), std::pair(Qt::Key_Home, DivingIcons::diveLight)}) {
@@ -139,7 +139,7 @@ private Q_SLOTS:
     void fieldsAreNamedByTheirLabels()
     {
         ScreenFixture f;
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         o.driver.type("name", u"Boa"_s);
         const QList<QPair<const char*, QString>> names{
             {"name", u"Nome Tipologia*"_s}, {"interval", u"Intervallo Tagliando"_s},
@@ -155,7 +155,7 @@ private Q_SLOTS:
     void theLabelsAreAsWideAsDrawn()
     {
         ScreenFixture f;
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         const auto left = [&o](const char* part) { return o.driver.part<QWidget>(part).mapTo(&o.sheet, QPoint()).x(); };
         QCOMPARE(left("name"), left("interval"));
         QCOMPARE(left("name"), left("color"));
@@ -180,7 +180,7 @@ private Q_SLOTS:
             type.name = u"Dispositivo di segnalazione di superficie"_s;
             type.serviceIntervalDays = 1234567;
             for (const auto& edited : {newType, std::optional(type)}) {
-                TypeForm o(f.context, edited);
+                TypeForm o(f, edited);
                 QCoreApplication::processEvents();
                 QCOMPARE(clippedTexts(o.sheet).join(u'|'), QString());
                 QVERIFY(o.sheet.width() < 1000 && o.sheet.height() < 700);

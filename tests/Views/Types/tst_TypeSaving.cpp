@@ -19,7 +19,7 @@ namespace {
 EquipmentTypeModel savedAs(ScreenFixture& f, const EquipmentTypeModel& type, const std::function<void(TypeForm&)>& edit)
 {
     f.types.setTypes(f.types.getDefaultTypes() + QList<EquipmentTypeModel>{type});
-    TypeForm form(f.context, std::optional(type));
+    TypeForm form(f, std::optional(type));
     edit(form);
     form.driver.save();
     if (form.sheet.isVisible())
@@ -41,7 +41,7 @@ private Q_SLOTS:
         ScreenFixture f;
         const QList<EquipmentTypeModel> before = f.types.types();
         const int ids = f.ids.count();
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         o.driver.type("name", u"Boa"_s);
         QTest::mouseClick(&o.driver.part<QAbstractButton>("teal"), Qt::LeftButton);
         QTest::mouseClick(&cell(o, DivingIcons::reel), Qt::LeftButton);
@@ -131,7 +131,7 @@ private Q_SLOTS:
     void twoTypesMayCarryOneName()
     {
         ScreenFixture f;
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         o.driver.type("name", u"GAV"_s);
         o.driver.save();
         QCOMPARE(f.types.types().size(), 17);
@@ -142,7 +142,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         const QList<EquipmentTypeModel> before = f.types.types();
-        TypeForm o(f.context, std::optional(boa()));
+        TypeForm o(f, std::optional(boa()));
         o.driver.save();
         QVERIFY(!o.sheet.isVisible());
         QCOMPARE(f.types.types(), before);
@@ -161,7 +161,7 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(bool, valid);
         ScreenFixture f;
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         o.driver.type("name", u"x"_s);
         o.driver.type("name", name);
         QCOMPARE(o.sheet.primaryButton()->isEnabled(), valid);
@@ -213,7 +213,7 @@ private Q_SLOTS:
         ScreenFixture f;
         const QList<EquipmentTypeModel> before = f.types.types();
         for (const bool byKey : {true, false}) {
-            TypeForm o(f.context, newType);
+            TypeForm o(f, newType);
             o.driver.type("name", u"Boa"_s);
             if (byKey)
                 QTest::keyClick(&o.driver.part<QLineEdit>("name"), Qt::Key_Escape);
@@ -227,7 +227,7 @@ private Q_SLOTS:
     void returnInAFieldSavesNothing()
     {
         ScreenFixture f;
-        TypeForm o(f.context, newType);
+        TypeForm o(f, newType);
         o.driver.type("name", u"Boa"_s);
         QTest::keyClick(&o.driver.part<QLineEdit>("name"), Qt::Key_Return);
         o.driver.type("iconSearch", u"bomb"_s);

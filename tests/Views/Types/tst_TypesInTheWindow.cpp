@@ -184,7 +184,7 @@ private Q_SLOTS:
         s.window->resize(1000, 700);
         QWidget* const opener = s.window->findChild<EquipmentTableView*>();
         opener->setFocus();
-        auto* management = new EquipmentTypeManagementView(s.fixture.context, s.window.get());
+        auto* management = new EquipmentTypeManagementView(s.fixture.types, s.fixture.ids, s.window.get());
         management->setAttribute(Qt::WA_DeleteOnClose);
         management->open();
         const FormDriver screen(*management);
@@ -206,7 +206,7 @@ private Q_SLOTS:
     void closingTheWindowWithSheetsOpenIsSafe()
     {
         Shown s;
-        auto* management = new EquipmentTypeManagementView(s.fixture.context, s.window.get());
+        auto* management = new EquipmentTypeManagementView(s.fixture.types, s.fixture.ids, s.window.get());
         management->open();
         FormDriver(*management).click("addType");
         s.window.reset();
