@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QCoroTask>
 #include <QUrl>
 
 namespace abissora {
@@ -11,8 +12,9 @@ class Opener
 public:
     virtual ~Opener() = default;
 
-    /// False when the system has nothing that opens it.
-    virtual bool open(const QUrl& url) = 0;
+    /// False when the system has nothing that opens it. Completes on the calling thread; the opener may be gone by
+    /// then.
+    [[nodiscard]] virtual QCoro::Task<bool> open(QUrl url) = 0;
 };
 
 } // namespace abissora

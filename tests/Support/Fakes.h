@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Answer.h"
 #include "Clock.h"
 #include "Console.h"
 #include "FilePanel.h"
@@ -16,6 +17,7 @@
 #include <QStringList>
 #include <QVariant>
 #include <initializer_list>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -106,18 +108,36 @@ private:
 class RecordingOpener final : public Opener
 {
 public:
-    bool open(const QUrl& url) override
+    RecordingOpener() = default;
+    Q_DISABLE_COPY_MOVE(RecordingOpener)
+    ~RecordingOpener() override
+    {
+        while (!m_open.isEmpty())
+            answer(false);
+    }
+
+    [[nodiscard]] QCoro::Task<bool> open(QUrl url) override
     {
         m_opened.append(url);
-        return m_succeeds;
+        const auto pending = std::make_shared<Answer<bool>>();
+        if (m_isSlow)
+            m_open.append(pending);
+        else
+            pending->give(m_succeeds);
+        co_return co_await pending->given();
     }
     void succeed(bool succeeds) { m_succeeds = succeeds; }
+    /// From now on everything waits for answer(), in the order in which it came.
+    void beSlow() { m_isSlow = true; }
+    void answer(bool opened) { m_open.takeFirst()->give(opened); }
 
     [[nodiscard]] const QList<QUrl>& opened() const { return m_opened; }
 
 private:
     QList<QUrl> m_opened;
+    QList<std::shared_ptr<Answer<bool>>> m_open;
     bool m_succeeds = true;
+    bool m_isSlow = false;
 };
 
 class FakeSymbolLibrary final : public SymbolLibrary

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "DesktopOpener.h"
 
+#include "Answer.h"
 #include "Literals.h"
 
 #include <QDesktopServices>
-#include <QEventLoop>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
@@ -43,31 +43,26 @@ DesktopOpener::DesktopOpener(std::chrono::milliseconds patience)
     : m_patience(patience)
 {}
 
-bool DesktopOpener::open(const QUrl& url)
+QCoro::Task<bool> DesktopOpener::open(QUrl url)
 {
     const QString command = openingCommand();
     if (command.isEmpty())
-        return QDesktopServices::openUrl(url);
+        co_return QDesktopServices::openUrl(url);
 
     // Deletes itself at its end. One that outlives this program must not be deleted with it: that would kill it.
     auto* const process = new QProcess;
+    QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
+    QObject::connect(process, &QProcess::errorOccurred, process, &QObject::deleteLater);
+    Answer<bool> opened;
+    const QObject waiting; // its connections end with this coroutine
+    QObject::connect(process, &QProcess::finished, &waiting, [&opened](int code, QProcess::ExitStatus status) {
+        opened.give(status == QProcess::NormalExit && code == 0);
+    });
+    QObject::connect(process, &QProcess::errorOccurred, &waiting, [&opened] { opened.give(false); });
+    QTimer::singleShot(m_patience, &waiting, [&opened] { opened.give(true); });
     detach(*process);
-    QEventLoop waiting;
-    QObject::connect(process, &QProcess::finished, &waiting, &QEventLoop::quit);
-    QObject::connect(process, &QProcess::errorOccurred, &waiting, &QEventLoop::quit);
-    QTimer::singleShot(m_patience, &waiting, &QEventLoop::quit);
     process->start(command, {url.isLocalFile() ? url.toLocalFile() : url.toString(QUrl::FullyEncoded)});
-    if (process->state() != QProcess::NotRunning)
-        waiting.exec(QEventLoop::ExcludeUserInputEvents);
-
-    const bool ended = process->state() == QProcess::NotRunning;
-    const bool failed = ended && (process->error() != QProcess::UnknownError ||
-                                  process->exitStatus() != QProcess::NormalExit || process->exitCode() != 0);
-    if (ended)
-        delete process;
-    else
-        QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
-    return !failed;
+    co_return co_await opened.given();
 }
 
 } // namespace abissora

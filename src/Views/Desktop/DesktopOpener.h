@@ -8,13 +8,13 @@
 namespace abissora {
 
 /// Asks the desktop. Where that is done by a command, a command that fails soon tells that nothing opens the address;
-/// one that goes on is taken for the opened application itself. Events other than the person's go on meanwhile.
+/// one that goes on is taken for the opened application itself.
 class DesktopOpener final : public Opener
 {
 public:
     explicit DesktopOpener(std::chrono::milliseconds patience = std::chrono::milliseconds(700));
 
-    bool open(const QUrl& url) override;
+    [[nodiscard]] QCoro::Task<bool> open(QUrl url) override;
 
 private:
     std::chrono::milliseconds m_patience;

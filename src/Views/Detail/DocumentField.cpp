@@ -2,10 +2,10 @@
 #include "DocumentField.h"
 
 #include "Buttons.h"
-#include "DocumentOpening.h"
 #include "IconLabel.h"
 #include "Literals.h"
 #include "Metrics.h"
+#include "Opening.h"
 #include "SymbolIcon.h"
 
 #include <QHBoxLayout>
@@ -76,7 +76,9 @@ void DocumentField::refresh()
 
 void DocumentField::open()
 {
-    if (!openDocument(m_name.value_or(QString()), m_documents, m_opener, *this))
+    if (const std::optional<QString> path = m_documents.url(m_name.value_or(QString())))
+        openDocument(*path, m_opener, *this);
+    else
         refresh();
 }
 

@@ -2,8 +2,8 @@
 #include "DocumentLink.h"
 
 #include "Buttons.h"
-#include "DocumentOpening.h"
 #include "Literals.h"
+#include "Opening.h"
 #include "TypeScale.h"
 
 #include <QHBoxLayout>
@@ -65,7 +65,9 @@ void DocumentLink::refresh()
 
 void DocumentLink::open()
 {
-    if (!openDocument(m_name.value_or(QString()), m_documents, m_opener, *this))
+    if (const std::optional<QString> path = m_documents.url(m_name.value_or(QString())))
+        openDocument(*path, m_opener, *this);
+    else
         refresh();
 }
 

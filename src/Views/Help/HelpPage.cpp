@@ -4,7 +4,7 @@
 #include "HelpPagePainting.h"
 #include "HelpPageWriter.h"
 #include "Literals.h"
-#include "PageOpening.h"
+#include "Opening.h"
 #include "Painting.h"
 #include "Tokens.h"
 

@@ -4,7 +4,7 @@
 #include "Buttons.h"
 #include "Literals.h"
 #include "Metrics.h"
-#include "PageOpening.h"
+#include "Opening.h"
 #include "SettingsInfoRow.h"
 #include "WrapLabel.h"
 

@@ -7,7 +7,7 @@
 #include "IconView.h"
 #include "Literals.h"
 #include "Metrics.h"
-#include "PageOpening.h"
+#include "Opening.h"
 #include "ReleaseNotes.h"
 #include "SymbolIcon.h"
 #include "WrapLabel.h"
@@ -96,10 +96,10 @@ GroupBox* UpdateView::makeNotes() const
     return box;
 }
 
-void UpdateView::download()
+QCoro::Task<> UpdateView::download()
 {
     const QPointer<UpdateView> alive(this);
-    if (openPage(m_address, m_opener, *this) && alive)
+    if (co_await openPage(m_address, m_opener, *this) && alive)
         Q_EMIT closeRequested();
 }
 

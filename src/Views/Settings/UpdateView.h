@@ -3,6 +3,7 @@
 
 #include "UpdateInfo.h"
 
+#include <QCoroTask>
 #include <QWidget>
 
 namespace abissora {
@@ -32,7 +33,7 @@ protected:
 
 private:
     [[nodiscard]] GroupBox* makeNotes() const;
-    void download();
+    QCoro::Task<> download();
 
     UpdateInfo m_update;
     Opener& m_opener;

@@ -1,33 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "CoalescedUpdate.h"
 #include "CommandLine.h"
-#include "DesktopOpener.h"
 #include "Literals.h"
 #include "SingleInstance.h"
 #include "Snapshot.h"
 #include "TestRunner.h"
 
-#include <QFile>
 #include <QImage>
 #include <QLabel>
-#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <sys/stat.h>
 
 using namespace abissora;
 using namespace abissora::test;
-
-namespace {
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no such file)");
-}
-
-} // namespace
 
 /// The small parts around the windows.
 class tst_Desktop : public TestCase
@@ -60,56 +46,6 @@ private Q_SLOTS:
         self = &update;
         update.schedule();
         QTRY_COMPARE(updates, 3);
-    }
-
-    void openingByTheDesktopsCommand_data()
-    {
-        QTest::addColumn<QByteArray>("ending");
-        QTest::addColumn<bool>("opens");
-        QTest::newRow("opened") << QByteArray("exit 0") << true;
-        QTest::newRow("no application") << QByteArray("exit 3") << false;
-        QTest::newRow("killed") << QByteArray("kill -9 $$") << false;
-        QTest::newRow("goes on as the application")
-            << QByteArray("read line < \"$0.end\"; echo went on >> \"$0.log\"") << true;
-    }
-
-    void openingByTheDesktopsCommand()
-    {
-        QFETCH(QByteArray, ending);
-        QFETCH(bool, opens);
-        const QTemporaryDir folder;
-        const QString command = folder.filePath(u"xdg-open"_s);
-        const QString log = command + ".log"_L1;
-        const QString end = command + ".end"_L1;
-        QCOMPARE(::mkfifo(qPrintable(end), 0600), 0);
-        QFile script(command);
-        QVERIFY(script.open(QIODevice::WriteOnly));
-        script.write("#!/bin/sh\nprintf '%s\\n' \"$#\" \"$1\" > \"$0.log\"\n" + ending + "\n");
-        script.close();
-        QVERIFY(script.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
-        const QByteArray path = qgetenv("PATH");
-        qputenv("PATH", folder.path().toLocal8Bit() + ':' + path);
-        const QString document = folder.filePath(u"l'«è» $HOME\" %41.pdf"_s);
-        const bool opened = DesktopOpener(std::chrono::seconds(opens ? 1 : 30)).open(QUrl::fromLocalFile(document));
-        qputenv("PATH", path);
-        QCOMPARE(opened, opens);
-        QCOMPARE(contentOf(log), "1\n" + document.toUtf8() + '\n');
-        if (!ending.startsWith("read"))
-            return;
-        QFile fifo(end); // the application is alive, and ends when it is told to
-        QVERIFY(fifo.open(QIODevice::WriteOnly));
-        fifo.close();
-        QTRY_VERIFY(contentOf(log).endsWith("went on\n"));
-    }
-
-    void withoutTheCommandTheToolkitIsAsked()
-    {
-        const QByteArray path = qgetenv("PATH");
-        qputenv("PATH", "/nowhere");
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u".*"_s));
-        const bool opened = DesktopOpener().open(QUrl::fromLocalFile(u"/nowhere/a.pdf"_s));
-        qputenv("PATH", path);
-        QVERIFY(!opened);
     }
 
     void commandLine()

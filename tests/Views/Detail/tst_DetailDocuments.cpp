@@ -123,6 +123,16 @@ private Q_SLOTS:
         QTRY_VERIFY(part(*s.view, u"openReceipt"_s).hasFocus());
     }
 
+    void nothingOpensItAfterTheItemHasLeft()
+    {
+        Shown s(attachReceipt);
+        s.f.opener.beSlow();
+        click(*s.view, u"openReceipt"_s);
+        s.view.reset();
+        s.f.opener.answer(false);
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+
     void replacingDeletesTheFileAndOffersTheUpload()
     {
         Shown s(attachReceipt);

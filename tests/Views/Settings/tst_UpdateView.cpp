@@ -162,6 +162,30 @@ private Q_SLOTS:
         QCOMPARE(o.closed.size(), 0);
     }
 
+    void waitsForABrowserThatComesLate()
+    {
+        Offer o;
+        o.f.opener.beSlow();
+        QTest::mouseClick(&o.button("download"), Qt::LeftButton);
+        QTest::mouseClick(&o.button("download"), Qt::LeftButton);
+        QCOMPARE(o.f.opener.opened(), QList<QUrl>({address}));
+        QCOMPARE(o.closed.size(), 0);
+        o.f.opener.answer(true);
+        QCOMPARE(o.closed.size(), 1);
+    }
+
+    void theOfferMayBeGoneBeforeTheBrowserComes()
+    {
+        test::ScreenFixture f;
+        f.opener.beSlow();
+        auto view = std::make_unique<UpdateView>(release(), f.product.websiteURL, f.opener);
+        view->show();
+        view->findChild<QAbstractButton*>(u"download"_s)->click();
+        view.reset();
+        f.opener.answer(true);
+        QVERIFY(QApplication::topLevelWidgets().isEmpty());
+    }
+
     void hostileTextsStayPlain()
     {
         UpdateInfo update = release(u"<h1>Titolo</h1><img src=\"https://abissora.example/a.png\">\u0007"_s);
