@@ -5,11 +5,9 @@
 #include "EquipmentTableView.h"
 #include "Literals.h"
 #include "MainWindow.h"
-#include "MaintenanceOverviewView.h"
 #include "Register.h"
 #include "Report.h"
-#include "ScreenFixture.h"
-#include "StatisticsView.h"
+#include "ShellFixture.h"
 #include "Theme.h"
 
 #include <QApplication>
@@ -29,9 +27,9 @@ void settle()
         QCoreApplication::processEvents();
 }
 
-void measureMainWindow(const Report& report, QApplication& application, test::ScreenFixture& fixture)
+void measureMainWindow(const Report& report, QApplication& application, test::ShellFixture& fixture)
 {
-    MainWindow window(fixture.context, fixture.directories.windowStateFile());
+    MainWindow window(fixture, fixture.equipment, fixture.directories.windowStateFile());
     window.resize(1280, 800);
     window.show();
     settle();
@@ -65,10 +63,9 @@ void measureMainWindow(const Report& report, QApplication& application, test::Sc
 }
 
 /// A screen made, shown in a size of its own and painted.
-template <typename Screen>
-std::unique_ptr<Screen> open(const test::ScreenFixture& fixture)
+std::unique_ptr<QWidget> open(QWidget* made)
 {
-    auto screen = std::make_unique<Screen>(fixture.context);
+    std::unique_ptr<QWidget> screen(made);
     screen->resize(1030, 720);
     screen->show();
     settle();
@@ -84,10 +81,10 @@ struct OverviewTitles
     const char* statistics;
 };
 
-void measureOverview(const Report& report, test::ScreenFixture& fixture, const OverviewTitles& titles)
+void measureOverview(const Report& report, test::ShellFixture& fixture, const OverviewTitles& titles)
 {
-    report.measure(titles.open, 21, [&] { open<MaintenanceOverviewView>(fixture); });
-    const auto overview = open<MaintenanceOverviewView>(fixture);
+    report.measure(titles.open, 21, [&] { open(fixture.makeOverview()); });
+    const auto overview = open(fixture.makeOverview());
     report.measure(titles.redraw, 21, [&] {
         fixture.equipment.refreshDates();
         settle();
@@ -102,7 +99,7 @@ void measureOverview(const Report& report, test::ScreenFixture& fixture, const O
         bar.setValue(bar.value() > bar.maximum() / 2 ? 0 : bar.maximum());
         area.viewport()->repaint();
     });
-    report.measure(titles.statistics, 21, [&] { open<StatisticsView>(fixture); });
+    report.measure(titles.statistics, 21, [&] { open(fixture.makeStatistics()); });
 }
 
 } // namespace
@@ -111,14 +108,14 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     applyTheme(application, Scheme::Light);
-    test::ScreenFixture fixture(registerOf(10'000, test::FixedClock().now()));
+    test::ShellFixture fixture(registerOf(10'000, test::FixedClock().now()));
     const Report report(medianOf(51, reference));
     measureMainWindow(report, application, fixture);
     measureOverview(report, fixture,
                     {"overview opened, 10,000 items, about half of them due", "overview redrawn, 10,000 items",
                      "overview scrolled by a page, 10,000 items, one frame",
                      "overview scrolled from end to end, 10,000 items, one frame", "statistics opened, 10,000 items"});
-    test::ScreenFixture small(registerOf(300, test::FixedClock().now()));
+    test::ShellFixture small(registerOf(300, test::FixedClock().now()));
     measureOverview(report, small,
                     {"overview opened, 300 items, about half of them due", "overview redrawn, 300 items",
                      "overview scrolled by a page, 300 items, one frame",

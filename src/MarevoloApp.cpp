@@ -3,7 +3,16 @@
 
 #include "AppWindows.h"
 #include "BringForward.h"
+#include "EditEquipmentView.h"
+#include "EquipmentDetailSheet.h"
+#include "EquipmentDetailView.h"
+#include "EquipmentFormView.h"
+#include "EquipmentListView.h"
 #include "MainWindow.h"
+#include "MaintenanceOverviewView.h"
+#include "SettingsView.h"
+#include "SidebarView.h"
+#include "StatisticsView.h"
 #include "Theme.h"
 
 #include <QApplication>
@@ -16,6 +25,7 @@ MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories
     : m_application(application)
     , m_directories(directories)
     , m_product(product)
+    , m_almanac{m_clock, m_calendar, DateFormat(DateFormat::userLocale(), m_calendar)}
     , m_preferences(directories.preferences(), directories.backups(), m_clock)
     , m_documents(directories.maintenanceDocuments(), m_filePanel, m_ids, m_console)
     , m_equipment(StorageManager(m_preferences, m_console, m_clock, m_calendar, m_ids), m_documents, m_console, m_clock,
@@ -62,7 +72,8 @@ QCoro::Task<> MarevoloApp::checkForUpdatesAtStart()
 MainWindow& MarevoloApp::mainWindow()
 {
     if (!m_mainWindow) {
-        m_mainWindow = std::make_unique<MainWindow>(context(), m_directories.windowStateFile());
+        ScreenFactory& screens = *this;
+        m_mainWindow = std::make_unique<MainWindow>(screens, m_equipment, m_directories.windowStateFile());
         m_windows = std::make_unique<AppWindows>(context());
         m_windows->setMainWindow(m_mainWindow.get());
         connect(m_mainWindow.get(), &MainWindow::aboutRequested, m_windows.get(), &AppWindows::openAbout);
@@ -75,19 +86,50 @@ MainWindow& MarevoloApp::mainWindow()
 
 AppContext MarevoloApp::context()
 {
-    return {m_equipment,
-            m_types,
-            m_settings,
-            m_updates,
-            m_console,
-            m_clock,
-            m_ids,
-            m_documents,
-            m_opener,
-            m_info,
-            m_product,
-            m_calendar,
-            DateFormat(DateFormat::userLocale(), m_calendar)};
+    return {m_equipment, m_types,  m_settings, m_updates, m_console,  m_clock,        m_ids,
+            m_documents, m_opener, m_info,     m_product, m_calendar, m_almanac.dates};
+}
+
+SidebarView* MarevoloApp::makeSidebar()
+{
+    return new SidebarView(m_equipment, m_types, m_console);
+}
+
+EquipmentListView* MarevoloApp::makeList()
+{
+    return new EquipmentListView(m_equipment, m_types, m_almanac, m_console, m_ids);
+}
+
+EquipmentDetailView* MarevoloApp::makeDetail(const Equipment& equipment)
+{
+    return new EquipmentDetailView(context(), equipment);
+}
+
+QWidget* MarevoloApp::makeOverview()
+{
+    return new MaintenanceOverviewView(m_equipment, m_types, [this](const Equipment& equipment, QWidget* parent) {
+        return new EquipmentDetailSheet(context(), equipment, parent);
+    });
+}
+
+QWidget* MarevoloApp::makeStatistics()
+{
+    return new StatisticsView(m_equipment, m_types);
+}
+
+QWidget* MarevoloApp::makeSettings()
+{
+    return new SettingsView(m_settings, m_types, m_updates, {m_info, m_product}, m_ids, m_opener);
+}
+
+EquipmentFormView* MarevoloApp::makeFormForNew(QWidget* over)
+{
+    return new EquipmentFormView(context(), over);
+}
+
+EditEquipmentView* MarevoloApp::makeFormFor(const Equipment& equipment, QWidget* over)
+{
+    return new EditEquipmentView(context(), equipment, over);
 }
 
 void MarevoloApp::applyScheme()

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Almanac.h"
 #include "AppContext.h"
 #include "ApplicationDirectories.h"
 #include "DayWatch.h"
 #include "DesktopFilePanel.h"
 #include "DesktopOpener.h"
 #include "MaintenanceDocumentStore.h"
+#include "ScreenFactory.h"
 #include "SymbolIcon.h"
 
 class QApplication;
@@ -16,8 +18,9 @@ namespace abissora {
 class AppWindows;
 class MainWindow;
 
-/// The entry: the only place that creates services and state objects, in the order in which the program starts.
-class MarevoloApp : public QObject
+/// The entry: the only place that creates services and state objects, in the order in which the program starts, and
+/// that knows which screen works with which of them.
+class MarevoloApp : public QObject, private ScreenFactory
 {
     Q_OBJECT
 
@@ -43,11 +46,21 @@ private:
     [[nodiscard]] AppContext context();
     void applyScheme();
 
+    SidebarView* makeSidebar() override;
+    EquipmentListView* makeList() override;
+    EquipmentDetailView* makeDetail(const Equipment& equipment) override;
+    QWidget* makeOverview() override;
+    QWidget* makeStatistics() override;
+    QWidget* makeSettings() override;
+    EquipmentFormView* makeFormForNew(QWidget* over) override;
+    EditEquipmentView* makeFormFor(const Equipment& equipment, QWidget* over) override;
+
     QApplication& m_application;
     ApplicationDirectories m_directories;
     Product m_product;
     SystemClock m_clock;
     Calendar m_calendar;
+    Almanac m_almanac;
     RandomIdGenerator m_ids;
     StandardOutput m_console;
     ResourceSymbolLibrary m_symbols;

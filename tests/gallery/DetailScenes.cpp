@@ -140,7 +140,7 @@ QList<Scene> alertScenes()
               }),
         scene(u"alert-delete-from-list"_s, {longTexts()},
               [](test::ScreenFixture& f) {
-                  auto view = std::make_unique<EquipmentListView>(f.context);
+                  auto view = std::make_unique<EquipmentListView>(f.equipment, f.types, f.almanac, f.console, f.ids);
                   view->confirmDeletion(f.equipment.equipment().first());
                   return alertOf(std::move(view));
               }),

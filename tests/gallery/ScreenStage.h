@@ -3,7 +3,7 @@
 
 #include "MainWindow.h"
 #include "Scenes.h"
-#include "ScreenFixture.h"
+#include "ShellFixture.h"
 #include "SidebarView.h"
 
 #include <QSize>
@@ -27,7 +27,7 @@ struct Holder
         fixture.clock.set(today);
     }
 
-    test::ScreenFixture fixture;
+    test::ShellFixture fixture;
 };
 
 class Window final : private Holder, public MainWindow
@@ -37,7 +37,7 @@ public:
 
     Window(const QList<Equipment>& stored, const Setup& setup, QSize size)
         : Holder(stored)
-        , MainWindow(fixture.context, fixture.directories.windowStateFile())
+        , MainWindow(fixture, fixture.equipment, fixture.directories.windowStateFile())
     {
         resize(size);
         setup(fixture, *this);

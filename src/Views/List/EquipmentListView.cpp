@@ -19,11 +19,16 @@
 
 namespace abissora {
 
-EquipmentListView::EquipmentListView(const AppContext& context, QWidget* parent)
+EquipmentListView::EquipmentListView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types,
+                                     Almanac almanac, Console& console, IdGenerator& ids, QWidget* parent)
     : QWidget(parent)
-    , m_context(context)
+    , m_equipment(equipment)
+    , m_types(types)
+    , m_almanac(std::move(almanac))
+    , m_console(console)
+    , m_ids(ids)
     , m_update(*this, [this] { redraw(); })
-    , m_refreshID(context.ids.next())
+    , m_refreshID(ids.next())
     , m_header(new ListHeader)
     , m_search(new SearchField(u"Cerca attrezzatura..."_s))
     , m_filterMenu(new FilterMenu(this))
@@ -68,9 +73,9 @@ void EquipmentListView::buildLayout()
 
 void EquipmentListView::connectControls()
 {
-    EquipmentViewModel& equipment = m_context.equipment;
+    EquipmentViewModel& equipment = m_equipment;
     connect(&equipment, &EquipmentViewModel::changed, &m_update, &VisibleUpdate::schedule);
-    connect(&m_context.types, &EquipmentTypeViewModel::changed, &m_update, &VisibleUpdate::schedule);
+    connect(&m_types, &EquipmentTypeViewModel::changed, &m_update, &VisibleUpdate::schedule);
 
     connect(m_header, &ListHeader::addClicked, this, &EquipmentListView::addRequested);
     connect(m_header, &ListHeader::refreshClicked, this, &EquipmentListView::refresh);
@@ -83,12 +88,12 @@ void EquipmentListView::connectControls()
     });
 
     connect(m_filterMenu, &QMenu::aboutToShow, this,
-            [this] { m_filterMenu->setEntries(m_context.types.filteredTypes(), isNarrowed()); });
+            [this] { m_filterMenu->setEntries(m_types.filteredTypes(), isNarrowed()); });
     connect(m_filterMenu, &FilterMenu::allChosen, this, [&equipment] { equipment.setFilterTypeName(std::nullopt); });
     connect(m_filterMenu, &FilterMenu::clearChosen, this, &EquipmentListView::clearFilters);
     connect(m_filterMenu, &FilterMenu::typeChosen, this, [this](const QString& name) {
-        m_context.console.print(u"🖱️ Menu filtro cliccato: "_s + name);
-        m_context.equipment.filterByTypeName(name);
+        m_console.print(u"🖱️ Menu filtro cliccato: "_s + name);
+        m_equipment.filterByTypeName(name);
         refresh();
     });
 
@@ -138,14 +143,14 @@ void EquipmentListView::deleteConfirmed()
 {
     if (!m_equipmentToDelete)
         return;
-    m_context.equipment.deleteEquipment(*m_equipmentToDelete);
+    m_equipment.deleteEquipment(*m_equipmentToDelete);
     refresh();
     m_equipmentToDelete.reset();
 }
 
 void EquipmentListView::refresh()
 {
-    m_refreshID = m_context.ids.next();
+    m_refreshID = m_ids.next();
     m_update.schedule();
 }
 
@@ -162,19 +167,18 @@ void EquipmentListView::focusContent()
 
 void EquipmentListView::redraw()
 {
-    const EquipmentViewModel& equipment = m_context.equipment;
-    const QList<Equipment> shown = equipment.filteredEquipment();
-    const EquipmentRowMaker rows(m_context.types, m_context.dates, m_context.calendar, m_context.clock.now());
+    const QList<Equipment> shown = m_equipment.filteredEquipment();
+    const EquipmentRowMaker rows(m_types, m_almanac.dates, m_almanac.calendar, m_almanac.now());
     m_table->showEquipment(shown, rows, m_selectedEquipment ? std::optional(m_selectedEquipment->id) : std::nullopt);
 
-    if (m_search->text() != equipment.searchText())
-        m_search->setText(equipment.searchText());
-    m_header->setFilter(equipment.filterTypeName(), m_context.types);
+    if (m_search->text() != m_equipment.searchText())
+        m_search->setText(m_equipment.searchText());
+    m_header->setFilter(m_equipment.filterTypeName(), m_types);
 
     m_empty->setButtonText(isNarrowed() ? u"Cancella filtri"_s : u"Aggiungi la prima attrezzatura"_s);
     m_content->setCurrentWidget(shown.isEmpty() ? static_cast<QWidget*>(m_empty) : m_table);
     const auto active = std::count_if(shown.begin(), shown.end(), [](const Equipment& item) { return item.isActive; });
-    m_footer->setCounts(shown.size(), equipment.overdueEquipment().size(), active);
+    m_footer->setCounts(shown.size(), m_equipment.overdueEquipment().size(), active);
 }
 
 void EquipmentListView::select(const std::optional<Equipment>& equipment)
@@ -185,14 +189,13 @@ void EquipmentListView::select(const std::optional<Equipment>& equipment)
 
 void EquipmentListView::clearFilters()
 {
-    m_context.equipment.setSearchText({});
-    m_context.equipment.setFilterTypeName(std::nullopt);
+    m_equipment.setSearchText({});
+    m_equipment.setFilterTypeName(std::nullopt);
 }
 
 bool EquipmentListView::isNarrowed() const
 {
-    const EquipmentViewModel& equipment = m_context.equipment;
-    return !equipment.searchText().isEmpty() || equipment.filterTypeName() || equipment.selectedType();
+    return !m_equipment.searchText().isEmpty() || m_equipment.filterTypeName() || m_equipment.selectedType();
 }
 
 } // namespace abissora

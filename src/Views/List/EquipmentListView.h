@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
+#include "Almanac.h"
+#include "EquipmentTypeViewModel.h"
+#include "EquipmentViewModel.h"
 #include "VisibleUpdate.h"
 
 #include <QWidget>
@@ -26,7 +28,9 @@ class EquipmentListView : public QWidget
     Q_OBJECT
 
 public:
-    explicit EquipmentListView(const AppContext& context, QWidget* parent = nullptr);
+    /// Everything passed by reference must outlive it.
+    EquipmentListView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types, Almanac almanac,
+                      Console& console, IdGenerator& ids, QWidget* parent = nullptr);
 
     /// The item that the parent shows in detail; a copy.
     void setSelectedEquipment(const std::optional<Equipment>& equipment);
@@ -59,7 +63,11 @@ private:
     [[nodiscard]] bool isNarrowed() const;
     void deleteConfirmed();
 
-    AppContext m_context;
+    EquipmentViewModel& m_equipment;
+    const EquipmentTypeViewModel& m_types;
+    Almanac m_almanac;
+    Console& m_console;
+    IdGenerator& m_ids;
     VisibleUpdate m_update;
     std::optional<Equipment> m_selectedEquipment;
     std::optional<Equipment> m_equipmentToDelete;

@@ -4,7 +4,6 @@
 #include "CardGrid.h"
 #include "DueList.h"
 #include "EmptyState.h"
-#include "EquipmentDetailSheet.h"
 #include "InkLabel.h"
 #include "Literals.h"
 #include "Metrics.h"
@@ -15,9 +14,13 @@
 
 namespace abissora {
 
-MaintenanceOverviewView::MaintenanceOverviewView(const AppContext& context, QWidget* parent)
+MaintenanceOverviewView::MaintenanceOverviewView(const EquipmentViewModel& equipment,
+                                                 const EquipmentTypeViewModel& types, MakeDetail makeDetail,
+                                                 QWidget* parent)
     : QWidget(parent)
-    , m_context(context)
+    , m_equipment(equipment)
+    , m_types(types)
+    , m_makeDetail(std::move(makeDetail))
     , m_update(*this, [this] { redraw(); })
     , m_page(new ScreenPage(u"Panoramica Manutenzione"_s))
     , m_total(new StatCard(u"Totale Articoli"_s, u"folder.fill"_s, NamedColor::blue))
@@ -30,10 +33,9 @@ MaintenanceOverviewView::MaintenanceOverviewView(const AppContext& context, QWid
 {
     setObjectName(u"maintenanceOverview"_s);
     buildLayout();
-    connect(&context.equipment, &EquipmentViewModel::equipmentChanged, &m_update, &VisibleUpdate::schedule);
-    connect(&context.equipment, &EquipmentViewModel::equipmentChanged, this,
-            &MaintenanceOverviewView::forgetDeletedSelection);
-    connect(&context.types, &EquipmentTypeViewModel::typesChanged, &m_update, &VisibleUpdate::schedule);
+    connect(&equipment, &EquipmentViewModel::equipmentChanged, &m_update, &VisibleUpdate::schedule);
+    connect(&equipment, &EquipmentViewModel::equipmentChanged, this, &MaintenanceOverviewView::forgetDeletedSelection);
+    connect(&types, &EquipmentTypeViewModel::typesChanged, &m_update, &VisibleUpdate::schedule);
     connect(m_dueList, &DueList::chosen, this, &MaintenanceOverviewView::setSelectedEquipment);
 }
 
@@ -68,7 +70,7 @@ void MaintenanceOverviewView::setSelectedEquipment(const std::optional<Equipment
     m_selectedEquipment = equipment;
     if (!equipment)
         return;
-    m_sheet = new EquipmentDetailSheet(m_context, *equipment, this);
+    m_sheet = m_makeDetail(*equipment, this);
     m_sheet->setAttribute(Qt::WA_DeleteOnClose);
     connect(m_sheet, &QDialog::finished, this, [this] {
         m_sheet.clear();
@@ -79,15 +81,14 @@ void MaintenanceOverviewView::setSelectedEquipment(const std::optional<Equipment
 
 void MaintenanceOverviewView::forgetDeletedSelection()
 {
-    const QList<Equipment>& items = m_context.equipment.equipment();
-    const auto isSelected = [this](const Equipment& item) { return item.id == m_selectedEquipment->id; };
-    if (m_selectedEquipment && std::none_of(items.begin(), items.end(), isSelected))
+    if (m_selectedEquipment &&
+        std::ranges::count(m_equipment.equipment(), m_selectedEquipment->id, &Equipment::id) == 0)
         setSelectedEquipment(std::nullopt);
 }
 
 void MaintenanceOverviewView::redraw()
 {
-    const RegisterSummary summary = m_context.equipment.summary();
+    const RegisterSummary summary = m_equipment.summary();
     m_total->setValue(QString::number(summary.total));
     m_due->setValue(QString::number(summary.due.size()));
     m_expiring->setValue(QString::number(summary.expiring));
@@ -97,8 +98,7 @@ void MaintenanceOverviewView::redraw()
     m_dueTitle->setVisible(anyDue);
     m_dueList->setVisible(anyDue);
     m_allInOrder->setVisible(!anyDue);
-    m_dueList->setItems(summary.due,
-                        [&types = m_context.types](const Equipment& item) { return appearanceOf(item, types); });
+    m_dueList->setItems(summary.due, [&types = m_types](const Equipment& item) { return appearanceOf(item, types); });
 }
 
 } // namespace abissora

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
+#include "EquipmentTypeViewModel.h"
+#include "EquipmentViewModel.h"
 #include "VisibleUpdate.h"
 
+#include <QDialog>
 #include <QPointer>
-#include <QWidget>
 
 namespace abissora {
 
 class DueList;
 class EmptyState;
-class EquipmentDetailSheet;
 class ScreenPage;
 class StatCard;
 
@@ -21,7 +21,12 @@ class MaintenanceOverviewView : public QWidget
     Q_OBJECT
 
 public:
-    explicit MaintenanceOverviewView(const AppContext& context, QWidget* parent = nullptr);
+    /// Makes the detail screen of an item, to lie over the window of `parent`.
+    using MakeDetail = std::function<QDialog*(const Equipment& equipment, QWidget* parent)>;
+
+    /// Both catalogues must outlive it.
+    MaintenanceOverviewView(const EquipmentViewModel& equipment, const EquipmentTypeViewModel& types,
+                            MakeDetail makeDetail, QWidget* parent = nullptr);
 
     /// The screen's own selection: the item whose detail screen lies over the window.
     [[nodiscard]] const std::optional<Equipment>& selectedEquipment() const { return m_selectedEquipment; }
@@ -33,10 +38,12 @@ private:
     void redraw();
     void forgetDeletedSelection();
 
-    AppContext m_context;
+    const EquipmentViewModel& m_equipment;
+    const EquipmentTypeViewModel& m_types;
+    MakeDetail m_makeDetail;
     VisibleUpdate m_update;
     std::optional<Equipment> m_selectedEquipment;
-    QPointer<EquipmentDetailSheet> m_sheet;
+    QPointer<QDialog> m_sheet;
 
     ScreenPage* m_page;
     StatCard* m_total;

@@ -13,9 +13,11 @@
 
 namespace abissora {
 
-StatisticsView::StatisticsView(const AppContext& context, QWidget* parent)
+StatisticsView::StatisticsView(const EquipmentViewModel& equipment, const EquipmentTypeViewModel& types,
+                               QWidget* parent)
     : QWidget(parent)
-    , m_context(context)
+    , m_equipment(equipment)
+    , m_catalogue(types)
     , m_update(*this, [this] { redraw(); })
     , m_total(new StatCard(u"Totale Attrezzatura"_s, u"list.bullet.circle.fill"_s, NamedColor::blue))
     , m_active(new StatCard(u"Attrezzatura Attiva"_s, u"checkmark.circle.fill"_s, NamedColor::green))
@@ -27,8 +29,8 @@ StatisticsView::StatisticsView(const AppContext& context, QWidget* parent)
 {
     setObjectName(u"statistics"_s);
     buildLayout();
-    connect(&context.equipment, &EquipmentViewModel::equipmentChanged, &m_update, &VisibleUpdate::schedule);
-    connect(&context.types, &EquipmentTypeViewModel::changed, &m_update, &VisibleUpdate::schedule);
+    connect(&equipment, &EquipmentViewModel::equipmentChanged, &m_update, &VisibleUpdate::schedule);
+    connect(&types, &EquipmentTypeViewModel::changed, &m_update, &VisibleUpdate::schedule);
 }
 
 void StatisticsView::buildLayout()
@@ -51,9 +53,8 @@ void StatisticsView::buildLayout()
 
 void StatisticsView::redraw()
 {
-    const EquipmentViewModel& equipment = m_context.equipment;
-    const RegisterSummary summary = equipment.summary();
-    const QList<EquipmentTypeModel> types = m_context.types.filteredTypes();
+    const RegisterSummary summary = m_equipment.summary();
+    const QList<EquipmentTypeModel> types = m_catalogue.filteredTypes();
     m_total->setValue(QString::number(summary.total));
     m_active->setValue(QString::number(summary.active));
     m_due->setValue(QString::number(summary.due.size()));
@@ -61,7 +62,7 @@ void StatisticsView::redraw()
     m_inOrder->setValue(QString::number(summary.inOrder));
     m_types->setValue(QString::number(types.size()));
 
-    const QHash<QString, qsizetype> counts = activeItemsByTypeName(equipment.equipment());
+    const QHash<QString, qsizetype> counts = activeItemsByTypeName(m_equipment.equipment());
     QList<TypeDistribution::Share> shares;
     for (const EquipmentTypeModel& type : types)
         shares.append({type.name, appearanceOf(type), counts.value(type.name)});

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
+#include "EquipmentTypeViewModel.h"
+#include "EquipmentViewModel.h"
 #include "VisibleUpdate.h"
 
 #include <QWidget>
@@ -17,13 +18,15 @@ class StatisticsView : public QWidget
     Q_OBJECT
 
 public:
-    explicit StatisticsView(const AppContext& context, QWidget* parent = nullptr);
+    /// Both catalogues must outlive it.
+    StatisticsView(const EquipmentViewModel& equipment, const EquipmentTypeViewModel& types, QWidget* parent = nullptr);
 
 private:
     void buildLayout();
     void redraw();
 
-    AppContext m_context;
+    const EquipmentViewModel& m_equipment;
+    const EquipmentTypeViewModel& m_catalogue;
     VisibleUpdate m_update;
 
     StatCard* m_total;

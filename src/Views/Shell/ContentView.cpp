@@ -7,12 +7,9 @@
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
 #include "Literals.h"
-#include "MaintenanceOverviewView.h"
 #include "Metrics.h"
 #include "SegmentedControl.h"
-#include "SettingsView.h"
 #include "SidebarView.h"
-#include "StatisticsView.h"
 
 #include <QSplitter>
 #include <QStackedWidget>
@@ -39,16 +36,17 @@ QList<TabTitle> tabTitles()
 
 } // namespace
 
-ContentView::ContentView(const AppContext& context, QWidget* parent)
+ContentView::ContentView(ScreenFactory& factory, EquipmentViewModel& equipment, QWidget* parent)
     : QWidget(parent)
-    , m_context(context)
+    , m_factory(factory)
+    , m_equipment(equipment)
     , m_splitter(new QSplitter)
     , m_listSplitter(new QSplitter)
-    , m_sidebar(new SidebarView(context.equipment, context.types, context.console))
+    , m_sidebar(factory.makeSidebar())
     , m_pages(new QStackedWidget)
     , m_tabs(new SegmentedControl)
     , m_screens(new QStackedWidget)
-    , m_list(new EquipmentListView(context))
+    , m_list(factory.makeList())
     , m_detailPane(new QWidget)
     , m_tabArea(makeTabArea())
 {
@@ -70,7 +68,7 @@ ContentView::ContentView(const AppContext& context, QWidget* parent)
     connect(m_list, &EquipmentListView::equipmentSelected, this, &ContentView::setSelectedEquipment);
     connect(m_list, &EquipmentListView::addRequested, this, &ContentView::addEquipment);
     connect(m_list, &EquipmentListView::editRequested, this, &ContentView::editEquipment);
-    connect(&context.equipment, &EquipmentViewModel::equipmentChanged, this, &ContentView::forgetDeletedSelection);
+    connect(&equipment, &EquipmentViewModel::equipmentChanged, this, &ContentView::forgetDeletedSelection);
 }
 
 void ContentView::setSelectedTab(int tab)
@@ -95,7 +93,7 @@ void ContentView::setSelectedEquipment(const std::optional<Equipment>& equipment
 void ContentView::showDetail()
 {
     if (m_selectedEquipment && m_detail == nullptr) {
-        m_detail = new EquipmentDetailView(m_context, *m_selectedEquipment);
+        m_detail = m_factory.makeDetail(*m_selectedEquipment);
         m_detailPane->layout()->addWidget(m_detail);
         connect(m_detail, &EquipmentDetailView::closed, this, [this] { setSelectedEquipment(std::nullopt); });
     } else if (m_selectedEquipment) {
@@ -119,10 +117,10 @@ void ContentView::addEquipment()
 {
     if (isFormOpen())
         return;
-    auto* form = new EquipmentFormView(m_context, window());
-    connect(form, &QDialog::finished, this, [this] { m_context.equipment.setAddingEquipment(false); });
+    auto* form = m_factory.makeFormForNew(window());
+    connect(form, &QDialog::finished, this, [this] { m_equipment.setAddingEquipment(false); });
     openForm(form);
-    m_context.equipment.setAddingEquipment(true);
+    m_equipment.setAddingEquipment(true);
 }
 
 bool ContentView::showingAddSheet() const
@@ -135,7 +133,7 @@ void ContentView::editEquipment(const Equipment& equipment)
     if (isFormOpen())
         return;
     setSelectedEquipment(equipment);
-    auto* form = new EditEquipmentView(m_context, equipment, window());
+    auto* form = m_factory.makeFormFor(equipment, window());
     connect(form, &EditEquipmentView::saved, this, &ContentView::setSelectedEquipment);
     openForm(form);
 }
@@ -188,19 +186,11 @@ QWidget* ContentView::makeListArea()
     return m_listSplitter;
 }
 
-QWidget* ContentView::makeScreen(int tab)
-{
-    if (tab == MaintenanceTab)
-        return new MaintenanceOverviewView(m_context);
-    return new StatisticsView(m_context);
-}
-
 void ContentView::showPage()
 {
     if (m_sidebar->selectedSidebarItem() == sidebar::settings) {
         if (!m_settings) {
-            m_settings = new SettingsView(m_context.settings, m_context.types, m_context.updates,
-                                          {m_context.info, m_context.product}, m_context.ids, m_context.opener);
+            m_settings = m_factory.makeSettings();
             m_pages->addWidget(m_settings);
         }
         m_pages->setCurrentWidget(m_settings);
@@ -211,7 +201,8 @@ void ContentView::showPage()
     // A bare QWidget holds the place of a screen that was never shown.
     if (QWidget* placeholder = m_screens->widget(m_selectedTab);
         placeholder->metaObject() == &QWidget::staticMetaObject) {
-        m_screens->insertWidget(m_selectedTab, makeScreen(m_selectedTab));
+        m_screens->insertWidget(m_selectedTab, m_selectedTab == MaintenanceTab ? m_factory.makeOverview()
+                                                                               : m_factory.makeStatistics());
         m_screens->removeWidget(placeholder);
         placeholder->deleteLater();
     }
@@ -220,9 +211,8 @@ void ContentView::showPage()
 
 void ContentView::forgetDeletedSelection()
 {
-    const auto& items = m_context.equipment.equipment();
-    const auto isSelected = [this](const Equipment& item) { return item.id == m_selectedEquipment->id; };
-    if (m_selectedEquipment && std::none_of(items.begin(), items.end(), isSelected))
+    if (m_selectedEquipment &&
+        std::ranges::count(m_equipment.equipment(), m_selectedEquipment->id, &Equipment::id) == 0)
         setSelectedEquipment(std::nullopt);
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
+#include "EquipmentViewModel.h"
+#include "ScreenFactory.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -11,11 +12,8 @@ class QStackedWidget;
 
 namespace abissora {
 
-class EquipmentDetailView;
-class EquipmentListView;
 class SegmentedControl;
 class Sheet;
-class SidebarView;
 
 /// The main window's content: the sidebar, and beside it the three tabs or the settings; the selected item stands in
 /// detail at the right of the list. Screens are created when they are first shown.
@@ -26,7 +24,8 @@ class ContentView : public QWidget
 public:
     enum Tab { ListTab, MaintenanceTab, StatisticsTab, TabCount };
 
-    explicit ContentView(const AppContext& context, QWidget* parent = nullptr);
+    /// Both must outlive it.
+    ContentView(ScreenFactory& factory, EquipmentViewModel& equipment, QWidget* parent = nullptr);
 
     [[nodiscard]] int selectedTab() const { return m_selectedTab; }
     void setSelectedTab(int tab);
@@ -52,14 +51,14 @@ Q_SIGNALS:
 private:
     [[nodiscard]] QWidget* makeTabArea();
     [[nodiscard]] QWidget* makeListArea();
-    [[nodiscard]] QWidget* makeScreen(int tab);
     void showPage();
     void showDetail();
     void forgetDeletedSelection();
     [[nodiscard]] bool isFormOpen() const;
     void openForm(Sheet* form);
 
-    AppContext m_context;
+    ScreenFactory& m_factory;
+    EquipmentViewModel& m_equipment;
     int m_selectedTab = ListTab;
     std::optional<Equipment> m_selectedEquipment;
 

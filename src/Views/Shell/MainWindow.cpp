@@ -20,9 +20,9 @@ constexpr QSize minimumWindowSize(1000, 700);
 
 } // namespace
 
-MainWindow::MainWindow(const AppContext& context, const QString& stateFile, QWidget* parent)
+MainWindow::MainWindow(ScreenFactory& screens, EquipmentViewModel& equipment, const QString& stateFile, QWidget* parent)
     : QMainWindow(parent)
-    , m_content(new ContentView(context))
+    , m_content(new ContentView(screens, equipment))
     , m_state(stateFile)
 {
     setObjectName(u"mainWindow"_s);

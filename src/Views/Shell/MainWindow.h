@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
 #include "WindowState.h"
 
 #include <QMainWindow>
@@ -9,14 +8,17 @@
 namespace abissora {
 
 class ContentView;
+class EquipmentViewModel;
+class ScreenFactory;
 
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /// `stateFile` keeps its size across starts.
-    MainWindow(const AppContext& context, const QString& stateFile, QWidget* parent = nullptr);
+    /// `stateFile` keeps its size across starts. The other two must outlive it.
+    MainWindow(ScreenFactory& screens, EquipmentViewModel& equipment, const QString& stateFile,
+               QWidget* parent = nullptr);
 
     [[nodiscard]] ContentView& content() { return *m_content; }
 

@@ -10,6 +10,7 @@
 #include "Literals.h"
 #include "MainWindow.h"
 #include "Metrics.h"
+#include "ShellFixture.h"
 #include "TestRunner.h"
 #include "TypeScale.h"
 
@@ -24,8 +25,8 @@ namespace {
 
 struct Shown
 {
-    explicit Shown(ScreenFixture& f)
-        : window(f.context, f.directories.windowStateFile())
+    explicit Shown(ShellFixture& f)
+        : window(f, f.equipment, f.directories.windowStateFile())
     {
         window.show();
         window.activateWindow();
@@ -59,7 +60,7 @@ class tst_DetailPane : public TestCase
 private Q_SLOTS:
     void showsTheSelectedItem()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QVERIFY(!s.isPaneShown());
         s.select(0);
@@ -72,7 +73,7 @@ private Q_SLOTS:
 
     void closeMarkClearsTheSelection()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         s.select(0);
         click(s.window, u"closeDetail"_s);
@@ -84,7 +85,7 @@ private Q_SLOTS:
 
     void deletingClearsTheSelection()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         s.select(0);
         click(s.window, u"deleteEquipment"_s);
@@ -102,7 +103,7 @@ private Q_SLOTS:
 
     void anotherItemIsShownFromItsTop()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         s.window.resize(1000, 700);
         s.select(0);
@@ -117,7 +118,7 @@ private Q_SLOTS:
 
     void cardsKeepTheirHeightInATallWindow()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         s.window.resize(1280, 800);
         s.select(0);
@@ -133,7 +134,7 @@ private Q_SLOTS:
 
     void smallestWindowKeepsBothUsable()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         s.window.resize(1000, 700);
         s.select(0);
@@ -162,7 +163,7 @@ private Q_SLOTS:
     void widthIsKeptAcrossStarts()
     {
         QFETCH(bool, closedFirst);
-        ScreenFixture f;
+        ShellFixture f;
         int width = 0;
         {
             Shown s(f);

@@ -8,7 +8,7 @@
 #include "Literals.h"
 #include "MainWindow.h"
 #include "RowActionsMenu.h"
-#include "ScreenFixture.h"
+#include "ShellFixture.h"
 #include "TestRunner.h"
 
 #include <QAction>
@@ -21,8 +21,8 @@ namespace {
 
 struct Shown
 {
-    explicit Shown(ScreenFixture& f)
-        : window(f.context, f.directories.windowStateFile())
+    explicit Shown(ShellFixture& f)
+        : window(f, f.equipment, f.directories.windowStateFile())
     {
         window.show();
         window.activateWindow();
@@ -59,7 +59,7 @@ class tst_FormsInTheWindow : public TestCase
 private Q_SLOTS:
     void addingFromTheHeader()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         auto* add = s.window.findChild<QAbstractButton*>(u"addButton"_s);
         QVERIFY(!s.window.content().showingAddSheet());
@@ -83,7 +83,7 @@ private Q_SLOTS:
 
     void addingFromTheMenuOneAtATime()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QAction* add = s.window.menuBar()->actions().first()->menu()->actions().first();
         QCOMPARE(add->text().remove(u'&'), u"Aggiungi"_s);
@@ -105,7 +105,7 @@ private Q_SLOTS:
 
     void addingTheFirstItem()
     {
-        ScreenFixture f(QList<Equipment>{});
+        ShellFixture f(QList<Equipment>{});
         Shown s(f);
         for (QAbstractButton* button : s.window.findChildren<QAbstractButton*>()) {
             if (button->text() == u"Aggiungi la prima attrezzatura"_s && button->isVisible()) {
@@ -124,7 +124,7 @@ private Q_SLOTS:
 
     void editingFromTheRowSelectsTheItem()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         const QModelIndex actions = s.table().model()->index(1, EquipmentTableModel::ActionsColumn);
         s.table().setFocus();
@@ -154,7 +154,7 @@ private Q_SLOTS:
 
     void closingTheWindowWithAFormOpenIsSafe()
     {
-        ScreenFixture f;
+        ShellFixture f;
         {
             Shown s(f);
             s.window.content().addEquipment();

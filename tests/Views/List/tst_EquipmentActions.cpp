@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ListParts.h"
 #include "Literals.h"
+#include "RegisterFixture.h"
 #include "RowActionsMenu.h"
-#include "ScreenFixture.h"
 #include "TestRunner.h"
 
 #include <QContextMenuEvent>
@@ -20,8 +20,8 @@ class tst_EquipmentActions : public TestCase
 private Q_SLOTS:
     void rowActions()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.resize(900, 600);
         view.show();
         settle();
@@ -58,8 +58,8 @@ private Q_SLOTS:
 
     void deletingAsksFirst()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         settle();
         const Equipment item = f.equipment.equipment().at(1);
@@ -88,8 +88,8 @@ private Q_SLOTS:
 
     void deleteKeyAsksToo()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         settle();
         auto& table = existing<EquipmentTableView>(view, "equipmentTable");
@@ -102,8 +102,8 @@ private Q_SLOTS:
 
     void deletingByKeyboardGoesOnFromTheSameRow()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         settle();
         auto& table = existing<EquipmentTableView>(view, "equipmentTable");
@@ -121,8 +121,8 @@ private Q_SLOTS:
 
     void theCurrentRowFollowsItsItem()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         settle();
         auto& table = existing<EquipmentTableView>(view, "equipmentTable");
@@ -138,10 +138,10 @@ private Q_SLOTS:
 
     void hostileNamesAreShownAsTheyAre()
     {
-        ScreenFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         const QString name = u"<b>A</b>&amp;%1\t\"'"_s;
         f.equipment.addEquipment(makeItem(1, name, EquipmentType::fins, f.inDays(3)));
-        EquipmentListView view(f.context);
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         QCOMPARE(cell(view, 0, 0).section(u'\n', 0, 0), name);
         view.confirmDeletion(f.equipment.equipment().first());

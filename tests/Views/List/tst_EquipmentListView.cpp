@@ -5,7 +5,7 @@
 #include "Chip.h"
 #include "FilterMenu.h"
 #include "ListParts.h"
-#include "ScreenFixture.h"
+#include "RegisterFixture.h"
 #include "TestRunner.h"
 
 #include <QAbstractItemModelTester>
@@ -26,8 +26,8 @@ class tst_EquipmentListView : public TestCase
 private Q_SLOTS:
     void sampleRows()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         QAbstractItemModelTester tester(existing<EquipmentTableView>(view, "equipmentTable").model(),
                                         QAbstractItemModelTester::FailureReportingMode::Fatal);
@@ -46,8 +46,8 @@ private Q_SLOTS:
 
     void headers()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         const auto* model = existing<EquipmentTableView>(view, "equipmentTable").model();
         QStringList titles;
@@ -73,22 +73,22 @@ private Q_SLOTS:
     {
         QFETCH(int, days);
         QFETCH(QString, expected);
-        ScreenFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         f.equipment.addEquipment(makeItem(1, u"X"_s, EquipmentType::fins, f.inDays(days)));
-        EquipmentListView view(f.context);
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         QCOMPARE(cell(view, 0, 3).section(u'\n', 1), expected);
     }
 
     void appearanceFallsBackToTheBuiltInKind()
     {
-        ScreenFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         Equipment custom = makeItem(1, u"Luce"_s, EquipmentType::other, f.inDays(90));
         custom.customTypeName = u"Faro"_s;
         f.equipment.addEquipment(custom);
         f.equipment.addEquipment(makeItem(2, u"Jacket"_s, EquipmentType::bcd, f.inDays(91)));
         f.types.deleteType(*f.types.getTypeByName(u"GAV"_s));
-        EquipmentListView view(f.context);
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         auto& model = existing<EquipmentTableView>(view, "equipmentTable").equipmentModel();
         QCOMPARE(model.row(0).typeName, u"Faro"_s);
@@ -98,8 +98,8 @@ private Q_SLOTS:
 
     void typingFiltersAndOneKeyReadsOnce()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         settle();
         f.console.clear();
@@ -119,8 +119,8 @@ private Q_SLOTS:
 
     void whatAScreenReaderPutsInFilters()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         QAccessible::queryAccessibleInterface(&existing<QLineEdit>(view, "search"))
             ->setText(QAccessible::Value, u"scuba"_s);
@@ -130,8 +130,8 @@ private Q_SLOTS:
 
     void emptyStateClearsTheFilters()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         f.equipment.setFilterTypeName(u"GAV"_s);
         f.equipment.setSearchText(u"niente"_s);
@@ -148,8 +148,8 @@ private Q_SLOTS:
 
     void emptyRegisterOffersTheFirstItem()
     {
-        ScreenFixture f(QList<Equipment>{});
-        EquipmentListView view(f.context);
+        RegisterFixture f(QList<Equipment>{});
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         QSignalSpy added(&view, &EquipmentListView::addRequested);
         press(existing<QWidget>(view, "emptyRegister"), u"Aggiungi la prima attrezzatura"_s);
@@ -160,8 +160,8 @@ private Q_SLOTS:
 
     void chipShowsAndClearsTheTypeFilter()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         auto& chip = existing<Chip>(view, "filterChip");
         QVERIFY(!chip.isVisible());
@@ -177,8 +177,8 @@ private Q_SLOTS:
 
     void filterMenuChoosesAType()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         auto& menu = existing<FilterMenu>(view, "filterMenu");
         Q_EMIT menu.aboutToShow();
@@ -211,8 +211,8 @@ private Q_SLOTS:
 
     void refreshRebuildsTheRows()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         settle();
         const QUuid before = view.refreshID();
@@ -225,8 +225,8 @@ private Q_SLOTS:
 
     void selectingARowTellsTheParentOnce()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         view.resize(800, 600);
         view.show();
@@ -251,11 +251,11 @@ private Q_SLOTS:
     void scrollPositionSurvivesARedraw()
     {
         QList<Equipment> many;
-        ScreenFixture clockOnly;
+        RegisterFixture clockOnly;
         for (int i = 0; i < 300; ++i)
             many.append(makeItem(i, u"Pinne n. %1"_s.arg(i), EquipmentType::fins, clockOnly.inDays(i)));
-        ScreenFixture f(many);
-        EquipmentListView view(f.context);
+        RegisterFixture f(many);
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         view.resize(900, 600);
         view.show();
@@ -272,8 +272,8 @@ private Q_SLOTS:
 
     void accessibleTable()
     {
-        ScreenFixture f;
-        EquipmentListView view(f.context);
+        RegisterFixture f;
+        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
         view.show();
         auto& table = existing<EquipmentTableView>(view, "equipmentTable");
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&table);

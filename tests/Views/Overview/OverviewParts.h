@@ -6,6 +6,7 @@
 #include "DueList.h"
 #include "Literals.h"
 #include "MainWindow.h"
+#include "ShellFixture.h"
 #include "StatCard.h"
 
 #include <QScrollArea>
@@ -15,8 +16,8 @@ namespace abissora::test {
 /// The main window with one of its tabs, shown and active.
 struct ShownTab
 {
-    ShownTab(ScreenFixture& f, ContentView::Tab tab, QSize size = {1280, 800})
-        : window(f.context, f.directories.windowStateFile())
+    ShownTab(ShellFixture& f, ContentView::Tab tab, QSize size = {1280, 800})
+        : window(f, f.equipment, f.directories.windowStateFile())
     {
         window.content().setSelectedTab(tab);
         window.resize(size);

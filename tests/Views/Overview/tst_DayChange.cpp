@@ -31,8 +31,8 @@ struct Running
         settle();
     }
 
-    ScreenFixture f{
-        QList<Equipment>{makeItem(1, u"Muta"_s, EquipmentType::wetsuit, ScreenFixture().inDays(31) + hours(11))}};
+    ShellFixture f{
+        QList<Equipment>{makeItem(1, u"Muta"_s, EquipmentType::wetsuit, ShellFixture().inDays(31) + hours(11))}};
     DayWatch watch;
     ShownTab s;
 };

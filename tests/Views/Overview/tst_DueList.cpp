@@ -64,7 +64,7 @@ class tst_DueList : public TestCase
 private Q_SLOTS:
     void fewRowsExistHoweverManyItems()
     {
-        ScreenFixture f(dueItems(many));
+        ShellFixture f(dueItems(many));
         ShownTab s(f, ContentView::MaintenanceTab);
         DueList& list = s.dueList();
         QCOMPARE(list.itemCount(), many);
@@ -88,7 +88,7 @@ private Q_SLOTS:
     void whatIsInSightIsThere()
     {
         QFETCH(double, share);
-        ScreenFixture f(dueItems(many));
+        ShellFixture f(dueItems(many));
         ShownTab s(f, ContentView::MaintenanceTab);
         QScrollArea& area = page(s.window);
         area.verticalScrollBar()->setValue(static_cast<int>(area.verticalScrollBar()->maximum() * share));
@@ -108,7 +108,7 @@ private Q_SLOTS:
 
     void aLargerWindowShowsMoreRows()
     {
-        ScreenFixture f(dueItems(many));
+        ShellFixture f(dueItems(many));
         ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
         const qsizetype before = s.dueList().rows().size();
         s.window.resize(1200, 1000);
@@ -119,7 +119,7 @@ private Q_SLOTS:
 
     void tabWalksThroughEveryRow()
     {
-        ScreenFixture f(dueItems(60));
+        ShellFixture f(dueItems(60));
         ShownTab s(f, ContentView::MaintenanceTab);
         rowOf(s.dueList(), u"Articolo 0"_s)->button(DueRow::AddMaintenance)->setFocus(Qt::TabFocusReason);
         for (int i = 0; i < 60; ++i) {
@@ -142,7 +142,7 @@ private Q_SLOTS:
 
     void tabStartsAtTheFirstRowHoweverFarScrolled()
     {
-        ScreenFixture f(dueItems(many));
+        ShellFixture f(dueItems(many));
         ShownTab s(f, ContentView::MaintenanceTab);
         QScrollArea& area = page(s.window);
         area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum() / 2);
@@ -154,7 +154,7 @@ private Q_SLOTS:
 
     void keysWalkThroughTheRows()
     {
-        ScreenFixture f(dueItems(many));
+        ShellFixture f(dueItems(many));
         ShownTab s(f, ContentView::MaintenanceTab);
         rowOf(s.dueList(), u"Articolo 0"_s)->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         const auto expect = [&](Qt::Key key, int index) {
@@ -180,7 +180,7 @@ private Q_SLOTS:
     /// A list that scrolls under the wheel does not take the focus away from where it is.
     void scrollingKeepsTheFocus()
     {
-        ScreenFixture f(dueItems(many));
+        ShellFixture f(dueItems(many));
         ShownTab s(f, ContentView::MaintenanceTab);
         rowOf(s.dueList(), u"Articolo 3"_s)->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         QScrollBar& bar = *page(s.window).verticalScrollBar();
@@ -194,7 +194,7 @@ private Q_SLOTS:
 
     void theFocusStaysOnItsItem()
     {
-        ScreenFixture f(dueItems(40));
+        ShellFixture f(dueItems(40));
         ShownTab s(f, ContentView::MaintenanceTab);
         rowOf(s.dueList(), u"Articolo 5"_s)->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         f.equipment.deleteEquipment(f.equipment.equipment().at(2));
@@ -220,7 +220,7 @@ private Q_SLOTS:
     {
         QFETCH(int, focused);
         QFETCH(QString, expected);
-        ScreenFixture f(dueItems(5));
+        ShellFixture f(dueItems(5));
         ShownTab s(f, ContentView::MaintenanceTab);
         const Equipment item = f.equipment.equipment().at(focused);
         rowOf(s.dueList(), item.name)->button(DueRow::AddMaintenance)->setFocus(Qt::TabFocusReason);
@@ -232,7 +232,7 @@ private Q_SLOTS:
 
     void theLastRowGoesWhileItHasTheFocus()
     {
-        ScreenFixture f(dueItems(1));
+        ShellFixture f(dueItems(1));
         ShownTab s(f, ContentView::MaintenanceTab);
         s.dueList().rows().first()->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         f.equipment.deleteEquipment(f.equipment.equipment().first());
@@ -244,7 +244,7 @@ private Q_SLOTS:
 
     void screenReadersFindAListOfRows()
     {
-        ScreenFixture f(dueItems(4));
+        ShellFixture f(dueItems(4));
         ShownTab s(f, ContentView::MaintenanceTab);
         // Rows were made in another order than they stand in.
         f.equipment.deleteEquipment(f.equipment.equipment().first());
@@ -273,7 +273,7 @@ private Q_SLOTS:
     {
         QList<Equipment> items = dueItems(1);
         items[0].name = u"<b>Erogatore</b>\n"_s + QString(400, u'x');
-        ScreenFixture f(items);
+        ShellFixture f(items);
         ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
         DueRow* const row = s.dueList().rows().first();
         QCOMPARE(row->accessibleName(), items.at(0).name + u", Scaduto da 0 giorni"_s);

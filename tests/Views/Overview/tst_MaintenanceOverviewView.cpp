@@ -50,7 +50,7 @@ private Q_SLOTS:
 
     void freshSamples()
     {
-        ScreenFixture f;
+        ShellFixture f;
         ShownTab s(f, ContentView::MaintenanceTab);
         QCOMPARE(cardTexts(s.window), cards(3, 2, 2, 1));
         QCOMPARE(rowTexts(s.dueList()), QStringList({u"GAV Scubapro Hydros, Scaduto da 30 giorni"_s,
@@ -60,7 +60,7 @@ private Q_SLOTS:
 
     void emptyRegister()
     {
-        ScreenFixture f(QList<Equipment>{});
+        ShellFixture f(QList<Equipment>{});
         ShownTab s(f, ContentView::MaintenanceTab);
         QCOMPARE(cardTexts(s.window), cards(0, 0, 0, 0));
         QVERIFY(isShown(s.window, u"allInOrder"_s));
@@ -71,7 +71,7 @@ private Q_SLOTS:
 
     void anInactiveOverdueItemCountsInTheTotalOnly()
     {
-        ScreenFixture f(QList<Equipment>{});
+        ShellFixture f(QList<Equipment>{});
         Equipment item = makeItem(1, u"Vecchia muta"_s, EquipmentType::wetsuit, f.inDays(-10));
         item.isActive = false;
         f.equipment.addEquipment(item);
@@ -95,7 +95,7 @@ private Q_SLOTS:
     {
         QFETCH(int, days);
         QFETCH(QString, text);
-        ScreenFixture f(QList<Equipment>{});
+        ShellFixture f(QList<Equipment>{});
         f.equipment.addEquipment(makeItem(1, u"Pinne"_s, EquipmentType::fins, f.inDays(days)));
         ShownTab s(f, ContentView::MaintenanceTab);
         QCOMPARE(textOf(s.window, u"dueName"_s), u"Pinne"_s);
@@ -104,7 +104,7 @@ private Q_SLOTS:
 
     void catalogueOrder()
     {
-        ScreenFixture f(QList<Equipment>{});
+        ShellFixture f(QList<Equipment>{});
         f.equipment.addEquipment(makeItem(1, u"b"_s, EquipmentType::fins, f.inDays(20)));
         f.equipment.addEquipment(makeItem(2, u"c"_s, EquipmentType::fins, f.inDays(31)));
         f.equipment.addEquipment(makeItem(3, u"a"_s, EquipmentType::fins, f.inDays(-20)));
@@ -115,7 +115,7 @@ private Q_SLOTS:
 
     void everyChangeShows()
     {
-        ScreenFixture f;
+        ShellFixture f;
         ShownTab s(f, ContentView::MaintenanceTab);
         Equipment fins = makeItem(1, u"Pinne"_s, EquipmentType::fins, f.inDays(-3));
         f.equipment.addEquipment(fins);
@@ -140,7 +140,7 @@ private Q_SLOTS:
 
     void typeSymbols()
     {
-        ScreenFixture f(QList<Equipment>{});
+        ShellFixture f(QList<Equipment>{});
         Equipment lamp = makeItem(1, u"Faro"_s, EquipmentType::other, f.inDays(1));
         lamp.customTypeName = u"Torcia"_s;
         f.equipment.addEquipment(lamp);
@@ -191,7 +191,7 @@ private Q_SLOTS:
         QFETCH(int, type);
         QFETCH(QString, icon);
         QFETCH(int, color);
-        ScreenFixture f(QList<Equipment>{});
+        ShellFixture f(QList<Equipment>{});
         f.equipment.addEquipment(makeItem(1, u"x"_s, static_cast<EquipmentType>(type), f.inDays(1)));
         f.types.setTypes({});
         ShownTab s(f, ContentView::MaintenanceTab);
@@ -200,8 +200,8 @@ private Q_SLOTS:
 
     void theLogSaysNothing()
     {
-        ScreenFixture f;
-        MaintenanceOverviewView view(f.context);
+        ShellFixture f;
+        MaintenanceOverviewView view(f.equipment, f.types, {});
         view.show();
         settle();
         f.types.resetToDefaults();
@@ -211,8 +211,8 @@ private Q_SLOTS:
 
     void aHiddenScreenRestsAndIsRightWhenItIsShown()
     {
-        ScreenFixture f;
-        MaintenanceOverviewView view(f.context);
+        ShellFixture f;
+        MaintenanceOverviewView view(f.equipment, f.types, {});
         const StatCard& total = *view.findChildren<StatCard*>().first();
         QCOMPARE(total.value(), QString());
         view.show();
@@ -227,7 +227,7 @@ private Q_SLOTS:
 
     void cardsAreReadAsTitleAndValue()
     {
-        ScreenFixture f;
+        ShellFixture f;
         ShownTab s(f, ContentView::MaintenanceTab);
         QStringList read;
         for (StatCard* card : s.window.findChildren<StatCard*>()) {
@@ -240,7 +240,7 @@ private Q_SLOTS:
 
     void tabOrder()
     {
-        ScreenFixture f;
+        ShellFixture f;
         ShownTab s(f, ContentView::MaintenanceTab);
         part(s.window, u"sidebar"_s).setFocus();
         QStringList order;
@@ -265,7 +265,7 @@ private Q_SLOTS:
     {
         QFETCH(double, scale);
         const ScaledText scaled(scale);
-        ScreenFixture f;
+        ShellFixture f;
         ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
         QCOMPARE(s.window.size(), QSize(1000, 700));
         auto& view = *s.window.findChild<MaintenanceOverviewView*>();
@@ -279,7 +279,7 @@ private Q_SLOTS:
     /// Rows that exist follow a change of the text size while the screen is shown.
     void textSizeChangesWhileShown()
     {
-        ScreenFixture f;
+        ShellFixture f;
         ShownTab s(f, ContentView::MaintenanceTab);
         const ScaledText twice(2);
         settle();

@@ -20,7 +20,7 @@ namespace {
 /// The overview of the three sample items, of which the second and the third are due.
 struct Shown : ShownTab
 {
-    explicit Shown(ScreenFixture& f, QSize size = {1280, 800})
+    explicit Shown(ShellFixture& f, QSize size = {1280, 800})
         : ShownTab(f, ContentView::MaintenanceTab, size)
     {}
 
@@ -54,7 +54,7 @@ private Q_SLOTS:
     {
         QFETCH(int, part);
         QFETCH(bool, byKeyboard);
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QVERIFY(!s.view().selectedEquipment());
         QAbstractButton& button = s.button(1, static_cast<DueRow::Part>(part));
@@ -81,7 +81,7 @@ private Q_SLOTS:
 
     void pressedByAScreenReaderTheFocusComesBackToo()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QAbstractButton& button = s.button(0, DueRow::Details);
         QAccessible::queryAccessibleInterface(&button)->actionInterface()->doAction(
@@ -96,7 +96,7 @@ private Q_SLOTS:
 
     void theSmallestWindowShowsTheWholeSheet()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f, {1000, 700});
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
         settle();
@@ -107,7 +107,7 @@ private Q_SLOTS:
 
     void deletedFromTheSheet()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
         settle();
@@ -124,7 +124,7 @@ private Q_SLOTS:
 
     void deletedElsewhere()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
         settle();
@@ -139,7 +139,7 @@ private Q_SLOTS:
 
     void theRowLeavesWhileTheSheetIsOpen()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QTest::mouseClick(&s.button(1, DueRow::AddMaintenance), Qt::LeftButton);
         settle();
@@ -160,7 +160,7 @@ private Q_SLOTS:
 
     void theWholeListGoesWhileTheSheetIsOpen()
     {
-        ScreenFixture f(dueItems(1));
+        ShellFixture f(dueItems(1));
         Shown s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
         settle();
@@ -178,7 +178,7 @@ private Q_SLOTS:
 
     void selectingNothingClosesAndAnotherItemReplaces()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         const auto& items = f.equipment.equipment();
         s.view().setSelectedEquipment(items.at(0));
@@ -196,7 +196,7 @@ private Q_SLOTS:
 
     void theWindowEndsWithTheSheetOpen()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         s.view().setSelectedEquipment(f.equipment.equipment().first());
         settle();

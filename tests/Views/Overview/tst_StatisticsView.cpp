@@ -30,7 +30,7 @@ QStringList cards(qsizetype total, qsizetype active, qsizetype due, qsizetype ex
 
 struct Shown : ShownTab
 {
-    explicit Shown(ScreenFixture& f, QSize size = {1280, 800})
+    explicit Shown(ShellFixture& f, QSize size = {1280, 800})
         : ShownTab(f, ContentView::StatisticsTab, size)
     {}
 
@@ -68,7 +68,7 @@ private Q_SLOTS:
 
     void freshSamples()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QCOMPARE(cardTexts(s.window), cards(3, 3, 2, 2, 1, 16));
         const QStringList rows = s.distribution();
@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void emptyRegister()
     {
-        ScreenFixture f(QList<Equipment>{});
+        ShellFixture f(QList<Equipment>{});
         Shown s(f);
         QCOMPARE(cardTexts(s.window), cards(0, 0, 0, 0, 0, 16));
         QCOMPARE(s.distribution(), QStringList());
@@ -99,7 +99,7 @@ private Q_SLOTS:
 
     void noTypes()
     {
-        ScreenFixture f;
+        ShellFixture f;
         f.types.setTypes({});
         Shown s(f);
         QCOMPARE(cardTexts(s.window).last(), u"Tipologie: 0"_s);
@@ -109,7 +109,7 @@ private Q_SLOTS:
 
     void whatCountsForAType()
     {
-        ScreenFixture f(QList<Equipment>{});
+        ShellFixture f(QList<Equipment>{});
         f.types.setTypes({type(1, u"GAV"_s, u"orange"_s), type(2, u"gav"_s, u"blue"_s), type(3, u"Boa"_s, u"red"_s),
                           type(4, u"Boa"_s, u"green"_s), type(5, u"Spenta"_s, u"green"_s)});
         QList<EquipmentTypeModel> types = f.types.types();
@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         std::mt19937 random(11);
         const auto draw = [&random](int from, int to) { return std::uniform_int_distribution(from, to)(random); };
-        const ScreenFixture zone;
+        const ShellFixture zone;
         QList<Equipment> items;
         qsizetype active = 0;
         qsizetype due = 0;
@@ -159,7 +159,7 @@ private Q_SLOTS:
             masks += item.isActive && !item.customTypeName && item.type == EquipmentType::mask ? 1 : 0;
             items.append(item);
         }
-        ScreenFixture f(items);
+        ShellFixture f(items);
         Shown s(f);
         QCOMPARE(cardTexts(s.window), cards(1000, active, due, expiring, inOrder, 16));
         QVERIFY(s.distribution().contains(u"Torcia %1/1000"_s.arg(lamps)));
@@ -173,7 +173,7 @@ private Q_SLOTS:
 
     void typesAreFollowed()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         EquipmentTypeModel bcd = *f.types.getTypeByName(u"GAV"_s);
         bcd.name = u"Gilet"_s;
@@ -198,7 +198,7 @@ private Q_SLOTS:
 
     void barsAreDrawnInTheColourOfTheType()
     {
-        ScreenFixture f;
+        ShellFixture f;
         f.types.setTypes({type(1, u"GAV"_s, u"pink"_s), type(2, u"Zero"_s, u"green"_s)});
         for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
             applyTheme(*qApp, scheme);
@@ -216,7 +216,7 @@ private Q_SLOTS:
 
     void columns()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         const QWidget& card = part(s.window, u"distribution"_s);
         const QLabel& name = part<QLabel>(s.window, u"typeName0"_s);
@@ -235,7 +235,7 @@ private Q_SLOTS:
 
     void barsAreReadAsValues()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         const qsizetype row = s.distribution().indexOf(u"GAV 1/3"_s);
         QAccessibleInterface* const bar = QAccessible::queryAccessibleInterface(&s.bar(static_cast<int>(row)));
@@ -249,7 +249,7 @@ private Q_SLOTS:
 
     void theKeyboardScrollsWhatIsBelow()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f, {1000, 700});
         QScrollBar& scrollBar = *s.page().verticalScrollBar();
         QVERIFY(scrollBar.maximum() > 0);
@@ -274,7 +274,7 @@ private Q_SLOTS:
 
     void aLongNameBreaks()
     {
-        ScreenFixture f;
+        ShellFixture f;
         f.types.setTypes({type(1, QString(80, u'x'), u"red"_s), type(2, u"y"_s, u"red"_s)});
         Shown s(f);
         const QLabel& name = part<QLabel>(s.window, u"typeName0"_s);
@@ -284,8 +284,8 @@ private Q_SLOTS:
 
     void theLogSaysNothingAndAHiddenScreenRests()
     {
-        ScreenFixture f;
-        StatisticsView view(f.context);
+        ShellFixture f;
+        StatisticsView view(f.equipment, f.types);
         const StatCard& total = *view.findChildren<StatCard*>().first();
         view.show();
         QCOMPARE(total.value(), u"3"_s);
@@ -312,7 +312,7 @@ private Q_SLOTS:
     {
         QFETCH(double, scale);
         const ScaledText scaled(scale);
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f, {1000, 700});
         auto& view = *s.window.findChild<StatisticsView*>();
         QCOMPARE(clippedTexts(view), QStringList());

@@ -6,8 +6,8 @@
 #include "ContentView.h"
 #include "EquipmentListView.h"
 #include "EquipmentTableView.h"
-#include "ScreenFixture.h"
 #include "SegmentedControl.h"
+#include "ShellFixture.h"
 #include "SidebarView.h"
 #include "TestRunner.h"
 #include "Theme.h"
@@ -28,8 +28,8 @@ namespace {
 /// A main window that has been shown and has the focus.
 struct Shown
 {
-    explicit Shown(ScreenFixture& f)
-        : window(f.context, f.directories.windowStateFile())
+    explicit Shown(ShellFixture& f)
+        : window(f, f.equipment, f.directories.windowStateFile())
     {
         window.show();
         window.activateWindow();
@@ -57,7 +57,7 @@ class tst_MainWindow : public TestCase
 private Q_SLOTS:
     void sizeAndTitle()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QCOMPARE(s.window.windowTitle(), u"Abissora"_s);
         QCOMPARE(s.window.minimumSize(), QSize(1000, 700));
@@ -65,7 +65,7 @@ private Q_SLOTS:
 
     void theGuideOpensFromAFormToo()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QSignalSpy asked(&s.window, &MainWindow::helpRequested);
         s.window.content().addEquipment();
@@ -83,7 +83,7 @@ private Q_SLOTS:
 
     void theKeyboardStartsInTheTable()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QTRY_VERIFY(s.table().hasFocus());
         QVERIFY(s.table().selectionModel()->selectedRows().isEmpty());
@@ -96,14 +96,14 @@ private Q_SLOTS:
 
     void theKeyboardStartsAtTheFirstItemToAdd()
     {
-        ScreenFixture f(QList<Equipment>{});
+        ShellFixture f(QList<Equipment>{});
         Shown s(f);
         QTRY_VERIFY(s.window.findChild<QWidget*>(u"emptyStateButton"_s)->hasFocus());
     }
 
     void menus()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QStringList titles;
         for (const QAction* menu : s.window.menuBar()->actions())
@@ -113,7 +113,7 @@ private Q_SLOTS:
 
     void sidebarAndTabsWorkTogether()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         ContentView& content = s.window.content();
         QCOMPARE(content.selectedTab(), 0);
@@ -129,7 +129,7 @@ private Q_SLOTS:
 
     void settingsTakeTheWholeDetail()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         auto* tabs = s.window.findChild<SegmentedControl*>();
         QVERIFY(tabs->isVisible());
@@ -142,7 +142,7 @@ private Q_SLOTS:
 
     void tabSwitchDoesNotMoveTheSidebar()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         QSignalSpy changed(&s.window.content(), &ContentView::selectedTabChanged);
         s.window.content().setSelectedTab(ContentView::StatisticsTab);
@@ -152,7 +152,7 @@ private Q_SLOTS:
 
     void selectionFollowsTheTableAndForgetsDeletedItems()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         s.table().selectRow(1);
         QCOMPARE(s.window.content().selectedEquipment()->name, u"GAV Scubapro Hydros"_s);
@@ -162,7 +162,7 @@ private Q_SLOTS:
 
     void findPutsTheCursorIntoTheSearch()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         s.window.content().setSelectedTab(ContentView::StatisticsTab);
         QTest::keyClick(&s.window, Qt::Key_F, Qt::ControlModifier);
@@ -172,7 +172,7 @@ private Q_SLOTS:
 
     void editingCommandsActOnTheFocusedField()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         const auto command = [&s](const QString& text) -> QAction* {
             for (QAction* menu : s.window.menuBar()->actions())
@@ -197,7 +197,7 @@ private Q_SLOTS:
 
     void tabOrder()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         s.sidebar().setFocus();
         QStringList order;
@@ -213,7 +213,7 @@ private Q_SLOTS:
 
     void everythingThatTakesTheFocusHasAName()
     {
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         f.equipment.filterByTypeName(u"GAV"_s);
         QCoreApplication::processEvents();
@@ -232,7 +232,7 @@ private Q_SLOTS:
     void nothingIsCutOffWithLargerText()
     {
         const ScaledText scaled(1.25);
-        ScreenFixture f;
+        ShellFixture f;
         Shown s(f);
         s.window.resize(s.window.minimumSize());
         QCoreApplication::processEvents();
@@ -248,7 +248,7 @@ private Q_SLOTS:
 
     void sizeIsKeptAcrossStarts()
     {
-        ScreenFixture f;
+        ShellFixture f;
         {
             Shown s(f);
             s.window.resize(1111, 777);

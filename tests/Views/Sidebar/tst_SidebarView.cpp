@@ -2,7 +2,7 @@
 #include "Literals.h"
 #include "SidebarView.h"
 
-#include "ScreenFixture.h"
+#include "RegisterFixture.h"
 #include "TestRunner.h"
 
 #include <QAbstractItemModelTester>
@@ -55,7 +55,7 @@ class tst_SidebarView : public TestCase
 private Q_SLOTS:
     void rows()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         QAbstractItemModelTester tester(view.model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
         const QStringList expected{u"Attrezzatura"_s,
@@ -86,7 +86,7 @@ private Q_SLOTS:
 
     void theFirstValueRunsNothing()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         f.equipment.setFilterTypeName(u"GAV"_s);
         f.console.clear();
         SidebarView view(f.equipment, f.types, f.console);
@@ -97,7 +97,7 @@ private Q_SLOTS:
 
     void categorySetsTheFilter()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         view.resize(228, 900);
         view.show();
@@ -119,7 +119,7 @@ private Q_SLOTS:
 
     void resettingElsewhereSelectsAll()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         view.setSelectedSidebarItem(u"type_Pinne"_s);
         QCoreApplication::processEvents();
@@ -137,7 +137,7 @@ private Q_SLOTS:
 
     void filterSetElsewhereSelectsItsCategory()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         f.equipment.filterByTypeName(u"Muta"_s);
         QCoreApplication::processEvents();
@@ -151,7 +151,7 @@ private Q_SLOTS:
 
     void noneDoesNotMoveTheSelectionWhileAKindIsSelected()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         view.setSelectedSidebarItem(u"type_Muta"_s);
         QCoreApplication::processEvents();
@@ -164,7 +164,7 @@ private Q_SLOTS:
 
     void maintenanceKeepsTheFilter()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         f.equipment.filterByTypeName(u"GAV"_s);
         QCoreApplication::processEvents();
@@ -184,7 +184,7 @@ private Q_SLOTS:
 
     void settingsAndNone()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         QSignalSpy tab(&view, &SidebarView::tabRequested);
         view.setSelectedSidebarItem(u"settings"_s);
@@ -197,7 +197,7 @@ private Q_SLOTS:
 
     void badgeCountsWhatIsDue()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         const QModelIndex row = view.model()->index(2, 0);
         QCOMPARE(row.data(SidebarModel::BadgeRole).toInt(), 2);
@@ -212,7 +212,7 @@ private Q_SLOTS:
 
     void keyboardSkipsTitlesAndDivider()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         view.show();
         QTest::keyClick(&view, Qt::Key_Down);
@@ -227,7 +227,7 @@ private Q_SLOTS:
 
     void typesAppearAndGo()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         view.setSelectedSidebarItem(u"type_GAV"_s);
         QCoreApplication::processEvents();
@@ -250,7 +250,7 @@ private Q_SLOTS:
 
     void accessibleRows()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&view);
         QVERIFY(list);

@@ -8,6 +8,7 @@
 #include "IconTile.h"
 #include "Literals.h"
 #include "MainWindow.h"
+#include "ShellFixture.h"
 #include "SidebarView.h"
 #include "SymbolIcon.h"
 #include "TestRunner.h"
@@ -42,7 +43,7 @@ struct Shown
         : fixture(QList<Equipment>{buoy()})
     {
         fixture.types.addType(own(900, u"Boa"_s));
-        window = std::make_unique<MainWindow>(fixture.context, fixture.directories.windowStateFile());
+        window = std::make_unique<MainWindow>(fixture, fixture.equipment, fixture.directories.windowStateFile());
         window->resize(1280, 800);
         window->show();
         window->activateWindow();
@@ -78,7 +79,7 @@ struct Shown
     QString detailType() const { return detail().findChild<QLabel*>(u"detailType"_s)->text(); }
     QImage detailPicture() const { return picture(*detail().findChild<IconTile*>()); }
 
-    ScreenFixture fixture;
+    ShellFixture fixture;
     std::unique_ptr<MainWindow> window;
 };
 

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Equipment.h"
+
+class QWidget;
+
+namespace abissora {
+
+class EditEquipmentView;
+class EquipmentDetailView;
+class EquipmentFormView;
+class EquipmentListView;
+class SidebarView;
+
+/// Makes the parts of the main window with the state that each of them shows. What is made without a parent belongs to
+/// the caller; it must not outlive the factory.
+class ScreenFactory
+{
+public:
+    virtual ~ScreenFactory() = default;
+
+    [[nodiscard]] virtual SidebarView* makeSidebar() = 0;
+    [[nodiscard]] virtual EquipmentListView* makeList() = 0;
+    [[nodiscard]] virtual EquipmentDetailView* makeDetail(const Equipment& equipment) = 0;
+    [[nodiscard]] virtual QWidget* makeOverview() = 0;
+    [[nodiscard]] virtual QWidget* makeStatistics() = 0;
+    [[nodiscard]] virtual QWidget* makeSettings() = 0;
+
+    /// The forms, over a window.
+    [[nodiscard]] virtual EquipmentFormView* makeFormForNew(QWidget* over) = 0;
+    [[nodiscard]] virtual EditEquipmentView* makeFormFor(const Equipment& equipment, QWidget* over) = 0;
+};
+
+} // namespace abissora
