@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Calendar.h"
-#include "DateFormat.h"
+#include "Almanac.h"
 #include "EquipmentTypeViewModel.h"
 #include "TypeAppearance.h"
 
@@ -11,6 +10,8 @@ namespace abissora {
 /// What one row of the register's table shows.
 struct EquipmentRow
 {
+    enum Column { NameColumn, BrandColumn, ModelColumn, NextServiceColumn, StateColumn, ActionsColumn, ColumnCount };
+
     QString name;
     QString typeName;
     TypeAppearance appearance;
@@ -23,6 +24,10 @@ struct EquipmentRow
     bool isActive = true;
     QString state; ///< "Attivo" or "Inattivo"
 
+    /// Every line of a cell, one below the other; the actions are called by their title.
+    [[nodiscard]] QString text(Column column) const;
+    [[nodiscard]] static QString title(Column column);
+
     friend bool operator==(const EquipmentRow&, const EquipmentRow&) = default;
 };
 
@@ -30,15 +35,14 @@ struct EquipmentRow
 class EquipmentRowMaker
 {
 public:
-    /// `types` must outlive it.
-    EquipmentRowMaker(const EquipmentTypeViewModel& types, DateFormat format, Calendar calendar, Instant now);
+    /// As things are now. `types` must outlive it.
+    EquipmentRowMaker(const EquipmentTypeViewModel& types, Almanac almanac);
 
     [[nodiscard]] EquipmentRow row(const Equipment& item) const;
 
 private:
     const EquipmentTypeViewModel* m_types;
-    DateFormat m_format;
-    Calendar m_calendar;
+    Almanac m_almanac;
     Instant m_now;
 };
 

@@ -3,16 +3,14 @@
 
 #include "Alert.h"
 #include "EmptyState.h"
-#include "EquipmentColumns.h"
 #include "EquipmentTableView.h"
-#include "FilterButton.h"
 #include "FilterMenu.h"
-#include "ListFooter.h"
+#include "InkLabel.h"
 #include "ListHeader.h"
 #include "Literals.h"
 #include "Metrics.h"
-#include "RowActionsMenu.h"
 #include "SearchField.h"
+#include "SymbolIcon.h"
 
 #include <QStackedWidget>
 #include <QVBoxLayout>
@@ -36,12 +34,16 @@ EquipmentListView::EquipmentListView(EquipmentViewModel& equipment, const Equipm
     , m_content(new QStackedWidget)
     , m_table(new EquipmentTableView)
     , m_empty(new EmptyState)
-    , m_footer(new ListFooter)
-    , m_rowActions(new RowActionsMenu(this))
+    , m_shownCount(new InkLabel(TextStyle::Caption, &Tokens::secondaryText))
+    , m_dueCount(new InkLabel(TextStyle::Caption, &Tokens::danger))
+    , m_activeCount(new InkLabel(TextStyle::Caption, &Tokens::ok))
+    , m_rowActions(new QMenu(this))
 {
     setObjectName(u"equipmentList"_s);
     buildLayout();
+    buildRowActions();
     connectControls();
+    connectTable();
 }
 
 void EquipmentListView::buildLayout()
@@ -51,8 +53,10 @@ void EquipmentListView::buildLayout()
     m_empty->setSymbol(u"tray"_s);
     m_empty->setTitle(u"Nessuna attrezzatura trovata"_s);
     m_filterButton->setObjectName(u"filterButton"_s);
+    m_shownCount->setObjectName(u"shownCount"_s);
+    m_dueCount->setObjectName(u"dueCount"_s);
+    m_activeCount->setObjectName(u"activeCount"_s);
 
-    new EquipmentColumns(*m_table);
     m_content->addWidget(m_table);
     m_content->addWidget(m_empty);
 
@@ -61,6 +65,13 @@ void EquipmentListView::buildLayout()
     searchRow->addWidget(m_search, 1);
     searchRow->addWidget(m_filterButton);
 
+    auto* counts = new QHBoxLayout;
+    counts->setContentsMargins(metrics::spaceXS, 0, metrics::spaceXS, 0);
+    counts->setSpacing(metrics::spaceL + metrics::spaceXS);
+    for (InkLabel* count : {m_shownCount, m_dueCount, m_activeCount})
+        counts->addWidget(count);
+    counts->addStretch();
+
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(metrics::spaceL + metrics::spaceXS, 0, metrics::spaceL + metrics::spaceXS,
                                metrics::spaceM);
@@ -68,57 +79,65 @@ void EquipmentListView::buildLayout()
     layout->addWidget(m_header);
     layout->addLayout(searchRow);
     layout->addWidget(m_content, 1);
-    layout->addWidget(m_footer);
+    layout->addLayout(counts);
+}
+
+void EquipmentListView::buildRowActions()
+{
+    m_rowActions->setObjectName(u"rowActions"_s);
+    const auto add = [this](const QString& symbol, const QString& text, const auto& action) {
+        connect(m_rowActions->addAction(symbolIcon(symbol), text), &QAction::triggered, this,
+                [this, action] { std::invoke(action, this, m_equipmentOfActions); });
+    };
+    add(u"info.circle"_s, u"Visualizza dettagli"_s, &EquipmentListView::select);
+    add(u"pencil"_s, u"Modifica attrezzatura"_s, &EquipmentListView::edit);
+    m_rowActions->addSeparator();
+    add(u"trash.circle.fill"_s, u"Elimina attrezzatura"_s, &EquipmentListView::confirmDeletion);
 }
 
 void EquipmentListView::connectControls()
 {
-    EquipmentViewModel& equipment = m_equipment;
-    connect(&equipment, &EquipmentViewModel::changed, &m_update, &VisibleUpdate::schedule);
+    connect(&m_equipment, &EquipmentViewModel::changed, &m_update, &VisibleUpdate::schedule);
     connect(&m_types, &EquipmentTypeViewModel::changed, &m_update, &VisibleUpdate::schedule);
 
+    const auto showAllTypes = [this] { m_equipment.setFilterTypeName(std::nullopt); };
     connect(m_header, &ListHeader::addClicked, this, &EquipmentListView::addRequested);
     connect(m_header, &ListHeader::refreshClicked, this, &EquipmentListView::refresh);
-    connect(m_header, &ListHeader::clearFilterClicked, this,
-            [&equipment] { equipment.setFilterTypeName(std::nullopt); });
+    connect(m_header, &ListHeader::clearFilterClicked, this, showAllTypes);
     // Not textEdited, which leaves out what a screen reader or a dictation puts in.
-    connect(m_search, &SearchField::textChanged, &equipment, [&equipment](const QString& text) {
-        if (text != equipment.searchText())
-            equipment.setSearchText(text);
+    connect(m_search, &SearchField::textChanged, this, [this](const QString& text) {
+        if (text != m_equipment.searchText())
+            m_equipment.setSearchText(text);
     });
 
     connect(m_filterMenu, &QMenu::aboutToShow, this,
-            [this] { m_filterMenu->setEntries(m_types.filteredTypes(), isNarrowed()); });
-    connect(m_filterMenu, &FilterMenu::allChosen, this, [&equipment] { equipment.setFilterTypeName(std::nullopt); });
+            [this] { m_filterMenu->setEntries(m_types.filteredTypes(), ListContent::isNarrowed(m_equipment)); });
+    connect(m_filterMenu, &FilterMenu::allChosen, this, showAllTypes);
     connect(m_filterMenu, &FilterMenu::clearChosen, this, &EquipmentListView::clearFilters);
     connect(m_filterMenu, &FilterMenu::typeChosen, this, [this](const QString& name) {
         m_console.print(u"🖱️ Menu filtro cliccato: "_s + name);
         m_equipment.filterByTypeName(name);
         refresh();
     });
-
-    connect(m_table, &EquipmentTableView::rowSelected, this, [this](int row) {
-        select(row < 0 ? std::nullopt : std::optional(m_table->equipmentModel().equipment().at(row)));
-    });
-    connect(m_table, &EquipmentTableView::actionsRequested, this, [this](int row, QPoint position) {
-        m_rowActions->setEquipment(m_table->equipmentModel().equipment().at(row));
-        m_rowActions->popup(position);
-    });
-    connect(m_table, &EquipmentTableView::deleteRequested, this,
-            [this](int row) { confirmDeletion(m_table->equipmentModel().equipment().at(row)); });
-    connect(m_rowActions, &RowActionsMenu::showRequested, this, &EquipmentListView::select);
-    connect(m_rowActions, &RowActionsMenu::editRequested, this, [this](const Equipment& item) {
-        select(item);
-        Q_EMIT editRequested(item);
-    });
-    connect(m_rowActions, &RowActionsMenu::deleteRequested, this, &EquipmentListView::confirmDeletion);
-
     connect(m_empty, &EmptyState::buttonClicked, this, [this] {
-        if (isNarrowed())
+        if (ListContent::isNarrowed(m_equipment))
             clearFilters();
         else
             Q_EMIT addRequested();
     });
+}
+
+void EquipmentListView::connectTable()
+{
+    const auto itemOf = [this](int row) { return m_table->equipmentModel().equipment().at(row); };
+    connect(m_table, &EquipmentTableView::rowSelected, this,
+            [this, itemOf](int row) { select(row < 0 ? std::nullopt : std::optional(itemOf(row))); });
+    connect(m_table, &EquipmentTableView::actionsRequested, this, [this, itemOf](int row, QPoint position) {
+        m_equipmentOfActions = itemOf(row);
+        m_rowActions->popup(position);
+    });
+    connect(m_table, &EquipmentTableView::deleteRequested, this,
+            [this, itemOf](int row) { confirmDeletion(itemOf(row)); });
 }
 
 void EquipmentListView::setSelectedEquipment(const std::optional<Equipment>& equipment)
@@ -167,18 +186,18 @@ void EquipmentListView::focusContent()
 
 void EquipmentListView::redraw()
 {
-    const QList<Equipment> shown = m_equipment.filteredEquipment();
-    const EquipmentRowMaker rows(m_types, m_almanac.dates, m_almanac.calendar, m_almanac.now());
-    m_table->showEquipment(shown, rows, m_selectedEquipment ? std::optional(m_selectedEquipment->id) : std::nullopt);
-
+    const ListContent content = ListContent::of(m_equipment, m_types);
+    m_table->showEquipment(content.items, EquipmentRowMaker(m_types, m_almanac),
+                           m_selectedEquipment ? std::optional(m_selectedEquipment->id) : std::nullopt);
     if (m_search->text() != m_equipment.searchText())
         m_search->setText(m_equipment.searchText());
-    m_header->setFilter(m_equipment.filterTypeName(), m_types);
-
-    m_empty->setButtonText(isNarrowed() ? u"Cancella filtri"_s : u"Aggiungi la prima attrezzatura"_s);
-    m_content->setCurrentWidget(shown.isEmpty() ? static_cast<QWidget*>(m_empty) : m_table);
-    const auto active = std::count_if(shown.begin(), shown.end(), [](const Equipment& item) { return item.isActive; });
-    m_footer->setCounts(shown.size(), m_equipment.overdueEquipment().size(), active);
+    m_header->setFilter(content.filter);
+    m_empty->setButtonText(content.offer);
+    m_content->setCurrentWidget(content.items.isEmpty() ? static_cast<QWidget*>(m_empty) : m_table);
+    m_shownCount->setText(content.shownCount);
+    m_dueCount->setText(content.dueCount);
+    m_dueCount->setVisible(!content.dueCount.isEmpty());
+    m_activeCount->setText(content.activeCount);
 }
 
 void EquipmentListView::select(const std::optional<Equipment>& equipment)
@@ -187,15 +206,16 @@ void EquipmentListView::select(const std::optional<Equipment>& equipment)
     Q_EMIT equipmentSelected(equipment);
 }
 
+void EquipmentListView::edit(const Equipment& equipment)
+{
+    select(equipment);
+    Q_EMIT editRequested(equipment);
+}
+
 void EquipmentListView::clearFilters()
 {
     m_equipment.setSearchText({});
     m_equipment.setFilterTypeName(std::nullopt);
-}
-
-bool EquipmentListView::isNarrowed() const
-{
-    return !m_equipment.searchText().isEmpty() || m_equipment.filterTypeName() || m_equipment.selectedType();
 }
 
 } // namespace abissora

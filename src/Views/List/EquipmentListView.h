@@ -8,6 +8,7 @@
 
 #include <QWidget>
 
+class QMenu;
 class QStackedWidget;
 
 namespace abissora {
@@ -16,9 +17,8 @@ class EmptyState;
 class EquipmentTableView;
 class FilterButton;
 class FilterMenu;
-class ListFooter;
+class InkLabel;
 class ListHeader;
-class RowActionsMenu;
 class SearchField;
 
 /// The register's main screen: a searchable, filterable table with its header, its footer of counts and the actions on
@@ -56,11 +56,13 @@ Q_SIGNALS:
 
 private:
     void buildLayout();
+    void buildRowActions();
     void connectControls();
+    void connectTable();
     void redraw();
     void select(const std::optional<Equipment>& equipment);
+    void edit(const Equipment& equipment);
     void clearFilters();
-    [[nodiscard]] bool isNarrowed() const;
     void deleteConfirmed();
 
     EquipmentViewModel& m_equipment;
@@ -71,6 +73,7 @@ private:
     VisibleUpdate m_update;
     std::optional<Equipment> m_selectedEquipment;
     std::optional<Equipment> m_equipmentToDelete;
+    Equipment m_equipmentOfActions; ///< whose row the menu was opened for
     QUuid m_refreshID;
 
     ListHeader* m_header;
@@ -80,8 +83,10 @@ private:
     QStackedWidget* m_content;
     EquipmentTableView* m_table;
     EmptyState* m_empty;
-    ListFooter* m_footer;
-    RowActionsMenu* m_rowActions;
+    InkLabel* m_shownCount;
+    InkLabel* m_dueCount;
+    InkLabel* m_activeCount;
+    QMenu* m_rowActions;
 };
 
 } // namespace abissora

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTableModel.h"
 
-#include "Literals.h"
 #include "ToolTipText.h"
 
 namespace abissora {
@@ -10,7 +9,7 @@ void EquipmentTableModel::setEquipment(const QList<Equipment>& equipment, Equipm
 {
     beginResetModel();
     m_equipment = equipment;
-    m_rows = std::move(rows);
+    m_rows.emplace(std::move(rows));
     endResetModel();
 }
 
@@ -21,8 +20,7 @@ EquipmentRow EquipmentTableModel::row(int row) const
 
 int EquipmentTableModel::rowOf(const QUuid& id) const
 {
-    const auto found =
-        std::find_if(m_equipment.begin(), m_equipment.end(), [&id](const Equipment& item) { return item.id == id; });
+    const auto found = std::ranges::find(m_equipment, id, &Equipment::id);
     return found == m_equipment.end() ? -1 : static_cast<int>(found - m_equipment.begin());
 }
 
@@ -40,38 +38,22 @@ QVariant EquipmentTableModel::data(const QModelIndex& index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
-        return {};
+    const auto column = static_cast<EquipmentRow::Column>(index.column());
+    if (role == Qt::DisplayRole)
+        return row(index.row()).text(column);
     // Texts that a narrow column cuts off are read in full in the tool tip.
-    if (role == Qt::ToolTipRole)
-        return index.column() <= ModelColumn ? QVariant(toolTipText(data(index, Qt::DisplayRole).toString()))
-                                             : QVariant();
-    const EquipmentRow item = row(index.row());
-    switch (index.column()) {
-    case NameColumn:
-        return QString(item.name + u'\n' + item.typeName);
-    case BrandColumn:
-        return item.brand;
-    case ModelColumn:
-        return item.model;
-    case NextServiceColumn:
-        return QString(item.nextServiceDate + u'\n' + item.remaining);
-    case StateColumn:
-        return item.state;
-    default:
-        return headerData(index.column(), Qt::Horizontal, role);
-    }
+    if (role == Qt::ToolTipRole && column <= ModelColumn)
+        return toolTipText(row(index.row()).text(column));
+    return {};
 }
 
 QVariant EquipmentTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    static const std::array<QString, ColumnCount> titles{u"Nome"_s,  u"Marca"_s, u"Modello"_s, u"Prossimo Tagliando"_s,
-                                                         u"Stato"_s, u"Azioni"_s};
-    if (orientation == Qt::Horizontal && role == Qt::DisplayRole && section >= 0 && section < ColumnCount)
-        return titles.at(static_cast<std::size_t>(section));
-    if (orientation == Qt::Horizontal && role == Qt::TextAlignmentRole)
-        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
-    return {};
+    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
+        return {};
+    if (role == Qt::DisplayRole)
+        return EquipmentRow::title(static_cast<EquipmentRow::Column>(section));
+    return role == Qt::TextAlignmentRole ? QVariant(Qt::AlignLeft | Qt::AlignVCenter) : QVariant();
 }
 
 } // namespace abissora

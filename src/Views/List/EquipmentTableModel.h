@@ -13,7 +13,7 @@ class EquipmentTableModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { NameColumn, BrandColumn, ModelColumn, NextServiceColumn, StateColumn, ActionsColumn, ColumnCount };
+    using enum EquipmentRow::Column;
 
     using QAbstractTableModel::QAbstractTableModel;
 

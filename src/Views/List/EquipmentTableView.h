@@ -9,6 +9,10 @@ namespace abissora {
 
 /// The register's table. One row is selected at a time; the actions of a row open from its button, by right click, by
 /// the Menu key or Shift+F10, and by Return or Space on its last cell.
+///
+/// Its columns together are as wide as its viewport. Spare width goes to names, makes, models and dates by fixed
+/// shares. In a narrow viewport makes and models give way first, names and dates last, each down to a least width;
+/// below that the table scrolls. A date's least width holds its abbreviated form.
 class EquipmentTableView : public QTableView
 {
     Q_OBJECT
@@ -40,6 +44,7 @@ protected:
     void leaveEvent(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
     void changeEvent(QEvent* event) override;
 
@@ -50,6 +55,7 @@ private:
     void keepPlace(const QUuid& id, int rowBefore, int column);
     void setHover(const QModelIndex& index, bool onActionButton);
     void adjustToText();
+    void layOutColumns();
 
     EquipmentTableModel m_model;
     EquipmentTableDelegate m_delegate;

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "FilterMenu.h"
 
+#include "ControlLook.h"
 #include "Literals.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
+
+#include <QStyleOptionToolButton>
 
 namespace abissora {
 
@@ -40,6 +43,24 @@ void FilterMenu::setEntries(const QList<EquipmentTypeModel>& types, bool canClea
         connect(addAction(symbolIcon(u"xmark.circle"_s), u"Cancella filtri"_s), &QAction::triggered, this,
                 &FilterMenu::clearChosen);
     }
+}
+
+FilterButton::FilterButton(FilterMenu& menu, QWidget* parent)
+    : QToolButton(parent)
+{
+    const QString name = u"Filtro"_s;
+    setIcon(symbolIcon(u"line.3.horizontal.decrease"_s));
+    setAccessibleName(name);
+    setToolTip(name);
+    setPopupMode(InstantPopup);
+    setMenu(&menu);
+    setButtonLook(*this, ButtonLook::Plain);
+}
+
+void FilterButton::initStyleOption(QStyleOptionToolButton* option) const
+{
+    QToolButton::initStyleOption(option);
+    option->features &= ~QStyleOptionToolButton::HasMenu;
 }
 
 } // namespace abissora

@@ -4,6 +4,7 @@
 #include "EquipmentTypeModel.h"
 
 #include <QMenu>
+#include <QToolButton>
 
 namespace abissora {
 
@@ -22,6 +23,19 @@ Q_SIGNALS:
     void allChosen();
     void typeChosen(const QString& name);
     void clearChosen();
+};
+
+/// Opens the filter menu. Its picture says enough: no arrow is drawn beside it.
+class FilterButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    /// `menu` belongs to somebody else.
+    explicit FilterButton(FilterMenu& menu, QWidget* parent = nullptr);
+
+protected:
+    void initStyleOption(QStyleOptionToolButton* option) const override;
 };
 
 } // namespace abissora

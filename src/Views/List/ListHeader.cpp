@@ -6,7 +6,6 @@
 #include "Literals.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
-#include "TypeAppearance.h"
 #include "WrapLabel.h"
 
 #include <QVBoxLayout>
@@ -45,15 +44,13 @@ ListHeader::ListHeader(QWidget* parent)
     connect(m_chip, &Chip::clearClicked, this, &ListHeader::clearFilterClicked);
 }
 
-void ListHeader::setFilter(const std::optional<QString>& typeName, const EquipmentTypeViewModel& types)
+void ListHeader::setFilter(const std::optional<ListContent::Filter>& filter)
 {
-    m_chip->setVisible(typeName.has_value());
-    if (!typeName)
+    m_chip->setVisible(filter.has_value());
+    if (!filter)
         return;
-    const auto type = types.getTypeByName(*typeName);
-    const TypeAppearance look = type ? appearanceOf(*type) : TypeAppearance{unknownTypeIcon, NamedColor::primary};
-    m_chip->setIcon(typeIcon(look.icon, look.color));
-    m_chip->setText(u"Filtro: "_s + *typeName);
+    m_chip->setIcon(typeIcon(filter->appearance.icon, filter->appearance.color));
+    m_chip->setText(filter->text);
     placeChip();
 }
 

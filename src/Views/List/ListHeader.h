@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "EquipmentTypeViewModel.h"
+#include "ListContent.h"
 
 #include <QWidget>
 
@@ -23,7 +23,7 @@ public:
     explicit ListHeader(QWidget* parent = nullptr);
 
     /// Nothing hides the chip.
-    void setFilter(const std::optional<QString>& typeName, const EquipmentTypeViewModel& types);
+    void setFilter(const std::optional<ListContent::Filter>& filter);
 
 Q_SIGNALS:
     void addClicked();

@@ -7,7 +7,6 @@
 #include "FormDriver.h"
 #include "Literals.h"
 #include "MainWindow.h"
-#include "RowActionsMenu.h"
 #include "ShellFixture.h"
 #include "TestRunner.h"
 
@@ -130,7 +129,7 @@ private Q_SLOTS:
         s.table().setFocus();
         s.table().scrollTo(actions);
         QTest::mouseClick(s.table().viewport(), Qt::LeftButton, {}, s.table().visualRect(actions).center());
-        auto* menu = s.window.findChild<RowActionsMenu*>();
+        auto* menu = s.window.findChild<QMenu*>(u"rowActions"_s);
         for (QAction* action : menu->actions()) {
             if (action->text() == u"Modifica attrezzatura"_s)
                 action->trigger();

@@ -2,8 +2,8 @@
 #include "ListParts.h"
 #include "Literals.h"
 #include "RegisterFixture.h"
-#include "RowActionsMenu.h"
 #include "TestRunner.h"
+#include <QMenu>
 
 #include <QContextMenuEvent>
 #include <QLabel>
@@ -26,7 +26,7 @@ private Q_SLOTS:
         view.show();
         settle();
         auto& table = existing<EquipmentTableView>(view, "equipmentTable");
-        auto& menu = existing<RowActionsMenu>(view, "rowActions");
+        auto& menu = existing<QMenu>(view, "rowActions");
         const QModelIndex actionCell = table.model()->index(2, EquipmentTableModel::ActionsColumn);
         QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(actionCell).center());
         QVERIFY(menu.isVisible());
