@@ -2,30 +2,67 @@
 #pragma once
 
 #include "CoalescedUpdate.h"
-#include "Console.h"
 #include "EquipmentTypeViewModel.h"
-#include "EquipmentViewModel.h"
-#include "SidebarDelegate.h"
-#include "SidebarModel.h"
+#include "SidebarContent.h"
 
+#include <QAbstractListModel>
 #include <QListView>
+#include <QStyledItemDelegate>
 
 namespace abissora {
 
-/// The sidebar drives the catalogue's filters and follows them.
+/// The rows of the sidebar, of which entries can be selected.
+class SidebarModel : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    enum Role { TagRole = Qt::UserRole, KindRole, BadgeRole };
+
+    explicit SidebarModel(QObject* parent = nullptr);
+
+    /// Does nothing when they are what is shown already.
+    void setTypes(const QList<EquipmentTypeModel>& types);
+    /// Shown on "Manutenzione scaduta"; 0 shows none.
+    void setBadge(qsizetype count);
+
+    /// The first row with this tag; -1 when there is none.
+    [[nodiscard]] int rowOf(const QString& tag) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    QList<SidebarRow> m_rows;
+    qsizetype m_badge = 0;
+};
+
+/// Paints the sidebar's rows: titles in caption, entries with their picture and badge, the divider.
+class SidebarDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+/// Shows the selection of what the window is about, and lets the person choose another one.
 class SidebarView : public QListView
 {
     Q_OBJECT
 
 public:
     /// Everything passed by reference must outlive it.
-    SidebarView(EquipmentViewModel& equipment, EquipmentTypeViewModel& types, Console& console,
+    SidebarView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types, Console& console,
                 QWidget* parent = nullptr);
 
-    /// The tag of the selected row; nothing before a row was ever selected.
-    [[nodiscard]] const std::optional<QString>& selectedSidebarItem() const { return m_selectedSidebarItem; }
-    /// Selecting another item than the selected one acts on tabs and filters.
-    void setSelectedSidebarItem(const std::optional<QString>& tag);
+    /// The tag of the selected row.
+    [[nodiscard]] const std::optional<QString>& selectedSidebarItem() const { return m_selection.tag(); }
+    void setSelectedSidebarItem(const std::optional<QString>& tag) { m_selection.select(tag); }
 
     /// Wide enough for the fixed rows with a badge, and for a scroll bar beside them.
     [[nodiscard]] QSize sizeHint() const override;
@@ -39,19 +76,15 @@ protected:
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
-    void actOnSelection();
-    void followFilter();
     void redraw();
     void showSelection();
 
     EquipmentViewModel& m_equipment;
-    EquipmentTypeViewModel& m_types;
-    Console& m_console;
+    const EquipmentTypeViewModel& m_types;
+    SidebarSelection m_selection;
     SidebarModel m_model;
     SidebarDelegate m_delegate;
     CoalescedUpdate m_update;
-    std::optional<QString> m_selectedSidebarItem = sidebar::all;
-    std::optional<QString> m_lastFilterTypeName;
     bool m_silent = false;
 };
 
