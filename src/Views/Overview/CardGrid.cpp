@@ -2,6 +2,7 @@
 #include "CardGrid.h"
 
 #include "Metrics.h"
+#include "StatCard.h"
 
 #include <QStyle>
 #include <QWidget>
@@ -100,6 +101,21 @@ void CardGrid::setGeometry(const QRect& rect)
         const QRect place(rect.left() + left, rect.top() + i / columns * (height + gap), right - left, height);
         m_items.at(i)->setGeometry(QStyle::visualRect(direction, rect, place));
     }
+}
+
+FigureGrid::FigureGrid(const QList<RegisterFigure>& figures, int columns)
+    : CardGrid(columns)
+{
+    for (const RegisterFigure& figure : figures) {
+        m_cards.append(new StatCard(figure.title, figure.symbol, figure.color));
+        addWidget(m_cards.last());
+    }
+}
+
+void FigureGrid::setValues(const QList<RegisterFigure>& figures)
+{
+    for (qsizetype i = 0; i < m_cards.size(); ++i)
+        m_cards.at(i)->setValue(QString::number(figures.at(i).value));
 }
 
 } // namespace abissora

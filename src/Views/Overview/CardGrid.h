@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "RegisterFigures.h"
+
 #include <QLayout>
 #include <QList>
 
 namespace abissora {
+
+class StatCard;
 
 /// Places its items in columns of one width and rows of one height: as many columns as wanted, or the next smaller
 /// number that fills every row and still gives each item the width it needs.
@@ -35,6 +39,22 @@ private:
 
     QList<QLayoutItem*> m_items;
     int m_columns;
+};
+
+/// A card for each figure of the register.
+class FigureGrid : public CardGrid
+{
+    Q_OBJECT
+
+public:
+    /// The values are not shown yet.
+    FigureGrid(const QList<RegisterFigure>& figures, int columns);
+
+    /// The same figures in the same order.
+    void setValues(const QList<RegisterFigure>& figures);
+
+private:
+    QList<StatCard*> m_cards;
 };
 
 } // namespace abissora

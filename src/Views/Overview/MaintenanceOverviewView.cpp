@@ -8,7 +8,6 @@
 #include "Literals.h"
 #include "Metrics.h"
 #include "ScreenPage.h"
-#include "StatCard.h"
 
 #include <QVBoxLayout>
 
@@ -23,10 +22,7 @@ MaintenanceOverviewView::MaintenanceOverviewView(const EquipmentViewModel& equip
     , m_makeDetail(std::move(makeDetail))
     , m_update(*this, [this] { redraw(); })
     , m_page(new ScreenPage(u"Panoramica Manutenzione"_s))
-    , m_total(new StatCard(u"Totale Articoli"_s, u"folder.fill"_s, NamedColor::blue))
-    , m_due(new StatCard(u"Manutenzioni Scadute"_s, u"exclamationmark.triangle.fill"_s, NamedColor::red))
-    , m_expiring(new StatCard(u"In Scadenza (30gg)"_s, u"clock.fill"_s, NamedColor::orange))
-    , m_inOrder(new StatCard(u"In Regola"_s, u"checkmark.circle.fill"_s, NamedColor::green))
+    , m_figures(new FigureGrid(overviewFigures({}), 4))
     , m_dueTitle(new InkLabel(TextStyle::Headline, &Tokens::text, u"Manutenzioni Scadute"_s))
     , m_dueList(new DueList(*m_page))
     , m_allInOrder(new EmptyState)
@@ -47,13 +43,9 @@ void MaintenanceOverviewView::buildLayout()
     m_allInOrder->setSymbol(u"checkmark.circle.fill"_s, NamedColor::green);
     m_allInOrder->setTitle(u"Tutte le attrezzature sono in regola!"_s);
 
-    auto* cards = new CardGrid(4);
-    for (StatCard* card : {m_total, m_due, m_expiring, m_inOrder})
-        cards->addWidget(card);
-
     QVBoxLayout* const column = m_page->column();
     column->addWidget(new InkLabel(TextStyle::LargeTitle, &Tokens::text, u"Panoramica Manutenzione"_s));
-    column->addLayout(cards);
+    column->addLayout(m_figures);
     column->addWidget(m_dueTitle);
     column->addWidget(m_dueList);
     column->addWidget(m_allInOrder, 1);
@@ -89,11 +81,7 @@ void MaintenanceOverviewView::forgetDeletedSelection()
 void MaintenanceOverviewView::redraw()
 {
     const RegisterSummary summary = m_equipment.summary();
-    m_total->setValue(QString::number(summary.total));
-    m_due->setValue(QString::number(summary.due.size()));
-    m_expiring->setValue(QString::number(summary.expiring));
-    m_inOrder->setValue(QString::number(summary.inOrder));
-
+    m_figures->setValues(overviewFigures(summary));
     const bool anyDue = !summary.due.isEmpty();
     m_dueTitle->setVisible(anyDue);
     m_dueList->setVisible(anyDue);

@@ -12,8 +12,8 @@ namespace abissora {
 
 class DueList;
 class EmptyState;
+class FigureGrid;
 class ScreenPage;
-class StatCard;
 
 /// How the register stands, and every item that needs service. Reads the register only while it is shown.
 class MaintenanceOverviewView : public QWidget
@@ -46,10 +46,7 @@ private:
     QPointer<QDialog> m_sheet;
 
     ScreenPage* m_page;
-    StatCard* m_total;
-    StatCard* m_due;
-    StatCard* m_expiring;
-    StatCard* m_inOrder;
+    FigureGrid* m_figures;
     QWidget* m_dueTitle;
     DueList* m_dueList;
     EmptyState* m_allInOrder;

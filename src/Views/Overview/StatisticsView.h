@@ -9,7 +9,7 @@
 
 namespace abissora {
 
-class StatCard;
+class FigureGrid;
 class TypeDistribution;
 
 /// The register in figures, and how its items spread over the types. Reads both catalogues only while it is shown.
@@ -22,19 +22,13 @@ public:
     StatisticsView(const EquipmentViewModel& equipment, const EquipmentTypeViewModel& types, QWidget* parent = nullptr);
 
 private:
-    void buildLayout();
     void redraw();
 
     const EquipmentViewModel& m_equipment;
-    const EquipmentTypeViewModel& m_catalogue;
+    const EquipmentTypeViewModel& m_types;
     VisibleUpdate m_update;
 
-    StatCard* m_total;
-    StatCard* m_active;
-    StatCard* m_due;
-    StatCard* m_expiring;
-    StatCard* m_inOrder;
-    StatCard* m_types;
+    FigureGrid* m_figures;
     TypeDistribution* m_distribution;
 };
 
