@@ -2,7 +2,6 @@
 #include "MarevoloApp.h"
 
 #include "AppWindows.h"
-#include "BringForward.h"
 #include "EditEquipmentView.h"
 #include "EquipmentDetailSheet.h"
 #include "EquipmentDetailView.h"
@@ -74,7 +73,7 @@ MainWindow& MarevoloApp::mainWindow()
     if (!m_mainWindow) {
         ScreenFactory& screens = *this;
         m_mainWindow = std::make_unique<MainWindow>(screens, m_equipment, m_directories.windowStateFile());
-        m_windows = std::make_unique<AppWindows>(context());
+        m_windows = std::make_unique<AppWindows>(ProgramFacts{m_info, m_product}, m_opener);
         m_windows->setMainWindow(m_mainWindow.get());
         connect(m_mainWindow.get(), &MainWindow::aboutRequested, m_windows.get(), &AppWindows::openAbout);
         connect(m_mainWindow.get(), &MainWindow::helpRequested, m_windows.get(), &AppWindows::openHelp);

@@ -2,18 +2,136 @@
 #include "AppWindows.h"
 
 #include "AboutView.h"
-#include "BringForward.h"
-#include "HelpWindow.h"
+#include "Buttons.h"
+#include "HelpView.h"
 #include "Literals.h"
-#include "ProgramFacts.h"
-#include "TitlelessWindow.h"
+#include "Metrics.h"
+#include "Painting.h"
+#include "SymbolIcon.h"
+#include "Tokens.h"
 #include "UpdateView.h"
+#include "WindowShape.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QMainWindow>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <QWindow>
 
 namespace abissora {
 
-AppWindows::AppWindows(const AppContext& context, QObject* parent)
+namespace {
+
+constexpr QSize leastHelpSize(880, 640);
+
+void closeByKeyboard(QWidget& window)
+{
+    auto* close = new QAction(&window);
+    close->setShortcut(closeKey());
+    QObject::connect(close, &QAction::triggered, &window, &QWidget::close);
+    window.addAction(close);
+}
+
+/// The guide in a window of its own. It deletes itself when it closes, so that it opens afresh.
+QWidget* makeHelpWindow(Opener& opener)
+{
+    auto* window = new QMainWindow;
+    window->setObjectName(u"helpWindow"_s);
+    window->setWindowTitle(u"Aiuto"_s);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setMinimumSize(leastHelpSize);
+    window->setCentralWidget(new HelpView(opener));
+    closeByKeyboard(*window);
+    return window;
+}
+
+/// A window of its own without a title bar, as large as its content: rounded, with a mark to close it in a corner,
+/// moved by dragging its ground, closed by Escape too. It deletes itself when it closes.
+class TitlelessWindow final : public QDialog
+{
+public:
+    /// Takes the content over. `title` is what the system calls the window.
+    TitlelessWindow(const QString& title, QWidget* content);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+};
+
+TitlelessWindow::TitlelessWindow(const QString& title, QWidget* content)
+    : QDialog(nullptr, Qt::Window | Qt::FramelessWindowHint)
+{
+    setWindowTitle(title);
+    setAttribute(Qt::WA_DeleteOnClose);
+    if (windowsCanBeTranslucent())
+        setAttribute(Qt::WA_TranslucentBackground);
+
+    auto* close = new IconButton(symbolIcon(u"xmark"_s), u"Chiudi"_s);
+    close->setObjectName(u"closeWindow"_s);
+    connect(close, &QAbstractButton::clicked, this, &QWidget::close);
+    closeByKeyboard(*this);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(metrics::spaceXS, metrics::spaceXS, metrics::spaceXS, metrics::spaceXS);
+    layout->setSpacing(0);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+    layout->addWidget(content, 1);
+    layout->insertWidget(0, close, 0, Qt::AlignRight);
+    setTabOrder(content, close);
+}
+
+void TitlelessWindow::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && windowHandle() != nullptr)
+        windowHandle()->startSystemMove();
+    QDialog::mousePressEvent(event);
+}
+
+void TitlelessWindow::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const Tokens& tokens = Tokens::of(palette());
+    drawPanel(painter, rect(), metrics::sheetRadius, tokens.window, tokens.border);
+}
+
+void TitlelessWindow::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    if (!windowsCanBeTranslucent())
+        setMask(roundedRegion(rect(), metrics::sheetRadius));
+}
+
+} // namespace
+
+void bringForward(QWidget& window, const QWidget* over)
+{
+    if (!window.isVisible()) {
+        if (over != nullptr) {
+            window.ensurePolished();
+            window.adjustSize();
+            QRect frame(QPoint(), window.size());
+            frame.moveCenter(over->geometry().center());
+            window.move(frame.topLeft());
+        }
+        window.show();
+    }
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.raise();
+    window.activateWindow();
+}
+
+QKeySequence closeKey()
+{
+    return {Qt::CTRL | Qt::Key_W};
+}
+
+AppWindows::AppWindows(const ProgramFacts& program, Opener& opener, QObject* parent)
     : QObject(parent)
-    , m_context(context)
+    , m_program(program)
+    , m_opener(opener)
 {}
 
 AppWindows::~AppWindows()
@@ -27,8 +145,7 @@ AppWindows::~AppWindows()
 void AppWindows::openAbout()
 {
     if (!m_about) {
-        m_about =
-            new TitlelessWindow(u"Informazioni su Abissora"_s, new AboutView({m_context.info, m_context.product}));
+        m_about = new TitlelessWindow(u"Informazioni su Abissora"_s, new AboutView(m_program));
         m_about->setObjectName(u"aboutWindow"_s);
     }
     bringForward(*m_about, m_mainWindow);
@@ -37,7 +154,7 @@ void AppWindows::openAbout()
 void AppWindows::openHelp()
 {
     if (!m_help)
-        m_help = new HelpWindow(m_context.opener);
+        m_help = makeHelpWindow(m_opener);
     bringForward(*m_help, m_mainWindow);
 }
 
@@ -45,7 +162,7 @@ void AppWindows::openUpdate(const UpdateInfo& update)
 {
     QPointer<QWidget>& window = m_updates[update];
     if (!window) {
-        auto* view = new UpdateView(update, m_context.product.websiteURL, m_context.opener);
+        auto* view = new UpdateView(update, m_program.product.websiteURL, m_opener);
         window = new TitlelessWindow(u"Aggiornamento disponibile"_s, view);
         window->setObjectName(u"updateWindow"_s);
         connect(view, &UpdateView::closeRequested, window, &QWidget::close);

@@ -1,13 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
+#include "ProgramFacts.h"
 #include "UpdateInfo.h"
 
+#include <QKeySequence>
 #include <QPointer>
 #include <QWidget>
 
 namespace abissora {
+
+class Opener;
+
+/// Shows a window, in the middle of another one where that is given, or brings it to the front where it stands.
+void bringForward(QWidget& window, const QWidget* over = nullptr);
+
+/// Ctrl+W wherever the program runs; the toolkit's own choice for closing differs from desktop to desktop.
+[[nodiscard]] QKeySequence closeKey();
 
 /// The windows beside the main one. There is one "about" and one "help" window, and one "update" window for each
 /// distinct offer: opening what is open already brings it forward.
@@ -16,7 +25,8 @@ class AppWindows : public QObject
     Q_OBJECT
 
 public:
-    explicit AppWindows(const AppContext& context, QObject* parent = nullptr);
+    /// `opener` must outlive it.
+    AppWindows(const ProgramFacts& program, Opener& opener, QObject* parent = nullptr);
     ~AppWindows() override;
 
     /// New windows stand over this one; it may die before them.
@@ -29,7 +39,8 @@ public:
     void closeAll();
 
 private:
-    AppContext m_context;
+    ProgramFacts m_program;
+    Opener& m_opener;
     QPointer<QWidget> m_mainWindow;
     QPointer<QWidget> m_about;
     QPointer<QWidget> m_help;

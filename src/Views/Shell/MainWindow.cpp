@@ -1,22 +1,90 @@
 // SPDX-License-Identifier: MIT
 #include "MainWindow.h"
 
-#include "CloseShortcut.h"
+#include "AppWindows.h"
 #include "ContentView.h"
-#include "EditMenu.h"
 #include "EquipmentListView.h"
 #include "Literals.h"
 #include "SymbolIcon.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QTextEdit>
 
 namespace abissora {
 
 namespace {
 
 constexpr QSize minimumWindowSize(1000, 700);
+
+bool isTextField(const QWidget* widget)
+{
+    return qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget) ||
+           qobject_cast<const QTextEdit*>(widget);
+}
+
+bool isReadOnly(const QWidget* field)
+{
+    return field->property("readOnly").toBool();
+}
+
+/// The platform's usual editing commands, for whatever text field has the focus.
+class EditMenu final : public QMenu
+{
+public:
+    explicit EditMenu(QWidget* parent);
+
+private:
+    void enableFor(QWidget* field);
+
+    struct Command
+    {
+        QAction* action;
+        const char* slot;
+    };
+    QList<Command> m_commands;
+};
+
+EditMenu::EditMenu(QWidget* parent)
+    : QMenu(u"&Modifica"_s, parent)
+{
+    const auto add = [this](const QString& text, QKeySequence::StandardKey key, const char* slot) {
+        QAction* action = addAction(text);
+        action->setShortcut(key);
+        action->setEnabled(false);
+        connect(action, &QAction::triggered, this, [slot] {
+            if (QWidget* field = QApplication::focusWidget(); isTextField(field))
+                QMetaObject::invokeMethod(field, slot);
+        });
+        m_commands.append({action, slot});
+    };
+    add(u"&Annulla"_s, QKeySequence::Undo, "undo");
+    add(u"&Ripeti"_s, QKeySequence::Redo, "redo");
+    addSeparator();
+    add(u"&Taglia"_s, QKeySequence::Cut, "cut");
+    add(u"&Copia"_s, QKeySequence::Copy, "copy");
+    add(u"&Incolla"_s, QKeySequence::Paste, "paste");
+    addSeparator();
+    add(u"&Seleziona tutto"_s, QKeySequence::SelectAll, "selectAll");
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        // An open menu has the focus for a while; what it acts on is what had it before.
+        if (!qobject_cast<QMenu*>(now))
+            enableFor(now);
+    });
+}
+
+void EditMenu::enableFor(QWidget* field)
+{
+    const bool text = isTextField(field);
+    for (const Command& command : std::as_const(m_commands)) {
+        const QByteArrayView slot(command.slot);
+        const bool reads = slot == "copy" || slot == "selectAll";
+        command.action->setEnabled(text && (reads || !isReadOnly(field)));
+    }
+}
 
 } // namespace
 
@@ -30,7 +98,9 @@ MainWindow::MainWindow(ScreenFactory& screens, EquipmentViewModel& equipment, co
     setMinimumSize(minimumWindowSize);
     setCentralWidget(m_content);
     m_content->list().focusContent();
-    buildMenuBar();
+    addFileMenu();
+    addEditMenu();
+    addHelpMenu();
     m_state.restore(*this, m_content->splitters());
 }
 
@@ -42,7 +112,7 @@ void MainWindow::closeEvent(QCloseEvent* event)
         Q_EMIT closed();
 }
 
-void MainWindow::buildMenuBar()
+void MainWindow::addFileMenu()
 {
     QMenu* file = menuBar()->addMenu(u"&File"_s);
     QAction* add = file->addAction(symbolIcon(u"plus"_s), u"&Aggiungi"_s);
@@ -60,14 +130,20 @@ void MainWindow::buildMenuBar()
     quit->setShortcutContext(Qt::ApplicationShortcut);
     quit->setMenuRole(QAction::QuitRole);
     connect(quit, &QAction::triggered, qApp, &QApplication::closeAllWindows);
+}
 
+void MainWindow::addEditMenu()
+{
     auto* edit = new EditMenu(this);
     edit->addSeparator();
     QAction* find = edit->addAction(u"&Trova"_s);
     find->setShortcut(QKeySequence::Find);
     connect(find, &QAction::triggered, m_content, &ContentView::findInList);
     menuBar()->addMenu(edit);
+}
 
+void MainWindow::addHelpMenu()
+{
     QMenu* help = menuBar()->addMenu(u"&Aiuto"_s);
     QAction* guide = help->addAction(symbolIcon(u"lightbulb"_s), u"Abissora &Help"_s);
     guide->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Question), QKeySequence(QKeySequence::HelpContents)});

@@ -32,7 +32,9 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void buildMenuBar();
+    void addFileMenu();
+    void addEditMenu();
+    void addHelpMenu();
 
     ContentView* m_content;
     WindowState m_state;

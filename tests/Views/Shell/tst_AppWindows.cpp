@@ -3,7 +3,7 @@
 #include "AppWindows.h"
 #include "HelpView.h"
 #include "Literals.h"
-#include "ScreenFixture.h"
+#include "RegisterFixture.h"
 #include "TestRunner.h"
 #include "UpdateView.h"
 
@@ -50,8 +50,8 @@ class tst_AppWindows : public TestCase
 private Q_SLOTS:
     void thereIsOneAboutWindow()
     {
-        ScreenFixture f;
-        AppWindows windows(f.context);
+        RegisterFixture f;
+        AppWindows windows({f.info, f.product}, f.opener);
         windows.openAbout();
         QCOMPARE(windowsOf<AboutView>().size(), 1);
         QWidget* about = windowsOf<AboutView>().first();
@@ -66,8 +66,8 @@ private Q_SLOTS:
 
     void thereIsOneHelpWindow()
     {
-        ScreenFixture f;
-        AppWindows windows(f.context);
+        RegisterFixture f;
+        AppWindows windows({f.info, f.product}, f.opener);
         windows.openHelp();
         windows.openHelp();
         QCOMPARE(windowsOf<HelpView>().size(), 1);
@@ -79,8 +79,8 @@ private Q_SLOTS:
 
     void thereIsOneUpdateWindowForEachOffer()
     {
-        ScreenFixture f;
-        AppWindows windows(f.context);
+        RegisterFixture f;
+        AppWindows windows({f.info, f.product}, f.opener);
         windows.openUpdate(release(u"1.3.0"_s));
         windows.openUpdate(release(u"1.3.0"_s));
         QCOMPARE(windowsOf<UpdateView>().size(), 1);
@@ -95,8 +95,8 @@ private Q_SLOTS:
 
     void theOfferClosesItsWindow()
     {
-        ScreenFixture f;
-        AppWindows windows(f.context);
+        RegisterFixture f;
+        AppWindows windows({f.info, f.product}, f.opener);
         windows.openUpdate(release(u"1.3.0"_s));
         Q_EMIT windowsOf<UpdateView>().first()->findChild<UpdateView*>()->closeRequested();
         QVERIFY(windowsOf<UpdateView>().isEmpty());
@@ -117,8 +117,8 @@ private Q_SLOTS:
     {
         QFETCH(const int, key);
         QFETCH(const Qt::KeyboardModifiers, modifiers);
-        ScreenFixture f;
-        AppWindows windows(f.context);
+        RegisterFixture f;
+        AppWindows windows({f.info, f.product}, f.opener);
         windows.openAbout();
         QCoreApplication::processEvents();
         QTest::keyClick(windowsOf<AboutView>().first(), static_cast<Qt::Key>(key), modifiers);
@@ -133,11 +133,11 @@ private Q_SLOTS:
 
     void theyStandOverTheMainWindow()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         QWidget main;
         main.setGeometry(100, 50, 1000, 700);
         main.show();
-        AppWindows windows(f.context);
+        AppWindows windows({f.info, f.product}, f.opener);
         windows.setMainWindow(&main);
         windows.openHelp();
         const QPoint distance = windowsOf<HelpView>().first()->geometry().center() - main.geometry().center();
@@ -146,8 +146,8 @@ private Q_SLOTS:
 
     void allCloseTogether()
     {
-        ScreenFixture f;
-        AppWindows windows(f.context);
+        RegisterFixture f;
+        AppWindows windows({f.info, f.product}, f.opener);
         windows.openAbout();
         windows.openHelp();
         windows.openUpdate(release(u"1.3.0"_s));
