@@ -4,10 +4,22 @@
 #include "EquipmentListView.h"
 #include "EquipmentTableView.h"
 #include "Gui.h"
-#include "Literals.h"
+#include "RegisterFixture.h"
 
 /// Finding and using the parts of the register's screen.
 namespace abissora::test {
+
+/// The register's screen in a window of its own, shown and active.
+class ShownList final : public EquipmentListView
+{
+public:
+    explicit ShownList(RegisterFixture& f)
+        : EquipmentListView(f.equipment, f.types, f.almanac, f.console, f.ids)
+    {
+        resize(900, 600);
+        activate(*this);
+    }
+};
 
 inline QStringList names(EquipmentListView& view)
 {

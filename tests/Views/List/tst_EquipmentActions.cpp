@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "ListParts.h"
-#include "Literals.h"
-#include "RegisterFixture.h"
 #include "TestRunner.h"
 #include <QMenu>
 
@@ -21,10 +19,7 @@ private Q_SLOTS:
     void rowActions()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.resize(900, 600);
-        view.show();
-        settle();
+        ShownList view(f);
         auto& table = existing<EquipmentTableView>(view, "equipmentTable");
         auto& menu = existing<QMenu>(view, "rowActions");
         const QModelIndex actionCell = table.model()->index(2, EquipmentTableModel::ActionsColumn);
@@ -59,9 +54,7 @@ private Q_SLOTS:
     void deletingAsksFirst()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
-        settle();
+        ShownList view(f);
         const Equipment item = f.equipment.equipment().at(1);
         view.confirmDeletion(item);
         QDialog* alert = findDialog(view);
@@ -89,9 +82,7 @@ private Q_SLOTS:
     void deleteKeyAsksToo()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
-        settle();
+        ShownList view(f);
         auto& table = existing<EquipmentTableView>(view, "equipmentTable");
         table.selectRow(0);
         QTest::keyClick(&table, Qt::Key_Delete);
@@ -103,9 +94,7 @@ private Q_SLOTS:
     void deletingByKeyboardGoesOnFromTheSameRow()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
-        settle();
+        ShownList view(f);
         auto& table = existing<EquipmentTableView>(view, "equipmentTable");
         QSignalSpy selected(&view, &EquipmentListView::equipmentSelected);
         for (const int row : {1, 1, 0}) {
@@ -119,30 +108,12 @@ private Q_SLOTS:
         QVERIFY(selected.isEmpty());
     }
 
-    void theCurrentRowFollowsItsItem()
-    {
-        RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
-        settle();
-        auto& table = existing<EquipmentTableView>(view, "equipmentTable");
-        table.selectionModel()->setCurrentIndex(table.model()->index(1, 0), QItemSelectionModel::NoUpdate);
-        f.equipment.setSearchText(u"scubapro"_s);
-        settle();
-        QCOMPARE(table.currentIndex().row(), 0);
-        f.equipment.setSearchText({});
-        settle();
-        QCOMPARE(table.currentIndex().row(), 1);
-        QVERIFY(!table.selectionModel()->hasSelection());
-    }
-
     void hostileNamesAreShownAsTheyAre()
     {
         RegisterFixture f(QList<Equipment>{});
         const QString name = u"<b>A</b>&amp;%1\t\"'"_s;
         f.equipment.addEquipment(makeItem(1, name, EquipmentType::fins, f.inDays(3)));
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
+        ShownList view(f);
         QCOMPARE(cell(view, 0, 0).section(u'\n', 0, 0), name);
         view.confirmDeletion(f.equipment.equipment().first());
         for (const QLabel* label : findDialog(view)->findChildren<QLabel*>())

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentListView.h"
-#include "Literals.h"
 
 #include "Chip.h"
 #include "FilterMenu.h"
 #include "ListParts.h"
-#include "RegisterFixture.h"
 #include "TestRunner.h"
 
 #include <QAbstractItemModelTester>
@@ -27,8 +25,7 @@ private Q_SLOTS:
     void sampleRows()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
+        ShownList view(f);
         QAbstractItemModelTester tester(existing<EquipmentTableView>(view, "equipmentTable").model(),
                                         QAbstractItemModelTester::FailureReportingMode::Fatal);
         QCOMPARE(names(view),
@@ -44,64 +41,10 @@ private Q_SLOTS:
         QCOMPARE(existing<QLabel>(view, "activeCount").text(), u"3 attivi"_s);
     }
 
-    void headers()
-    {
-        RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
-        const auto* model = existing<EquipmentTableView>(view, "equipmentTable").model();
-        QStringList titles;
-        for (int column = 0; column < model->columnCount(); ++column)
-            titles.append(model->headerData(column, Qt::Horizontal).toString());
-        QCOMPARE(titles,
-                 QStringList({u"Nome"_s, u"Marca"_s, u"Modello"_s, u"Prossimo Tagliando"_s, u"Stato"_s, u"Azioni"_s}));
-    }
-
-    void remainingDays_data()
-    {
-        QTest::addColumn<int>("days");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("31 days") << 31 << u"31 giorni"_s;
-        QTest::newRow("30 days") << 30 << u"SCADUTO!"_s;
-        QTest::newRow("10 days") << 10 << u"SCADUTO!"_s;
-        QTest::newRow("today") << 0 << u"SCADUTO!"_s;
-        QTest::newRow("5 days ago") << -5 << u"SCADUTO!"_s;
-        QTest::newRow("years away") << 4000 << u"4000 giorni"_s;
-    }
-
-    void remainingDays()
-    {
-        QFETCH(int, days);
-        QFETCH(QString, expected);
-        RegisterFixture f(QList<Equipment>{});
-        f.equipment.addEquipment(makeItem(1, u"X"_s, EquipmentType::fins, f.inDays(days)));
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
-        QCOMPARE(cell(view, 0, 3).section(u'\n', 1), expected);
-    }
-
-    void appearanceFallsBackToTheBuiltInKind()
-    {
-        RegisterFixture f(QList<Equipment>{});
-        Equipment custom = makeItem(1, u"Luce"_s, EquipmentType::other, f.inDays(90));
-        custom.customTypeName = u"Faro"_s;
-        f.equipment.addEquipment(custom);
-        f.equipment.addEquipment(makeItem(2, u"Jacket"_s, EquipmentType::bcd, f.inDays(91)));
-        f.types.deleteType(*f.types.getTypeByName(u"GAV"_s));
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
-        auto& model = existing<EquipmentTableView>(view, "equipmentTable").equipmentModel();
-        QCOMPARE(model.row(0).typeName, u"Faro"_s);
-        QCOMPARE(model.row(0).appearance, (TypeAppearance{u"questionmark.circle.fill"_s, NamedColor::secondary}));
-        QCOMPARE(model.row(1).appearance, (TypeAppearance{u"dive.bcd"_s, NamedColor::orange}));
-    }
-
     void typingFiltersAndOneKeyReadsOnce()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
-        settle();
+        ShownList view(f);
         f.console.clear();
         auto& search = existing<QLineEdit>(view, "search");
         QCOMPARE(search.placeholderText(), u"Cerca attrezzatura..."_s);
@@ -120,8 +63,7 @@ private Q_SLOTS:
     void whatAScreenReaderPutsInFilters()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
+        ShownList view(f);
         QAccessible::queryAccessibleInterface(&existing<QLineEdit>(view, "search"))
             ->setText(QAccessible::Value, u"scuba"_s);
         settle();
@@ -131,8 +73,7 @@ private Q_SLOTS:
     void emptyStateClearsTheFilters()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
+        ShownList view(f);
         f.equipment.setFilterTypeName(u"GAV"_s);
         f.equipment.setSearchText(u"niente"_s);
         settle();
@@ -149,8 +90,7 @@ private Q_SLOTS:
     void emptyRegisterOffersTheFirstItem()
     {
         RegisterFixture f(QList<Equipment>{});
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
+        ShownList view(f);
         QSignalSpy added(&view, &EquipmentListView::addRequested);
         press(existing<QWidget>(view, "emptyRegister"), u"Aggiungi la prima attrezzatura"_s);
         QCOMPARE(added.size(), 1);
@@ -161,8 +101,7 @@ private Q_SLOTS:
     void chipShowsAndClearsTheTypeFilter()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
+        ShownList view(f);
         auto& chip = existing<Chip>(view, "filterChip");
         QVERIFY(!chip.isVisible());
         f.equipment.filterByTypeName(u"GAV"_s);
@@ -178,8 +117,7 @@ private Q_SLOTS:
     void filterMenuChoosesAType()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
+        ShownList view(f);
         auto& menu = existing<FilterMenu>(view, "filterMenu");
         Q_EMIT menu.aboutToShow();
         QStringList entries;
@@ -212,9 +150,7 @@ private Q_SLOTS:
     void refreshRebuildsTheRows()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
-        settle();
+        ShownList view(f);
         const QUuid before = view.refreshID();
         QSignalSpy reset(existing<EquipmentTableView>(view, "equipmentTable").model(), &QAbstractItemModel::modelReset);
         QTest::mouseClick(&existing<QAbstractButton>(view, "refreshButton"), Qt::LeftButton);
@@ -226,11 +162,7 @@ private Q_SLOTS:
     void selectingARowTellsTheParentOnce()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
-        view.resize(800, 600);
-        view.show();
-        settle();
+        ShownList view(f);
         QSignalSpy selected(&view, &EquipmentListView::equipmentSelected);
         auto& table = existing<EquipmentTableView>(view, "equipmentTable");
         QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(table.model()->index(1, 1)).center());
@@ -248,33 +180,10 @@ private Q_SLOTS:
         QVERIFY(selected.isEmpty());
     }
 
-    void scrollPositionSurvivesARedraw()
-    {
-        QList<Equipment> many;
-        RegisterFixture clockOnly;
-        for (int i = 0; i < 300; ++i)
-            many.append(makeItem(i, u"Pinne n. %1"_s.arg(i), EquipmentType::fins, clockOnly.inDays(i)));
-        RegisterFixture f(many);
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
-        view.resize(900, 600);
-        view.show();
-        settle();
-        QCOMPARE(names(view).size(), 300);
-        auto* bar = existing<EquipmentTableView>(view, "equipmentTable").verticalScrollBar();
-        bar->setValue(bar->maximum() / 2);
-        const int before = bar->value();
-        QVERIFY(before > 0);
-        view.refresh();
-        settle();
-        QCOMPARE(bar->value(), before);
-    }
-
     void accessibleTable()
     {
         RegisterFixture f;
-        EquipmentListView view(f.equipment, f.types, f.almanac, f.console, f.ids);
-        view.show();
+        ShownList view(f);
         auto& table = existing<EquipmentTableView>(view, "equipmentTable");
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&table);
         QCOMPARE(accessible->role(), QAccessible::Table);
