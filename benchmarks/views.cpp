@@ -17,15 +17,9 @@
 
 using namespace abissora;
 using namespace abissora::benchmark;
+using test::settle;
 
 namespace {
-
-/// Handles what is queued, redraws and repaints included.
-void settle()
-{
-    for (int pass = 0; pass < 5; ++pass)
-        QCoreApplication::processEvents();
-}
 
 void measureMainWindow(const Report& report, QApplication& application, test::ShellFixture& fixture)
 {

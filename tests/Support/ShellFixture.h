@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ContentView.h"
 #include "EditEquipmentView.h"
 #include "EquipmentDetailSheet.h"
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
+#include "EquipmentTableView.h"
+#include "Gui.h"
+#include "MainWindow.h"
 #include "MaintenanceOverviewView.h"
 #include "ScreenFactory.h"
 #include "ScreenFixture.h"
@@ -40,6 +44,25 @@ public:
     {
         return new EditEquipmentView(context, item, over);
     }
+};
+
+/// The main window, shown and active.
+struct ShownWindow
+{
+    explicit ShownWindow(ShellFixture& f, std::optional<ContentView::Tab> tab = std::nullopt, QSize size = {})
+        : window(f, f.equipment, f.directories.windowStateFile())
+    {
+        if (tab)
+            window.content().setSelectedTab(*tab);
+        if (size.isValid())
+            window.resize(size);
+        activate(window);
+    }
+
+    [[nodiscard]] SidebarView& sidebar() { return part<SidebarView>(window, u"sidebar"_s); }
+    [[nodiscard]] EquipmentTableView& table() { return existing<EquipmentTableView>(window, u"equipmentTable"_s); }
+
+    MainWindow window;
 };
 
 } // namespace abissora::test

@@ -4,6 +4,7 @@
 #include "TestRunner.h"
 
 #include <QAccessible>
+#include <QScrollArea>
 #include <QScrollBar>
 
 using namespace abissora;
@@ -64,8 +65,8 @@ class tst_DueList : public TestCase
 private Q_SLOTS:
     void fewRowsExistHoweverManyItems()
     {
-        ShellFixture f(dueItems(many));
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f(dueItems(many));
+        ShownOverview s(f);
         DueList& list = s.dueList();
         QCOMPARE(list.itemCount(), many);
         QVERIFY(list.rows().size() < 30);
@@ -88,8 +89,8 @@ private Q_SLOTS:
     void whatIsInSightIsThere()
     {
         QFETCH(double, share);
-        ShellFixture f(dueItems(many));
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f(dueItems(many));
+        ShownOverview s(f);
         QScrollArea& area = page(s.window);
         area.verticalScrollBar()->setValue(static_cast<int>(area.verticalScrollBar()->maximum() * share));
         DueList& list = s.dueList();
@@ -108,10 +109,10 @@ private Q_SLOTS:
 
     void aLargerWindowShowsMoreRows()
     {
-        ShellFixture f(dueItems(many));
-        ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
+        RegisterFixture f(dueItems(many));
+        ShownOverview s(f, {770, 660});
         const qsizetype before = s.dueList().rows().size();
-        s.window.resize(1200, 1000);
+        s.window.resize(970, 960);
         settle();
         QVERIFY(s.dueList().rows().size() >= before + 4);
         QCOMPARE(s.dueList().rows().first()->width(), s.dueList().width());
@@ -119,8 +120,8 @@ private Q_SLOTS:
 
     void tabWalksThroughEveryRow()
     {
-        ShellFixture f(dueItems(60));
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f(dueItems(60));
+        ShownOverview s(f);
         rowOf(s.dueList(), u"Articolo 0"_s)->button(DueRow::AddMaintenance)->setFocus(Qt::TabFocusReason);
         for (int i = 0; i < 60; ++i) {
             QCOMPARE(focusText(), u"Articolo %1/addMaintenance"_s.arg(i));
@@ -142,8 +143,8 @@ private Q_SLOTS:
 
     void tabStartsAtTheFirstRowHoweverFarScrolled()
     {
-        ShellFixture f(dueItems(many));
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f(dueItems(many));
+        ShownOverview s(f);
         QScrollArea& area = page(s.window);
         area.verticalScrollBar()->setValue(area.verticalScrollBar()->maximum() / 2);
         area.setFocus(Qt::TabFocusReason);
@@ -154,8 +155,8 @@ private Q_SLOTS:
 
     void keysWalkThroughTheRows()
     {
-        ShellFixture f(dueItems(many));
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f(dueItems(many));
+        ShownOverview s(f);
         rowOf(s.dueList(), u"Articolo 0"_s)->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         const auto expect = [&](Qt::Key key, int index) {
             press(key);
@@ -180,8 +181,8 @@ private Q_SLOTS:
     /// A list that scrolls under the wheel does not take the focus away from where it is.
     void scrollingKeepsTheFocus()
     {
-        ShellFixture f(dueItems(many));
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f(dueItems(many));
+        ShownOverview s(f);
         rowOf(s.dueList(), u"Articolo 3"_s)->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         QScrollBar& bar = *page(s.window).verticalScrollBar();
         bar.setValue(bar.maximum());
@@ -194,8 +195,8 @@ private Q_SLOTS:
 
     void theFocusStaysOnItsItem()
     {
-        ShellFixture f(dueItems(40));
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f(dueItems(40));
+        ShownOverview s(f);
         rowOf(s.dueList(), u"Articolo 5"_s)->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         f.equipment.deleteEquipment(f.equipment.equipment().at(2));
         settle();
@@ -220,8 +221,8 @@ private Q_SLOTS:
     {
         QFETCH(int, focused);
         QFETCH(QString, expected);
-        ShellFixture f(dueItems(5));
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f(dueItems(5));
+        ShownOverview s(f);
         const Equipment item = f.equipment.equipment().at(focused);
         rowOf(s.dueList(), item.name)->button(DueRow::AddMaintenance)->setFocus(Qt::TabFocusReason);
         f.equipment.deleteEquipment(item);
@@ -232,8 +233,8 @@ private Q_SLOTS:
 
     void theLastRowGoesWhileItHasTheFocus()
     {
-        ShellFixture f(dueItems(1));
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f(dueItems(1));
+        ShownOverview s(f);
         s.dueList().rows().first()->button(DueRow::Details)->setFocus(Qt::TabFocusReason);
         f.equipment.deleteEquipment(f.equipment.equipment().first());
         settle();
@@ -244,8 +245,8 @@ private Q_SLOTS:
 
     void screenReadersFindAListOfRows()
     {
-        ShellFixture f(dueItems(4));
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f(dueItems(4));
+        ShownOverview s(f);
         // Rows were made in another order than they stand in.
         f.equipment.deleteEquipment(f.equipment.equipment().first());
         f.equipment.addEquipment(makeItem(9, u"Nuovo"_s, EquipmentType::fins, f.inDays(12)));
@@ -273,8 +274,8 @@ private Q_SLOTS:
     {
         QList<Equipment> items = dueItems(1);
         items[0].name = u"<b>Erogatore</b>\n"_s + QString(400, u'x');
-        ShellFixture f(items);
-        ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
+        RegisterFixture f(items);
+        ShownOverview s(f, {770, 660});
         DueRow* const row = s.dueList().rows().first();
         QCOMPARE(row->accessibleName(), items.at(0).name + u", Scaduto da 0 giorni"_s);
         QCOMPARE(row->height(), DueRow::rowHeight());

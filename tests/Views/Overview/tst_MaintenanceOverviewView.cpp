@@ -3,7 +3,6 @@
 #include "MaintenanceOverviewView.h"
 #include "ScaledText.h"
 
-#include "ClippedTexts.h"
 #include "IconTile.h"
 #include "OverviewParts.h"
 #include "SymbolIcon.h"
@@ -50,8 +49,8 @@ private Q_SLOTS:
 
     void freshSamples()
     {
-        ShellFixture f;
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f;
+        ShownOverview s(f);
         QCOMPARE(cardTexts(s.window), cards(3, 2, 2, 1));
         QCOMPARE(rowTexts(s.dueList()), QStringList({u"GAV Scubapro Hydros, Scaduto da 30 giorni"_s,
                                                      u"Computer Suunto EON Core, Scaduto da 15 giorni"_s}));
@@ -60,8 +59,8 @@ private Q_SLOTS:
 
     void emptyRegister()
     {
-        ShellFixture f(QList<Equipment>{});
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f(QList<Equipment>{});
+        ShownOverview s(f);
         QCOMPARE(cardTexts(s.window), cards(0, 0, 0, 0));
         QVERIFY(isShown(s.window, u"allInOrder"_s));
         QVERIFY(!isShown(s.window, u"dueList"_s));
@@ -71,11 +70,11 @@ private Q_SLOTS:
 
     void anInactiveOverdueItemCountsInTheTotalOnly()
     {
-        ShellFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         Equipment item = makeItem(1, u"Vecchia muta"_s, EquipmentType::wetsuit, f.inDays(-10));
         item.isActive = false;
         f.equipment.addEquipment(item);
-        ShownTab s(f, ContentView::MaintenanceTab);
+        ShownOverview s(f);
         QCOMPARE(cardTexts(s.window), cards(1, 0, 0, 0));
         QVERIFY(isShown(s.window, u"allInOrder"_s));
     }
@@ -95,28 +94,28 @@ private Q_SLOTS:
     {
         QFETCH(int, days);
         QFETCH(QString, text);
-        ShellFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         f.equipment.addEquipment(makeItem(1, u"Pinne"_s, EquipmentType::fins, f.inDays(days)));
-        ShownTab s(f, ContentView::MaintenanceTab);
+        ShownOverview s(f);
         QCOMPARE(textOf(s.window, u"dueName"_s), u"Pinne"_s);
         QCOMPARE(textOf(s.window, u"dueState"_s), text);
     }
 
     void catalogueOrder()
     {
-        ShellFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         f.equipment.addEquipment(makeItem(1, u"b"_s, EquipmentType::fins, f.inDays(20)));
         f.equipment.addEquipment(makeItem(2, u"c"_s, EquipmentType::fins, f.inDays(31)));
         f.equipment.addEquipment(makeItem(3, u"a"_s, EquipmentType::fins, f.inDays(-20)));
         f.equipment.setSearchText(u"zzz"_s); // a filter of the list does not matter here
-        ShownTab s(f, ContentView::MaintenanceTab);
+        ShownOverview s(f);
         QCOMPARE(rowTexts(s.dueList()), QStringList({u"b, Scaduto da 20 giorni"_s, u"a, Scaduto da 20 giorni"_s}));
     }
 
     void everyChangeShows()
     {
-        ShellFixture f;
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f;
+        ShownOverview s(f);
         Equipment fins = makeItem(1, u"Pinne"_s, EquipmentType::fins, f.inDays(-3));
         f.equipment.addEquipment(fins);
         settle();
@@ -125,7 +124,7 @@ private Q_SLOTS:
         f.equipment.updateEquipment(fins);
         settle();
         QCOMPARE(cardTexts(s.window), cards(4, 2, 2, 1));
-        f.equipment.addMaintenance(f.equipment.equipment().at(1).id, makeRecord(f, 1, 0, u"Revisione"_s));
+        f.equipment.addMaintenance(f.equipment.equipment().at(1).id, serviceNow(f));
         settle();
         QCOMPARE(cardTexts(s.window), cards(4, 1, 1, 2));
         QCOMPARE(rowTexts(s.dueList()), QStringList(u"Computer Suunto EON Core, Scaduto da 15 giorni"_s));
@@ -140,11 +139,11 @@ private Q_SLOTS:
 
     void typeSymbols()
     {
-        ShellFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         Equipment lamp = makeItem(1, u"Faro"_s, EquipmentType::other, f.inDays(1));
         lamp.customTypeName = u"Torcia"_s;
         f.equipment.addEquipment(lamp);
-        ShownTab s(f, ContentView::MaintenanceTab);
+        ShownOverview s(f);
         QCOMPARE(tileOf(s.dueList(), 0), tileFor(u"dive.light"_s, NamedColor::yellow));
 
         // Renamed: the item keeps the old name, which no record carries any more.
@@ -191,17 +190,17 @@ private Q_SLOTS:
         QFETCH(int, type);
         QFETCH(QString, icon);
         QFETCH(int, color);
-        ShellFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         f.equipment.addEquipment(makeItem(1, u"x"_s, static_cast<EquipmentType>(type), f.inDays(1)));
         f.types.setTypes({});
-        ShownTab s(f, ContentView::MaintenanceTab);
+        ShownOverview s(f);
         QCOMPARE(tileOf(s.dueList(), 0), tileFor(icon, static_cast<NamedColor>(color)));
     }
 
     void theLogSaysNothing()
     {
-        ShellFixture f;
-        MaintenanceOverviewView view(f.equipment, f.types, {});
+        RegisterFixture f;
+        MaintenanceOverviewView view(f.equipment, f.types, ShownOverview::makeSheet);
         view.show();
         settle();
         f.types.resetToDefaults();
@@ -211,8 +210,8 @@ private Q_SLOTS:
 
     void aHiddenScreenRestsAndIsRightWhenItIsShown()
     {
-        ShellFixture f;
-        MaintenanceOverviewView view(f.equipment, f.types, {});
+        RegisterFixture f;
+        MaintenanceOverviewView view(f.equipment, f.types, ShownOverview::makeSheet);
         const StatCard& total = *view.findChildren<StatCard*>().first();
         QCOMPARE(total.value(), QString());
         view.show();
@@ -227,8 +226,8 @@ private Q_SLOTS:
 
     void cardsAreReadAsTitleAndValue()
     {
-        ShellFixture f;
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f;
+        ShownOverview s(f);
         QStringList read;
         for (StatCard* card : s.window.findChildren<StatCard*>()) {
             QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(card);
@@ -238,49 +237,65 @@ private Q_SLOTS:
         QCOMPARE(read, cards(3, 2, 2, 1));
     }
 
-    void tabOrder()
+    void bothButtonsOpenTheItem_data()
     {
-        ShellFixture f;
-        ShownTab s(f, ContentView::MaintenanceTab);
-        part(s.window, u"sidebar"_s).setFocus();
-        QStringList order;
-        for (int i = 0; i < 7; ++i) {
-            const QWidget* focused = QApplication::focusWidget();
-            order.append(!focused->objectName().isEmpty() ? focused->objectName()
-                                                          : focused->parentWidget()->objectName());
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        }
-        QCOMPARE(order, QStringList({u"sidebar"_s, u"tabSwitch"_s, u"addMaintenance"_s, u"showDetails"_s,
-                                     u"addMaintenance"_s, u"showDetails"_s, u"sidebar"_s}));
+        QTest::addColumn<int>("part");
+        QTest::newRow("add") << int(DueRow::AddMaintenance);
+        QTest::newRow("details") << int(DueRow::Details);
     }
 
-    void nothingIsClipped_data()
+    void bothButtonsOpenTheItem()
     {
-        QTest::addColumn<double>("scale");
-        QTest::newRow("usual text") << 1.0;
-        QTest::newRow("larger text") << 1.25;
+        QFETCH(const int, part);
+        RegisterFixture f;
+        ShownOverview s(f);
+        QVERIFY(!s.view.selectedEquipment());
+        QAbstractButton& button = *s.dueList().rows().at(1)->button(static_cast<DueRow::Part>(part));
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QCOMPARE(s.view.selectedEquipment()->name, u"Computer Suunto EON Core"_s);
+        QCOMPARE(openDialog(s.window).windowTitle(), u"Computer Suunto EON Core"_s);
+        QVERIFY(!f.equipment.selectedEquipment());
+        QTest::keyClick(&openDialog(s.window), Qt::Key_Escape);
+        QVERIFY(!isDialogOpen(s.window));
+        QVERIFY(!s.view.selectedEquipment());
+        QTRY_COMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&button));
+        QTRY_VERIFY(s.view.findChildren<QDialog*>().isEmpty());
     }
 
-    void nothingIsClipped()
+    void theItemGoesWhileItIsOpen()
     {
-        QFETCH(double, scale);
-        const ScaledText scaled(scale);
-        ShellFixture f;
-        ShownTab s(f, ContentView::MaintenanceTab, {1000, 700});
-        QCOMPARE(s.window.size(), QSize(1000, 700));
-        auto& view = *s.window.findChild<MaintenanceOverviewView*>();
-        QCOMPARE(clippedTexts(view), QStringList());
-        for (const StatCard* card : view.findChildren<StatCard*>()) {
-            QVERIFY2(card->width() >= card->minimumSizeHint().width(), qPrintable(card->title()));
-            QVERIFY2(card->height() >= card->minimumSizeHint().height(), qPrintable(card->title()));
-        }
+        RegisterFixture f;
+        ShownOverview s(f);
+        const Equipment item = f.equipment.equipment().at(1);
+        s.view.setSelectedEquipment(item);
+        f.equipment.deleteEquipment(f.equipment.equipment().at(2)); // another one
+        QVERIFY(isDialogOpen(s.window));
+        f.equipment.deleteEquipment(item);
+        QVERIFY(!isDialogOpen(s.window));
+        QVERIFY(!s.view.selectedEquipment());
+    }
+
+    void selectingNothingClosesAndAnotherItemReplaces()
+    {
+        RegisterFixture f;
+        ShownOverview s(f);
+        const auto& items = f.equipment.equipment();
+        s.view.setSelectedEquipment(items.at(0));
+        s.view.setSelectedEquipment(items.at(1));
+        settle();
+        QCOMPARE(s.view.findChildren<QDialog*>().size(), 1);
+        QCOMPARE(s.view.selectedEquipment()->id, items.at(1).id);
+        QCOMPARE(openDialog(s.window).windowTitle(), items.at(1).name);
+        s.view.setSelectedEquipment(std::nullopt);
+        QVERIFY(!isDialogOpen(s.window));
+        QVERIFY(!s.view.selectedEquipment());
     }
 
     /// Rows that exist follow a change of the text size while the screen is shown.
     void textSizeChangesWhileShown()
     {
-        ShellFixture f;
-        ShownTab s(f, ContentView::MaintenanceTab);
+        RegisterFixture f;
+        ShownOverview s(f);
         const ScaledText twice(2);
         settle();
         QCOMPARE(s.dueList().rows().at(1)->height(), DueRow::rowHeight());

@@ -3,7 +3,6 @@
 #include "ScaledText.h"
 #include "StatisticsView.h"
 
-#include "ClippedTexts.h"
 #include "ControlLook.h"
 #include "OverviewParts.h"
 #include "TestRunner.h"
@@ -12,6 +11,7 @@
 
 #include <QAccessible>
 #include <QProgressBar>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <random>
 
@@ -28,10 +28,10 @@ QStringList cards(qsizetype total, qsizetype active, qsizetype due, qsizetype ex
             u"In Regola: %1"_s.arg(inOrder),         u"Tipologie: %1"_s.arg(types)};
 }
 
-struct Shown : ShownTab
+struct Shown : ShownScreen
 {
-    explicit Shown(ShellFixture& f, QSize size = {1280, 800})
-        : ShownTab(f, ContentView::StatisticsTab, size)
+    explicit Shown(RegisterFixture& f, QSize size = {1050, 760})
+        : ShownScreen(new StatisticsView(f.equipment, f.types), size)
     {}
 
     [[nodiscard]] QScrollArea& page() { return *window.findChild<StatisticsView*>()->findChild<QScrollArea*>(); }
@@ -68,7 +68,7 @@ private Q_SLOTS:
 
     void freshSamples()
     {
-        ShellFixture f;
+        RegisterFixture f;
         Shown s(f);
         QCOMPARE(cardTexts(s.window), cards(3, 3, 2, 2, 1, 16));
         const QStringList rows = s.distribution();
@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void emptyRegister()
     {
-        ShellFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         Shown s(f);
         QCOMPARE(cardTexts(s.window), cards(0, 0, 0, 0, 0, 16));
         QCOMPARE(s.distribution(), QStringList());
@@ -99,7 +99,7 @@ private Q_SLOTS:
 
     void noTypes()
     {
-        ShellFixture f;
+        RegisterFixture f;
         f.types.setTypes({});
         Shown s(f);
         QCOMPARE(cardTexts(s.window).last(), u"Tipologie: 0"_s);
@@ -109,7 +109,7 @@ private Q_SLOTS:
 
     void whatCountsForAType()
     {
-        ShellFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         f.types.setTypes({type(1, u"GAV"_s, u"orange"_s), type(2, u"gav"_s, u"blue"_s), type(3, u"Boa"_s, u"red"_s),
                           type(4, u"Boa"_s, u"green"_s), type(5, u"Spenta"_s, u"green"_s)});
         QList<EquipmentTypeModel> types = f.types.types();
@@ -137,7 +137,7 @@ private Q_SLOTS:
     {
         std::mt19937 random(11);
         const auto draw = [&random](int from, int to) { return std::uniform_int_distribution(from, to)(random); };
-        const ShellFixture zone;
+        const RegisterFixture zone;
         QList<Equipment> items;
         qsizetype active = 0;
         qsizetype due = 0;
@@ -159,21 +159,20 @@ private Q_SLOTS:
             masks += item.isActive && !item.customTypeName && item.type == EquipmentType::mask ? 1 : 0;
             items.append(item);
         }
-        ShellFixture f(items);
+        RegisterFixture f(items);
         Shown s(f);
         QCOMPARE(cardTexts(s.window), cards(1000, active, due, expiring, inOrder, 16));
         QVERIFY(s.distribution().contains(u"Torcia %1/1000"_s.arg(lamps)));
         QVERIFY(s.distribution().contains(u"Maschera %1/1000"_s.arg(masks)));
-        s.window.content().setSelectedTab(ContentView::MaintenanceTab);
-        settle();
-        QCOMPARE(cardTexts(s.window),
+        const ShownOverview overview(f);
+        QCOMPARE(cardTexts(overview.window),
                  QStringList({u"Totale Articoli: 1000"_s, u"Manutenzioni Scadute: %1"_s.arg(due),
                               u"In Scadenza (30gg): %1"_s.arg(expiring), u"In Regola: %1"_s.arg(inOrder)}));
     }
 
     void typesAreFollowed()
     {
-        ShellFixture f;
+        RegisterFixture f;
         Shown s(f);
         EquipmentTypeModel bcd = *f.types.getTypeByName(u"GAV"_s);
         bcd.name = u"Gilet"_s;
@@ -198,7 +197,7 @@ private Q_SLOTS:
 
     void barsAreDrawnInTheColourOfTheType()
     {
-        ShellFixture f;
+        RegisterFixture f;
         f.types.setTypes({type(1, u"GAV"_s, u"pink"_s), type(2, u"Zero"_s, u"green"_s)});
         for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
             applyTheme(*qApp, scheme);
@@ -216,7 +215,7 @@ private Q_SLOTS:
 
     void columns()
     {
-        ShellFixture f;
+        RegisterFixture f;
         Shown s(f);
         const QWidget& card = part(s.window, u"distribution"_s);
         const QLabel& name = part<QLabel>(s.window, u"typeName0"_s);
@@ -235,7 +234,7 @@ private Q_SLOTS:
 
     void barsAreReadAsValues()
     {
-        ShellFixture f;
+        RegisterFixture f;
         Shown s(f);
         const qsizetype row = s.distribution().indexOf(u"GAV 1/3"_s);
         QAccessibleInterface* const bar = QAccessible::queryAccessibleInterface(&s.bar(static_cast<int>(row)));
@@ -249,13 +248,11 @@ private Q_SLOTS:
 
     void theKeyboardScrollsWhatIsBelow()
     {
-        ShellFixture f;
-        Shown s(f, {1000, 700});
+        RegisterFixture f;
+        Shown s(f, {770, 660});
         QScrollBar& scrollBar = *s.page().verticalScrollBar();
         QVERIFY(scrollBar.maximum() > 0);
-        part(s.window, u"tabSwitch"_s).findChild<QWidget*>()->setFocus();
-        part(s.window, u"sidebar"_s).setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        part(s.window, u"neighbour"_s).setFocus();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&s.page()));
         QCOMPARE(s.page().accessibleName(), u"Statistiche"_s);
@@ -266,7 +263,7 @@ private Q_SLOTS:
         QTest::keyClick(&s.page(), Qt::Key_Home);
         QCOMPARE(scrollBar.value(), 0);
 
-        s.window.resize(1000, 1100);
+        s.window.resize(770, 1060);
         settle();
         QCOMPARE(scrollBar.maximum(), 0);
         QCOMPARE(s.page().focusPolicy(), Qt::NoFocus);
@@ -274,7 +271,7 @@ private Q_SLOTS:
 
     void aLongNameBreaks()
     {
-        ShellFixture f;
+        RegisterFixture f;
         f.types.setTypes({type(1, QString(80, u'x'), u"red"_s), type(2, u"y"_s, u"red"_s)});
         Shown s(f);
         const QLabel& name = part<QLabel>(s.window, u"typeName0"_s);
@@ -284,7 +281,7 @@ private Q_SLOTS:
 
     void theLogSaysNothingAndAHiddenScreenRests()
     {
-        ShellFixture f;
+        RegisterFixture f;
         StatisticsView view(f.equipment, f.types);
         const StatCard& total = *view.findChildren<StatCard*>().first();
         view.show();
@@ -299,27 +296,6 @@ private Q_SLOTS:
         settle();
         QCOMPARE(total.value(), u"2"_s);
         QCOMPARE(f.takeLog(), QStringList(u"🗑️ Eliminato equipaggiamento: Erogatore Apeks XTX50"_s));
-    }
-
-    void nothingIsClipped_data()
-    {
-        QTest::addColumn<double>("scale");
-        QTest::newRow("usual text") << 1.0;
-        QTest::newRow("larger text") << 1.25;
-    }
-
-    void nothingIsClipped()
-    {
-        QFETCH(double, scale);
-        const ScaledText scaled(scale);
-        ShellFixture f;
-        Shown s(f, {1000, 700});
-        auto& view = *s.window.findChild<StatisticsView*>();
-        QCOMPARE(clippedTexts(view), QStringList());
-        for (const StatCard* card : view.findChildren<StatCard*>()) {
-            QVERIFY2(card->width() >= card->minimumSizeHint().width(), qPrintable(card->title()));
-            QVERIFY2(card->height() >= card->minimumSizeHint().height(), qPrintable(card->title()));
-        }
     }
 };
 

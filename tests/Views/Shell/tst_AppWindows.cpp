@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AboutView.h"
 #include "AppWindows.h"
+#include "Gui.h"
 #include "HelpView.h"
 #include "Literals.h"
 #include "RegisterFixture.h"
@@ -9,7 +10,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QEvent>
 
 using namespace abissora;
 using namespace abissora::test;
@@ -34,11 +34,6 @@ QList<QWidget*> windowsOf()
         if (window->isVisible() && window->findChild<View*>() != nullptr)
             found.append(window);
     return found;
-}
-
-void deleteClosed()
-{
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 } // namespace
@@ -100,7 +95,7 @@ private Q_SLOTS:
         windows.openUpdate(release(u"1.3.0"_s));
         Q_EMIT windowsOf<UpdateView>().first()->findChild<UpdateView*>()->closeRequested();
         QVERIFY(windowsOf<UpdateView>().isEmpty());
-        deleteClosed();
+        settle();
         windows.openUpdate(release(u"1.3.0"_s));
         QCOMPARE(windowsOf<UpdateView>().size(), 1);
     }
@@ -120,10 +115,10 @@ private Q_SLOTS:
         RegisterFixture f;
         AppWindows windows({f.info, f.product}, f.opener);
         windows.openAbout();
-        QCoreApplication::processEvents();
+        settle();
         QTest::keyClick(windowsOf<AboutView>().first(), static_cast<Qt::Key>(key), modifiers);
         QVERIFY(windowsOf<AboutView>().isEmpty());
-        deleteClosed();
+        settle();
         windows.openAbout();
         QCOMPARE(windowsOf<AboutView>().size(), 1);
         QTest::mouseClick(windowsOf<AboutView>().first()->findChild<QAbstractButton*>(u"closeWindow"_s),

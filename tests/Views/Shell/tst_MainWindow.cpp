@@ -1,16 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "Literals.h"
-#include "MainWindow.h"
 #include "ScaledText.h"
 
-#include "ContentView.h"
-#include "EquipmentListView.h"
-#include "EquipmentTableView.h"
 #include "SegmentedControl.h"
 #include "ShellFixture.h"
-#include "SidebarView.h"
 #include "TestRunner.h"
-#include "Theme.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -25,22 +18,11 @@ using namespace abissora::test;
 
 namespace {
 
-/// A main window that has been shown and has the focus.
-struct Shown
+struct Shown : ShownWindow
 {
-    explicit Shown(ShellFixture& f)
-        : window(f, f.equipment, f.directories.windowStateFile())
-    {
-        window.show();
-        window.activateWindow();
-        QCoreApplication::processEvents();
-    }
+    using ShownWindow::ShownWindow;
 
-    SidebarView& sidebar() { return *window.findChild<SidebarView*>(); }
-    EquipmentTableView& table() { return *window.findChild<EquipmentTableView*>(); }
-    QLineEdit& search() { return *window.findChild<QLineEdit*>(u"search"_s); }
-
-    MainWindow window;
+    QLineEdit& search() { return existing<QLineEdit>(window, u"search"_s); }
 };
 
 QString plain(QString text)
@@ -69,7 +51,7 @@ private Q_SLOTS:
         Shown s(f);
         QSignalSpy asked(&s.window, &MainWindow::helpRequested);
         s.window.content().addEquipment();
-        QCoreApplication::processEvents();
+        settle();
         QWidget* const form = QApplication::activeWindow();
         QVERIFY(form != &s.window);
         QTest::keyClick(form, Qt::Key_F1);
@@ -123,7 +105,7 @@ private Q_SLOTS:
         s.sidebar().setSelectedSidebarItem(u"type_GAV"_s);
         QCOMPARE(content.selectedTab(), 0);
         QVERIFY(content.list().isVisible());
-        QCoreApplication::processEvents();
+        settle();
         QCOMPARE(s.table().model()->rowCount(), 1);
     }
 
@@ -216,7 +198,7 @@ private Q_SLOTS:
         ShellFixture f;
         Shown s(f);
         f.equipment.filterByTypeName(u"GAV"_s);
-        QCoreApplication::processEvents();
+        settle();
         int named = 0;
         for (QWidget* widget : s.window.findChildren<QWidget*>()) {
             if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus)
@@ -235,7 +217,7 @@ private Q_SLOTS:
         ShellFixture f;
         Shown s(f);
         s.window.resize(s.window.minimumSize());
-        QCoreApplication::processEvents();
+        settle();
         for (const QWidget* widget : s.window.findChildren<QWidget*>()) {
             const bool text = widget->inherits("QLabel") || widget->inherits("QAbstractButton");
             if (!text || !widget->isVisible() || qobject_cast<const QLineEdit*>(widget->parentWidget()))

@@ -7,10 +7,11 @@
 #include "MaintenanceFormView.h"
 #include "MaintenanceOverviewView.h"
 #include "OverviewParts.h"
+#include "ShellFixture.h"
 #include "TestRunner.h"
 
 #include <QAccessible>
-#include <QSignalSpy>
+#include <QLineEdit>
 
 using namespace abissora;
 using namespace abissora::test;
@@ -18,12 +19,13 @@ using namespace abissora::test;
 namespace {
 
 /// The overview of the three sample items, of which the second and the third are due.
-struct Shown : ShownTab
+struct Shown : ShownWindow
 {
     explicit Shown(ShellFixture& f, QSize size = {1280, 800})
-        : ShownTab(f, ContentView::MaintenanceTab, size)
+        : ShownWindow(f, ContentView::MaintenanceTab, size)
     {}
 
+    [[nodiscard]] DueList& dueList() { return part<DueList>(window, u"dueList"_s); }
     [[nodiscard]] MaintenanceOverviewView& view() { return *window.findChild<MaintenanceOverviewView*>(); }
     [[nodiscard]] QAbstractButton& button(int row, DueRow::Part part)
     {
@@ -164,7 +166,7 @@ private Q_SLOTS:
         Shown s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
         settle();
-        f.equipment.addMaintenance(f.equipment.equipment().first().id, makeRecord(f, 1, 0, u"Revisione"_s));
+        f.equipment.addMaintenance(f.equipment.equipment().first().id, serviceNow(f));
         settle();
         QVERIFY(s.isSheetOpen());
         QVERIFY(isShown(s.window, u"allInOrder"_s));

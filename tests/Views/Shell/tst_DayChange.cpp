@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DayWatch.h"
-#include "EquipmentTableView.h"
 #include "Literals.h"
 #include "OverviewParts.h"
-#include "SidebarView.h"
+#include "ShellFixture.h"
 #include "TestRunner.h"
 
 using namespace abissora;
@@ -23,6 +22,8 @@ struct Running
         f.console.clear();
     }
 
+    [[nodiscard]] DueList& dueList() { return part<DueList>(s.window, u"dueList"_s); }
+
     /// A day goes by, asleep or awake.
     void passADay()
     {
@@ -34,12 +35,12 @@ struct Running
     ShellFixture f{
         QList<Equipment>{makeItem(1, u"Muta"_s, EquipmentType::wetsuit, ShellFixture().inDays(31) + hours(11))}};
     DayWatch watch;
-    ShownTab s;
+    ShownWindow s;
 };
 
-QString badge(QWidget& window)
+QString badge(ShownWindow& s)
 {
-    return window.findChild<SidebarView*>()->model()->index(2, 0).data(Qt::AccessibleTextRole).toString();
+    return s.sidebar().model()->index(2, 0).data(Qt::AccessibleTextRole).toString();
 }
 
 } // namespace
@@ -54,14 +55,14 @@ private Q_SLOTS:
     {
         Running r(ContentView::MaintenanceTab);
         QVERIFY(isShown(r.s.window, u"allInOrder"_s));
-        QCOMPARE(badge(r.s.window), u"Manutenzione scaduta"_s);
+        QCOMPARE(badge(r.s), u"Manutenzione scaduta"_s);
         r.passADay();
-        QCOMPARE(rowTexts(r.s.dueList()), QStringList(u"Muta, Scaduto da 30 giorni"_s));
+        QCOMPARE(rowTexts(r.dueList()), QStringList(u"Muta, Scaduto da 30 giorni"_s));
         QCOMPARE(cardTexts(r.s.window), QStringList({u"Totale Articoli: 1"_s, u"Manutenzioni Scadute: 1"_s,
                                                      u"In Scadenza (30gg): 1"_s, u"In Regola: 0"_s}));
-        QCOMPARE(badge(r.s.window), u"Manutenzione scaduta, 1"_s);
+        QCOMPARE(badge(r.s), u"Manutenzione scaduta, 1"_s);
         r.passADay();
-        QCOMPARE(rowTexts(r.s.dueList()), QStringList(u"Muta, Scaduto da 29 giorni"_s));
+        QCOMPARE(rowTexts(r.dueList()), QStringList(u"Muta, Scaduto da 29 giorni"_s));
     }
 
     void statistics()
@@ -78,9 +79,7 @@ private Q_SLOTS:
         Running r(ContentView::ListTab);
         r.s.window.content().setSelectedEquipment(r.f.equipment.equipment().first());
         settle();
-        const auto remaining = [&r] {
-            return r.s.window.findChild<EquipmentTableView*>()->model()->index(0, 3).data().toString();
-        };
+        const auto remaining = [&r] { return r.s.table().model()->index(0, 3).data().toString(); };
         QVERIFY(remaining().contains("31 giorni"_L1));
         QVERIFY(!isShown(r.s.window, u"dueBadge"_s));
         r.passADay();
