@@ -22,18 +22,6 @@ namespace {
 constexpr int detailWidth = 385;
 constexpr int leastListWidth = 440; // its table with every column
 
-struct TabTitle
-{
-    QString text;
-    QString symbol;
-};
-
-QList<TabTitle> tabTitles()
-{
-    return {
-        {u"Attrezzatura"_s, u"list.bullet"_s}, {u"Manutenzione"_s, u"wrench"_s}, {u"Statistiche"_s, u"chart.bar"_s}};
-}
-
 } // namespace
 
 ContentView::ContentView(ScreenFactory& factory, EquipmentViewModel& equipment, QWidget* parent)
@@ -153,8 +141,9 @@ void ContentView::openForm(Sheet* form)
 QWidget* ContentView::makeTabArea()
 {
     m_tabs->setObjectName(u"tabSwitch"_s);
-    for (const TabTitle& title : tabTitles())
-        m_tabs->addSegment(title.symbol, title.text);
+    m_tabs->addSegment(u"list.bullet"_s, u"Attrezzatura"_s);
+    m_tabs->addSegment(u"wrench"_s, u"Manutenzione"_s);
+    m_tabs->addSegment(u"chart.bar"_s, u"Statistiche"_s);
     m_tabs->setCurrentIndex(m_selectedTab);
     m_screens->addWidget(makeListArea());
     for (int tab = MaintenanceTab; tab < TabCount; ++tab)

@@ -31,6 +31,15 @@ bool isReadOnly(const QWidget* field)
     return field->property("readOnly").toBool();
 }
 
+template <typename Receiver, typename Slot>
+QAction* addCommand(QMenu& menu, const QString& text, const QKeySequence& shortcut, Receiver* receiver, Slot slot)
+{
+    QAction* command = menu.addAction(text);
+    command->setShortcut(shortcut);
+    QObject::connect(command, &QAction::triggered, receiver, slot);
+    return command;
+}
+
 /// The platform's usual editing commands, for whatever text field has the focus.
 class EditMenu final : public QMenu
 {
@@ -114,45 +123,36 @@ void MainWindow::closeEvent(QCloseEvent* event)
 
 void MainWindow::addFileMenu()
 {
-    QMenu* file = menuBar()->addMenu(u"&File"_s);
-    QAction* add = file->addAction(symbolIcon(u"plus"_s), u"&Aggiungi"_s);
-    add->setShortcut(QKeySequence::New);
-    connect(add, &QAction::triggered, m_content, &ContentView::addEquipment);
-    QAction* refresh = file->addAction(symbolIcon(u"arrow.clockwise"_s), u"A&ggiorna"_s);
-    refresh->setShortcut(QKeySequence::Refresh);
-    connect(refresh, &QAction::triggered, &m_content->list(), &EquipmentListView::refresh);
-    file->addSeparator();
-    QAction* close = file->addAction(u"&Chiudi"_s);
-    close->setShortcut(closeKey());
-    connect(close, &QAction::triggered, this, &QWidget::close);
-    QAction* quit = file->addAction(u"&Esci"_s);
-    quit->setShortcut(QKeySequence::Quit);
+    QMenu& file = *menuBar()->addMenu(u"&File"_s);
+    addCommand(file, u"&Aggiungi"_s, QKeySequence::New, m_content, &ContentView::addEquipment)
+        ->setIcon(symbolIcon(u"plus"_s));
+    addCommand(file, u"A&ggiorna"_s, QKeySequence::Refresh, &m_content->list(), &EquipmentListView::refresh)
+        ->setIcon(symbolIcon(u"arrow.clockwise"_s));
+    file.addSeparator();
+    addCommand(file, u"&Chiudi"_s, closeKey(), this, &QWidget::close);
+    QAction* quit = addCommand(file, u"&Esci"_s, QKeySequence::Quit, qApp, &QApplication::closeAllWindows);
     quit->setShortcutContext(Qt::ApplicationShortcut);
     quit->setMenuRole(QAction::QuitRole);
-    connect(quit, &QAction::triggered, qApp, &QApplication::closeAllWindows);
 }
 
 void MainWindow::addEditMenu()
 {
     auto* edit = new EditMenu(this);
     edit->addSeparator();
-    QAction* find = edit->addAction(u"&Trova"_s);
-    find->setShortcut(QKeySequence::Find);
-    connect(find, &QAction::triggered, m_content, &ContentView::findInList);
+    addCommand(*edit, u"&Trova"_s, QKeySequence::Find, m_content, &ContentView::findInList);
     menuBar()->addMenu(edit);
 }
 
 void MainWindow::addHelpMenu()
 {
-    QMenu* help = menuBar()->addMenu(u"&Aiuto"_s);
-    QAction* guide = help->addAction(symbolIcon(u"lightbulb"_s), u"Abissora &Help"_s);
+    QMenu& help = *menuBar()->addMenu(u"&Aiuto"_s);
+    QAction* guide = addCommand(help, u"Abissora &Help"_s, {}, this, &MainWindow::helpRequested);
+    guide->setIcon(symbolIcon(u"lightbulb"_s));
     guide->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Question), QKeySequence(QKeySequence::HelpContents)});
     guide->setShortcutContext(Qt::ApplicationShortcut);
-    connect(guide, &QAction::triggered, this, &MainWindow::helpRequested);
     addAction(guide); // so that sheets take it over
-    QAction* about = help->addAction(u"&Informazioni su Abissora"_s);
-    about->setMenuRole(QAction::AboutRole);
-    connect(about, &QAction::triggered, this, &MainWindow::aboutRequested);
+    addCommand(help, u"&Informazioni su Abissora"_s, {}, this, &MainWindow::aboutRequested)
+        ->setMenuRole(QAction::AboutRole);
 }
 
 } // namespace abissora

@@ -55,7 +55,7 @@ void paintEntry(QPainter& painter, const QStyleOptionViewItem& option, const QMo
         .paint(&painter, icon, Qt::AlignCenter, selected ? QIcon::Selected : QIcon::Normal);
     content.setLeft(icon.right() + 1 + margin);
 
-    if (const QVariant badge = index.data(SidebarModel::BadgeRole); badge.isValid()) {
+    if (const QVariant badge = index.data(SidebarView::BadgeRole); badge.isValid()) {
         const QString text = badge.toString();
         QRect rect(QPoint(), badgeSize(text));
         rect.moveCenter(content.center());
@@ -78,79 +78,12 @@ void paintTitle(QPainter& painter, const QRect& rect, const QString& text, const
 
 } // namespace
 
-SidebarModel::SidebarModel(QObject* parent)
-    : QAbstractListModel(parent)
-    , m_rows(sidebarRows({}))
-{}
-
-void SidebarModel::setTypes(const QList<EquipmentTypeModel>& types)
-{
-    QList<SidebarRow> rows = sidebarRows(types);
-    if (rows == m_rows)
-        return;
-    beginResetModel();
-    m_rows = std::move(rows);
-    endResetModel();
-}
-
-void SidebarModel::setBadge(qsizetype count)
-{
-    if (m_badge == count)
-        return;
-    m_badge = count;
-    const QModelIndex changed = index(rowOf(sidebar::maintenance));
-    Q_EMIT dataChanged(changed, changed);
-}
-
-int SidebarModel::rowOf(const QString& tag) const
-{
-    const auto found = std::ranges::find_if(
-        m_rows, [&tag](const SidebarRow& row) { return row.kind == SidebarRow::Entry && row.tag == tag; });
-    return found == m_rows.end() ? -1 : static_cast<int>(found - m_rows.begin());
-}
-
-int SidebarModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant SidebarModel::data(const QModelIndex& index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const SidebarRow& row = m_rows.at(index.row());
-    const bool badged = row.tag == sidebar::maintenance && m_badge > 0;
-    switch (role) {
-    case Qt::DisplayRole:
-        return row.text;
-    case Qt::DecorationRole:
-        return row.kind == SidebarRow::Entry ? QVariant::fromValue(typeIcon(row.appearance.icon, row.appearance.color))
-                                             : QVariant();
-    case Qt::AccessibleTextRole:
-        return badged ? u"%1, %2"_s.arg(row.text).arg(m_badge) : row.text;
-    case TagRole:
-        return row.tag;
-    case KindRole:
-        return row.kind;
-    case BadgeRole:
-        return badged ? QVariant::fromValue(m_badge) : QVariant();
-    default:
-        return {};
-    }
-}
-
-Qt::ItemFlags SidebarModel::flags(const QModelIndex& index) const
-{
-    const bool entry = index.isValid() && m_rows.at(index.row()).kind == SidebarRow::Entry;
-    return entry ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren : Qt::NoItemFlags;
-}
-
 void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     const Tokens& tokens = Tokens::of(option.palette);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    switch (index.data(SidebarModel::KindRole).toInt()) {
+    switch (index.data(SidebarView::KindRole).toInt()) {
     case SidebarRow::SectionTitle:
         paintTitle(*painter, option.rect, index.data().toString(), tokens);
         break;
@@ -170,7 +103,7 @@ QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QM
     // Room for a badge of two digits, so that one that appears moves nothing.
     const int width = QFontMetrics(font(TextStyle::Body)).horizontalAdvance(index.data().toString()) +
                       metrics::iconSize + 5 * margin + badgeSize(u"00"_s).width() + metrics::spaceXS;
-    switch (index.data(SidebarModel::KindRole).toInt()) {
+    switch (index.data(SidebarView::KindRole).toInt()) {
     case SidebarRow::SectionTitle:
         return {width, QFontMetrics(font(TextStyle::CaptionSemibold)).height() + metrics::spaceL + metrics::spaceXS};
     case SidebarRow::Divider:
@@ -201,7 +134,6 @@ SidebarView::SidebarView(EquipmentViewModel& equipment, const EquipmentTypeViewM
     setSelectionLook(*this, SelectionLook::Pill);
     setBackgroundRole(QPalette::AlternateBase);
     viewport()->setBackgroundRole(QPalette::AlternateBase);
-    m_model.setTypes(types.filteredTypes());
     setModel(&m_model);
     setItemDelegate(&m_delegate);
     connect(&m_selection, &SidebarSelection::changed, this, &SidebarView::showSelection);
@@ -217,7 +149,7 @@ QSize SidebarView::sizeHint() const
     const QSize usual = QListView::sizeHint();
     QStyleOptionViewItem option;
     initViewItemOption(&option);
-    const int fixedRows = m_delegate.sizeHint(option, m_model.index(m_model.rowOf(sidebar::maintenance))).width();
+    const int fixedRows = m_delegate.sizeHint(option, indexOf(sidebar::maintenance)).width();
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     return {std::max(minimumWidth(), fixedRows + scrollBar), usual.height()};
 }
@@ -227,26 +159,58 @@ void SidebarView::selectionChanged(const QItemSelection& selected, const QItemSe
     QListView::selectionChanged(selected, deselected);
     const QModelIndexList rows = selectionModel()->selectedRows();
     if (!m_silent && !rows.isEmpty())
-        m_selection.select(rows.first().data(SidebarModel::TagRole).toString());
+        m_selection.select(rows.first().data(TagRole).toString());
 }
 
 void SidebarView::redraw()
 {
     m_selection.followFilter();
-    m_model.setTypes(m_types.filteredTypes());
-    m_model.setBadge(m_equipment.overdueEquipment().size());
+    showRows();
+    showBadge(m_equipment.overdueEquipment().size());
     showSelection();
+}
+
+void SidebarView::showRows()
+{
+    const QList<SidebarRow> rows = sidebarRows(m_types.filteredTypes());
+    if (rows == m_rows)
+        return;
+    m_rows = rows;
+    m_model.clear();
+    for (const SidebarRow& row : rows) {
+        auto item = std::make_unique<QStandardItem>(row.text);
+        item->setData(row.kind, KindRole);
+        item->setData(row.tag, TagRole);
+        if (row.kind == SidebarRow::Entry)
+            item->setIcon(typeIcon(row.appearance.icon, row.appearance.color));
+        item->setFlags(row.kind == SidebarRow::Entry
+                           ? Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren
+                           : Qt::NoItemFlags);
+        m_model.appendRow(item.release());
+    }
+}
+
+void SidebarView::showBadge(qsizetype count)
+{
+    QStandardItem* const item = m_model.itemFromIndex(indexOf(sidebar::maintenance));
+    item->setData(count > 0 ? QVariant(count) : QVariant(), BadgeRole);
+    item->setAccessibleText(count > 0 ? u"%1, %2"_s.arg(item->text()).arg(count) : item->text());
+}
+
+QModelIndex SidebarView::indexOf(const QString& tag) const
+{
+    return m_model.match(m_model.index(0, 0), TagRole, tag, 1, Qt::MatchExactly | Qt::MatchCaseSensitive).value(0);
 }
 
 void SidebarView::showSelection()
 {
     const QScopedValueRollback silent(m_silent, true);
     const auto& tag = m_selection.tag();
-    const int row = tag ? m_model.rowOf(*tag) : -1;
-    if (row < 0)
+    const QModelIndex index = tag ? indexOf(*tag) : QModelIndex();
+    if (!index.isValid())
         clearSelection();
-    else if (!selectionModel()->isRowSelected(row) || currentIndex().row() != row)
-        setCurrentIndex(m_model.index(row));
+    else if (!selectionModel()->isSelected(index) || currentIndex() != index)
+        setCurrentIndex(index);
 }
 
 } // namespace abissora

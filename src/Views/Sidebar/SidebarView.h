@@ -5,38 +5,11 @@
 #include "EquipmentTypeViewModel.h"
 #include "SidebarContent.h"
 
-#include <QAbstractListModel>
 #include <QListView>
+#include <QStandardItemModel>
 #include <QStyledItemDelegate>
 
 namespace abissora {
-
-/// The rows of the sidebar, of which entries can be selected.
-class SidebarModel : public QAbstractListModel
-{
-    Q_OBJECT
-
-public:
-    enum Role { TagRole = Qt::UserRole, KindRole, BadgeRole };
-
-    explicit SidebarModel(QObject* parent = nullptr);
-
-    /// Does nothing when they are what is shown already.
-    void setTypes(const QList<EquipmentTypeModel>& types);
-    /// Shown on "Manutenzione scaduta"; 0 shows none.
-    void setBadge(qsizetype count);
-
-    /// The first row with this tag; -1 when there is none.
-    [[nodiscard]] int rowOf(const QString& tag) const;
-
-    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
-    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
-    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
-
-private:
-    QList<SidebarRow> m_rows;
-    qsizetype m_badge = 0;
-};
 
 /// Paints the sidebar's rows: titles in caption, entries with their picture and badge, the divider.
 class SidebarDelegate : public QStyledItemDelegate
@@ -56,6 +29,8 @@ class SidebarView : public QListView
     Q_OBJECT
 
 public:
+    enum Role { TagRole = Qt::UserRole, KindRole, BadgeRole };
+
     /// Everything passed by reference must outlive it.
     SidebarView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types, Console& console,
                 QWidget* parent = nullptr);
@@ -77,12 +52,18 @@ protected:
 
 private:
     void redraw();
+    void showRows();
+    /// On "Manutenzione scaduta"; 0 shows none.
+    void showBadge(qsizetype count);
+    /// The first row with this tag; not valid when there is none.
+    [[nodiscard]] QModelIndex indexOf(const QString& tag) const;
     void showSelection();
 
     EquipmentViewModel& m_equipment;
     const EquipmentTypeViewModel& m_types;
     SidebarSelection m_selection;
-    SidebarModel m_model;
+    QList<SidebarRow> m_rows;
+    QStandardItemModel m_model;
     SidebarDelegate m_delegate;
     CoalescedUpdate m_update;
     bool m_silent = false;

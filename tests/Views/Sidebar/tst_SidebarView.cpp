@@ -121,13 +121,13 @@ private Q_SLOTS:
         RegisterFixture f;
         SidebarView view(f.equipment, f.types, f.console);
         const QModelIndex row = view.model()->index(2, 0);
-        QCOMPARE(row.data(SidebarModel::BadgeRole).toInt(), 2);
+        QCOMPARE(row.data(SidebarView::BadgeRole).toInt(), 2);
         QCOMPARE(row.data(Qt::AccessibleTextRole).toString(), u"Manutenzione scaduta, 2"_s);
         const QList<Equipment> all = f.equipment.equipment();
         for (const Equipment& item : all)
             f.equipment.deleteEquipment(item);
         settle();
-        QVERIFY(!row.data(SidebarModel::BadgeRole).isValid());
+        QVERIFY(!row.data(SidebarView::BadgeRole).isValid());
         QCOMPARE(row.data(Qt::AccessibleTextRole).toString(), u"Manutenzione scaduta"_s);
     }
 
