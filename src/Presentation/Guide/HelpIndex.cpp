@@ -10,14 +10,13 @@ namespace abissora {
 
 namespace {
 
-QList<HelpSection> matching(const QList<HelpSection>& sections, const QString& searchText)
+QList<HelpSection> matching(QList<HelpSection> sections, const QString& searchText)
 {
     const TextSearch search(help::withoutBlanksAndNewlines(searchText));
-    QList<HelpSection> found;
-    std::copy_if(sections.begin(), sections.end(), std::back_inserter(found), [&](const HelpSection& section) {
-        return search.foundIn(section.title) || search.foundIn(section.body);
+    sections.removeIf([&search](const HelpSection& section) {
+        return !search.foundIn(section.title) && !search.foundIn(section.body);
     });
-    return found;
+    return sections;
 }
 
 std::optional<QString> firstOf(const QList<HelpSection>& sections)
@@ -35,8 +34,7 @@ HelpIndex::HelpIndex(QList<HelpSection> sections)
 
 std::optional<HelpSection> HelpIndex::selectedSection() const
 {
-    const auto found = std::find_if(m_sections.begin(), m_sections.end(),
-                                    [this](const HelpSection& section) { return section.id == m_selection; });
+    const auto found = std::ranges::find(m_sections, m_selection, &HelpSection::id);
     return found == m_sections.end() ? std::nullopt : std::optional(*found);
 }
 
@@ -46,9 +44,7 @@ void HelpIndex::setSearchText(const QString& text)
         return;
     m_searchText = text;
     m_filtered = matching(m_sections, text);
-    const bool gone = std::none_of(m_filtered.begin(), m_filtered.end(),
-                                   [this](const HelpSection& section) { return section.id == m_selection; });
-    if (m_selection && gone)
+    if (m_selection && std::ranges::find(m_filtered, *m_selection, &HelpSection::id) == m_filtered.end())
         m_selection = firstOf(m_filtered);
 }
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "HelpSection.h"
+#include "HelpLoader.h"
 
-#include <QList>
 #include <optional>
 
 namespace abissora {

@@ -38,9 +38,9 @@ bool saysNothing(const QString& line)
 /// Empty when there is nothing to show.
 QString bodyOf(const QStringList& bodyLines)
 {
-    if (std::all_of(bodyLines.begin(), bodyLines.end(), saysNothing))
+    if (std::ranges::all_of(bodyLines, saysNothing))
         return {};
-    const auto first = std::find_if_not(bodyLines.begin(), bodyLines.end(), isSeparator);
+    const auto first = std::ranges::find_if_not(bodyLines, isSeparator);
     const auto last = std::find_if_not(bodyLines.rbegin(), bodyLines.rend(), isSeparator).base();
     return help::withoutBlanksAndNewlines(QStringList(first, last).join(u'\n'));
 }

@@ -3,7 +3,6 @@
 
 #include "ControlLook.h"
 #include "HelpIndex.h"
-#include "HelpSectionDelegate.h"
 #include "IconView.h"
 #include "Literals.h"
 #include "Metrics.h"
@@ -15,10 +14,12 @@
 #include "TypeScale.h"
 #include "WrapLabel.h"
 
+#include <QApplication>
 #include <QListView>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStackedWidget>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace abissora {
@@ -26,6 +27,39 @@ namespace abissora {
 namespace {
 
 constexpr int largeIconSide = 44;
+constexpr int titleMargin = 10;
+
+/// Paints a row of the index: the title with room around it.
+class HelpSectionDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return {2 * titleMargin + option.fontMetrics.horizontalAdvance(index.data().toString()),
+                controlHeight(option.fontMetrics)};
+    }
+};
+
+void HelpSectionDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    QStyleOptionViewItem row(option);
+    initStyleOption(&row, index);
+    const QString title = std::exchange(row.text, QString());
+    const QStyle& style = row.widget != nullptr ? *row.widget->style() : *QApplication::style();
+    style.drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+
+    const Tokens& tokens = Tokens::of(row.palette);
+    const QRect place = row.rect.adjusted(titleMargin, 0, -titleMargin, 0);
+    painter->save();
+    painter->setFont(row.font);
+    painter->setPen(row.state.testFlag(QStyle::State_Selected) ? tokens.onFill : tokens.text);
+    painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                      row.fontMetrics.elidedText(title, Qt::ElideRight, place.width()));
+    painter->restore();
+}
 
 } // namespace
 
@@ -126,15 +160,11 @@ void HelpIndexView::showSections()
     const QList<HelpSection>& sections = m_index.filteredSections();
     const QSignalBlocker silent(m_list->selectionModel());
     QStringList titles;
-    int selected = -1;
-    for (const HelpSection& section : sections) {
-        if (section.id == m_index.selection())
-            selected = static_cast<int>(titles.size());
-        titles.append(section.title);
-    }
+    std::ranges::transform(sections, std::back_inserter(titles), &HelpSection::title);
     m_titles.setStringList(titles);
-    if (selected >= 0)
-        m_list->setCurrentIndex(m_titles.index(selected));
+    if (const auto selected = std::ranges::find(sections, m_index.selection(), &HelpSection::id);
+        selected != sections.end())
+        m_list->setCurrentIndex(m_titles.index(static_cast<int>(selected - sections.begin())));
     m_noResult->setText(u"Nessun risultato per\n\"%1\""_s.arg(m_index.searchText()));
     m_pages->setCurrentIndex(sections.isEmpty() && !m_index.searchText().isEmpty() ? 1 : 0);
 }

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "HelpPage.h"
 
-#include "HelpPagePainting.h"
 #include "HelpPageWriter.h"
 #include "Literals.h"
+#include "Metrics.h"
 #include "Opening.h"
 #include "Painting.h"
+#include "SymbolIcon.h"
 #include "Tokens.h"
+#include "TypeScale.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
@@ -24,6 +27,60 @@ namespace {
 
 /// Longer lines are hard to read.
 constexpr int widestPage = 780;
+
+using help::Backdrop;
+
+constexpr qreal codeTint = 0.06;
+
+void paintAccentBar(QPainter& painter, const QRectF& text, qreal left, const Tokens& tokens)
+{
+    const QRectF bar = onDeviceGrid(painter, QRectF(left, text.top(), help::accentBarWidth, text.height()));
+    QLinearGradient gradient(bar.topLeft(), bar.bottomLeft());
+    gradient.setColorAt(0, tokens.named(NamedColor::blue));
+    gradient.setColorAt(1, tokens.named(NamedColor::cyan));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(gradient);
+    painter.drawRoundedRect(bar, bar.width() / 2, bar.width() / 2);
+}
+
+void paintQuoteIcon(QPainter& painter, const QRectF& panel, const QRectF& text, const QFont& font)
+{
+    const int side = withText(help::quoteIconSide, QFontMetrics(font));
+    const qreal firstLine = QFontMetricsF(font).height();
+    const QPointF corner(panel.left() + help::quoteIconIndent, text.top() + (firstLine - side) / 2);
+    symbolIcon(u"quote.opening"_s, NamedColor::blue).paint(&painter, QRect(corner.toPoint(), QSize(side, side)));
+}
+
+/// What stands behind the blocks: accent bars, tinted panels, rules. In the document's coordinates.
+void paintBackdrops(QPainter& painter, const QTextDocument& document, const QPalette& palette)
+{
+    const Tokens& tokens = Tokens::of(palette);
+    const QTextFrameFormat page = document.rootFrame()->frameFormat();
+    const qreal left = page.leftMargin();
+    const qreal width = document.textWidth() - left - page.rightMargin();
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const QRectF text = document.documentLayout()->blockBoundingRect(block);
+        const QRectF panel(left, text.top() - help::panelPadding, width, text.height() + 2 * help::panelPadding);
+        switch (help::backdropOf(block)) {
+        case Backdrop::None:
+            break;
+        case Backdrop::AccentBar:
+            paintAccentBar(painter, text, left, tokens);
+            break;
+        case Backdrop::QuotePanel:
+            drawPanel(painter, panel, metrics::cardRadius, tokens.accentTint, {});
+            paintQuoteIcon(painter, panel, text, block.charFormat().font());
+            break;
+        case Backdrop::CodePanel:
+            drawPanel(painter, panel, metrics::cardRadius, mix(tokens.window, tokens.text, codeTint), {});
+            break;
+        case Backdrop::Rule:
+            drawHorizontalHairline(painter, left, left + width, text.center().y(), tokens.border);
+            break;
+        }
+    }
+}
 
 } // namespace
 
@@ -142,36 +199,18 @@ void HelpPage::rewrite()
 
 bool HelpPage::scrollBy(const QKeyEvent& event)
 {
+    static const QHash<int, QAbstractSlider::SliderAction> actions{
+        {Qt::Key_Up, QAbstractSlider::SliderSingleStepSub},   {Qt::Key_Down, QAbstractSlider::SliderSingleStepAdd},
+        {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub}, {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd},
+        {Qt::Key_Space, QAbstractSlider::SliderPageStepAdd},  {Qt::Key_Home, QAbstractSlider::SliderToMinimum},
+        {Qt::Key_End, QAbstractSlider::SliderToMaximum},
+    };
     const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     const bool isBackward = event.modifiers() == Qt::ShiftModifier && event.key() == Qt::Key_Space;
-    if (!isPlain && !isBackward)
+    if (!actions.contains(event.key()) || (!isPlain && !isBackward))
         return false;
-    QScrollBar& bar = *verticalScrollBar();
-    switch (event.key()) {
-    case Qt::Key_Up:
-        bar.triggerAction(QAbstractSlider::SliderSingleStepSub);
-        return true;
-    case Qt::Key_Down:
-        bar.triggerAction(QAbstractSlider::SliderSingleStepAdd);
-        return true;
-    case Qt::Key_PageUp:
-        bar.triggerAction(QAbstractSlider::SliderPageStepSub);
-        return true;
-    case Qt::Key_PageDown:
-        bar.triggerAction(QAbstractSlider::SliderPageStepAdd);
-        return true;
-    case Qt::Key_Space:
-        bar.triggerAction(isBackward ? QAbstractSlider::SliderPageStepSub : QAbstractSlider::SliderPageStepAdd);
-        return true;
-    case Qt::Key_Home:
-        bar.triggerAction(QAbstractSlider::SliderToMinimum);
-        return true;
-    case Qt::Key_End:
-        bar.triggerAction(QAbstractSlider::SliderToMaximum);
-        return true;
-    default:
-        return false;
-    }
+    verticalScrollBar()->triggerAction(isBackward ? QAbstractSlider::SliderPageStepSub : actions.value(event.key()));
+    return true;
 }
 
 } // namespace abissora

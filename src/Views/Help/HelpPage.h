@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "HelpSection.h"
+#include "HelpLoader.h"
 
 #include <QTextBrowser>
 #include <optional>

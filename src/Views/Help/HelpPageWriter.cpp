@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "HelpPageWriter.h"
 
-#include "HelpBlockParser.h"
 #include "InlineText.h"
 #include "Literals.h"
 #include "Metrics.h"

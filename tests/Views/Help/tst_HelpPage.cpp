@@ -3,7 +3,7 @@
 #include "ComponentTest.h"
 #include "Fakes.h"
 #include "HelpPage.h"
-#include "HelpPageFormat.h"
+#include "HelpPageWriter.h"
 #include "Literals.h"
 #include "Tokens.h"
 
