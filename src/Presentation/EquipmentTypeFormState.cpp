@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeFormState.h"
 
+#include "TextSearch.h"
+
 namespace abissora {
 
 EquipmentTypeFormState EquipmentTypeFormState::of(const EquipmentTypeModel& type)
@@ -21,6 +23,19 @@ bool EquipmentTypeFormState::isFormValid() const
 EquipmentTypeModel EquipmentTypeFormState::toType(const QUuid& id) const
 {
     return {id, name, rawValue(selectedIcon), caseName(selectedColor), serviceIntervalDays, true};
+}
+
+QList<DivingIconsCategory> filteredIcons(const QString& searchIconText)
+{
+    const TextSearch search(searchIconText);
+    QList<DivingIconsCategory> sections = categorizedDivingIcons();
+    for (DivingIconsCategory& section : sections) {
+        section.icons.removeIf([&search](DivingIcons icon) {
+            return !search.foundIn(displayName(icon)) && !search.foundIn(rawValue(icon));
+        });
+    }
+    sections.removeIf([](const DivingIconsCategory& section) { return section.icons.isEmpty(); });
+    return sections;
 }
 
 } // namespace abissora

@@ -26,4 +26,8 @@ struct EquipmentTypeFormState
     friend bool operator==(const EquipmentTypeFormState&, const EquipmentTypeFormState&) = default;
 };
 
+/// The sections of the form's icons with only those whose displayed name or identifier contains the text; without the
+/// sections that it empties.
+[[nodiscard]] QList<DivingIconsCategory> filteredIcons(const QString& searchIconText);
+
 } // namespace abissora

@@ -7,8 +7,6 @@ namespace abissora {
 
 namespace {
 
-constexpr qsizetype longestVersion = 80;
-
 bool isShown(char32_t character)
 {
     if (character == U'\n' || character == U'\t')
@@ -42,11 +40,10 @@ QString shownLine(const QString& text, qsizetype longest)
     return shownText(shortened(text, longest).simplified(), longest);
 }
 
-QString shownRelease(const UpdateInfo& update)
+bool opensInBrowser(const QUrl& url)
 {
-    UpdateInfo shown = update;
-    shown.version = shownLine(update.version, longestVersion);
-    return shown.versionAndBuild();
+    const bool isWeb = url.scheme() == "https"_L1 || url.scheme() == "http"_L1;
+    return isWeb && !url.host().isEmpty();
 }
 
 } // namespace abissora

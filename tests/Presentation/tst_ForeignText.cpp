@@ -60,6 +60,27 @@ private Q_SLOTS:
         QCOMPARE(shownLine(u" 1.3\n\t.0\u2028 "_s, 20), u"1.3 .0"_s);
         QCOMPARE(shownLine(QString(1'000'000, u'9'), 20).size(), 21);
     }
+
+    void onlyWebPagesOpenInABrowser_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("isOpened");
+        QTest::newRow("https") << u"https://abissora.example/a%20b?c#d"_s << true;
+        QTest::newRow("http") << u"http://abissora.example:8080/"_s << true;
+        QTest::newRow("upper case") << u"HTTPS://ABISSORA.EXAMPLE/"_s << true;
+        QTest::newRow("nothing") << QString() << false;
+        for (const char* text :
+             {"file:///etc/passwd", "file://server/share/a.exe", "javascript:alert(1)", "data:text/html,a", "scarica",
+              "//abissora.example/", "mailto:a@b.example", "smb://server/share", "ms-msdt:/id", "https:scarica",
+              "https:///etc/passwd", "qrc:/appicon/abissora.svg", "-a"})
+            QTest::newRow(text) << QString::fromLatin1(text) << false;
+    }
+
+    void onlyWebPagesOpenInABrowser()
+    {
+        QFETCH(QString, text);
+        QTEST(opensInBrowser(QUrl(text, QUrl::StrictMode)), "isOpened");
+    }
 };
 
 ABISSORA_TEST(tst_ForeignText);

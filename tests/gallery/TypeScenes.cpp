@@ -5,6 +5,7 @@
 #include "Literals.h"
 #include "ScreenStage.h"
 #include "SearchField.h"
+#include "TypeManagement.h"
 
 #include <QLineEdit>
 
@@ -52,7 +53,7 @@ std::unique_ptr<QWidget> deletion()
 {
     auto alert = std::make_unique<Alert>();
     alert->setTitle(u"Conferma Eliminazione"_s);
-    alert->setMessage(Management::deletionQuestion(EquipmentTypeModel{{}, u"Boa segnasub"_s, {}, {}, 365, true}));
+    alert->setMessage(deletionQuestion(EquipmentTypeModel{{}, u"Boa segnasub"_s, {}, {}, 365, true}));
     return alert;
 }
 

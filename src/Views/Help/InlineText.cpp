@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "InlineText.h"
 
+#include "ForeignText.h"
 #include "Literals.h"
 
 #include <QTextBlock>
@@ -35,13 +36,11 @@ protected:
 
 QUrl safeLink(const QString& address)
 {
-    const bool isWhole = std::none_of(address.begin(), address.end(),
-                                      [](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; });
+    const bool isWhole =
+        std::ranges::none_of(address, [](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; });
     const QUrl url(address, QUrl::StrictMode);
-    const QString scheme = url.scheme();
-    const bool isWeb = (scheme == "https"_L1 || scheme == "http"_L1) && !url.host().isEmpty();
-    const bool isMail = scheme == "mailto"_L1 && !url.path().isEmpty();
-    return isWhole && url.isValid() && (isWeb || isMail) ? url : QUrl();
+    const bool isMail = url.scheme() == "mailto"_L1 && !url.path().isEmpty();
+    return isWhole && url.isValid() && (opensInBrowser(url) || isMail) ? url : QUrl();
 }
 
 InlineRun runOf(const QTextFragment& fragment)

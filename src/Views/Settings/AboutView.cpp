@@ -5,11 +5,14 @@
 #include "InkLabel.h"
 #include "Literals.h"
 #include "Metrics.h"
+#include "Painting.h"
 #include "ProgramFacts.h"
 #include "Separator.h"
-#include "SettingsInfoRow.h"
-#include "ShadowedIcon.h"
+#include "SettingsGroupBox.h"
+#include "SymbolIcon.h"
+#include "Tokens.h"
 
+#include <QPainter>
 #include <QVBoxLayout>
 
 namespace abissora {
@@ -18,6 +21,14 @@ namespace {
 
 constexpr int contentWidth = 400;
 constexpr int iconSide = 104;
+
+// Parts of the icon's side; its picture is a rounded square with a little air around it.
+constexpr qreal air = 6.0 / 128;
+constexpr qreal cornerRadius = 27.0 / 128;
+constexpr qreal blur = 0.11;
+constexpr qreal drop = 0.045;
+constexpr int layers = 40;
+constexpr qreal darkness = 1.6;
 
 Card* makeRows(const ProgramFacts& program)
 {
@@ -34,6 +45,44 @@ Card* makeRows(const ProgramFacts& program)
 }
 
 } // namespace
+
+ShadowedIcon::ShadowedIcon(int side, QWidget* parent)
+    : QWidget(parent)
+    , m_icon(applicationIcon())
+    , m_side(side)
+{
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize ShadowedIcon::sizeHint() const
+{
+    const int whole = m_side + 2 * qCeil(m_side * (blur + drop - air));
+    return {whole, whole};
+}
+
+void ShadowedIcon::paintEvent(QPaintEvent*)
+{
+    QRect place(0, 0, m_side, m_side);
+    place.moveCenter(rect().center());
+    const qreal inset = m_side * air;
+    const QRectF square = QRectF(place).adjusted(inset, inset, -inset, -inset).translated(0, m_side * drop);
+
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    // From the faint rim inward. Opaque: what is translucent and faint vanishes on a dark ground.
+    const QColor ground = palette().color(QPalette::Window);
+    const QColor scrim = Tokens::of(palette()).scrim;
+    const QColor ink = QColor::fromRgb(scrim.rgb());
+    for (int layer = 0; layer < layers; ++layer) {
+        const qreal inward = qreal(layer) / layers;
+        const qreal reach = m_side * blur * (1 - 2 * inward);
+        const qreal radius = std::max(m_side * cornerRadius + reach, 0.0);
+        painter.setBrush(mix(ground, ink, scrim.alphaF() * darkness * inward * inward));
+        painter.drawRoundedRect(square.adjusted(-reach, -reach, reach, reach), radius, radius);
+    }
+    m_icon.paint(&painter, place);
+}
 
 AboutView::AboutView(const ProgramFacts& program, QWidget* parent)
     : QWidget(parent)

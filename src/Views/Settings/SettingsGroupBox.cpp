@@ -1,13 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsGroupBox.h"
 
+#include "Literals.h"
 #include "Metrics.h"
+#include "ToggleSwitch.h"
 #include "WrapLabel.h"
 
 #include <QAbstractButton>
 #include <QHBoxLayout>
 
 namespace abissora {
+
+SettingsInfoRow::SettingsInfoRow(const QString& label, InkLabel::Ink valueColor, TextStyle style, QWidget* parent)
+    : QWidget(parent)
+    , m_label(new InkLabel(style, &Tokens::text, label))
+    , m_value(new InkLabel(style, valueColor))
+{
+    m_value->setObjectName(u"informationValue"_s);
+    m_label->setBuddy(m_value);
+    m_value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    m_value->setFocusPolicy(Qt::StrongFocus); // the toolkit gives the focus to clicks only
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(metrics::spaceL);
+    layout->addWidget(m_label);
+    layout->addWidget(m_value, 1);
+}
 
 SettingsGroupBox::SettingsGroupBox(const QString& title, const QString& symbol, QWidget* parent)
     : GroupBox(title, symbol, parent)
@@ -27,9 +46,28 @@ void SettingsGroupBox::addExplanation(const QString& text, QWidget* control)
     content()->addWidget(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText, text));
 }
 
-void SettingsGroupBox::addLine(QWidget* control)
+QAbstractButton* SettingsGroupBox::addSwitch(const QString& text, const QString& name, SettingsViewModel& settings,
+                                             Getter get, Setter set)
 {
-    content()->addWidget(control);
+    auto* toggle = new ToggleSwitch(text);
+    toggle->setObjectName(name);
+    toggle->setChecked((settings.*get)());
+    // Not clicked, which leaves out a screen reader's toggling.
+    connect(toggle, &QAbstractButton::toggled, &settings, [&settings, get, set](bool on) {
+        if (on != (settings.*get)())
+            (settings.*set)(on);
+    });
+    connect(&settings, &SettingsViewModel::changed, toggle,
+            [toggle, &settings, get] { toggle->setChecked((settings.*get)()); });
+    content()->addWidget(toggle);
+    return toggle;
+}
+
+SettingsInfoRow* SettingsGroupBox::addInformation(const QString& label)
+{
+    auto* row = new SettingsInfoRow(label);
+    content()->addWidget(row);
+    return row;
 }
 
 void SettingsGroupBox::addButton(QAbstractButton* button)

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsView.h"
 
-#include "Buttons.h"
 #include "EquipmentTypeManagementView.h"
 #include "HelpSheet.h"
 #include "IconView.h"
-#include "InformationGroup.h"
 #include "Literals.h"
 #include "Metrics.h"
-#include "PreferenceGroups.h"
+#include "SettingsGroups.h"
 #include "SymbolIcon.h"
-#include "TypesGroup.h"
 #include "UpdateSheet.h"
 #include "UpdatesGroup.h"
 
@@ -83,32 +80,17 @@ QWidget* SettingsView::makeHeader()
 
 void SettingsView::addGroups(QVBoxLayout* groups)
 {
-    auto* types = new TypesGroup(m_types);
-    connect(types, &TypesGroup::manageRequested, this, &SettingsView::manageTypes);
-
-    auto* help = new SettingsGroupBox(u"Aiuto"_s, u"book"_s);
-    help->addText(u"Guida all'uso completa del programma: funzioni, manutenzioni, allegati PDF e domande frequenti"_s);
-    auto* openHelp = new PlainButton(u"Apri la Guida"_s);
-    openHelp->setObjectName(u"openHelp"_s);
-    openHelp->setSymbol(u"book.fill"_s);
-    help->addButton(openHelp);
-    connect(openHelp, &QAbstractButton::clicked, this, &SettingsView::showHelp);
-
-    auto* restore = new SettingsGroupBox(u"Ripristino"_s, u"arrow.counterclockwise"_s);
-    auto* reset = new DestructiveButton(u"Ripristina Impostazioni Default"_s);
-    reset->setObjectName(u"resetSettings"_s);
-    restore->addButton(reset);
-    restore->addExplanation(u"Ripristina tutte le impostazioni ai valori predefiniti"_s, reset);
-    connect(reset, &QAbstractButton::clicked, this, &SettingsView::resetToDefaults);
-
-    groups->addWidget(types);
-    groups->addWidget(new NotificationsGroup(m_settings));
+    groups->addWidget(makeTypesGroup(m_types, [this] { manageTypes(); }));
+    groups->addWidget(makeNotificationsGroup(m_settings));
     groups->addWidget(m_updatesGroup);
-    groups->addWidget(new GeneralGroup(m_settings));
-    groups->addWidget(new AppearanceGroup(m_settings));
-    groups->addWidget(help);
-    groups->addWidget(new InformationGroup(m_program, m_types, m_opener));
-    groups->addWidget(restore);
+    groups->addWidget(makeGeneralGroup(m_settings));
+    groups->addWidget(makeAppearanceGroup(m_settings));
+    groups->addWidget(makeHelpGroup([this] { showHelp(); }));
+    groups->addWidget(makeInformationGroup(m_program, m_types, m_opener));
+    groups->addWidget(makeRestoreGroup([this] {
+        m_settings.resetToDefaults();
+        m_types.resetToDefaults();
+    }));
 }
 
 bool SettingsView::showingTypeManagement() const
@@ -143,12 +125,6 @@ void SettingsView::offerUpdate()
         connect(sheet, &QDialog::finished, &m_updates, &UpdateCheckerViewModel::clearAvailableUpdate);
         openSheet(sheet);
     }
-}
-
-void SettingsView::resetToDefaults()
-{
-    m_settings.resetToDefaults();
-    m_types.resetToDefaults();
 }
 
 void SettingsView::openSheet(SheetWindow* sheet)

@@ -41,7 +41,6 @@ private:
     void manageTypes();
     void showHelp();
     void offerUpdate();
-    void resetToDefaults();
     void openSheet(SheetWindow* sheet);
 
     SettingsViewModel& m_settings;

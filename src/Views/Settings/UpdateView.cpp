@@ -2,19 +2,23 @@
 #include "UpdateView.h"
 
 #include "Buttons.h"
-#include "ForeignText.h"
 #include "GroupBox.h"
 #include "IconView.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Opening.h"
-#include "ReleaseNotes.h"
+#include "Painting.h"
 #include "SymbolIcon.h"
 #include "WrapLabel.h"
 
 #include <QHBoxLayout>
+#include <QPainter>
+#include <QPlainTextEdit>
 #include <QPointer>
 #include <QShortcut>
+#include <QStyleOption>
+#include <QTextBlock>
+#include <QTextLayout>
 
 namespace abissora {
 
@@ -22,28 +26,97 @@ namespace {
 
 constexpr int contentWidth = 480;
 constexpr int iconSide = 52;
-constexpr qsizetype longestNotes = 100'000;
+constexpr int fewestLines = 3;
+constexpr int mostLines = 12;
+constexpr int longestMeasured = 4'000; ///< characters of a paragraph; more fill the lines anyway
+constexpr int widthInCharacters = 60;
 
-/// Any other scheme may start any program on this machine.
-bool opensInBrowser(const QUrl& url)
+/// Plain text to read, select and copy. As high as the text needs at the width it has, within bounds beyond which it
+/// scrolls.
+class ReleaseNotes final : public QPlainTextEdit
 {
-    const bool isWeb = url.scheme() == "https"_L1 || url.scheme() == "http"_L1;
-    return isWeb && !url.host().isEmpty();
+public:
+    explicit ReleaseNotes(const QString& text);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+ReleaseNotes::ReleaseNotes(const QString& text)
+{
+    setReadOnly(true);
+    setUndoRedoEnabled(false);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+    setFrameShape(QFrame::NoFrame);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    viewport()->setAutoFillBackground(false);
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+    setPlainText(text);
+}
+
+QSize ReleaseNotes::sizeHint() const
+{
+    const int width = fontMetrics().averageCharWidth() * widthInCharacters;
+    return {width, heightForWidth(width)};
+}
+
+QSize ReleaseNotes::minimumSizeHint() const
+{
+    const int lines = fewestLines * fontMetrics().lineSpacing();
+    return {fontMetrics().averageCharWidth() * 20, lines + qCeil(2 * document()->documentMargin())};
+}
+
+int ReleaseNotes::heightForWidth(int width) const
+{
+    qreal height = 0;
+    int lines = 0;
+    for (QTextBlock block = document()->begin(); block.isValid() && lines < mostLines; block = block.next()) {
+        QTextLayout layout(block.text().left(longestMeasured), font());
+        QTextOption option;
+        option.setWrapMode(wordWrapMode());
+        layout.setTextOption(option);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid() && lines < mostLines; line = layout.createLine()) {
+            line.setLineWidth(width - 2 * document()->documentMargin());
+            height += line.height();
+            ++lines;
+        }
+        layout.endLayout();
+    }
+    return std::max(minimumSizeHint().height(), qCeil(height + 2 * document()->documentMargin()) + 1);
+}
+
+void ReleaseNotes::paintEvent(QPaintEvent* event)
+{
+    QPlainTextEdit::paintEvent(event);
+    QStyleOption option;
+    option.initFrom(this);
+    if (showsFocusRing(option)) {
+        QPainter painter(viewport());
+        drawFocusRing(painter, viewport()->rect(), 0, palette());
+    }
 }
 
 } // namespace
 
 UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& opener, QWidget* parent)
     : QWidget(parent)
-    , m_update(update)
+    , m_offer(UpdateOffer::of(update, website))
     , m_opener(opener)
-    , m_address(opensInBrowser(update.downloadURL) ? update.downloadURL : website)
     , m_download(new PrimaryButton(u"Scarica la nuova versione"_s))
 {
     setObjectName(u"updateView"_s);
     auto* title = new InkLabel(TextStyle::Title, &Tokens::text, u"Aggiornamento disponibile"_s);
-    auto* version =
-        new WrapLabel(TextStyle::Body, &Tokens::secondaryText, u"Nuova versione · "_s + shownRelease(update));
+    auto* version = new WrapLabel(TextStyle::Body, &Tokens::secondaryText, m_offer.version);
     version->setObjectName(u"newVersion"_s);
     version->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     auto* later = new PlainButton(u"Più tardi"_s);
@@ -85,10 +158,7 @@ void UpdateView::showEvent(QShowEvent* event)
 GroupBox* UpdateView::makeNotes() const
 {
     const QString title = u"Novità in questa versione"_s;
-    QString text = shownText(m_update.releaseNotes.value_or(QString()), longestNotes);
-    if (text.trimmed().isEmpty())
-        text = u"Consulta il sito dell'applicazione per i dettagli del rilascio."_s;
-    auto* notes = new ReleaseNotes(text);
+    auto* notes = new ReleaseNotes(m_offer.notes);
     notes->setObjectName(u"releaseNotes"_s);
     notes->setAccessibleName(title);
     auto* box = new GroupBox(title, u"sparkles"_s);
@@ -99,7 +169,7 @@ GroupBox* UpdateView::makeNotes() const
 QCoro::Task<> UpdateView::download()
 {
     const QPointer<UpdateView> alive(this);
-    if (co_await openPage(m_address, m_opener, *this) && alive)
+    if (co_await openPage(m_offer.page, m_opener, *this) && alive)
         Q_EMIT closeRequested();
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "UpdateInfo.h"
+#include "UpdateOffer.h"
 
 #include <QCoroTask>
 #include <QWidget>
@@ -21,8 +21,6 @@ public:
     /// `website` is opened when the release names no web page of its own; `opener` must outlive it.
     UpdateView(const UpdateInfo& update, const QUrl& website, Opener& opener, QWidget* parent = nullptr);
 
-    [[nodiscard]] const UpdateInfo& update() const { return m_update; }
-
 Q_SIGNALS:
     /// The person has decided.
     void closeRequested();
@@ -35,9 +33,8 @@ private:
     [[nodiscard]] GroupBox* makeNotes() const;
     QCoro::Task<> download();
 
-    UpdateInfo m_update;
+    UpdateOffer m_offer;
     Opener& m_opener;
-    QUrl m_address;
     PrimaryButton* m_download;
 };
 

@@ -1,17 +1,107 @@
 // SPDX-License-Identifier: MIT
 #include "UpdatesGroup.h"
 
-#include "CheckButton.h"
-#include "ForeignText.h"
+#include "Buttons.h"
 #include "IconLabel.h"
 #include "Literals.h"
-#include "SettingsSwitch.h"
+#include "Metrics.h"
+#include "ProgressIndicator.h"
 #include "SymbolIcon.h"
+#include "UpdateOffer.h"
 
 #include <QBoxLayout>
 #include <QPointer>
+#include <QStyle>
+#include <QStyleOptionButton>
 
 namespace abissora {
+
+namespace {
+
+const QString label = u"Controlla aggiornamenti ora"_s;
+const QString busyLabel = u"Verifica in corso…"_s;
+
+/// Keeps the place that the indicator turns in.
+QIcon emptyIcon(QSize size)
+{
+    QPixmap nothing(size);
+    nothing.fill(Qt::transparent);
+    return nothing;
+}
+
+} // namespace
+
+/// The button of the check. While one is under way its label gives way to a progress indicator and presses are
+/// refused; it keeps the focus and its width.
+class UpdatesGroup::CheckButton final : public LookButton
+{
+public:
+    CheckButton()
+        : LookButton(ButtonLook::Plain, label, nullptr)
+        , m_indicator(new ProgressIndicator(this))
+    {
+        m_indicator->setAttribute(Qt::WA_TransparentForMouseEvents);
+        m_indicator->setAccessibleName(busyLabel);
+        setChecking(false);
+    }
+
+    [[nodiscard]] bool isChecking() const { return m_checking; }
+    void setChecking(bool checking);
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void placeIndicator();
+
+    ProgressIndicator* m_indicator;
+    bool m_checking = false;
+};
+
+void UpdatesGroup::CheckButton::setChecking(bool checking)
+{
+    m_checking = checking;
+    if (checking) {
+        setText(busyLabel);
+        setIcon(emptyIcon(iconSize()));
+    } else {
+        setText(label);
+        setSymbol(u"arrow.clockwise"_s);
+    }
+    setAccessibleName(text());
+    m_indicator->setVisible(checking);
+    placeIndicator();
+}
+
+QSize UpdatesGroup::CheckButton::sizeHint() const
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    QSize widest;
+    for (const bool checking : {false, true}) {
+        option.text = checking ? busyLabel : label;
+        widest = widest.expandedTo(style()->sizeFromContents(QStyle::CT_PushButton, &option, {}, this));
+    }
+    return widest;
+}
+
+void UpdatesGroup::CheckButton::resizeEvent(QResizeEvent* event)
+{
+    LookButton::resizeEvent(event);
+    placeIndicator();
+}
+
+void UpdatesGroup::CheckButton::placeIndicator()
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const int content = style()->sizeFromContents(QStyle::CT_PushButton, &option, {}, this).width();
+    const QSize size = m_indicator->sizeHint();
+    const QRect place(QPoint((width() - content) / 2 + metrics::controlPadding, (height() - size.height()) / 2), size);
+    m_indicator->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+}
 
 UpdatesGroup::UpdatesGroup(SettingsViewModel& settings, UpdateCheckerViewModel& updates, QWidget* parent)
     : SettingsGroupBox(u"Aggiornamenti"_s, u"arrow.down.circle"_s, parent)
@@ -20,23 +110,25 @@ UpdatesGroup::UpdatesGroup(SettingsViewModel& settings, UpdateCheckerViewModel& 
     , m_feedback(new IconLabel)
 {
     auto* onLaunch =
-        new SettingsSwitch(u"Controlla aggiornamenti all'avvio"_s, settings,
-                           &SettingsViewModel::checkForUpdatesOnLaunch, &SettingsViewModel::setCheckForUpdatesOnLaunch);
-    onLaunch->setObjectName(u"checkForUpdatesOnLaunch"_s);
+        addSwitch(u"Controlla aggiornamenti all'avvio"_s, u"checkForUpdatesOnLaunch"_s, settings,
+                  &SettingsViewModel::checkForUpdatesOnLaunch, &SettingsViewModel::setCheckForUpdatesOnLaunch);
     m_check->setObjectName(u"checkForUpdates"_s);
     m_feedback->setObjectName(u"checkFeedback"_s);
     m_feedback->setWordWrap(true);
-    addLine(onLaunch);
     addExplanation(u"Se attivo, all'avvio l'app verifica sul sito se esiste una versione più recente e la propone."_s,
                    onLaunch);
     m_check->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     addButton(m_check);
     content()->addWidget(m_feedback);
 
-    setFeedback(std::nullopt, false);
-    redraw();
-    connect(m_check, &CheckButton::checkRequested, this, &UpdatesGroup::checkForUpdatesNow);
-    connect(&updates, &UpdateCheckerViewModel::isCheckingChanged, this, &UpdatesGroup::redraw);
+    setFeedback({});
+    const auto followChecking = [this] { m_check->setChecking(m_updates.isChecking()); };
+    followChecking();
+    connect(&updates, &UpdateCheckerViewModel::isCheckingChanged, this, followChecking);
+    connect(m_check, &QAbstractButton::clicked, this, [this] {
+        if (!m_check->isChecking())
+            checkForUpdatesNow();
+    });
 }
 
 QCoro::Task<> UpdatesGroup::checkForUpdatesNow()
@@ -44,36 +136,22 @@ QCoro::Task<> UpdatesGroup::checkForUpdatesNow()
     const QPointer<UpdatesGroup> alive(this);
     const int visit = m_visit;
     const std::optional<UpdateInfo> update = co_await m_updates.checkForUpdates();
-    if (!alive || visit != m_visit)
-        co_return;
-    if (update) {
-        setFeedback(u"Versione "_s + shownRelease(*update) + u" disponibile"_s, false);
-    } else if (const std::optional<QString> error = m_updates.lastError()) {
-        setFeedback(error, true);
-    } else {
-        setFeedback(u"Hai già l'ultima versione"_s, false);
-    }
+    if (alive && visit == m_visit)
+        setFeedback(CheckOutcome::of(update, m_updates.lastError()));
 }
 
 void UpdatesGroup::forgetFeedback()
 {
     ++m_visit;
-    setFeedback(std::nullopt, false);
+    setFeedback({});
 }
 
-void UpdatesGroup::setFeedback(const std::optional<QString>& text, bool isError)
+void UpdatesGroup::setFeedback(const CheckOutcome& outcome)
 {
-    m_checkFeedback = text;
-    m_feedbackIsError = isError;
-    m_feedback->setText(text.value_or(QString()));
-    m_feedback->setIcon(isError ? symbolIcon(u"exclamationmark.triangle"_s, NamedColor::red)
-                                : symbolIcon(u"checkmark.circle"_s, NamedColor::green));
-    m_feedback->setVisible(text.has_value());
-}
-
-void UpdatesGroup::redraw()
-{
-    m_check->setChecking(m_updates.isChecking());
+    m_feedback->setText(outcome.text);
+    m_feedback->setIcon(outcome.isError ? symbolIcon(u"exclamationmark.triangle"_s, NamedColor::red)
+                                        : symbolIcon(u"checkmark.circle"_s, NamedColor::green));
+    m_feedback->setVisible(!outcome.text.isEmpty());
 }
 
 } // namespace abissora

@@ -1,18 +1,73 @@
 // SPDX-License-Identifier: MIT
 #include "ColorChoice.h"
 
-#include "ColorSwatch.h"
 #include "FlowLayout.h"
 #include "InkLabel.h"
 #include "Literals.h"
 #include "Metrics.h"
+#include "Painting.h"
+#include "Tokens.h"
 #include "TypesAccessibility.h"
 
 #include <QButtonGroup>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QRadioButton>
+#include <QStyleOption>
 #include <QVBoxLayout>
 
 namespace abissora {
+
+namespace {
+
+constexpr int swatchSide = 28;
+constexpr int swatchInset = 3;
+constexpr int checkSide = 11;
+
+/// One of the colours, named by its label.
+class ColorSwatch final : public QRadioButton
+{
+public:
+    explicit ColorSwatch(AvailableColors color)
+        : QRadioButton(rawValue(color))
+        , m_color(color)
+    {
+        setObjectName(caseName(color));
+        setToolTip(text());
+        setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return {swatchSide, swatchSide}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    [[nodiscard]] bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    AvailableColors m_color;
+};
+
+void ColorSwatch::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const Tokens& tokens = Tokens::of(palette());
+    QStyleOption option;
+    option.initFrom(this);
+    if (isDown())
+        option.state |= QStyle::State_Sunken;
+    const QRect disc = rect().adjusted(swatchInset, swatchInset, -swatchInset, -swatchInset);
+    drawPanel(painter, disc, disc.height() / 2.0, touched(tokens.named(colorValue(m_color)), option), {});
+    if (isChecked()) {
+        drawGlyph(painter, rect(), Glyph::Check, tokens.surface, checkSide);
+        if (!showsFocusRing(option))
+            drawFocusRing(painter, rect(), height() / 2.0, palette());
+    }
+    if (showsFocusRing(option))
+        drawFocusRing(painter, rect(), metrics::controlRadius, palette());
+}
+
+} // namespace
 
 ColorChoice::ColorChoice(QWidget* parent)
     : QWidget(parent)
@@ -25,7 +80,6 @@ ColorChoice::ColorChoice(QWidget* parent)
     auto* flow = new FlowLayout(0, metrics::spaceXS);
     for (const AvailableColors color : allCases<AvailableColors>()) {
         auto* swatch = new ColorSwatch(color);
-        swatch->setObjectName(caseName(color));
         m_swatches->addButton(swatch, static_cast<int>(color));
         swatch->installEventFilter(this);
         flow->addWidget(swatch);

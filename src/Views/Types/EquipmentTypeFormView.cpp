@@ -6,19 +6,23 @@
 #include "EquipmentTypeViewModel.h"
 #include "FormRow.h"
 #include "GroupBox.h"
-#include "IconGrid.h"
 #include "IconPicker.h"
+#include "IconTile.h"
 #include "IdGenerator.h"
 #include "InkLabel.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Stepper.h"
-#include "StickyColumn.h"
-#include "TypePreview.h"
+#include "SymbolIcon.h"
+#include "TypeAppearance.h"
+#include "TypeManagement.h"
+#include "WrapLabel.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <limits>
 
 namespace abissora {
@@ -28,6 +32,7 @@ namespace {
 constexpr int preferredWidth = 820;
 constexpr int preferredHeight = 600;
 constexpr int previewWidth = 210;
+constexpr int previewTileSide = 72;
 constexpr int labelColumn = 140;
 constexpr int shortestInterval = 30; // days
 constexpr int longestInterval = 730;
@@ -40,7 +45,96 @@ FormRow* row(const QString& label, QWidget* field)
     return row;
 }
 
+/// Keeps a widget in sight beside content that scrolls past it: at the top of what the scroll area shows, as long as
+/// the column reaches.
+class StickyColumn final : public QWidget
+{
+public:
+    /// Takes the widget over. The column becomes part of what the area scrolls.
+    StickyColumn(QWidget* content, QScrollArea& area, int width)
+        : m_content(content)
+        , m_area(area)
+        , m_width(width)
+    {
+        content->setParent(this);
+        QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+        policy.setHeightForWidth(true);
+        setSizePolicy(policy);
+        connect(area.verticalScrollBar(), &QScrollBar::valueChanged, this, &StickyColumn::place);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return {m_width, heightForWidth(m_width)}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override
+    {
+        return m_content->hasHeightForWidth() ? m_content->heightForWidth(width) : m_content->sizeHint().height();
+    }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        const bool moves = event->type() == QEvent::Resize || event->type() == QEvent::Move;
+        if (moves || event->type() == QEvent::LayoutRequest)
+            place();
+        return QWidget::event(event);
+    }
+
+private:
+    void place()
+    {
+        const int tall = heightForWidth(width());
+        const int passed = m_area.verticalScrollBar()->value();
+        m_content->setGeometry(0, std::clamp(passed, 0, std::max(0, height() - tall)), width(), tall);
+    }
+
+    QWidget* m_content;
+    QScrollArea& m_area;
+    int m_width;
+};
+
 } // namespace
+
+/// "Anteprima": a type as it will look.
+class EquipmentTypeFormView::Preview final : public Card
+{
+public:
+    Preview()
+        : m_tile(new IconTile(previewTileSide))
+        , m_name(new WrapLabel(TextStyle::BodyMedium, &Tokens::text))
+        , m_interval(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText))
+    {
+        auto* title = new WrapLabel(TextStyle::Headline, &Tokens::text, u"Anteprima"_s);
+        setAccessibleName(title->text());
+        m_tile->setObjectName(u"previewTile"_s);
+        m_name->setObjectName(u"previewName"_s);
+        m_interval->setObjectName(u"previewInterval"_s);
+        for (WrapLabel* label : {title, m_name, m_interval})
+            label->setAlignment(Qt::AlignCenter);
+        content()->addWidget(title);
+        content()->addSpacing(metrics::spaceXS);
+        content()->addWidget(m_tile, 0, Qt::AlignHCenter);
+        content()->addSpacing(metrics::spaceXS);
+        content()->addWidget(m_name);
+        content()->addWidget(m_interval);
+        content()->setSpacing(metrics::spaceXS);
+    }
+
+    void setType(const EquipmentTypeModel& type)
+    {
+        const TypeAppearance look = appearanceOf(type);
+        m_tile->setIcon(typeIcon(look.icon, look.color), look.color);
+        m_name->setText(type.name);
+        m_interval->setText(daysText(type.serviceIntervalDays));
+    }
+
+private:
+    IconTile* m_tile;
+    WrapLabel* m_name;
+    WrapLabel* m_interval;
+};
 
 EquipmentTypeFormView::EquipmentTypeFormView(EquipmentTypeViewModel& types, IdGenerator& ids,
                                              const std::optional<EquipmentTypeModel>& editingType, QWidget* parent)
@@ -53,7 +147,7 @@ EquipmentTypeFormView::EquipmentTypeFormView(EquipmentTypeViewModel& types, IdGe
     , m_interval(new Stepper)
     , m_color(new ColorChoice)
     , m_icons(new IconPicker)
-    , m_preview(new TypePreview)
+    , m_preview(new Preview)
 {
     setPrimaryText(u"Salva"_s);
     setPreferredSize({withText(preferredWidth, fontMetrics()), withText(preferredHeight, fontMetrics())});

@@ -15,7 +15,6 @@ class IconPicker;
 class IdGenerator;
 class InkLabel;
 class Stepper;
-class TypePreview;
 
 /// "Nuova Tipologia", or "Modifica Tipologia" when given a type: adds it to the catalogue or puts it in its place
 /// there.
@@ -29,6 +28,8 @@ public:
                           const std::optional<EquipmentTypeModel>& editingType, QWidget* parent = nullptr);
 
 private:
+    class Preview;
+
     [[nodiscard]] GroupBox* makeBasics();
     void makeColumns();
     void setState(const EquipmentTypeFormState& state);
@@ -47,7 +48,7 @@ private:
     Stepper* m_interval;
     ColorChoice* m_color;
     IconPicker* m_icons;
-    TypePreview* m_preview;
+    Preview* m_preview;
 };
 
 } // namespace abissora

@@ -9,8 +9,8 @@
 #include "Literals.h"
 #include "Metrics.h"
 #include "SearchField.h"
-#include "TextSearch.h"
 #include "TypeList.h"
+#include "TypeManagement.h"
 
 #include <QHBoxLayout>
 #include <QStackedWidget>
@@ -94,17 +94,9 @@ void EquipmentTypeManagementView::connectControls()
     connect(m_reset, &QAbstractButton::clicked, &m_types, &EquipmentTypeViewModel::resetToDefaults);
 }
 
-QList<EquipmentTypeModel> EquipmentTypeManagementView::filteredTypes() const
-{
-    const TextSearch search(m_search->text());
-    QList<EquipmentTypeModel> types = m_types.filteredTypes();
-    types.removeIf([&search](const EquipmentTypeModel& type) { return !search.foundIn(type.name); });
-    return types;
-}
-
 void EquipmentTypeManagementView::redraw()
 {
-    const QList<EquipmentTypeModel> shown = filteredTypes();
+    const QList<EquipmentTypeModel> shown = typesNamed(m_search->text(), m_types.filteredTypes());
     const bool focusWasInTheList = m_list->isAncestorOf(focusWidget());
     m_list->setTypes(shown);
     m_empty->setButtonText(m_search->text().isEmpty() ? QString() : u"Cancella ricerca"_s);
@@ -112,10 +104,7 @@ void EquipmentTypeManagementView::redraw()
     if (shown.isEmpty() && focusWasInTheList)
         m_search->setFocus(Qt::OtherFocusReason);
 
-    const QList<EquipmentTypeModel>& all = m_types.types();
-    const auto active =
-        std::count_if(all.begin(), all.end(), [](const EquipmentTypeModel& type) { return type.isActive; });
-    m_count->setText(u"%1 tipologie attive"_s.arg(active));
+    m_count->setText(activeTypesText(activeTypes(m_types.types())));
 }
 
 void EquipmentTypeManagementView::openForm(const std::optional<EquipmentTypeModel>& selectedType)
@@ -133,12 +122,6 @@ void EquipmentTypeManagementView::confirmDeletion(const EquipmentTypeModel& type
     alert->setMessage(deletionQuestion(typeToDelete));
     connect(alert, &QDialog::accepted, this, [this, typeToDelete] { m_types.deleteType(typeToDelete); });
     alert->open();
-}
-
-QString EquipmentTypeManagementView::deletionQuestion(const std::optional<EquipmentTypeModel>& typeToDelete)
-{
-    return typeToDelete ? u"Sei sicuro di voler eliminare la tipologia '%1'?"_s.arg(typeToDelete->name)
-                        : u"Sei sicuro di voler eliminare questa tipologia?"_s;
 }
 
 } // namespace abissora

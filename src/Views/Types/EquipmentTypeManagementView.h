@@ -26,14 +26,10 @@ public:
     /// Both references must outlive it.
     EquipmentTypeManagementView(EquipmentTypeViewModel& types, IdGenerator& ids, QWidget* parent = nullptr);
 
-    /// What is asked before the type is deleted.
-    [[nodiscard]] static QString deletionQuestion(const std::optional<EquipmentTypeModel>& typeToDelete);
-
 private:
     [[nodiscard]] QWidget* makeContent();
     void connectControls();
 
-    [[nodiscard]] QList<EquipmentTypeModel> filteredTypes() const;
     void redraw();
     void openForm(const std::optional<EquipmentTypeModel>& selectedType);
     void confirmDeletion(const EquipmentTypeModel& typeToDelete);

@@ -4,9 +4,8 @@
 #include "IconLabel.h"
 #include "Literals.h"
 #include "ScreenFixture.h"
-#include "SettingsInfoRow.h"
+#include "SettingsGroupBox.h"
 #include "SettingsView.h"
-#include "UpdatesGroup.h"
 
 #include <QAbstractButton>
 #include <QVBoxLayout>
@@ -41,7 +40,6 @@ struct ShownSettings
         QTest::mouseClick(&button(name), Qt::LeftButton);
         QCoreApplication::processEvents();
     }
-    UpdatesGroup& updates() const { return *view->findChild<UpdatesGroup*>(); }
     IconLabel& feedback() const { return *view->findChild<IconLabel*>(u"checkFeedback"_s); }
     template <typename Sheet>
     Sheet* sheet() const

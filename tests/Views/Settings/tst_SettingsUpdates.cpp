@@ -42,8 +42,6 @@ private Q_SLOTS:
         QCOMPARE(f.http.requested().size(), 1);
         f.http.answer(200, newer);
         QCoreApplication::processEvents();
-        QCOMPARE(s.updates().checkFeedback(), std::optional(u"Versione 1.3.0 (build 57) disponibile"_s));
-        QVERIFY(!s.updates().feedbackIsError());
         QVERIFY(s.feedback().isVisible());
         auto* offer = s.sheet<UpdateSheet>();
         QVERIFY(offer != nullptr);
@@ -52,19 +50,6 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QVERIFY(s.sheet<UpdateSheet>() == nullptr);
         QCOMPARE(s.feedback().text(), u"Versione 1.3.0 (build 57) disponibile"_s);
-    }
-
-    void aHostileVersionIsToldInShort()
-    {
-        ScreenFixture f;
-        ShownSettings s(f);
-        s.click("checkForUpdates");
-        const QByteArray version("9.\\u202E" + QByteArray(100'000, 'x'));
-        f.http.answer(200, QByteArray(newer).replace("\"1.3.0\"", QByteArray('"' + version + '"')));
-        QCoreApplication::processEvents();
-        QVERIFY(s.feedback().text().startsWith(u"Versione 9.xx"_s));
-        QVERIFY(s.feedback().text().endsWith(u"… (build 57) disponibile"_s));
-        QVERIFY(s.feedback().text().size() < 150);
     }
 
     void theFeedbackStandsUnderTheButton()
@@ -85,7 +70,6 @@ private Q_SLOTS:
         s.click("checkForUpdates");
         f.http.answer(200, current);
         QCOMPARE(s.feedback().text(), u"Hai già l'ultima versione"_s);
-        QVERIFY(!s.updates().feedbackIsError());
         QVERIFY(s.sheet<UpdateSheet>() == nullptr);
         QVERIFY(hasInk(iconOf(s.feedback()), [](const QColor& c) { return c.green() > c.red() + 40; }));
     }
@@ -111,7 +95,6 @@ private Q_SLOTS:
         else
             f.http.answer(status, "{}");
         QCOMPARE(s.feedback().text(), text);
-        QVERIFY(s.updates().feedbackIsError());
         QVERIFY(hasInk(iconOf(s.feedback()), [](const QColor& c) { return c.red() > c.green() + 40; }));
     }
 
@@ -157,7 +140,6 @@ private Q_SLOTS:
         s.view->hide();
         s.view->show();
         QVERIFY(!s.feedback().isVisible());
-        QVERIFY(!s.updates().checkFeedback());
     }
 
     void aCheckThatEndsAfterLeavingIsNotTold()
@@ -169,7 +151,6 @@ private Q_SLOTS:
         s.view->show();
         QCOMPARE(s.button("checkForUpdates").text(), u"Verifica in corso…"_s);
         f.http.answer(500, {});
-        QVERIFY(!s.updates().checkFeedback());
         QVERIFY(!s.feedback().isVisible());
         s.click("checkForUpdates");
         f.http.answer(500, {});

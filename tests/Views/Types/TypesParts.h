@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "DivingIconButton.h"
 #include "EquipmentTypeFormView.h"
 #include "EquipmentTypeManagementView.h"
 #include "FormDriver.h"
 #include "Gui.h"
+#include "IconPicker.h"
 #include "Literals.h"
 #include "ScaledText.h"
 #include "ScreenFixture.h"

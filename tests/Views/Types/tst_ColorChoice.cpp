@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "ColorChoice.h"
-#include "ColorSwatch.h"
 #include "Literals.h"
 #include "TestRunner.h"
 #include "Theme.h"
@@ -9,6 +8,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLabel>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -27,7 +27,7 @@ struct Shown
             qFatal("the window does not become active");
     }
 
-    ColorSwatch& swatch(AvailableColors color) { return *choice.findChild<ColorSwatch*>(caseName(color)); }
+    QRadioButton& swatch(AvailableColors color) { return *choice.findChild<QRadioButton*>(caseName(color)); }
     QString label() { return choice.findChild<QLabel*>(u"colorLabel"_s)->text(); }
 
     ColorChoice choice;
@@ -46,7 +46,7 @@ private Q_SLOTS:
     {
         Shown s;
         QStringList labels;
-        for (ColorSwatch* swatch : s.choice.findChildren<ColorSwatch*>()) {
+        for (QRadioButton* swatch : s.choice.findChildren<QRadioButton*>()) {
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(swatch);
             QCOMPARE(accessible->role(), QAccessible::RadioButton);
             QCOMPARE(swatch->toolTip(), accessible->text(QAccessible::Name));
@@ -86,7 +86,7 @@ private Q_SLOTS:
     void everyPixelOfASwatchAnswers()
     {
         Shown s;
-        ColorSwatch& swatch = s.swatch(AvailableColors::pink);
+        QRadioButton& swatch = s.swatch(AvailableColors::pink);
         QTest::mouseClick(&swatch, Qt::LeftButton, {}, swatch.rect().bottomRight());
         QCOMPARE(s.choice.selectedColor(), AvailableColors::pink);
     }
@@ -136,7 +136,7 @@ private Q_SLOTS:
         Shown s;
         s.choice.setSelectedColor(AvailableColors::indigo);
         QStringList stops;
-        for (const ColorSwatch* swatch : s.choice.findChildren<ColorSwatch*>()) {
+        for (const QRadioButton* swatch : s.choice.findChildren<QRadioButton*>()) {
             if (swatch->focusPolicy() & Qt::TabFocus)
                 stops.append(swatch->text());
         }

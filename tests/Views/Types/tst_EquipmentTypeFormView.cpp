@@ -9,7 +9,6 @@
 #include "Stepper.h"
 #include "TestRunner.h"
 #include "Theme.h"
-#include "TypePreview.h"
 #include "TypesParts.h"
 
 #include <QAccessible>
@@ -98,7 +97,7 @@ private Q_SLOTS:
         TypeForm o(f, newType);
         o.sheet.scrollArea()->verticalScrollBar()->setValue(o.sheet.scrollArea()->verticalScrollBar()->maximum());
         QCoreApplication::processEvents();
-        const auto* preview = o.sheet.findChild<TypePreview*>();
+        const QWidget* preview = part(o.sheet, "previewTile").parentWidget();
         QCOMPARE(preview->visibleRegion().boundingRect(), preview->rect());
         o.sheet.scrollArea()->verticalScrollBar()->setValue(0);
         QCOMPARE(preview->visibleRegion().boundingRect(), preview->rect());

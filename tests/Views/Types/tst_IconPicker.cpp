@@ -2,8 +2,6 @@
 #include "IconPicker.h"
 #include "Literals.h"
 
-#include "DivingIconButton.h"
-#include "IconGrid.h"
 #include "SearchField.h"
 #include "TestRunner.h"
 #include "Theme.h"

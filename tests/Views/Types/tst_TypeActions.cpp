@@ -97,12 +97,6 @@ private Q_SLOTS:
         QCOMPARE(o.sheet.focusWidget(), o.row(u"Profondimetro"_s).buttons().last()); // the next one
     }
 
-    void theQuestionWithoutAType()
-    {
-        QCOMPARE(EquipmentTypeManagementView::deletionQuestion(std::nullopt),
-                 u"Sei sicuro di voler eliminare questa tipologia?"_s);
-    }
-
     void theFocusSurvivesTheLastRow()
     {
         ScreenFixture f;

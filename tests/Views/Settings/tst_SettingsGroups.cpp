@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Literals.h"
-#include "PreferenceGroups.h"
 #include "ScreenFixture.h"
 #include "SegmentedControl.h"
+#include "SettingsGroupBox.h"
+#include "SettingsGroups.h"
 #include "Stepper.h"
 #include "TestRunner.h"
 #include "ToggleSwitch.h"
@@ -21,15 +22,15 @@ using namespace abissora::test;
 
 namespace {
 
-/// The three groups below one another, shown and active.
+/// The groups of preferences below one another, shown and active.
 struct Shown
 {
     explicit Shown(ScreenFixture& f)
     {
         auto* layout = new QVBoxLayout(&page);
-        layout->addWidget(new NotificationsGroup(f.settings));
-        layout->addWidget(new GeneralGroup(f.settings));
-        layout->addWidget(new AppearanceGroup(f.settings));
+        layout->addWidget(makeNotificationsGroup(f.settings));
+        layout->addWidget(makeGeneralGroup(f.settings));
+        layout->addWidget(makeAppearanceGroup(f.settings));
         page.show();
         page.activateWindow();
         QCoreApplication::processEvents();
@@ -58,7 +59,7 @@ QByteArray stored(const ScreenFixture& f, const char* key)
 
 } // namespace
 
-class tst_PreferenceGroups : public TestCase
+class tst_SettingsGroups : public TestCase
 {
     Q_OBJECT
 
@@ -240,5 +241,5 @@ private Q_SLOTS:
     }
 };
 
-ABISSORA_TEST(tst_PreferenceGroups);
-#include "tst_PreferenceGroups.moc"
+ABISSORA_TEST(tst_SettingsGroups);
+#include "tst_SettingsGroups.moc"

@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: MIT
+#include "SettingsGroups.h"
+
+#include "Buttons.h"
+#include "CoalescedUpdate.h"
+#include "EquipmentTypeViewModel.h"
+#include "Literals.h"
+#include "Metrics.h"
+#include "Opening.h"
+#include "ProgramFacts.h"
+#include "SegmentedControl.h"
+#include "ServiceIntervals.h"
+#include "SettingsGroupBox.h"
+#include "Stepper.h"
+#include "TypeManagement.h"
+#include "WrapLabel.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <limits>
+
+namespace abissora {
+
+namespace {
+
+constexpr int currencyWidth = 90;
+
+class InformationGroup final : public SettingsGroupBox
+{
+public:
+    InformationGroup(const ProgramFacts& program, EquipmentTypeViewModel& types, Opener& opener)
+        : SettingsGroupBox(u"Informazioni"_s, u"info.circle"_s)
+        , m_program(program)
+        , m_types(types)
+        , m_update([this] { redraw(); })
+    {
+        for (const ProgramFact& fact : program.all())
+            m_facts.append(addInformation(fact.label));
+        m_available = addInformation(u"Tipologie disponibili"_s);
+        content()->addWidget(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText,
+                                           u"Icone: Game Icons (CC BY 3.0), MDI, Icon-Park, Lucide"_s));
+        content()->addLayout(makeWebsiteLine(opener));
+        connect(&types, &EquipmentTypeViewModel::changed, &m_update, &CoalescedUpdate::schedule);
+        redraw();
+    }
+
+protected:
+    void showEvent(QShowEvent* event) override
+    {
+        redraw(); // the year and the file's date may have moved on since
+        SettingsGroupBox::showEvent(event);
+    }
+
+private:
+    [[nodiscard]] QLayout* makeWebsiteLine(Opener& opener)
+    {
+        const QUrl address = m_program.product.websiteURL;
+        const QString caption = u"— sito dell'applicazione"_s;
+        auto* link = new LinkButton(address.host());
+        link->setObjectName(u"website"_s);
+        link->setAccessibleDescription(caption);
+        connect(link, &QAbstractButton::clicked, this, [this, address, &opener] { openPage(address, opener, *this); });
+        auto* line = new QHBoxLayout;
+        line->setSpacing(0);
+        line->addSpacing(-metrics::spaceXS); // the link's own padding
+        line->addWidget(link);
+        line->addWidget(new InkLabel(TextStyle::Body, &Tokens::secondaryText, caption), 1);
+        return line;
+    }
+
+    void redraw()
+    {
+        const QList<ProgramFact> facts = m_program.all();
+        for (qsizetype i = 0; i < facts.size(); ++i)
+            m_facts.at(i)->setValue(facts.at(i).value);
+        m_available->setValue(QString::number(m_types.filteredTypes().size()));
+    }
+
+    ProgramFacts m_program;
+    EquipmentTypeViewModel& m_types;
+    QList<SettingsInfoRow*> m_facts;
+    SettingsInfoRow* m_available = nullptr;
+    CoalescedUpdate m_update;
+};
+
+/// Shows the stored value at once and whenever one changes.
+template <typename Redraw>
+void follow(SettingsViewModel& settings, SettingsGroupBox* group, Redraw redraw)
+{
+    redraw();
+    QObject::connect(&settings, &SettingsViewModel::changed, group, redraw);
+}
+
+} // namespace
+
+SettingsGroupBox* makeTypesGroup(EquipmentTypeViewModel& types, const std::function<void()>& manage)
+{
+    auto* group = new SettingsGroupBox(u"Tipologie Attrezzatura"_s, u"list.bullet"_s);
+    group->addText(u"Gestisci le tipologie di attrezzatura disponibili per la categorizzazione"_s);
+    auto* count = new InkLabel(TextStyle::Body, &Tokens::secondaryText);
+    count->setObjectName(u"activeTypes"_s);
+    auto* button = new PlainButton(u"Gestisci Tipologie"_s);
+    button->setObjectName(u"manageTypes"_s);
+    button->setSymbol(u"pencil.circle"_s);
+    group->addLine(count, button);
+    QObject::connect(button, &QAbstractButton::clicked, group, manage);
+
+    const auto redraw = [count, &types] { count->setText(activeTypesText(types.filteredTypes().size())); };
+    auto* update = new CoalescedUpdate(redraw, group);
+    QObject::connect(&types, &EquipmentTypeViewModel::changed, update, &CoalescedUpdate::schedule);
+    redraw();
+    return group;
+}
+
+SettingsGroupBox* makeNotificationsGroup(SettingsViewModel& settings)
+{
+    auto* group = new SettingsGroupBox(u"Notifiche"_s, u"bell"_s);
+    group->addSwitch(u"Abilita Notifiche"_s, u"notificationsEnabled"_s, settings,
+                     &SettingsViewModel::notificationsEnabled, &SettingsViewModel::setNotificationsEnabled);
+    auto* days = new Stepper;
+    days->setObjectName(u"reminderDays"_s);
+    days->setRange(7, 90);
+    days->setSingleStep(7);
+    days->setSuffix(u" giorni"_s);
+    group->addLine(u"Giorni di anticipo"_s, days);
+    follow(settings, group, [days, &settings] { days->setValue(settings.reminderDays()); });
+    QObject::connect(days, &Stepper::edited, &settings, &SettingsViewModel::setReminderDays);
+    return group;
+}
+
+SettingsGroupBox* makeGeneralGroup(SettingsViewModel& settings)
+{
+    auto* interval = new SegmentedControl(SegmentedControl::Purpose::Choice);
+    interval->setObjectName(u"defaultServiceInterval"_s);
+    for (const ServiceInterval& offered : offeredIntervals)
+        interval->addSegment(offered.text);
+    auto* currency = new QLineEdit;
+    currency->setObjectName(u"currencySymbol"_s);
+    currency->setMaxLength(std::numeric_limits<int>::max()); // what is stored shall not be shortened
+    currency->setPlaceholderText(u"Simbolo"_s);
+    currency->setFixedWidth(withText(currencyWidth, currency->fontMetrics()));
+    auto* group = new SettingsGroupBox(u"Impostazioni Generali"_s, u"gear"_s);
+    group->addLine(u"Intervallo Tagliando Default"_s, interval);
+    group->addLine(u"Simbolo Valuta"_s, currency);
+    follow(settings, group, [interval, currency, &settings] {
+        interval->setCurrentIndex(placeOfInterval(settings.defaultServiceInterval()));
+        if (const QString symbol = settings.currencySymbol(); currency->text() != symbol)
+            currency->setText(symbol);
+    });
+    QObject::connect(interval, &SegmentedControl::activated, &settings, [&settings](int segment) {
+        settings.setDefaultServiceInterval(offeredIntervals.at(segment).days);
+    });
+    // Not textEdited, which leaves out what a screen reader puts in.
+    QObject::connect(currency, &QLineEdit::textChanged, &settings, [&settings](const QString& symbol) {
+        if (symbol != settings.currencySymbol())
+            settings.setCurrencySymbol(symbol);
+    });
+    return group;
+}
+
+SettingsGroupBox* makeAppearanceGroup(SettingsViewModel& settings)
+{
+    auto* group = new SettingsGroupBox(u"Aspetto"_s, u"paintbrush"_s);
+    group->addSwitch(u"Modalità Scura"_s, u"darkMode"_s, settings, &SettingsViewModel::darkMode,
+                     &SettingsViewModel::setDarkMode);
+    return group;
+}
+
+SettingsGroupBox* makeHelpGroup(const std::function<void()>& open)
+{
+    auto* group = new SettingsGroupBox(u"Aiuto"_s, u"book"_s);
+    group->addText(u"Guida all'uso completa del programma: funzioni, manutenzioni, allegati PDF e domande frequenti"_s);
+    auto* button = new PlainButton(u"Apri la Guida"_s);
+    button->setObjectName(u"openHelp"_s);
+    button->setSymbol(u"book.fill"_s);
+    group->addButton(button);
+    QObject::connect(button, &QAbstractButton::clicked, group, open);
+    return group;
+}
+
+SettingsGroupBox* makeInformationGroup(const ProgramFacts& program, EquipmentTypeViewModel& types, Opener& opener)
+{
+    return new InformationGroup(program, types, opener);
+}
+
+SettingsGroupBox* makeRestoreGroup(const std::function<void()>& reset)
+{
+    auto* group = new SettingsGroupBox(u"Ripristino"_s, u"arrow.counterclockwise"_s);
+    auto* button = new DestructiveButton(u"Ripristina Impostazioni Default"_s);
+    button->setObjectName(u"resetSettings"_s);
+    group->addButton(button);
+    group->addExplanation(u"Ripristina tutte le impostazioni ai valori predefiniti"_s, button);
+    QObject::connect(button, &QAbstractButton::clicked, group, reset);
+    return group;
+}
+
+} // namespace abissora
