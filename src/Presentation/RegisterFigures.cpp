@@ -27,6 +27,11 @@ QList<RegisterFigure> statisticsFigures(const RegisterSummary& summary, qsizetyp
     };
 }
 
+QString dueText(const RegisterSummary::DueItem& item)
+{
+    return u"Scaduto da %1 giorni"_s.arg(std::abs(item.days));
+}
+
 QList<TypeShare> typeShares(const QList<Equipment>& equipment, const QList<EquipmentTypeModel>& types)
 {
     const QHash<QString, qsizetype> counts = activeItemsByTypeName(equipment);

@@ -21,6 +21,9 @@ struct RegisterFigure
 /// The statistics', in their order.
 [[nodiscard]] QList<RegisterFigure> statisticsFigures(const RegisterSummary& summary, qsizetype types);
 
+/// How long an item is due, whichever side of today its date lies on.
+[[nodiscard]] QString dueText(const RegisterSummary::DueItem& item);
+
 /// How many active items are of a type.
 struct TypeShare
 {

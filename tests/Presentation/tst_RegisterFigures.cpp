@@ -70,6 +70,24 @@ private Q_SLOTS:
                                    share(u"Boa"_s, NamedColor::red, 1), share(u"Boa"_s, NamedColor::green, 1)}));
     }
 
+    void dueTexts_data()
+    {
+        QTest::addColumn<int>("days");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("overdue") << -12 << u"Scaduto da 12 giorni"_s;
+        QTest::newRow("a day overdue") << -1 << u"Scaduto da 1 giorni"_s;
+        QTest::newRow("today") << 0 << u"Scaduto da 0 giorni"_s;
+        QTest::newRow("not yet") << 12 << u"Scaduto da 12 giorni"_s;
+        QTest::newRow("long ago") << -3000 << u"Scaduto da 3000 giorni"_s;
+    }
+
+    void dueTexts()
+    {
+        QFETCH(const int, days);
+        QFETCH(const QString, text);
+        QCOMPARE(dueText({Equipment(), days}), text);
+    }
+
     void noTypes() { QCOMPARE(typeShares(RegisterFixture().equipment.equipment(), {}), QList<TypeShare>()); }
 };
 

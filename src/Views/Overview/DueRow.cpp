@@ -7,6 +7,7 @@
 #include "Literals.h"
 #include "Metrics.h"
 #include "OverviewAccessibility.h"
+#include "RegisterFigures.h"
 #include "SymbolIcon.h"
 
 #include <QFocusEvent>
@@ -75,7 +76,7 @@ void DueRow::setItem(const RegisterSummary::DueItem& item, const TypeAppearance&
     m_equipment = item.equipment;
     m_tile->setIcon(typeIcon(appearance.icon, appearance.color), appearance.color);
     m_name->setText(item.equipment.name);
-    m_state->setText(u"Scaduto da %1 giorni"_s.arg(std::abs(item.days)));
+    m_state->setText(dueText(item));
     setAccessibleName(m_name->text() + u", "_s + m_state->text());
     for (QAbstractButton* button : {m_add, m_details})
         button->setAccessibleDescription(item.equipment.name);

@@ -79,28 +79,6 @@ private Q_SLOTS:
         QVERIFY(isShown(s.window, u"allInOrder"_s));
     }
 
-    void dueTexts_data()
-    {
-        QTest::addColumn<int>("days");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("overdue") << -12 << u"Scaduto da 12 giorni"_s;
-        QTest::newRow("a day overdue") << -1 << u"Scaduto da 1 giorni"_s;
-        QTest::newRow("today") << 0 << u"Scaduto da 0 giorni"_s;
-        QTest::newRow("not yet") << 12 << u"Scaduto da 12 giorni"_s;
-        QTest::newRow("long ago") << -3000 << u"Scaduto da 3000 giorni"_s;
-    }
-
-    void dueTexts()
-    {
-        QFETCH(int, days);
-        QFETCH(QString, text);
-        RegisterFixture f(QList<Equipment>{});
-        f.equipment.addEquipment(makeItem(1, u"Pinne"_s, EquipmentType::fins, f.inDays(days)));
-        ShownOverview s(f);
-        QCOMPARE(textOf(s.window, u"dueName"_s), u"Pinne"_s);
-        QCOMPARE(textOf(s.window, u"dueState"_s), text);
-    }
-
     void catalogueOrder()
     {
         RegisterFixture f(QList<Equipment>{});
