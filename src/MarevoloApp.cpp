@@ -3,7 +3,6 @@
 
 #include "AppWindows.h"
 #include "EditEquipmentView.h"
-#include "EquipmentDetailSheet.h"
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
@@ -13,6 +12,7 @@
 #include "SidebarView.h"
 #include "StatisticsView.h"
 #include "Theme.h"
+#include "ViewSheet.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -107,7 +107,7 @@ EquipmentDetailView* MarevoloApp::makeDetail(const Equipment& equipment)
 QWidget* MarevoloApp::makeOverview()
 {
     return new MaintenanceOverviewView(m_equipment, m_types, [this](const Equipment& equipment, QWidget* parent) {
-        return new EquipmentDetailSheet(context(), equipment, parent);
+        return EquipmentDetailView::makeSheet(context(), equipment, parent);
     });
 }
 

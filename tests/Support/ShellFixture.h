@@ -3,7 +3,6 @@
 
 #include "ContentView.h"
 #include "EditEquipmentView.h"
-#include "EquipmentDetailSheet.h"
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
@@ -16,6 +15,7 @@
 #include "SettingsView.h"
 #include "SidebarView.h"
 #include "StatisticsView.h"
+#include "ViewSheet.h"
 
 namespace abissora::test {
 
@@ -31,7 +31,7 @@ public:
     QWidget* makeOverview() override
     {
         return new MaintenanceOverviewView(equipment, types, [this](const Equipment& item, QWidget* parent) {
-            return new EquipmentDetailSheet(context, item, parent);
+            return EquipmentDetailView::makeSheet(context, item, parent);
         });
     }
     QWidget* makeStatistics() override { return new StatisticsView(equipment, types); }

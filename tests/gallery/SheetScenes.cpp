@@ -77,20 +77,15 @@ std::unique_ptr<QWidget> form()
 
 std::unique_ptr<QWidget> destructive()
 {
-    auto alert = std::make_unique<Alert>();
-    alert->setTitle(u"Conferma Eliminazione"_s);
-    alert->setMessage(u"Sei sicuro di voler eliminare l'attrezzatura 'Computer Suunto EON Core'? Questa "
-                      "azione non può essere annullata."_s);
-    return alert;
+    return std::make_unique<Alert>(Alert::Kind::Question, u"Conferma Eliminazione"_s,
+                                   u"Sei sicuro di voler eliminare l'attrezzatura 'Computer Suunto EON Core'? Questa "
+                                   "azione non può essere annullata."_s);
 }
 
 std::unique_ptr<QWidget> notice()
 {
-    auto alert = std::make_unique<Alert>();
-    alert->setTitle(u"Errore"_s);
-    alert->setMessage(u"Per favore, compila tutti i campi obbligatori."_s);
-    alert->makeNotice();
-    return alert;
+    return std::make_unique<Alert>(Alert::Kind::Notice, u"Errore"_s,
+                                   u"Per favore, compila tutti i campi obbligatori."_s);
 }
 
 } // namespace

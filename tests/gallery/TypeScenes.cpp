@@ -51,10 +51,8 @@ std::unique_ptr<EquipmentTypeFormView> editedType(test::ScreenFixture& f)
 
 std::unique_ptr<QWidget> deletion()
 {
-    auto alert = std::make_unique<Alert>();
-    alert->setTitle(u"Conferma Eliminazione"_s);
-    alert->setMessage(deletionQuestion(EquipmentTypeModel{{}, u"Boa segnasub"_s, {}, {}, 365, true}));
-    return alert;
+    return std::make_unique<Alert>(Alert::Kind::Question, u"Conferma Eliminazione"_s,
+                                   deletionQuestion(EquipmentTypeModel{{}, u"Boa segnasub"_s, {}, {}, 365, true}));
 }
 
 } // namespace

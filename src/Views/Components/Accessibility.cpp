@@ -1,17 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "Accessibility.h"
 
-#include "Literals.h"
-#include "Segment.h"
-#include "SegmentedControl.h"
-#include "Stepper.h"
-
-#include <QAccessibleWidget>
-#include <QHash>
+#include <QAbstractButton>
+#include <QVariant>
 
 namespace abissora {
 
 namespace {
+
+using Maker = std::function<QAccessibleInterface*(QWidget*)>;
+
+constexpr const char* makerProperty = "abissoraAccessible";
 
 class RoleInterface final : public QAccessibleWidget
 {
@@ -19,7 +18,6 @@ public:
     using QAccessibleWidget::QAccessibleWidget;
 };
 
-/// Children that the component reads out itself are hidden.
 class LeafInterface final : public QAccessibleWidget
 {
 public:
@@ -29,68 +27,23 @@ public:
     [[nodiscard]] QAccessibleInterface* child(int) const override { return nullptr; }
 };
 
-class StepperInterface final : public QAccessibleWidget, public QAccessibleValueInterface
+class ChoiceInterface final : public QAccessibleWidget
 {
 public:
-    explicit StepperInterface(Stepper* stepper)
-        : QAccessibleWidget(stepper, QAccessible::SpinBox)
-    {}
-
-    void* interface_cast(QAccessible::InterfaceType type) override
-    {
-        if (type == QAccessible::ValueInterface)
-            return static_cast<QAccessibleValueInterface*>(this);
-        return QAccessibleWidget::interface_cast(type);
-    }
-    [[nodiscard]] QString text(QAccessible::Text kind) const override
-    {
-        return kind == QAccessible::Value ? stepper()->text() : QAccessibleWidget::text(kind);
-    }
-    [[nodiscard]] int childCount() const override { return 0; }
-    [[nodiscard]] QAccessibleInterface* child(int) const override { return nullptr; }
-
-    [[nodiscard]] QVariant currentValue() const override { return stepper()->value(); }
-    void setCurrentValue(const QVariant& value) override { stepper()->edit(value.toLongLong()); }
-    [[nodiscard]] QVariant maximumValue() const override { return stepper()->maximum(); }
-    [[nodiscard]] QVariant minimumValue() const override { return stepper()->minimum(); }
-    [[nodiscard]] QVariant minimumStepSize() const override { return stepper()->singleStep(); }
-
-    [[nodiscard]] QStringList actionNames() const override
-    {
-        return QAccessibleWidget::actionNames() << increaseAction() << decreaseAction();
-    }
-    void doAction(const QString& action) override
-    {
-        if (action == increaseAction())
-            stepper()->stepUp();
-        else if (action == decreaseAction())
-            stepper()->stepDown();
-        else
-            QAccessibleWidget::doAction(action);
-    }
-
-private:
-    [[nodiscard]] Stepper* stepper() const { return static_cast<Stepper*>(object()); }
-};
-
-class SegmentInterface final : public QAccessibleWidget
-{
-public:
-    explicit SegmentInterface(Segment* segment)
-        : QAccessibleWidget(segment, isTab(segment) ? QAccessible::PageTab : QAccessible::RadioButton)
-    {}
+    using QAccessibleWidget::QAccessibleWidget;
 
     [[nodiscard]] QString text(QAccessible::Text kind) const override
     {
-        return kind == QAccessible::Name ? segment()->text() : QAccessibleWidget::text(kind);
+        const bool isUnnamed = kind == QAccessible::Name && widget()->accessibleName().isEmpty();
+        return isUnnamed ? button()->text() : QAccessibleWidget::text(kind);
     }
     [[nodiscard]] QAccessible::State state() const override
     {
         QAccessible::State state = QAccessibleWidget::state();
         state.checkable = true;
-        state.checked = segment()->isChecked();
+        state.checked = button()->isChecked();
         state.selectable = true;
-        state.selected = segment()->isChecked();
+        state.selected = button()->isChecked();
         return state;
     }
     [[nodiscard]] QStringList actionNames() const override
@@ -100,67 +53,42 @@ public:
     void doAction(const QString& action) override
     {
         if (action == pressAction())
-            segment()->click();
+            button()->click();
         else
             QAccessibleWidget::doAction(action);
     }
 
 private:
-    static bool isTab(const Segment* segment)
-    {
-        const auto* control = qobject_cast<const SegmentedControl*>(segment->parentWidget());
-        return control != nullptr && control->purpose() == SegmentedControl::Purpose::Tabs;
-    }
-    [[nodiscard]] Segment* segment() const { return static_cast<Segment*>(object()); }
+    [[nodiscard]] QAbstractButton* button() const { return static_cast<QAbstractButton*>(object()); }
 };
 
-struct Component
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
 {
-    QAccessible::Role role;
-    bool isLeaf;
-};
-
-const QHash<QString, Component>& components()
-{
-    static const QHash<QString, Component> known{
-        {u"abissora::Alert"_s, {QAccessible::AlertMessage, false}},
-        {u"abissora::Card"_s, {QAccessible::Grouping, false}},
-        {u"abissora::Chip"_s, {QAccessible::Grouping, false}},
-        {u"abissora::EmptyState"_s, {QAccessible::Grouping, false}},
-        {u"abissora::IconTile"_s, {QAccessible::Graphic, true}},
-        {u"abissora::IconView"_s, {QAccessible::Graphic, true}},
-        {u"abissora::ProgressIndicator"_s, {QAccessible::Animation, true}},
-        {u"abissora::Separator"_s, {QAccessible::Separator, true}},
-        {u"abissora::StatCard"_s, {QAccessible::StaticText, true}},
-    };
-    return known;
-}
-
-QAccessibleInterface* makeInterface(const QString& className, QObject* object)
-{
-    if (className == "abissora::Stepper"_L1)
-        return std::make_unique<StepperInterface>(static_cast<Stepper*>(object)).release();
-    if (className == "abissora::Segment"_L1)
-        return std::make_unique<SegmentInterface>(static_cast<Segment*>(object)).release();
     auto* const widget = qobject_cast<QWidget*>(object);
-    if (className == "abissora::SegmentedControl"_L1) {
-        const bool tabs = static_cast<SegmentedControl*>(object)->purpose() == SegmentedControl::Purpose::Tabs;
-        return std::make_unique<RoleInterface>(widget, tabs ? QAccessible::PageTabList : QAccessible::Grouping)
-            .release();
-    }
-    const auto known = components().constFind(className);
-    if (widget == nullptr || known == components().constEnd())
-        return nullptr;
-    if (known->isLeaf)
-        return std::make_unique<LeafInterface>(widget, known->role).release();
-    return std::make_unique<RoleInterface>(widget, known->role).release();
+    const QVariant maker = widget != nullptr ? widget->property(makerProperty) : QVariant();
+    return maker.isValid() ? maker.value<Maker>()(widget) : nullptr;
 }
 
 } // namespace
 
-void provideAccessibility()
+void setAccessibleRole(QWidget& widget, QAccessible::Role role, AccessibleParts parts)
+{
+    setAccessibleMaker(widget, [role, parts](QWidget* object) -> QAccessibleInterface* {
+        if (parts == AccessibleParts::Hidden)
+            return new LeafInterface(object, role);
+        return new RoleInterface(object, role);
+    });
+}
+
+void setAccessibleChoice(QAbstractButton& button, QAccessible::Role role)
+{
+    setAccessibleMaker(button, [role](QWidget* object) { return new ChoiceInterface(object, role); });
+}
+
+void setAccessibleMaker(QWidget& widget, Maker make)
 {
     QAccessible::installFactory(makeInterface); // does nothing when it is there
+    widget.setProperty(makerProperty, QVariant::fromValue(std::move(make)));
 }
 
 } // namespace abissora

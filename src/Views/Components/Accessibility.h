@@ -1,9 +1,34 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QAccessibleWidget>
+#include <functional>
+
+class QAbstractButton;
+
 namespace abissora {
 
-/// Gives the components of this layer their roles; each calls it when it is made.
-void provideAccessibility();
+// What screen readers are told of a widget where the toolkit does not know it by itself. A class says it first of all
+// in its constructor; where a class and its base both speak, the last one is heard.
+
+enum class AccessibleParts {
+    Shown,
+    Hidden, ///< the widget reads out its children itself
+};
+
+void setAccessibleRole(QWidget& widget, QAccessible::Role role, AccessibleParts parts = AccessibleParts::Shown);
+
+/// One of several buttons that exclude one another; the toolkit would make check boxes of them. Its text is its name
+/// unless it has an accessible name.
+void setAccessibleChoice(QAbstractButton& button, QAccessible::Role role = QAccessible::RadioButton);
+
+void setAccessibleMaker(QWidget& widget, std::function<QAccessibleInterface*(QWidget*)> make);
+
+/// For a widget that needs more than a role: an interface of its own, made from a pointer to the widget.
+template <typename Interface, typename Widget>
+void setAccessibleInterface(Widget& widget)
+{
+    setAccessibleMaker(widget, [](QWidget* object) { return new Interface(static_cast<Widget*>(object)); });
+}
 
 } // namespace abissora

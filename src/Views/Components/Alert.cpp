@@ -2,13 +2,14 @@
 #include "Alert.h"
 
 #include "Accessibility.h"
+#include "Assembly.h"
 #include "Buttons.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "TypeScale.h"
 #include "WrapLabel.h"
 
-#include <QHBoxLayout>
+#include <QBoxLayout>
 
 namespace abissora {
 
@@ -18,31 +19,26 @@ constexpr int alertWidth = 400;
 
 } // namespace
 
-Alert::Alert(QWidget* parent)
+Alert::Alert(Kind kind, const QString& title, const QString& message, QWidget* parent)
     : SheetWindow(parent)
-    , m_title(new WrapLabel(TextStyle::Headline, &Tokens::text))
-    , m_message(new WrapLabel(TextStyle::Body, &Tokens::secondaryText))
-    , m_safe(new PlainButton(u"Annulla"_s))
-    , m_destructive(new DestructiveButton(u"Elimina"_s))
+    , m_message(new WrapLabel(TextStyle::Body, &Tokens::secondaryText, message))
+    , m_safe(named(new PlainButton(kind == Kind::Notice ? u"OK"_s : u"Annulla"_s), u"safe"_s))
+    , m_destructive(named(new DestructiveButton(u"Elimina"_s), u"destructive"_s))
 {
-    provideAccessibility();
+    setAccessibleRole(*this, QAccessible::AlertMessage);
+    setAccessibleDescription(message);
+    setWindowTitle(title);
     m_message->setAlignment(Qt::AlignTop);
-    m_safe->setObjectName(u"safe"_s);
     m_safe->setDefault(true);
-    m_destructive->setObjectName(u"destructive"_s);
-
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(metrics::spaceS);
-    buttons->addStretch();
-    buttons->addWidget(m_safe);
-    buttons->addWidget(m_destructive);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(metrics::spaceXL, metrics::spaceXL - 4, metrics::spaceXL, metrics::spaceXL - 4);
-    layout->setSpacing(metrics::spaceS);
-    layout->addWidget(m_title);
-    layout->addWidget(m_message);
-    layout->addSpacing(metrics::spaceM);
-    layout->addLayout(buttons);
+    m_destructive->setVisible(kind == Kind::Question);
+    setLayout(inColumn(metrics::spaceS,
+                       {
+                           new WrapLabel(TextStyle::Headline, &Tokens::text, title),
+                           m_message,
+                           Gap{metrics::spaceM},
+                           inRow(metrics::spaceS, {Stretch(), m_safe, m_destructive}),
+                       },
+                       {metrics::spaceXL, metrics::spaceXL - 4, metrics::spaceXL, metrics::spaceXL - 4}));
 
     // The person shall see which button Return presses, however the alert was opened.
     setAttribute(Qt::WA_KeyboardFocusChange);
@@ -50,27 +46,26 @@ Alert::Alert(QWidget* parent)
     connect(m_destructive, &QAbstractButton::clicked, this, &QDialog::accept);
 }
 
-void Alert::setTitle(const QString& title)
+Alert* Alert::ask(QWidget* place, const QString& title, const QString& message, const std::function<void()>& accepted)
 {
-    setWindowTitle(title);
-    m_title->setText(title);
+    auto* alert = new Alert(Kind::Question, title, message, place);
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    connect(alert, &QDialog::accepted, place, accepted);
+    alert->open();
+    return alert;
 }
 
-void Alert::setMessage(const QString& message)
+Alert* Alert::notice(QWidget* place, const QString& title, const QString& message)
 {
-    m_message->setText(message);
-    setAccessibleDescription(message);
+    auto* alert = new Alert(Kind::Notice, title, message, place);
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->open();
+    return alert;
 }
 
 QString Alert::message() const
 {
     return m_message->text();
-}
-
-void Alert::makeNotice(const QString& buttonText)
-{
-    m_destructive->hide();
-    m_safe->setText(buttonText);
 }
 
 QSize Alert::preferredSize() const

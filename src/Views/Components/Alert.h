@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Literals.h"
 #include "SheetWindow.h"
+
+#include <functional>
 
 namespace abissora {
 
@@ -10,20 +11,24 @@ class DestructiveButton;
 class PlainButton;
 class WrapLabel;
 
-/// Asks before something is destroyed: accepted by "Elimina", rejected by "Annulla", which is the default button and
-/// answers Escape. As a notice it has one button, which rejects.
+/// A question asks before something is destroyed: accepted by "Elimina", rejected by "Annulla", which is the default
+/// button and answers Escape. A notice has one button, "OK", which rejects.
 class Alert : public SheetWindow
 {
     Q_OBJECT
 
 public:
-    explicit Alert(QWidget* parent = nullptr);
+    enum class Kind { Question, Notice };
 
-    void setTitle(const QString& title);
-    void setMessage(const QString& message);
+    Alert(Kind kind, const QString& title, const QString& message, QWidget* parent = nullptr);
+
+    /// Both open an alert over the window of `place`; it deletes itself when it closes. `accepted` is not called once
+    /// `place` is gone.
+    static Alert* ask(QWidget* place, const QString& title, const QString& message,
+                      const std::function<void()>& accepted);
+    static Alert* notice(QWidget* place, const QString& title, const QString& message);
+
     [[nodiscard]] QString message() const;
-    void makeNotice(const QString& buttonText = u"OK"_s);
-
     [[nodiscard]] PlainButton* safeButton() const { return m_safe; }
     [[nodiscard]] DestructiveButton* destructiveButton() const { return m_destructive; }
 
@@ -32,7 +37,6 @@ protected:
     [[nodiscard]] QWidget* firstFocus() const override;
 
 private:
-    WrapLabel* m_title;
     WrapLabel* m_message;
     PlainButton* m_safe;
     DestructiveButton* m_destructive;

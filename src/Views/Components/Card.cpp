@@ -15,7 +15,7 @@ Card::Card(QWidget* parent)
     : QFrame(parent)
     , m_content(new QVBoxLayout(this))
 {
-    provideAccessibility();
+    setAccessibleRole(*this, QAccessible::Grouping);
     m_content->setContentsMargins(metrics::spaceL, metrics::spaceL, metrics::spaceL, metrics::spaceL);
     m_content->setSpacing(metrics::spaceS);
 }

@@ -47,7 +47,7 @@ Chip::Chip(QWidget* parent)
     , m_text(new ChipText)
     , m_clear(new IconButton(symbolIcon(u"xmark.circle.fill"_s, NamedColor::secondary), {}))
 {
-    provideAccessibility();
+    setAccessibleRole(*this, QAccessible::Grouping);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     m_text->setFont(abissora::font(TextStyle::Caption));
     m_text->setTextFormat(Qt::PlainText);

@@ -38,7 +38,7 @@ EmptyState::EmptyState(QWidget* parent)
     , m_text(secondaryLabel(TextStyle::Body))
     , m_button(new PlainButton({}))
 {
-    provideAccessibility();
+    setAccessibleRole(*this, QAccessible::Grouping);
     m_text->hide();
     m_button->hide();
     m_button->setObjectName(u"emptyStateButton"_s);

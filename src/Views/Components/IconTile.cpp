@@ -22,7 +22,7 @@ IconTile::IconTile(int side, Shape shape, QWidget* parent)
     , m_side(side)
     , m_shape(shape)
 {
-    provideAccessibility();
+    setAccessibleRole(*this, QAccessible::Graphic, AccessibleParts::Hidden);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

@@ -12,7 +12,7 @@ IconView::IconView(const QIcon& icon, int side, QWidget* parent)
     , m_icon(icon)
     , m_side(side)
 {
-    provideAccessibility();
+    setAccessibleRole(*this, QAccessible::Graphic, AccessibleParts::Hidden);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

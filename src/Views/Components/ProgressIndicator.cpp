@@ -21,7 +21,7 @@ constexpr int interval = 100; // milliseconds
 ProgressIndicator::ProgressIndicator(QWidget* parent)
     : QWidget(parent)
 {
-    provideAccessibility();
+    setAccessibleRole(*this, QAccessible::Animation, AccessibleParts::Hidden);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

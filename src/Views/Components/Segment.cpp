@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Segment.h"
 
+#include "Accessibility.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
@@ -19,10 +20,11 @@ constexpr int radius = metrics::controlRadius - 1;
 
 } // namespace
 
-Segment::Segment(const QString& symbol, const QString& text, QWidget* parent)
+Segment::Segment(QAccessible::Role role, const QString& symbol, const QString& text, QWidget* parent)
     : QAbstractButton(parent)
     , m_symbol(symbol)
 {
+    setAccessibleChoice(*this, role);
     setText(text);
     setCheckable(true);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

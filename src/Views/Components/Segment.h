@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QAccessible>
 
 namespace abissora {
 
@@ -11,7 +12,7 @@ class Segment final : public QAbstractButton
     Q_OBJECT
 
 public:
-    Segment(const QString& symbol, const QString& text, QWidget* parent);
+    Segment(QAccessible::Role role, const QString& symbol, const QString& text, QWidget* parent);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

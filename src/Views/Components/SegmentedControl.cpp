@@ -18,7 +18,7 @@ SegmentedControl::SegmentedControl(Purpose purpose, QWidget* parent)
     , m_purpose(purpose)
     , m_group(new QButtonGroup(this))
 {
-    provideAccessibility();
+    setAccessibleRole(*this, purpose == Purpose::Tabs ? QAccessible::PageTabList : QAccessible::Grouping);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(3, 3, 3, 3);
@@ -32,7 +32,8 @@ SegmentedControl::SegmentedControl(Purpose purpose, QWidget* parent)
 
 void SegmentedControl::addSegment(const QString& symbol, const QString& text)
 {
-    auto* segment = new Segment(symbol, text, this);
+    const auto role = m_purpose == Purpose::Tabs ? QAccessible::PageTab : QAccessible::RadioButton;
+    auto* segment = new Segment(role, symbol, text, this);
     segment->setFocusPolicy(Qt::StrongFocus);
     m_group->addButton(segment, count());
     layout()->addWidget(segment);

@@ -13,7 +13,7 @@ Separator::Separator(Weight weight, QWidget* parent)
     : QWidget(parent)
     , m_weight(weight)
 {
-    provideAccessibility();
+    setAccessibleRole(*this, QAccessible::Separator, AccessibleParts::Hidden);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

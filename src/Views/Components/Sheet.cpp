@@ -4,12 +4,12 @@
 #include "Buttons.h"
 #include "Literals.h"
 #include "Metrics.h"
+#include "ScrollPane.h"
 #include "Separator.h"
 #include "TypeScale.h"
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -27,25 +27,16 @@ Sheet::Sheet(const QString& title, QWidget* parent)
     , m_title(new QLabel)
     , m_cancel(new PlainButton(u"Annulla"_s))
     , m_primary(new PrimaryButton({}))
-    , m_scroll(new QScrollArea)
-    , m_body(new QVBoxLayout)
+    , m_scroll(new ScrollPane)
+    , m_body(new QVBoxLayout(m_scroll->widget()))
 {
     setTitle(title);
     m_cancel->setObjectName(u"cancel"_s);
     m_primary->setObjectName(u"primary"_s);
     m_primary->hide();
 
-    auto* body = new QWidget;
-    body->setLayout(m_body);
     m_body->setContentsMargins(sideMargin, metrics::spaceL, sideMargin, metrics::spaceL);
     m_body->setSpacing(metrics::spaceL - 2);
-    m_scroll->setWidget(body);
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->viewport()->setAutoFillBackground(false);
-    body->setAutoFillBackground(false);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);

@@ -54,7 +54,7 @@ StatCard::StatCard(const QString& title, const QString& symbol, NamedColor color
     , m_title(title)
     , m_icon(symbolIcon(symbol, color))
 {
-    provideAccessibility();
+    setAccessibleRole(*this, QAccessible::StaticText, AccessibleParts::Hidden);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     name();
 }

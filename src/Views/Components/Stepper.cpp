@@ -3,7 +3,6 @@
 
 #include "Accessibility.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QStyleOptionSpinBox>
@@ -12,10 +11,58 @@
 
 namespace abissora {
 
+namespace {
+
+class StepperInterface final : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit StepperInterface(Stepper* stepper)
+        : QAccessibleWidget(stepper, QAccessible::SpinBox)
+    {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? stepper()->text() : QAccessibleWidget::text(kind);
+    }
+    [[nodiscard]] int childCount() const override { return 0; }
+    [[nodiscard]] QAccessibleInterface* child(int) const override { return nullptr; }
+
+    [[nodiscard]] QVariant currentValue() const override { return stepper()->value(); }
+    void setCurrentValue(const QVariant& value) override { stepper()->edit(value.toLongLong()); }
+    [[nodiscard]] QVariant maximumValue() const override { return stepper()->maximum(); }
+    [[nodiscard]] QVariant minimumValue() const override { return stepper()->minimum(); }
+    [[nodiscard]] QVariant minimumStepSize() const override { return stepper()->singleStep(); }
+
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return QAccessibleWidget::actionNames() << increaseAction() << decreaseAction();
+    }
+    void doAction(const QString& action) override
+    {
+        if (action == increaseAction())
+            stepper()->stepUp();
+        else if (action == decreaseAction())
+            stepper()->stepDown();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    [[nodiscard]] Stepper* stepper() const { return static_cast<Stepper*>(object()); }
+};
+
+} // namespace
+
 Stepper::Stepper(QWidget* parent)
     : QAbstractSpinBox(parent)
 {
-    provideAccessibility();
+    setAccessibleInterface<StepperInterface>(*this);
     setButtonSymbols(PlusMinus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     lineEdit()->setReadOnly(true);

@@ -65,12 +65,7 @@ private:
 
     void refuse(const QString& name)
     {
-        auto* notice = new Alert(this);
-        notice->setAttribute(Qt::WA_DeleteOnClose);
-        notice->setTitle(windowTitle());
-        notice->setMessage(u"«%1» non è un documento PDF."_s.arg(name));
-        notice->makeNotice();
-        notice->open();
+        Alert::notice(this, windowTitle(), u"«%1» non è un documento PDF."_s.arg(name));
     }
 
     QStringList m_contentTypes;

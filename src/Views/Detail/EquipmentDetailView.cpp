@@ -12,13 +12,14 @@
 #include "MaintenanceHistory.h"
 #include "MaintenanceRecords.h"
 #include "Metrics.h"
+#include "ScrollPane.h"
 #include "SelectableText.h"
 #include "SymbolIcon.h"
 #include "TechnicalDetails.h"
+#include "ViewSheet.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QScrollArea>
 #include <QScrollBar>
 
 namespace abissora {
@@ -52,6 +53,19 @@ EquipmentDetailView::EquipmentDetailView(const AppContext& context, const Equipm
     redraw();
 }
 
+ViewSheet* EquipmentDetailView::makeSheet(const AppContext& context, const Equipment& equipment, QWidget* parent)
+{
+    auto* view = new EquipmentDetailView(context, equipment);
+    auto* sheet = new ViewSheet({.view = view,
+                                 .title = u"Dettagli Attrezzatura"_s,
+                                 .margins = {metrics::spaceXS, metrics::spaceS, metrics::spaceXS, metrics::spaceXS},
+                                 .preferredSize = {750, 650},
+                                 .firstFocus = view->findChild<QWidget*>(u"editEquipment"_s)},
+                                parent);
+    connect(view, &EquipmentDetailView::closed, sheet, &QDialog::reject);
+    return sheet;
+}
+
 QWidget* EquipmentDetailView::makeTitleBar()
 {
     auto* close = new IconButton(symbolIcon(u"xmark"_s), u"Chiudi"_s);
@@ -72,22 +86,14 @@ QScrollArea* EquipmentDetailView::makeBody()
     auto* notes = new GroupBox(u"Note"_s, u"note.text"_s);
     notes->content()->addWidget(m_notes);
 
-    auto* content = new QWidget;
-    auto* layout = new QVBoxLayout(content);
+    auto* area = new ScrollPane;
+    auto* layout = new QVBoxLayout(area->widget());
     layout->setContentsMargins(sideMargin, metrics::spaceXS, sideMargin, metrics::spaceL);
     layout->setSpacing(metrics::spaceM);
     for (QWidget* part : std::initializer_list<QWidget*>{m_header, m_technical, notes, m_actions, m_history})
         layout->addWidget(part);
     layout->addStretch(1); // takes all the spare height: no card grows
 
-    auto* area = new QScrollArea;
-    area->setWidget(content);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->viewport()->setAutoFillBackground(false);
-    content->setAutoFillBackground(false);
     // The scroll bar stands in the margin: the cards keep their width when it comes and goes.
     const QScrollBar* const bar = area->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, layout, [bar, layout](int, int maximum) {
@@ -186,22 +192,12 @@ void EquipmentDetailView::storeMaintenance(const Maintenance& maintenance)
     redraw();
 }
 
-Alert* EquipmentDetailView::makeAlert(const QString& title, const QString& message)
-{
-    auto* alert = new Alert(this);
-    alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setTitle(title);
-    alert->setMessage(message);
-    return alert;
-}
-
 void EquipmentDetailView::confirmDeleteMaintenance(const QUuid& id)
 {
     m_maintenanceToDelete = recordOf(m_equipment.maintenanceHistory, id);
-    Alert* alert = makeAlert(u"Elimina Manutenzione"_s, maintenanceDeleteAlertMessage());
-    connect(alert, &QDialog::accepted, this, &EquipmentDetailView::deleteSelectedMaintenance);
+    const auto* alert = Alert::ask(this, u"Elimina Manutenzione"_s, maintenanceDeleteAlertMessage(),
+                                   [this] { deleteSelectedMaintenance(); });
     connect(alert, &QDialog::rejected, this, [this] { m_maintenanceToDelete.reset(); });
-    alert->open();
 }
 
 QString EquipmentDetailView::maintenanceDeleteAlertMessage() const
@@ -227,14 +223,13 @@ void EquipmentDetailView::deleteSelectedMaintenance()
 
 void EquipmentDetailView::confirmDeletion()
 {
-    Alert* alert = makeAlert(u"Conferma Eliminazione"_s,
-                             u"Sei sicuro di voler eliminare l'attrezzatura '%1'? Questa azione non può essere "
-                             "annullata."_s.arg(m_equipment.name));
-    connect(alert, &QDialog::accepted, this, [this] {
-        m_context.equipment.deleteEquipment(m_equipment);
-        Q_EMIT closed();
-    });
-    alert->open();
+    Alert::ask(this, u"Conferma Eliminazione"_s,
+               u"Sei sicuro di voler eliminare l'attrezzatura '%1'? Questa azione non può essere "
+               "annullata."_s.arg(m_equipment.name),
+               [this] {
+                   m_context.equipment.deleteEquipment(m_equipment);
+                   Q_EMIT closed();
+               });
 }
 
 void EquipmentDetailView::paintEvent(QPaintEvent*)

@@ -9,12 +9,12 @@ class QScrollArea;
 
 namespace abissora {
 
-class Alert;
 class DetailActions;
 class DetailHeader;
 class MaintenanceHistory;
 class SelectableText;
 class TechnicalDetails;
+class ViewSheet;
 
 /// One item in full, with what can be done with it. Works on a copy of the item, writes every change through the
 /// register and takes over whatever the register makes of the item. An item that the register no longer has stays on
@@ -25,6 +25,9 @@ class EquipmentDetailView : public QWidget
 
 public:
     EquipmentDetailView(const AppContext& context, const Equipment& equipment, QWidget* parent = nullptr);
+
+    /// The screen in a sheet over another one.
+    [[nodiscard]] static ViewSheet* makeSheet(const AppContext& context, const Equipment& equipment, QWidget* parent);
 
     [[nodiscard]] const Equipment& equipment() const { return m_equipment; }
     /// Shows an item, another one from its top.
@@ -55,7 +58,6 @@ private:
     void storeMaintenance(const Maintenance& maintenance);
     void deleteSelectedMaintenance();
     void openMaintenanceForm(const std::optional<Maintenance>& editing);
-    [[nodiscard]] Alert* makeAlert(const QString& title, const QString& message);
 
     AppContext m_context;
     Equipment m_equipment;

@@ -2,6 +2,7 @@
 #include "EquipmentForm.h"
 
 #include "Alert.h"
+#include "Assembly.h"
 #include "Buttons.h"
 #include "DateField.h"
 #include "FormRow.h"
@@ -23,13 +24,6 @@ namespace abissora {
 namespace {
 
 constexpr int notesHeight = 110;
-
-template <typename Widget>
-Widget* named(Widget* widget, const char* objectName)
-{
-    widget->setObjectName(QLatin1String(objectName));
-    return widget;
-}
 
 QLineEdit* makeTextField(const char* objectName, const QString& placeholder = {})
 {
@@ -229,16 +223,10 @@ void EquipmentForm::saveEquipment()
 
 void EquipmentForm::showAlert(const QString& message)
 {
-    auto* alert = new Alert(this);
-    alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setTitle(u"Errore"_s);
-    alert->setMessage(message);
-    alert->makeNotice();
-    connect(alert, &QDialog::finished, this, [this] {
+    connect(Alert::notice(this, u"Errore"_s, message), &QDialog::finished, this, [this] {
         if (QLineEdit* const field = firstEmptyRequiredField())
             goTo(field);
     });
-    alert->open();
 }
 
 } // namespace abissora

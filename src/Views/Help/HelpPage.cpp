@@ -16,7 +16,6 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QScrollBar>
-#include <QStyleOption>
 #include <QTextDocumentFragment>
 #include <QTextFrame>
 #include <algorithm>
@@ -145,12 +144,7 @@ void HelpPage::paintEvent(QPaintEvent* event)
         paintBackdrops(painter, *document(), palette());
     }
     QTextBrowser::paintEvent(event);
-    QStyleOption option;
-    option.initFrom(this);
-    if (showsFocusRing(option)) {
-        QPainter painter(viewport());
-        drawFocusRing(painter, viewport()->rect(), 0, palette());
-    }
+    drawFocusRing(*this);
 }
 
 void HelpPage::resizeEvent(QResizeEvent* event)

@@ -149,13 +149,10 @@ void EquipmentListView::setSelectedEquipment(const std::optional<Equipment>& equ
 void EquipmentListView::confirmDeletion(const Equipment& equipment)
 {
     m_equipmentToDelete = equipment;
-    auto* alert = new Alert(window());
-    alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setTitle(u"Conferma Eliminazione"_s);
-    alert->setMessage(u"Sei sicuro di voler eliminare l'attrezzatura '%1'?"_s.arg(equipment.name));
-    connect(alert, &QDialog::accepted, this, &EquipmentListView::deleteConfirmed);
+    const auto* alert = Alert::ask(this, u"Conferma Eliminazione"_s,
+                                   u"Sei sicuro di voler eliminare l'attrezzatura '%1'?"_s.arg(equipment.name),
+                                   [this] { deleteConfirmed(); });
     connect(alert, &QDialog::rejected, this, [this] { m_equipmentToDelete.reset(); });
-    alert->open();
 }
 
 void EquipmentListView::deleteConfirmed()

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DueList.h"
 
+#include "Accessibility.h"
 #include "Metrics.h"
-#include "OverviewAccessibility.h"
 #include "Painting.h"
 #include "Tokens.h"
 
@@ -16,6 +16,28 @@ namespace abissora {
 
 namespace {
 
+/// Its rows in their order on the screen, which is not the order in which they were made.
+class ListInterface final : public QAccessibleWidget
+{
+public:
+    explicit ListInterface(DueList* list)
+        : QAccessibleWidget(list, QAccessible::List)
+    {}
+
+    [[nodiscard]] int childCount() const override { return static_cast<int>(list()->rows().size()); }
+    [[nodiscard]] QAccessibleInterface* child(int index) const override
+    {
+        return QAccessible::queryAccessibleInterface(list()->rows().value(index));
+    }
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return child != nullptr ? static_cast<int>(list()->rows().indexOf(qobject_cast<DueRow*>(child->object()))) : -1;
+    }
+
+private:
+    [[nodiscard]] const DueList* list() const { return static_cast<DueList*>(object()); }
+};
+
 /// Rows kept ready above and below what is in sight.
 constexpr int reserve = 2;
 
@@ -25,7 +47,7 @@ DueList::DueList(QScrollArea& area)
     : m_area(area)
     , m_rowHeight(DueRow::rowHeight())
 {
-    provideOverviewAccessibility();
+    setAccessibleInterface<ListInterface>(*this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     area.viewport()->installEventFilter(this);
     connect(area.verticalScrollBar(), &QScrollBar::valueChanged, this, &DueList::arrange);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "DueRow.h"
 
+#include "Accessibility.h"
 #include "Buttons.h"
 #include "ElidedLabel.h"
 #include "IconTile.h"
 #include "Literals.h"
 #include "Metrics.h"
-#include "OverviewAccessibility.h"
 #include "RegisterFigures.h"
 #include "SymbolIcon.h"
 
@@ -38,7 +38,7 @@ DueRow::DueRow(QWidget* parent)
     , m_add(new PrimaryButton(u"Aggiungi Manutenzione"_s))
     , m_details(new PlainButton(u"Dettagli"_s))
 {
-    provideOverviewAccessibility();
+    setAccessibleRole(*this, QAccessible::ListItem);
     m_tile->setObjectName(u"dueIcon"_s);
     m_name->setObjectName(u"dueName"_s);
     m_state->setObjectName(u"dueState"_s);

@@ -32,12 +32,7 @@ QCoro::Task<bool> open(QUrl url, Opener& opener, QPointer<QWidget> place, Notice
     place->setProperty(awaitedAddress, {});
     if (opened)
         co_return true;
-    auto* alert = new Alert(place);
-    alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setTitle(notice.title);
-    alert->setMessage(notice.message);
-    alert->makeNotice();
-    alert->open();
+    Alert::notice(place, notice.title, notice.message);
     co_return false;
 }
 

@@ -5,9 +5,7 @@
 #include "Painting.h"
 
 #include <QKeyEvent>
-#include <QPainter>
 #include <QScrollBar>
-#include <QStyleOption>
 #include <QVBoxLayout>
 
 namespace abissora {
@@ -20,22 +18,13 @@ constexpr int step = metrics::spaceXL * 2;
 } // namespace
 
 ScreenPage::ScreenPage(const QString& name, QWidget* parent)
-    : QScrollArea(parent)
-    , m_column(new QVBoxLayout)
+    : ScrollPane(parent)
+    , m_column(new QVBoxLayout(widget()))
 {
-    auto* content = new QWidget;
-    content->setLayout(m_column);
     m_column->setContentsMargins(sideMargin, metrics::spaceS, sideMargin, sideMargin);
     m_column->setSpacing(metrics::spaceL);
 
     setAccessibleName(name);
-    setWidget(content);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFocusPolicy(Qt::NoFocus);
-    viewport()->setAutoFillBackground(false);
-    content->setAutoFillBackground(false);
     verticalScrollBar()->setSingleStep(step);
     connect(verticalScrollBar(), &QScrollBar::rangeChanged, this,
             [this](int, int maximum) { setFocusPolicy(maximum > 0 ? Qt::TabFocus : Qt::NoFocus); });
@@ -43,13 +32,13 @@ ScreenPage::ScreenPage(const QString& name, QWidget* parent)
 
 void ScreenPage::focusInEvent(QFocusEvent* event)
 {
-    QScrollArea::focusInEvent(event);
+    ScrollPane::focusInEvent(event);
     viewport()->update();
 }
 
 void ScreenPage::focusOutEvent(QFocusEvent* event)
 {
-    QScrollArea::focusOutEvent(event);
+    ScrollPane::focusOutEvent(event);
     viewport()->update();
 }
 
@@ -61,18 +50,13 @@ void ScreenPage::keyPressEvent(QKeyEvent* event)
     else if (event->key() == Qt::Key_End)
         bar->setValue(bar->maximum());
     else
-        QScrollArea::keyPressEvent(event);
+        ScrollPane::keyPressEvent(event);
 }
 
 void ScreenPage::paintEvent(QPaintEvent* event)
 {
-    QScrollArea::paintEvent(event);
-    QStyleOption option;
-    option.initFrom(this);
-    if (!showsFocusRing(option))
-        return;
-    QPainter painter(viewport());
-    drawFocusRing(painter, viewport()->rect(), metrics::controlRadius, palette());
+    ScrollPane::paintEvent(event);
+    drawFocusRing(*this, metrics::controlRadius);
 }
 
 } // namespace abissora

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QScrollArea>
+#include "ScrollPane.h"
 
 class QVBoxLayout;
 
@@ -9,7 +9,7 @@ namespace abissora {
 
 /// A screen's content in one column, which scrolls when it is higher than the window. While there is something to
 /// scroll the page takes the focus, so that the keyboard can scroll what has no controls to walk through.
-class ScreenPage : public QScrollArea
+class ScreenPage : public ScrollPane
 {
     Q_OBJECT
 

@@ -2,14 +2,15 @@
 #include "SettingsView.h"
 
 #include "EquipmentTypeManagementView.h"
-#include "HelpSheet.h"
+#include "HelpView.h"
 #include "IconView.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "SettingsGroups.h"
 #include "SymbolIcon.h"
-#include "UpdateSheet.h"
+#include "UpdateView.h"
 #include "UpdatesGroup.h"
+#include "ViewSheet.h"
 
 #include <QHideEvent>
 #include <QShowEvent>
@@ -26,7 +27,7 @@ constexpr int headerIconSide = 32;
 
 SettingsView::SettingsView(SettingsViewModel& settings, EquipmentTypeViewModel& types, UpdateCheckerViewModel& updates,
                            const ProgramFacts& program, IdGenerator& ids, Opener& opener, QWidget* parent)
-    : QScrollArea(parent)
+    : ScrollPane(parent)
     , m_settings(settings)
     , m_types(types)
     , m_updates(updates)
@@ -37,10 +38,6 @@ SettingsView::SettingsView(SettingsViewModel& settings, EquipmentTypeViewModel& 
 {
     setObjectName(u"settings"_s);
     setAccessibleName(u"Impostazioni"_s);
-    setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFocusPolicy(Qt::NoFocus);
-    setWidgetResizable(true);
 
     auto* column = new QWidget;
     column->setMaximumWidth(withText(columnWidth, fontMetrics()));
@@ -51,16 +48,11 @@ SettingsView::SettingsView(SettingsViewModel& settings, EquipmentTypeViewModel& 
     addGroups(groups);
     groups->addStretch();
 
-    auto* page = new QWidget;
-    auto* layout = new QHBoxLayout(page);
+    auto* layout = new QHBoxLayout(widget());
     layout->setContentsMargins(metrics::spaceXL, 0, metrics::spaceXL, 0);
     layout->addStretch(1);
     layout->addWidget(column, 1000);
     layout->addStretch(1);
-    setWidget(page);
-    page->setAutoFillBackground(false);
-    viewport()->setAutoFillBackground(false);
-
     connect(&updates, &UpdateCheckerViewModel::availableUpdateChanged, this, &SettingsView::offerUpdate);
 }
 
@@ -100,7 +92,7 @@ bool SettingsView::showingTypeManagement() const
 
 bool SettingsView::showingHelp() const
 {
-    return qobject_cast<HelpSheet*>(m_sheet) != nullptr && m_sheet->isVisible();
+    return m_sheet && m_sheet->findChild<HelpView*>() != nullptr && m_sheet->isVisible();
 }
 
 void SettingsView::manageTypes()
@@ -110,18 +102,31 @@ void SettingsView::manageTypes()
 
 void SettingsView::showHelp()
 {
-    openSheet(new HelpSheet(m_opener, window()));
+    auto* view = new HelpView(m_opener);
+    openSheet(new ViewSheet({.view = view,
+                             .title = u"Aiuto"_s,
+                             .margins = {1, metrics::spaceS, 1, 1},
+                             .preferredSize = {900, 680},
+                             .firstFocus = view->findChild<QWidget*>(u"helpSearch"_s),
+                             .closeButton = u"Chiudi"_s},
+                            window()));
 }
 
 void SettingsView::offerUpdate()
 {
     const std::optional<UpdateInfo>& update = m_updates.availableUpdate();
-    auto* const offer = qobject_cast<UpdateSheet*>(m_sheet);
+    const bool isOffered = m_sheet && m_sheet->findChild<UpdateView*>() != nullptr;
     const bool isCovered = m_sheet && m_sheet->isVisible();
-    if (!update && offer != nullptr) {
-        offer->close();
+    if (!update && isOffered) {
+        m_sheet->close();
     } else if (update && !isCovered && isVisible()) {
-        auto* sheet = new UpdateSheet(*update, m_program.product.websiteURL, m_opener, window());
+        auto* view = new UpdateView(*update, m_program.product.websiteURL, m_opener);
+        auto* sheet = new ViewSheet({.view = view,
+                                     .title = u"Aggiornamento disponibile"_s,
+                                     .margins = {metrics::spaceS, metrics::spaceL, metrics::spaceS, metrics::spaceS},
+                                     .firstFocus = view->focusProxy()},
+                                    window());
+        connect(view, &UpdateView::closeRequested, sheet, &QDialog::accept);
         connect(sheet, &QDialog::finished, &m_updates, &UpdateCheckerViewModel::clearAvailableUpdate);
         openSheet(sheet);
     }
@@ -138,7 +143,7 @@ void SettingsView::openSheet(SheetWindow* sheet)
 
 void SettingsView::showEvent(QShowEvent* event)
 {
-    QScrollArea::showEvent(event);
+    ScrollPane::showEvent(event);
     // An update found by the check at start is offered here as well.
     if (!event->spontaneous())
         QMetaObject::invokeMethod(this, &SettingsView::offerUpdate, Qt::QueuedConnection);
@@ -148,7 +153,7 @@ void SettingsView::hideEvent(QHideEvent* event)
 {
     if (!event->spontaneous())
         m_updatesGroup->forgetFeedback();
-    QScrollArea::hideEvent(event);
+    ScrollPane::hideEvent(event);
 }
 
 } // namespace abissora

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "ProgramFacts.h"
+#include "ScrollPane.h"
 
 #include <QPointer>
-#include <QScrollArea>
 
 class QVBoxLayout;
 
@@ -19,7 +19,7 @@ class UpdateCheckerViewModel;
 class UpdatesGroup;
 
 /// The settings, in groups below one another. Every control stores its value at once.
-class SettingsView : public QScrollArea
+class SettingsView : public ScrollPane
 {
     Q_OBJECT
 

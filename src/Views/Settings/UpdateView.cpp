@@ -16,7 +16,6 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QShortcut>
-#include <QStyleOption>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -98,12 +97,7 @@ int ReleaseNotes::heightForWidth(int width) const
 void ReleaseNotes::paintEvent(QPaintEvent* event)
 {
     QPlainTextEdit::paintEvent(event);
-    QStyleOption option;
-    option.initFrom(this);
-    if (showsFocusRing(option)) {
-        QPainter painter(viewport());
-        drawFocusRing(painter, viewport()->rect(), 0, palette());
-    }
+    drawFocusRing(*this);
 }
 
 } // namespace

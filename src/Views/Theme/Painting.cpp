@@ -4,6 +4,7 @@
 #include "Metrics.h"
 #include "Tokens.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
@@ -116,6 +117,21 @@ bool showsFocusRing(const QStyleOption& option)
 {
     constexpr QStyle::State wanted = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
     return (option.state & wanted) == wanted;
+}
+
+bool showsFocusRing(const QWidget& widget)
+{
+    QStyleOption option;
+    option.initFrom(&widget);
+    return showsFocusRing(option);
+}
+
+void drawFocusRing(QAbstractScrollArea& area, qreal radius)
+{
+    if (!showsFocusRing(area))
+        return;
+    QPainter painter(area.viewport());
+    drawFocusRing(painter, area.viewport()->rect(), radius, area.palette());
 }
 
 void drawHorizontalHairline(QPainter& painter, qreal left, qreal right, qreal y, const QColor& color)

@@ -4,9 +4,11 @@
 #include <QColor>
 #include <QRectF>
 
+class QAbstractScrollArea;
 class QPainter;
 class QPalette;
 class QStyleOption;
+class QWidget;
 
 /// What controls are drawn with. Rectangles are logical; every edge is moved to the nearest device pixel, so that lines
 /// are crisp at fractional scales too.
@@ -25,6 +27,9 @@ void drawPanel(QPainter& painter, const QRectF& rect, qreal radius, const QColor
 void drawFocusRing(QPainter& painter, const QRectF& rect, qreal radius, const QPalette& palette);
 /// For controls that have the focus by the keyboard; a mouse click leaves them without a ring.
 [[nodiscard]] bool showsFocusRing(const QStyleOption& option);
+[[nodiscard]] bool showsFocusRing(const QWidget& widget);
+/// Inside the viewport of an area that shows one; for the area's paint event, after its content.
+void drawFocusRing(QAbstractScrollArea& area, qreal radius = 0);
 
 /// The line's upper or left edge lies at the given coordinate.
 void drawHorizontalHairline(QPainter& painter, qreal left, qreal right, qreal y, const QColor& color);

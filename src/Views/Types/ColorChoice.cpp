@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ColorChoice.h"
 
+#include "Accessibility.h"
 #include "FlowLayout.h"
 #include "InkLabel.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "Tokens.h"
-#include "TypesAccessibility.h"
 
 #include <QButtonGroup>
 #include <QKeyEvent>
@@ -74,7 +74,7 @@ ColorChoice::ColorChoice(QWidget* parent)
     , m_swatches(new QButtonGroup(this))
     , m_label(new InkLabel(TextStyle::Caption, &Tokens::secondaryText))
 {
-    provideTypesAccessibility();
+    setAccessibleRole(*this, QAccessible::Grouping);
     setAccessibleName(u"Colore"_s);
     m_label->setObjectName(u"colorLabel"_s);
     auto* flow = new FlowLayout(0, metrics::spaceXS);

@@ -116,12 +116,8 @@ void EquipmentTypeManagementView::openForm(const std::optional<EquipmentTypeMode
 
 void EquipmentTypeManagementView::confirmDeletion(const EquipmentTypeModel& typeToDelete)
 {
-    auto* alert = new Alert(this);
-    alert->setAttribute(Qt::WA_DeleteOnClose);
-    alert->setTitle(u"Conferma Eliminazione"_s);
-    alert->setMessage(deletionQuestion(typeToDelete));
-    connect(alert, &QDialog::accepted, this, [this, typeToDelete] { m_types.deleteType(typeToDelete); });
-    alert->open();
+    Alert::ask(this, u"Conferma Eliminazione"_s, deletionQuestion(typeToDelete),
+               [this, typeToDelete] { m_types.deleteType(typeToDelete); });
 }
 
 } // namespace abissora

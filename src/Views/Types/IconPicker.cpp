@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "IconPicker.h"
 
+#include "Accessibility.h"
 #include "EquipmentTypeFormState.h"
 #include "GridFocus.h"
 #include "InkLabel.h"
@@ -10,7 +11,6 @@
 #include "SearchField.h"
 #include "SymbolIcon.h"
 #include "Tokens.h"
-#include "TypesAccessibility.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -36,7 +36,7 @@ DivingIconButton::DivingIconButton(DivingIcons icon, QWidget* parent)
     : IconButton(typeIcon(rawValue(icon)), displayName(icon), parent)
     , m_icon(icon)
 {
-    provideTypesAccessibility();
+    setAccessibleChoice(*this);
     setAccessibleDescription(category(icon));
     setCheckable(true);
     setAutoExclusive(true);
@@ -65,7 +65,7 @@ IconGrid::IconGrid(QWidget* parent)
     : QWidget(parent)
     , m_focus(new GridFocus(GridFocus::TabStop::Cell, this))
 {
-    provideTypesAccessibility();
+    setAccessibleRole(*this, QAccessible::Grouping);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     for (const auto& [title, icons] : categorizedDivingIcons()) {
         Section section{new InkLabel(TextStyle::Caption, &Tokens::secondaryText, title), {}, {}};

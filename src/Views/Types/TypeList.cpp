@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "TypeList.h"
 
+#include "Accessibility.h"
 #include "GridFocus.h"
+#include "ScrollPane.h"
 #include "TypeRow.h"
-#include "TypesAccessibility.h"
 
 #include <QEvent>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -26,22 +26,15 @@ bool isMade(const TypeRow* row)
 
 TypeList::TypeList(QWidget* parent)
     : Card(parent)
-    , m_scroll(new QScrollArea)
-    , m_canvas(new QWidget)
+    , m_scroll(new ScrollPane)
+    , m_canvas(m_scroll->widget())
     , m_ruler(new TypeRow(this))
     , m_focus(new GridFocus(GridFocus::TabStop::Row, this))
     , m_tops{0}
     , m_rows{nullptr}
 {
-    provideTypesAccessibility();
+    setAccessibleRole(*this, QAccessible::List);
     m_ruler->hide();
-    m_scroll->setWidget(m_canvas);
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->viewport()->setAutoFillBackground(false);
-    m_canvas->setAutoFillBackground(false);
     m_canvas->installEventFilter(this);
     content()->setContentsMargins(1, 1, 1, 1);
     content()->addWidget(m_scroll);

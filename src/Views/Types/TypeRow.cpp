@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TypeRow.h"
 
+#include "Accessibility.h"
 #include "Buttons.h"
 #include "IconTile.h"
 #include "Literals.h"
@@ -8,7 +9,6 @@
 #include "Painting.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
-#include "TypesAccessibility.h"
 #include "WrapLabel.h"
 
 #include <QHBoxLayout>
@@ -30,7 +30,7 @@ TypeRow::TypeRow(QWidget* parent)
     , m_edit(new LookButton(ButtonLook::Link, u"Modifica"_s, nullptr))
     , m_delete(new LookButton(ButtonLook::DestructiveLink, u"Elimina"_s, nullptr))
 {
-    provideTypesAccessibility();
+    setAccessibleRole(*this, QAccessible::ListItem);
     m_name->setObjectName(u"typeName"_s);
     m_interval->setObjectName(u"typeInterval"_s);
     m_edit->setObjectName(u"editType"_s);

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Gui.h"
 #include "TestRunner.h"
 #include "Theme.h"
 
 #include <QAccessible>
-#include <QApplication>
-#include <QTest>
-#include <QWidget>
 
 namespace abissora::test {
 
@@ -20,13 +18,6 @@ protected Q_SLOTS:
     void initTestCase() { applyTheme(*qApp, Scheme::Light); }
 
 protected:
-    static void activate(QWidget& window)
-    {
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
-    }
-
     static QAccessible::Role roleOf(QWidget& widget) { return QAccessible::queryAccessibleInterface(&widget)->role(); }
     static QString nameOf(QWidget& widget)
     {

@@ -22,6 +22,9 @@ private Q_SLOTS:
     void returnPressesTheSafeButton();
     void tabLeadsToTheDestructiveButton();
     void aNoticeHasOneButton();
+    void anAskedQuestionActsOnceAndGoes();
+    void nobodyIsToldOnceThePlaceIsGone();
+    void aNoticeGoesByItself();
     void itIsReadAsAnAlert();
     void aLongMessageFits_data();
     void aLongMessageFits();
@@ -29,6 +32,8 @@ private Q_SLOTS:
 
 private:
     std::unique_ptr<QWidget> m_window;
+    void make(Alert::Kind kind, const QString& message);
+
     std::unique_ptr<Alert> m_alert;
 };
 
@@ -37,10 +42,13 @@ void tst_Alert::init()
     ComponentTest::init();
     m_window = std::make_unique<QWidget>();
     m_window->setGeometry(50, 50, 1000, 700);
-    activate(*m_window);
-    m_alert = std::make_unique<Alert>(m_window.get());
-    m_alert->setTitle(u"Conferma Eliminazione"_s);
-    m_alert->setMessage(u"Sei sicuro di voler eliminare l'attrezzatura 'GAV'?"_s);
+    test::activate(*m_window);
+    make(Alert::Kind::Question, u"Sei sicuro di voler eliminare l'attrezzatura 'GAV'?"_s);
+}
+
+void tst_Alert::make(Alert::Kind kind, const QString& message)
+{
+    m_alert = std::make_unique<Alert>(kind, u"Conferma Eliminazione"_s, message, m_window.get());
 }
 
 void tst_Alert::cleanup()
@@ -98,12 +106,49 @@ void tst_Alert::tabLeadsToTheDestructiveButton()
 
 void tst_Alert::aNoticeHasOneButton()
 {
-    m_alert->makeNotice();
+    make(Alert::Kind::Notice, u"Il file non c'è più."_s);
     m_alert->open();
     QVERIFY(!m_alert->destructiveButton()->isVisible());
     QCOMPARE(m_alert->safeButton()->text(), u"OK"_s);
     QTest::mouseClick(m_alert->safeButton(), Qt::LeftButton);
     QVERIFY(!m_alert->isVisible());
+}
+
+void tst_Alert::anAskedQuestionActsOnceAndGoes()
+{
+    int accepted = 0;
+    for (const auto& [button, times] : {std::pair(u"safe"_s, 0), std::pair(u"destructive"_s, 1)}) {
+        const QPointer<Alert> alert =
+            Alert::ask(m_window.get(), u"Conferma Eliminazione"_s, u"Sicuro?"_s, [&accepted] { ++accepted; });
+        QCOMPARE(&test::openDialog(*m_window), alert.get());
+        QCOMPARE(alert->windowTitle(), u"Conferma Eliminazione"_s);
+        QCOMPARE(alert->message(), u"Sicuro?"_s);
+        test::click(*alert, button);
+        test::settle();
+        QVERIFY(alert.isNull());
+        QCOMPARE(accepted, times);
+    }
+}
+
+void tst_Alert::nobodyIsToldOnceThePlaceIsGone()
+{
+    bool accepted = false;
+    auto place = std::make_unique<QWidget>(m_window.get());
+    Alert* const alert = Alert::ask(place.get(), u"Errore"_s, u"Sicuro?"_s, [&accepted] { accepted = true; });
+    place.reset();
+    test::click(*alert, u"destructive"_s);
+    test::settle();
+    QVERIFY(!accepted);
+    QVERIFY(!test::isDialogOpen(*m_window));
+}
+
+void tst_Alert::aNoticeGoesByItself()
+{
+    const QPointer<Alert> notice = Alert::notice(m_window.get(), u"Errore"_s, u"Il file non c'è più."_s);
+    QVERIFY(!test::isShown(*notice, u"destructive"_s));
+    test::click(*notice, u"safe"_s);
+    test::settle();
+    QVERIFY(notice.isNull());
 }
 
 void tst_Alert::itIsReadAsAnAlert()
@@ -123,19 +168,19 @@ void tst_Alert::aLongMessageFits_data()
 void tst_Alert::aLongMessageFits()
 {
     QFETCH(QString, name);
-    m_alert->setMessage(u"Sei sicuro di voler eliminare l'attrezzatura '%1'? Questa azione non può essere "
-                        "annullata."_s.arg(name));
+    make(Alert::Kind::Question, u"Sei sicuro di voler eliminare l'attrezzatura '%1'? Questa azione non può essere "
+                                "annullata."_s.arg(name));
     m_alert->open();
-    QCoreApplication::processEvents();
+    test::settle();
     QCOMPARE(test::clippedTexts(*m_alert), QStringList());
     QVERIFY(m_alert->width() < 480);
 }
 
 void tst_Alert::anEndlessMessageLeavesTheButtonsInTheirPlace()
 {
-    m_alert->setMessage(u"Computer "_s.repeated(2000));
+    make(Alert::Kind::Question, u"Computer "_s.repeated(2000));
     m_alert->open();
-    QCoreApplication::processEvents();
+    test::settle();
     QVERIFY(m_window->geometry().contains(m_alert->geometry()));
     for (const QWidget* button : std::initializer_list<QWidget*>{m_alert->safeButton(), m_alert->destructiveButton()})
         QVERIFY(m_alert->rect().contains(button->geometry()));

@@ -19,7 +19,7 @@ void tst_Badge::itHidesWhenThereIsNothingToCount()
 {
     QWidget window;
     Badge badge(&window);
-    activate(window);
+    test::activate(window);
     QVERIFY(!badge.isVisible());
     badge.setCount(3);
     QVERIFY(badge.isVisible());

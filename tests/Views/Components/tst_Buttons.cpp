@@ -32,7 +32,7 @@ void tst_Buttons::everyKindHasItsLook()
 void tst_Buttons::aButtonIsPressedByMouseAndSpace()
 {
     PrimaryButton button(u"Salva"_s);
-    activate(button);
+    test::activate(button);
     const QSignalSpy clicked(&button, &QAbstractButton::clicked);
     QTest::mouseClick(&button, Qt::LeftButton);
     QCOMPARE(clicked.size(), 1);

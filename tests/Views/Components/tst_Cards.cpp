@@ -42,7 +42,7 @@ void tst_Cards::aCardFollowsTheScheme()
     card.resize(80, 60);
     card.ensurePolished();
     applyTheme(*qApp, Scheme::Dark);
-    QCoreApplication::processEvents();
+    test::settle();
     const QColor middle = card.grab().toImage().pixelColor(40, 30);
     applyTheme(*qApp, Scheme::Light);
     QCOMPARE(middle, Tokens::of(Scheme::Dark).surface);

@@ -26,7 +26,7 @@ void tst_Chip::theMarkClears()
 {
     Chip chip;
     chip.setText(u"Filtro: GAV"_s);
-    activate(chip);
+    test::activate(chip);
     const QSignalSpy cleared(&chip, &Chip::clearClicked);
     QTest::mouseClick(chip.findChild<QToolButton*>(), Qt::LeftButton);
     QCOMPARE(cleared.size(), 1);
@@ -35,7 +35,7 @@ void tst_Chip::theMarkClears()
 void tst_Chip::theMarkIsReachedByTheKeyboard()
 {
     Chip chip;
-    activate(chip);
+    test::activate(chip);
     const QSignalSpy cleared(&chip, &Chip::clearClicked);
     auto* const mark = chip.findChild<QToolButton*>();
     QVERIFY(mark->focusPolicy() & Qt::TabFocus);
@@ -71,7 +71,7 @@ void tst_Chip::nothingIsClipped()
 {
     Chip chip;
     chip.setText(u"Filtro: Computer Subacqueo"_s);
-    activate(chip);
+    test::activate(chip);
     QCOMPARE(test::clippedTexts(chip), QStringList());
 }
 

@@ -23,7 +23,7 @@ private Q_SLOTS:
 void tst_EmptyState::theButtonIsThereOnceItHasAText()
 {
     EmptyState state(u"tray"_s, u"Nessuna attrezzatura trovata"_s);
-    activate(state);
+    test::activate(state);
     QVERIFY(!state.button()->isVisible());
     state.setButtonText(u"Cancella filtri"_s);
     QVERIFY(state.button()->isVisible());
@@ -35,7 +35,7 @@ void tst_EmptyState::theButtonIsPressed()
 {
     EmptyState state;
     state.setButtonText(u"Cancella filtri"_s);
-    activate(state);
+    test::activate(state);
     const QSignalSpy clicked(&state, &EmptyState::buttonClicked);
     QTest::mouseClick(state.button(), Qt::LeftButton);
     QCOMPARE(clicked.size(), 1);
@@ -54,7 +54,7 @@ void tst_EmptyState::longTextsWrap()
     state.setText(u"Aggiungi il primo articolo del registro, poi le sue manutenzioni"_s);
     state.setButtonText(u"Aggiungi la prima attrezzatura"_s);
     state.resize(300, 400);
-    activate(state);
+    test::activate(state);
     QCOMPARE(test::clippedTexts(state), QStringList());
 }
 

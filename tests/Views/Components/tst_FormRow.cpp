@@ -45,7 +45,7 @@ void tst_FormRow::fieldsOfAFormStandInOneColumn()
     layout->addWidget(new FormRow(u"Nome*"_s, first));
     layout->addWidget(new FormRow(u"Numero Seriale"_s, second));
     form.resize(520, 120);
-    activate(form);
+    test::activate(form);
     const auto left = [&](const QWidget* field) { return field->mapTo(&form, QPoint()).x(); };
     QCOMPARE(left(first), left(second));
     QCOMPARE(first->width(), second->width());
@@ -57,7 +57,7 @@ void tst_FormRow::aShortFieldKeepsItsWidth()
     line->setFixedWidth(170);
     FormRow row(u"Data Acquisto"_s, line);
     row.resize(520, 30);
-    activate(row);
+    test::activate(row);
     QCOMPARE(line->width(), 170);
     QVERIFY(line->x() < 200);
 }
@@ -68,7 +68,7 @@ void tst_FormRow::aHintStandsBelowTheField()
     FormRow row(u"Nome*"_s, line);
     row.setHint(u"* Campo obbligatorio"_s);
     row.resize(520, row.sizeHint().height());
-    activate(row);
+    test::activate(row);
     const QLabel* const hint = row.findChildren<QLabel*>().last();
     QVERIFY(hint->y() > line->geometry().bottom());
     QCOMPARE(hint->x(), line->x());
@@ -88,7 +88,7 @@ void tst_FormRow::theErrorOfAFieldStandsBelowIt()
     auto* const field = new Field;
     FormRow row(u"Data"_s, field);
     row.resize(520, 30);
-    activate(row);
+    test::activate(row);
     const int height = row.sizeHint().height();
     field->setText(u"Data non valida"_s);
     QVERIFY(!field->commit());
@@ -110,7 +110,7 @@ void tst_FormRow::largerTextFits()
     const test::ScaledText larger(1.25);
     FormRow row(u"Intervallo Tagliando"_s, new QLineEdit);
     row.resize(420, row.sizeHint().height());
-    activate(row);
+    test::activate(row);
     QCOMPARE(test::clippedTexts(row), QStringList());
 }
 

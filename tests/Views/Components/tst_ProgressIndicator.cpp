@@ -45,7 +45,7 @@ void tst_ProgressIndicator::itTurnsWhileItIsVisible()
     ProgressIndicator indicator;
     indicator.setStyle(&style);
     QVERIFY(!indicator.isTurning());
-    activate(indicator);
+    test::activate(indicator);
     QVERIFY(indicator.isTurning());
     indicator.hide();
     QVERIFY(!indicator.isTurning());
@@ -56,7 +56,7 @@ void tst_ProgressIndicator::itStandsStillWithoutAnimations()
     AnimationStyle style(0);
     ProgressIndicator indicator;
     indicator.setStyle(&style);
-    activate(indicator);
+    test::activate(indicator);
     QVERIFY(!indicator.isTurning());
 }
 

@@ -35,7 +35,7 @@ private:
 void tst_SearchField::everyKeystrokeIsOneEdit()
 {
     SearchField field(u"Cerca attrezzatura..."_s);
-    activate(field);
+    test::activate(field);
     field.setFocus();
     const QSignalSpy edited(&field, &QLineEdit::textEdited);
     QTest::keyClicks(&field, u"gav"_s);
@@ -57,7 +57,7 @@ void tst_SearchField::theClearMarkEmptiesTheFieldOnce()
     SearchField field(u"Cerca"_s);
     field.resize(240, field.sizeHint().height());
     field.setText(u"gav"_s);
-    activate(field);
+    test::activate(field);
     const QSignalSpy edited(&field, &QLineEdit::textEdited);
     QToolButton* const mark = clearMark(field);
     QVERIFY(mark != nullptr);
@@ -72,7 +72,7 @@ void tst_SearchField::theClearMarkEmptiesTheFieldOnce()
 void tst_SearchField::theClearMarkIsThereOnlyForAText()
 {
     SearchField field(u"Cerca"_s);
-    activate(field);
+    test::activate(field);
     QVERIFY(!clearMark(field)->isVisible());
     field.setText(u"gav"_s);
     QTRY_VERIFY(clearMark(field)->isVisible());
@@ -85,7 +85,7 @@ void tst_SearchField::escapeClearsAndThenGoesOn()
     QWidget window;
     SearchField field(u"Cerca"_s, &window);
     field.setText(u"gav"_s);
-    activate(window);
+    test::activate(window);
     field.setFocus();
     const QSignalSpy edited(&field, &QLineEdit::textEdited);
     QKeyEvent first(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);

@@ -45,7 +45,7 @@ void tst_SegmentedControl::aClickChoosesOnce()
 {
     const auto control = intervals(SegmentedControl::Purpose::Choice);
     control->setCurrentIndex(0);
-    activate(*control);
+    test::activate(*control);
     const QSignalSpy activated(control.get(), &SegmentedControl::activated);
     QTest::mouseClick(segment(*control, 2), Qt::LeftButton);
     QCOMPARE(activated.size(), 1);
@@ -75,7 +75,7 @@ void tst_SegmentedControl::nothingCanBeChosen()
     QCOMPARE(control->currentIndex(), -1);
     for (int index = 0; index < control->count(); ++index)
         QVERIFY(!segment(*control, index)->isChecked());
-    activate(*control);
+    test::activate(*control);
     QTest::mouseClick(segment(*control, 1), Qt::LeftButton);
     QCOMPARE(control->currentIndex(), 1);
     QTest::mouseClick(segment(*control, 2), Qt::LeftButton);
@@ -94,7 +94,7 @@ void tst_SegmentedControl::theArrowKeysMoveTheChoice()
 {
     const auto control = intervals(SegmentedControl::Purpose::Tabs);
     control->setCurrentIndex(0);
-    activate(*control);
+    test::activate(*control);
     const QSignalSpy activated(control.get(), &SegmentedControl::activated);
     segment(*control, 0)->setFocus();
     QTest::keyClick(segment(*control, 0), Qt::Key_Right);
@@ -112,7 +112,7 @@ void tst_SegmentedControl::tabReachesTheChoiceOnly()
     control->setParent(&window);
     control->setCurrentIndex(1);
     QAbstractButton* const before = segment(*control, 0);
-    activate(window);
+    test::activate(window);
     segment(*control, 1)->setFocus();
     QTest::keyClick(segment(*control, 1), Qt::Key_Tab);
     QVERIFY(!before->hasFocus());
@@ -157,7 +157,7 @@ void tst_SegmentedControl::largerTextFits()
     QFont larger = control->font();
     larger.setPointSizeF(larger.pointSizeF() * 1.25);
     control->setFont(larger);
-    activate(*control);
+    test::activate(*control);
     for (int index = 0; index < control->count(); ++index) {
         const QAbstractButton* const button = segment(*control, index);
         QVERIFY(button->width() > button->fontMetrics().horizontalAdvance(button->text()));

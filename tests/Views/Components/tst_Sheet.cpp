@@ -53,7 +53,7 @@ void tst_Sheet::init()
     m_window = std::make_unique<QWidget>();
     m_window->setGeometry(50, 50, 1000, 700);
     m_opener = new QLineEdit(m_window.get());
-    activate(*m_window);
+    test::activate(*m_window);
     m_opener->setFocus();
 
     m_sheet = std::make_unique<Sheet>(u"Nuova Attrezzatura"_s, m_window.get());
@@ -176,7 +176,7 @@ void tst_Sheet::theWindowBelowIsDimmedMeanwhile()
     QVERIFY(scrim != nullptr);
     QCOMPARE(scrim->geometry(), m_window->rect());
     m_window->resize(1100, 720);
-    QCoreApplication::processEvents();
+    test::settle();
     QCOMPARE(scrim->geometry(), m_window->rect());
     m_sheet->reject();
     QVERIFY(m_window->findChild<Scrim*>() == nullptr);
@@ -190,7 +190,7 @@ void tst_Sheet::itIsCentredAndFitsTheWindow()
     QVERIFY(m_window->geometry().contains(frame));
     QVERIFY((frame.center() - m_window->geometry().center()).manhattanLength() <= 2);
     m_window->resize(1000, 750);
-    QCoreApplication::processEvents();
+    test::settle();
     QVERIFY((m_sheet->geometry().center() - m_window->geometry().center()).manhattanLength() <= 2);
 }
 
@@ -198,7 +198,7 @@ void tst_Sheet::aTallBodyScrolls()
 {
     m_notes->setFixedHeight(1500);
     m_sheet->open();
-    QCoreApplication::processEvents();
+    test::settle();
     QVERIFY(m_sheet->height() < 700);
     QVERIFY(m_sheet->findChild<QScrollArea*>()->verticalScrollBar()->maximum() > 0);
     QCOMPARE(m_sheet->findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0);
@@ -208,7 +208,7 @@ void tst_Sheet::theHeaderIsNotClipped()
 {
     m_sheet->setTitle(u"Modifica Attrezzatura"_s);
     m_sheet->open();
-    QCoreApplication::processEvents();
+    test::settle();
     QCOMPARE(test::clippedTexts(*m_sheet), QStringList());
 }
 

@@ -83,7 +83,7 @@ void tst_Stepper::steps()
 void tst_Stepper::theButtonsStep()
 {
     const auto stepper = reminder(30);
-    activate(*stepper);
+    test::activate(*stepper);
     const QSignalSpy edited(stepper.get(), &Stepper::edited);
     QTest::mouseClick(stepper.get(), Qt::LeftButton, {}, part(*stepper, QStyle::SC_SpinBoxUp));
     QCOMPARE(stepper->value(), 37);
@@ -96,7 +96,7 @@ void tst_Stepper::theButtonsStep()
 void tst_Stepper::keys()
 {
     const auto stepper = reminder(30);
-    activate(*stepper);
+    test::activate(*stepper);
     stepper->setFocus();
     const QSignalSpy edited(stepper.get(), &Stepper::edited);
     QTest::keyClick(stepper.get(), Qt::Key_Up);
@@ -117,7 +117,7 @@ void tst_Stepper::keys()
 void tst_Stepper::typedTextChangesNothing()
 {
     const auto stepper = reminder(30);
-    activate(*stepper);
+    test::activate(*stepper);
     stepper->setFocus();
     const QSignalSpy edited(stepper.get(), &Stepper::edited);
     QTest::keyClicks(stepper.get(), u"12"_s);
@@ -160,7 +160,7 @@ void tst_Stepper::theWheelNeedsTheFocus()
         QApplication::sendEvent(stepper.get(), &wheel);
         return wheel.isAccepted();
     };
-    activate(*stepper);
+    test::activate(*stepper);
     stepper->clearFocus();
     QVERIFY2(!turn(), "the area around scrolls instead");
     QCOMPARE(stepper->value(), 30);

@@ -25,7 +25,7 @@ void tst_ToggleSwitch::aClickAnywhereSwitchesOnce()
 {
     ToggleSwitch toggle(u"Abilita Notifiche"_s);
     toggle.resize(400, toggle.sizeHint().height());
-    activate(toggle);
+    test::activate(toggle);
     const QSignalSpy clicked(&toggle, &QAbstractButton::clicked);
     QTest::mouseClick(&toggle, Qt::LeftButton, {}, QPoint(390, toggle.height() / 2));
     QVERIFY(toggle.isChecked());
@@ -37,7 +37,7 @@ void tst_ToggleSwitch::aClickAnywhereSwitchesOnce()
 void tst_ToggleSwitch::spaceSwitches()
 {
     ToggleSwitch toggle;
-    activate(toggle);
+    test::activate(toggle);
     toggle.setFocus();
     QTest::keyClick(&toggle, Qt::Key_Space);
     QVERIFY(toggle.isChecked());
@@ -54,7 +54,7 @@ void tst_ToggleSwitch::theProgramsStateIsNoClick()
 void tst_ToggleSwitch::disabledItStays()
 {
     ToggleSwitch toggle;
-    activate(toggle);
+    test::activate(toggle);
     toggle.setEnabled(false);
     QTest::mouseClick(&toggle, Qt::LeftButton);
     QVERIFY(!toggle.isChecked());

@@ -9,7 +9,6 @@
 #include "DetailParts.h"
 #include "DetailRow.h"
 #include "EditEquipmentView.h"
-#include "EquipmentDetailSheet.h"
 #include "MaintenanceFormView.h"
 #include "MaintenanceRow.h"
 #include "SelectableText.h"
@@ -372,20 +371,6 @@ private Q_SLOTS:
         s.view->resize(s.view->minimumWidth(), 2400);
         settle();
         QCOMPARE(clippedTexts(*s.view), QStringList());
-    }
-
-    void asASheet()
-    {
-        ScreenFixture f;
-        QWidget below;
-        below.resize(1280, 800);
-        below.show();
-        EquipmentDetailSheet sheet(f.context, f.equipment.equipment().first(), &below);
-        sheet.open();
-        QCOMPARE(sheet.size(), QSize(750, 650));
-        QCOMPARE(sheet.windowTitle(), u"Dettagli Attrezzatura"_s);
-        click(sheet, u"closeDetail"_s);
-        QVERIFY(!sheet.isVisible());
     }
 };
 

@@ -3,7 +3,7 @@
 #include "Literals.h"
 #include "ShownSettings.h"
 #include "TestRunner.h"
-#include "UpdateSheet.h"
+#include "ViewSheet.h"
 
 using namespace abissora;
 using namespace abissora::test;
@@ -43,12 +43,12 @@ private Q_SLOTS:
         f.http.answer(200, newer);
         QCoreApplication::processEvents();
         QVERIFY(s.feedback().isVisible());
-        auto* offer = s.sheet<UpdateSheet>();
+        auto* offer = s.sheet<ViewSheet>();
         QVERIFY(offer != nullptr);
         offer->reject();
         QVERIFY(!f.updates.availableUpdate());
         QCoreApplication::processEvents();
-        QVERIFY(s.sheet<UpdateSheet>() == nullptr);
+        QVERIFY(s.sheet<ViewSheet>() == nullptr);
         QCOMPARE(s.feedback().text(), u"Versione 1.3.0 (build 57) disponibile"_s);
     }
 
@@ -70,7 +70,7 @@ private Q_SLOTS:
         s.click("checkForUpdates");
         f.http.answer(200, current);
         QCOMPARE(s.feedback().text(), u"Hai già l'ultima versione"_s);
-        QVERIFY(s.sheet<UpdateSheet>() == nullptr);
+        QVERIFY(s.sheet<ViewSheet>() == nullptr);
         QVERIFY(hasInk(iconOf(s.feedback()), [](const QColor& c) { return c.green() > c.red() + 40; }));
     }
 
@@ -165,10 +165,10 @@ private Q_SLOTS:
         f.updates.checkForUpdates();
         f.http.answer(200, newer);
         QCoreApplication::processEvents();
-        QVERIFY(s.sheet<UpdateSheet>() == nullptr);
+        QVERIFY(s.sheet<ViewSheet>() == nullptr);
         s.view->show();
         QCoreApplication::processEvents();
-        QVERIFY(s.sheet<UpdateSheet>() != nullptr);
+        QVERIFY(s.sheet<ViewSheet>() != nullptr);
     }
 
     void anOfferWaitsForAnotherSheet()
@@ -181,10 +181,10 @@ private Q_SLOTS:
         f.updates.checkForUpdates();
         f.http.answer(200, newer);
         QCoreApplication::processEvents();
-        QVERIFY(s.sheet<UpdateSheet>() == nullptr);
+        QVERIFY(s.sheet<ViewSheet>() == nullptr);
         types->reject();
         QCoreApplication::processEvents();
-        QVERIFY(s.sheet<UpdateSheet>() != nullptr);
+        QVERIFY(s.sheet<ViewSheet>() != nullptr);
     }
 };
 

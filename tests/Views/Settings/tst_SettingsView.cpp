@@ -2,11 +2,11 @@
 #include "Alert.h"
 #include "ClippedTexts.h"
 #include "EquipmentTypeManagementView.h"
-#include "HelpSheet.h"
 #include "Literals.h"
 #include "ScaledText.h"
 #include "ShownSettings.h"
 #include "TestRunner.h"
+#include "ViewSheet.h"
 
 #include <QApplication>
 #include <QScrollBar>
@@ -136,8 +136,8 @@ private Q_SLOTS:
         s.button("openHelp").setFocus();
         s.click("openHelp");
         QVERIFY(s.view->showingHelp());
-        QCOMPARE(s.sheet<HelpSheet>()->focusWidget()->objectName(), u"helpSearch"_s);
-        QTest::keyClick(s.sheet<HelpSheet>(), Qt::Key_Escape);
+        QCOMPARE(s.sheet<ViewSheet>()->focusWidget()->objectName(), u"helpSearch"_s);
+        QTest::keyClick(s.sheet<ViewSheet>(), Qt::Key_Escape);
         QCoreApplication::processEvents();
         QVERIFY(!s.view->showingHelp());
         QVERIFY(s.button("openHelp").hasFocus());

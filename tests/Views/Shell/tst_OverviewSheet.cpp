@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Alert.h"
 #include "ClippedTexts.h"
-#include "EquipmentDetailSheet.h"
 #include "EquipmentDetailView.h"
 #include "Literals.h"
 #include "MaintenanceFormView.h"
@@ -9,6 +8,7 @@
 #include "OverviewParts.h"
 #include "ShellFixture.h"
 #include "TestRunner.h"
+#include "ViewSheet.h"
 
 #include <QAccessible>
 #include <QLineEdit>
@@ -31,7 +31,8 @@ struct Shown : ShownWindow
     {
         return *dueList().rows().at(row)->button(part);
     }
-    [[nodiscard]] EquipmentDetailSheet& sheet() { return openDialog<EquipmentDetailSheet>(window); }
+    [[nodiscard]] ViewSheet& sheet() { return openDialog<ViewSheet>(window); }
+    [[nodiscard]] EquipmentDetailView& detail() { return *sheet().findChild<EquipmentDetailView*>(); }
     [[nodiscard]] bool isSheetOpen() const { return isDialogOpen(window); }
 };
 
@@ -69,6 +70,7 @@ private Q_SLOTS:
         settle();
         QCOMPARE(s.view().selectedEquipment()->name, u"Computer Suunto EON Core"_s);
         QCOMPARE(s.sheet().size(), QSize(750, 650));
+        QCOMPARE(s.sheet().windowTitle(), u"Dettagli Attrezzatura"_s);
         QCOMPARE(textOf(s.sheet(), u"detailName"_s), u"Computer Suunto EON Core"_s);
         QVERIFY(!s.window.content().selectedEquipment());
         QVERIFY(!f.equipment.selectedEquipment());
@@ -78,7 +80,7 @@ private Q_SLOTS:
         QVERIFY(!s.isSheetOpen());
         QVERIFY(!s.view().selectedEquipment());
         QCOMPARE(QApplication::focusWidget(), static_cast<QWidget*>(&button));
-        QVERIFY(s.window.findChildren<EquipmentDetailSheet*>().isEmpty());
+        QVERIFY(s.window.findChildren<ViewSheet*>().isEmpty());
     }
 
     void pressedByAScreenReaderTheFocusComesBackToo()
@@ -130,7 +132,7 @@ private Q_SLOTS:
         Shown s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
         settle();
-        s.sheet().detail().openMaintenanceForm(); // another sheet lies over it
+        s.detail().openMaintenanceForm(); // another sheet lies over it
         settle();
         f.equipment.deleteEquipment(*s.view().selectedEquipment());
         settle();
@@ -152,8 +154,8 @@ private Q_SLOTS:
         click(form, u"primary"_s);
         settle();
         QCOMPARE(rowTexts(s.dueList()), QStringList(u"GAV Scubapro Hydros, Scaduto da 30 giorni"_s));
-        QCOMPARE(s.sheet().detail().equipment().maintenanceHistory.size(), 1);
-        QCOMPARE(s.sheet().detail().equipment().maintenanceHistory.first().description, u"Batteria"_s);
+        QCOMPARE(s.detail().equipment().maintenanceHistory.size(), 1);
+        QCOMPARE(s.detail().equipment().maintenanceHistory.first().description, u"Batteria"_s);
         QTest::keyClick(&s.sheet(), Qt::Key_Escape);
         settle();
         QVERIFY(!s.view().selectedEquipment());
@@ -187,7 +189,7 @@ private Q_SLOTS:
         settle();
         s.view().setSelectedEquipment(items.at(1));
         settle();
-        QCOMPARE(s.window.findChildren<EquipmentDetailSheet*>().size(), 1);
+        QCOMPARE(s.window.findChildren<ViewSheet*>().size(), 1);
         QCOMPARE(s.view().selectedEquipment()->id, items.at(1).id);
         QCOMPARE(textOf(s.sheet(), u"detailName"_s), items.at(1).name);
         s.view().setSelectedEquipment(std::nullopt);
