@@ -2,19 +2,16 @@
 #include "Literals.h"
 #include "Scenes.h"
 
-#include "Badge.h"
 #include "Buttons.h"
+#include "Cards.h"
 #include "Chip.h"
 #include "EmptyState.h"
 #include "FormRow.h"
-#include "GroupBox.h"
-#include "IconLabel.h"
-#include "IconTile.h"
+#include "IconViews.h"
 #include "Metrics.h"
 #include "ProgressIndicator.h"
 #include "SearchField.h"
 #include "SegmentedControl.h"
-#include "Separator.h"
 #include "StatCard.h"
 #include "Stepper.h"
 #include "SymbolIcon.h"
@@ -108,9 +105,6 @@ std::unique_ptr<QWidget> list()
     chip->setIcon(typeIcon(u"dive.bcd"_s, NamedColor::orange));
     chip->setText(u"Filtro: GAV"_s);
     header->addWidget(chip);
-    auto* badge = new Badge;
-    header->addWidget(badge);
-    badge->setCount(3);
     header->addStretch();
     auto* refresh = new PlainButton(u"Aggiorna"_s);
     refresh->setSymbol(u"arrow.clockwise"_s);

@@ -6,9 +6,7 @@
 #include "Metrics.h"
 #include "SymbolIcon.h"
 
-#include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -16,7 +14,6 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QRadioButton>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -29,32 +26,6 @@ enum class Touch { None, Hover, Pressed, Focus, Disabled };
 constexpr std::array touches{Touch::None, Touch::Hover, Touch::Pressed, Touch::Focus, Touch::Disabled};
 
 /// Shows its ring without having the focus, which only one control of a scene can have.
-template <class Button>
-class Touched final : public Button
-{
-public:
-    template <class... Arguments>
-    explicit Touched(Touch touch, Arguments&&... arguments)
-        : Button(std::forward<Arguments>(arguments)...)
-        , m_touch(touch)
-    {
-        this->setDown(touch == Touch::Pressed);
-        this->setEnabled(touch != Touch::Disabled);
-        this->setAttribute(Qt::WA_UnderMouse, touch == Touch::Hover);
-    }
-
-protected:
-    void initStyleOption(QStyleOptionButton* option) const override
-    {
-        Button::initStyleOption(option);
-        if (m_touch == Touch::Focus)
-            option->state |= QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
-    }
-
-private:
-    Touch m_touch;
-};
-
 class TouchedButton final : public LookButton
 {
 public:
@@ -96,18 +67,11 @@ std::unique_ptr<QWidget> buttons()
         }
     }
     for (std::size_t column = 0; column < touches.size(); ++column) {
-        auto* check = new Touched<QCheckBox>(touches.at(column), u"Attivo"_s);
-        check->setChecked(column % 2 == 0);
-        grid->addWidget(check, static_cast<int>(looks.size()), static_cast<int>(column));
-        auto* radio = new Touched<QRadioButton>(touches.at(column), u"Un anno"_s);
-        radio->setAutoExclusive(false);
-        radio->setChecked(column % 2 == 0);
-        grid->addWidget(radio, static_cast<int>(looks.size()) + 1, static_cast<int>(column));
         auto* tool = new IconButton(symbolIcon(u"line.3.horizontal.decrease"_s), u"Filtro"_s);
         setButtonLook(*tool, column % 2 == 0 ? ButtonLook::Plain : ButtonLook::Borderless);
         tool->setEnabled(touches.at(column) != Touch::Disabled);
         tool->setDown(touches.at(column) == Touch::Pressed);
-        grid->addWidget(tool, static_cast<int>(looks.size()) + 2, static_cast<int>(column));
+        grid->addWidget(tool, static_cast<int>(looks.size()), static_cast<int>(column));
     }
     return scene;
 }
@@ -129,17 +93,13 @@ std::unique_ptr<QWidget> fields()
     auto* plainCombo = new QComboBox;
     plainCombo->addItem(u"Manutenzione Annuale"_s);
     plainCombo->setEnabled(false);
-    auto* date = new QDateEdit(QDate(2026, 11, 21));
-    date->setDisplayFormat(u"dd/MM/yyyy"_s);
-    date->setCalendarPopup(true);
     auto* spin = new QSpinBox;
     spin->setSuffix(u" giorni"_s);
     auto* text = new QPlainTextEdit(u"Una nota\nsu due righe"_s);
     text->setMaximumHeight(70);
     auto* bar = new QProgressBar;
     bar->setValue(40);
-    for (QWidget* field :
-         std::initializer_list<QWidget*>{empty, focused, disabled, combo, plainCombo, date, spin, text, bar})
+    for (QWidget* field : std::initializer_list<QWidget*>{empty, focused, disabled, combo, plainCombo, spin, text, bar})
         layout->addWidget(field);
     return scene;
 }

@@ -4,8 +4,8 @@
 
 #include "Alert.h"
 #include "Buttons.h"
+#include "Cards.h"
 #include "FormRow.h"
-#include "GroupBox.h"
 #include "Sheet.h"
 #include "Stepper.h"
 #include "SymbolIcon.h"

@@ -4,10 +4,10 @@
 #include "Accessibility.h"
 #include "Assembly.h"
 #include "Buttons.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "TypeScale.h"
-#include "WrapLabel.h"
 
 #include <QBoxLayout>
 

@@ -3,13 +3,13 @@
 
 #include "Accessibility.h"
 #include "Buttons.h"
-#include "IconView.h"
+#include "IconViews.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
 #include "Tokens.h"
-#include "ToolTipText.h"
 #include "TypeScale.h"
 
 #include <QHBoxLayout>
@@ -45,7 +45,7 @@ Chip::Chip(QWidget* parent)
     : QFrame(parent)
     , m_icon(new IconView({}, metrics::iconSize))
     , m_text(new ChipText)
-    , m_clear(new IconButton(symbolIcon(u"xmark.circle.fill"_s, NamedColor::secondary), {}))
+    , m_clear(new IconButton(symbolIcon(u"xmark.circle.fill"_s, NamedColor::secondary), u"Cancella filtri"_s))
 {
     setAccessibleRole(*this, QAccessible::Grouping);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
@@ -53,7 +53,6 @@ Chip::Chip(QWidget* parent)
     m_text->setTextFormat(Qt::PlainText);
     m_clear->setObjectName(u"clear"_s);
     m_clear->setFixedSize(metrics::spaceXL - 2, metrics::spaceXL - 2);
-    setClearName(u"Cancella filtri"_s);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(metrics::spaceS + 2, 2, metrics::spaceXS, 2);
     layout->setSpacing(metrics::spaceXS + 1);
@@ -78,12 +77,6 @@ void Chip::setText(const QString& text)
 QString Chip::text() const
 {
     return m_text->text();
-}
-
-void Chip::setClearName(const QString& name)
-{
-    m_clear->setAccessibleName(name);
-    m_clear->setToolTip(name);
 }
 
 void Chip::paintEvent(QPaintEvent*)

@@ -22,8 +22,6 @@ public:
     void setIcon(const QIcon& icon);
     void setText(const QString& text);
     [[nodiscard]] QString text() const;
-    /// Names the clear mark; "Cancella filtri" until told otherwise.
-    void setClearName(const QString& name);
 
 Q_SIGNALS:
     void clearClicked();

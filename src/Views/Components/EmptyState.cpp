@@ -3,7 +3,7 @@
 
 #include "Accessibility.h"
 #include "Buttons.h"
-#include "IconView.h"
+#include "IconViews.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "FormRow.h"
 
-#include "CheckedField.h"
+#include "ControlLook.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "TypeScale.h"
-#include "WrapLabel.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -18,6 +18,16 @@ namespace {
 enum Row { fieldRow, hintRow, errorRow };
 
 } // namespace
+
+void CheckedField::setError(const QString& error)
+{
+    if (error == m_error)
+        return;
+    m_error = error;
+    setInvalidLook(*this, !error.isEmpty());
+    setAccessibleDescription(error);
+    Q_EMIT errorChanged(error);
+}
 
 FormRow::FormRow(const QString& label, QWidget* field, QWidget* parent)
     : QWidget(parent)

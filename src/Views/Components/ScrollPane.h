@@ -12,7 +12,17 @@ class ScrollPane : public QScrollArea
     Q_OBJECT
 
 public:
-    explicit ScrollPane(QWidget* parent = nullptr);
+    explicit ScrollPane(QWidget* parent = nullptr)
+        : QScrollArea(parent)
+    {
+        setWidget(new QWidget);
+        setWidgetResizable(true);
+        setFrameShape(QFrame::NoFrame);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setFocusPolicy(Qt::NoFocus);
+        viewport()->setAutoFillBackground(false);
+        widget()->setAutoFillBackground(false); // setWidget() makes it fill
+    }
 };
 
 } // namespace abissora

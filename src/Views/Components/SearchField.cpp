@@ -22,18 +22,13 @@ SearchField::SearchField(const QString& placeholder, QWidget* parent)
 
     m_clear->setObjectName(u"clear"_s);
     m_clear->setIcon(symbolIcon(u"xmark.circle.fill"_s, NamedColor::secondary));
-    setClearName(u"Cancella la ricerca"_s);
+    m_clear->setText(u"Cancella la ricerca"_s);
+    m_clear->setToolTip(m_clear->text());
     addAction(m_clear, QLineEdit::TrailingPosition);
     m_clear->setVisible(false); // after it was added: the field only notices changes
     connect(m_clear, &QAction::triggered, this, &SearchField::clearByPerson);
     connect(this, &QLineEdit::textChanged, m_clear,
             [this](const QString& text) { m_clear->setVisible(!text.isEmpty()); });
-}
-
-void SearchField::setClearName(const QString& name)
-{
-    m_clear->setText(name);
-    m_clear->setToolTip(name);
 }
 
 void SearchField::keyPressEvent(QKeyEvent* event)

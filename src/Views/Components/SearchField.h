@@ -13,9 +13,6 @@ class SearchField : public QLineEdit
 public:
     explicit SearchField(const QString& placeholder, QWidget* parent = nullptr);
 
-    /// Names the clear mark; "Cancella la ricerca" until told otherwise.
-    void setClearName(const QString& name);
-
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 

@@ -7,8 +7,6 @@ class QButtonGroup;
 
 namespace abissora {
 
-class Segment;
-
 /// One choice out of a few that stand side by side. The arrow keys move the choice.
 class SegmentedControl : public QWidget
 {
@@ -30,7 +28,6 @@ public:
     [[nodiscard]] int currentIndex() const;
     /// Emits nothing; -1 chooses nothing.
     void setCurrentIndex(int index);
-    [[nodiscard]] Purpose purpose() const { return m_purpose; }
 
 Q_SIGNALS:
     /// The person chose another segment.

@@ -2,10 +2,10 @@
 #include "Sheet.h"
 
 #include "Buttons.h"
+#include "Cards.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "ScrollPane.h"
-#include "Separator.h"
 #include "TypeScale.h"
 
 #include <QGridLayout>

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "SheetWindow.h"
 
+#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
-#include "Scrim.h"
 #include "Tokens.h"
-#include "WindowShape.h"
 
 #include <QAction>
 #include <QApplication>
@@ -19,6 +18,39 @@ namespace abissora {
 namespace {
 
 constexpr int distanceToEdge = metrics::spaceXL;
+
+/// Dims a window for as long as it exists.
+class Scrim final : public QWidget
+{
+public:
+    Scrim(QWidget* window, int radius)
+        : QWidget(window)
+        , m_radius(radius)
+    {
+        setObjectName(u"scrim"_s);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setGeometry(window->rect());
+        window->installEventFilter(this);
+        raise();
+        show();
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == parentWidget() && event->type() == QEvent::Resize)
+            setGeometry(parentWidget()->rect());
+        return QWidget::eventFilter(watched, event);
+    }
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        drawPanel(painter, rect(), m_radius, Tokens::of(palette()).scrim, {});
+    }
+
+private:
+    int m_radius;
+};
 
 } // namespace
 

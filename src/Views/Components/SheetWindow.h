@@ -6,8 +6,6 @@
 
 namespace abissora {
 
-class Scrim;
-
 /// A rounded window-modal dialog without a frame, centred over the window it belongs to, which it dims. When it closes,
 /// the focus goes back to where it was. That window's own actions that hold in the whole application hold here, too.
 class SheetWindow : public QDialog
@@ -39,7 +37,7 @@ private:
     void uncover();
 
     QPointer<QWidget> m_opener;
-    QPointer<Scrim> m_scrim;
+    QPointer<QWidget> m_scrim;
 };
 
 } // namespace abissora

@@ -3,9 +3,9 @@
 
 #include "Assembly.h"
 #include "Buttons.h"
+#include "Cards.h"
 #include "Literals.h"
 #include "Metrics.h"
-#include "Separator.h"
 
 namespace abissora {
 

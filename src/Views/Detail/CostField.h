@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CheckedField.h"
+#include "FormRow.h"
 
 #include <optional>
 

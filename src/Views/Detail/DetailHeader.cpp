@@ -2,12 +2,12 @@
 #include "DetailHeader.h"
 
 #include "DueBadge.h"
-#include "IconTile.h"
+#include "IconViews.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "StateMark.h"
 #include "SymbolIcon.h"
-#include "WrapLabel.h"
 
 #include <QHBoxLayout>
 

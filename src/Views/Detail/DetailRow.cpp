@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DetailRow.h"
 
+#include "Labels.h"
 #include "Metrics.h"
-#include "WrapLabel.h"
 
 #include <QHBoxLayout>
 

@@ -2,7 +2,7 @@
 #include "DocumentField.h"
 
 #include "Buttons.h"
-#include "IconLabel.h"
+#include "IconViews.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Opening.h"

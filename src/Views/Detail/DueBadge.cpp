@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DueBadge.h"
 
-#include "IconView.h"
-#include "InkLabel.h"
+#include "IconViews.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"

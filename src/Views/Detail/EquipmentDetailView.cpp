@@ -6,7 +6,7 @@
 #include "DetailActions.h"
 #include "DetailHeader.h"
 #include "EditEquipmentView.h"
-#include "InkLabel.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "MaintenanceFormView.h"
 #include "MaintenanceHistory.h"

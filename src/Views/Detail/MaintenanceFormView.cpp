@@ -2,18 +2,18 @@
 #include "MaintenanceFormView.h"
 
 #include "Buttons.h"
+#include "Cards.h"
 #include "CostField.h"
 #include "DateField.h"
 #include "DocumentField.h"
 #include "FormRow.h"
-#include "GroupBox.h"
-#include "IconView.h"
+#include "IconViews.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "NotesField.h"
 #include "SymbolIcon.h"
 #include "ToggleSwitch.h"
-#include "WrapLabel.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>

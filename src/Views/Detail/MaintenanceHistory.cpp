@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "MaintenanceHistory.h"
 
+#include "Cards.h"
 #include "EmptyState.h"
 #include "Literals.h"
 #include "MaintenanceRecords.h"
 #include "MaintenanceRow.h"
-#include "Separator.h"
 
 #include <QVBoxLayout>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "AppContext.h"
-#include "GroupBox.h"
+#include "Cards.h"
 
 namespace abissora {
 

@@ -5,12 +5,11 @@
 #include "CostText.h"
 #include "DocumentLink.h"
 #include "FlowLayout.h"
-#include "IconTile.h"
-#include "IconView.h"
+#include "IconViews.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
-#include "WrapLabel.h"
 
 #include <QContextMenuEvent>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "InkLabel.h"
+#include "Labels.h"
 
 namespace abissora {
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "TechnicalDetails.h"
 
+#include "Cards.h"
 #include "DetailRow.h"
 #include "Literals.h"
 #include "Metrics.h"
-#include "Separator.h"
 
 #include <QVBoxLayout>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Cards.h"
 #include "DetailContent.h"
-#include "GroupBox.h"
 
 namespace abissora {
 

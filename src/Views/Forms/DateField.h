@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Calendar.h"
-#include "CheckedField.h"
+#include "FormRow.h"
 
 #include <QMenu>
 #include <optional>

@@ -3,7 +3,8 @@
 
 #include "ControlLook.h"
 #include "HelpIndex.h"
-#include "IconView.h"
+#include "IconViews.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
@@ -12,7 +13,6 @@
 #include "SymbolIcon.h"
 #include "Tokens.h"
 #include "TypeScale.h"
-#include "WrapLabel.h"
 
 #include <QApplication>
 #include <QListView>

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "HelpView.h"
 
+#include "Cards.h"
 #include "EmptyState.h"
 #include "HelpIndexView.h"
 #include "HelpLoader.h"
 #include "HelpPage.h"
-#include "IconView.h"
-#include "InkLabel.h"
+#include "IconViews.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
-#include "Separator.h"
 #include "SymbolIcon.h"
 
 #include <QShortcut>

@@ -5,7 +5,7 @@
 #include "EmptyState.h"
 #include "EquipmentTableView.h"
 #include "FilterMenu.h"
-#include "InkLabel.h"
+#include "Labels.h"
 #include "ListHeader.h"
 #include "Literals.h"
 #include "Metrics.h"

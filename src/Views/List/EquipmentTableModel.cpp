@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTableModel.h"
 
-#include "ToolTipText.h"
+#include "Labels.h"
 
 namespace abissora {
 

@@ -3,10 +3,10 @@
 
 #include "Buttons.h"
 #include "Chip.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
-#include "WrapLabel.h"
 
 #include <QVBoxLayout>
 

@@ -3,8 +3,8 @@
 
 #include "Accessibility.h"
 #include "Buttons.h"
-#include "ElidedLabel.h"
-#include "IconTile.h"
+#include "IconViews.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "RegisterFigures.h"

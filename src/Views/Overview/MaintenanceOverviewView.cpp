@@ -4,7 +4,7 @@
 #include "CardGrid.h"
 #include "DueList.h"
 #include "EmptyState.h"
-#include "InkLabel.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "ScreenPage.h"

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "StatisticsView.h"
 
-#include "Card.h"
 #include "CardGrid.h"
+#include "Cards.h"
 #include "ControlLook.h"
-#include "IconView.h"
+#include "IconViews.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "ScreenPage.h"
 #include "SymbolIcon.h"
-#include "WrapLabel.h"
 
 #include <QEvent>
 #include <QGridLayout>

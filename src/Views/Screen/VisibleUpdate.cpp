@@ -6,6 +6,25 @@
 
 namespace abissora {
 
+CoalescedUpdate::CoalescedUpdate(std::function<void()> action, QObject* parent)
+    : QObject(parent)
+    , m_action(std::move(action))
+{}
+
+void CoalescedUpdate::schedule()
+{
+    if (m_scheduled)
+        return;
+    m_scheduled = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_scheduled = false;
+            m_action();
+        },
+        Qt::QueuedConnection);
+}
+
 VisibleUpdate::VisibleUpdate(QWidget& widget, std::function<void()> action)
     : m_widget(widget)
     , m_action(std::move(action))

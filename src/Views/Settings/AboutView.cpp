@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "AboutView.h"
 
-#include "Card.h"
-#include "InkLabel.h"
+#include "Cards.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "ProgramFacts.h"
-#include "Separator.h"
 #include "SettingsGroupBox.h"
 #include "SymbolIcon.h"
 #include "Tokens.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsGroupBox.h"
 
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "ToggleSwitch.h"
-#include "WrapLabel.h"
 
 #include <QAbstractButton>
 #include <QHBoxLayout>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "GroupBox.h"
-#include "InkLabel.h"
+#include "Cards.h"
+#include "Labels.h"
 #include "SettingsViewModel.h"
 
 class QAbstractButton;

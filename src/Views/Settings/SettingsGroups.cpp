@@ -2,8 +2,8 @@
 #include "SettingsGroups.h"
 
 #include "Buttons.h"
-#include "CoalescedUpdate.h"
 #include "EquipmentTypeViewModel.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Opening.h"
@@ -13,7 +13,7 @@
 #include "SettingsGroupBox.h"
 #include "Stepper.h"
 #include "TypeManagement.h"
-#include "WrapLabel.h"
+#include "VisibleUpdate.h"
 
 #include <QHBoxLayout>
 #include <QLineEdit>

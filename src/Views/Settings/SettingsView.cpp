@@ -3,7 +3,7 @@
 
 #include "EquipmentTypeManagementView.h"
 #include "HelpView.h"
-#include "IconView.h"
+#include "IconViews.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "SettingsGroups.h"

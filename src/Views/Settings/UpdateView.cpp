@@ -2,17 +2,16 @@
 #include "UpdateView.h"
 
 #include "Buttons.h"
-#include "GroupBox.h"
-#include "IconView.h"
+#include "Cards.h"
+#include "IconViews.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Opening.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
-#include "WrapLabel.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QShortcut>

@@ -10,7 +10,6 @@
 #include "SymbolIcon.h"
 #include "Tokens.h"
 #include "UpdateView.h"
-#include "WindowShape.h"
 
 #include <QAction>
 #include <QDialog>

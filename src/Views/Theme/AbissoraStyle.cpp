@@ -1,26 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "AbissoraStyle.h"
 
-#include "ButtonPainting.h"
 #include "ControlLook.h"
-#include "FieldPainting.h"
-#include "IndicatorPainting.h"
-#include "ItemViewPainting.h"
+#include "ControlPainting.h"
 #include "Literals.h"
-#include "MenuPainting.h"
 #include "Metrics.h"
 #include "Painting.h"
-#include "SchemePalette.h"
-#include "ScrollBarPainting.h"
-#include "TextEdits.h"
+#include "Theme.h"
 #include "TypeScale.h"
-#include "WindowShape.h"
 
 #include <QAbstractItemView>
 #include <QHeaderView>
 #include <QMenu>
 #include <QPainter>
-#include <QStyleOption>
 
 namespace abissora {
 
@@ -28,7 +20,7 @@ namespace {
 
 void drawFrame(const QStyleOption& option, QPainter& painter, const QWidget* widget)
 {
-    if (isTextEdit(widget)) {
+    if (fields::isTextEdit(widget)) {
         fields::drawFieldPanel(option, painter, widget);
         return;
     }
@@ -103,11 +95,6 @@ void AbissoraStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         else
             drawFocusRing(*painter, option->rect, 4, option->palette);
         return;
-    case PE_IndicatorCheckBox:
-    case PE_IndicatorItemViewItemCheck:
-        return indicators::drawCheckBox(*option, *painter);
-    case PE_IndicatorRadioButton:
-        return indicators::drawRadioButton(*option, *painter);
     case PE_PanelItemViewRow:
         return;
     case PE_PanelItemViewItem:
@@ -151,7 +138,7 @@ void AbissoraStyle::drawControl(ControlElement element, const QStyleOption* opti
         break;
     case CE_ComboBoxLabel:
         if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option))
-            return fields::drawComboBoxLabel(*combo, *painter, *this, widget);
+            return fields::drawComboBoxLabel(*combo, *painter, *this);
         break;
     case CE_ItemViewItem:
         if (const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
@@ -193,7 +180,7 @@ void AbissoraStyle::drawControl(ControlElement element, const QStyleOption* opti
         return;
     case CE_ProgressBarContents:
         if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option))
-            return indicators::drawProgressBar(*bar, *painter, widget);
+            return bars::drawProgressBar(*bar, *painter, widget);
         break;
     default:
         break;
@@ -215,7 +202,7 @@ void AbissoraStyle::drawComplexControl(ComplexControl control, const QStyleOptio
         break;
     case CC_ScrollBar:
         if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
-            return scrollbars::draw(*bar, *painter);
+            return bars::drawScrollBar(*bar, *painter);
         break;
     case CC_ToolButton:
         if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(option)) {

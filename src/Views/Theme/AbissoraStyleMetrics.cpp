@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "AbissoraStyle.h"
 
-#include "ButtonPainting.h"
-#include "FieldPainting.h"
-#include "IndicatorPainting.h"
-#include "ItemViewPainting.h"
-#include "MenuPainting.h"
+#include "ControlPainting.h"
 #include "Metrics.h"
-#include "ScrollBarPainting.h"
-#include "TextEdits.h"
+#include "Painting.h"
 #include "TypeScale.h"
-#include "WindowShape.h"
 
 #include <QAbstractItemView>
-#include <QCommandLinkButton>
-#include <QStyleOption>
 #include <algorithm>
 
 // Places, sizes and behaviour; what is drawn there is in AbissoraStyle.cpp.
@@ -23,7 +15,6 @@ namespace abissora {
 namespace {
 
 constexpr int longestAnimation = 150; // milliseconds
-constexpr int focusPadding = 3;       // between a check box's text and its ring
 
 } // namespace
 
@@ -36,8 +27,6 @@ QRect AbissoraStyle::subElementRect(SubElement element, const QStyleOption* opti
     }
     if (element == SE_ItemViewItemFocusRect)
         return option->rect;
-    if (element == SE_CheckBoxFocusRect || element == SE_RadioButtonFocusRect)
-        return QProxyStyle::subElementRect(element, option, widget).adjusted(-focusPadding, 0, focusPadding, 0);
     return QProxyStyle::subElementRect(element, option, widget);
 }
 
@@ -55,7 +44,7 @@ QRect AbissoraStyle::subControlRect(ComplexControl control, const QStyleOptionCo
         break;
     case CC_ScrollBar:
         if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
-            return scrollbars::part(*bar, part);
+            return bars::scrollBarPart(*bar, part);
         break;
     default:
         break;
@@ -68,8 +57,7 @@ QSize AbissoraStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
 {
     switch (type) {
     case CT_PushButton:
-        if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-            button && qobject_cast<const QCommandLinkButton*>(widget) == nullptr)
+        if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option); button != nullptr)
             return buttons::pushButtonSize(*button, widget);
         break;
     case CT_ToolButton: {
@@ -77,9 +65,6 @@ QSize AbissoraStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
         const QSize base = QProxyStyle::sizeFromContents(type, option, size, widget);
         return {std::max(base.width(), side), std::max(base.height(), side)};
     }
-    case CT_CheckBox:
-    case CT_RadioButton:
-        return QProxyStyle::sizeFromContents(type, option, size, widget).grownBy({0, 1, focusPadding, 1});
     case CT_LineEdit:
         return {size.width() + 2 * metrics::fieldPadding, controlHeight(option->fontMetrics)};
     case CT_ComboBox:
@@ -115,7 +100,7 @@ int AbissoraStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
     switch (metric) {
     case PM_DefaultFrameWidth:
         // Wide enough for the rounded corner to lie outside the square viewport.
-        if (isTextEdit(widget))
+        if (fields::isTextEdit(widget))
             return 4;
         return qobject_cast<const QAbstractItemView*>(widget) != nullptr ? 3 : 1;
     case PM_SmallIconSize:
@@ -125,18 +110,10 @@ int AbissoraStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
         return metrics::iconSize;
     case PM_LineEditIconMargin:
         return metrics::spaceS;
-    case PM_IndicatorWidth:
-    case PM_IndicatorHeight:
-    case PM_ExclusiveIndicatorWidth:
-    case PM_ExclusiveIndicatorHeight:
-        return indicators::boxSide;
-    case PM_CheckBoxLabelSpacing:
-    case PM_RadioButtonLabelSpacing:
-        return metrics::spaceS;
     case PM_ScrollBarExtent:
-        return scrollbars::extent;
+        return bars::extent;
     case PM_ScrollBarSliderMin:
-        return scrollbars::shortestThumb;
+        return bars::shortestThumb;
     case PM_ScrollView_ScrollBarSpacing:
         return 0;
     case PM_SplitterWidth:

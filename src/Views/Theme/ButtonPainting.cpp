@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ButtonPainting.h"
+#include "ControlPainting.h"
 
 #include "ControlLook.h"
 #include "Metrics.h"
@@ -9,7 +9,6 @@
 
 #include <QPainter>
 #include <QPushButton>
-#include <QStyleOptionButton>
 
 namespace abissora::buttons {
 
@@ -60,10 +59,9 @@ int paddingOf(ButtonLook look)
     return isLink(look) ? metrics::spaceXS : metrics::controlPadding;
 }
 
-QFont fontOf(const QStyleOptionButton& option, const QWidget* widget)
+QFont fontOf(const QWidget* widget)
 {
     QFont font = widget != nullptr ? widget->font() : QFont();
-    Q_UNUSED(option)
     font.setWeight(QFont::Medium);
     return font;
 }
@@ -128,7 +126,7 @@ void drawPushButtonLabel(const QStyleOptionButton& option, QPainter& painter, co
     const ButtonLook look = lookOf(option, widget);
     const bool enabled = option.state & QStyle::State_Enabled;
     painter.save();
-    painter.setFont(fontOf(option, widget));
+    painter.setFont(fontOf(widget));
     const QFontMetrics metrics(painter.font());
 
     const int width = std::min(contentWidth(option, metrics), option.rect.width());
@@ -156,7 +154,7 @@ void drawPushButtonLabel(const QStyleOptionButton& option, QPainter& painter, co
 
 QSize pushButtonSize(const QStyleOptionButton& option, const QWidget* widget)
 {
-    const QFontMetrics metrics(fontOf(option, widget));
+    const QFontMetrics metrics(fontOf(widget));
     const ButtonLook look = lookOf(option, widget);
     const int width = contentWidth(option, metrics) + 2 * paddingOf(look);
     const int height = isLink(look) ? metrics.height() + metrics::spaceS : controlHeight(metrics);

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "FieldPainting.h"
+#include "ControlPainting.h"
 
 #include "ControlLook.h"
-#include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
-#include "SymbolIcon.h"
 #include "Tokens.h"
 #include "TypeScale.h"
 
-#include <QDateTimeEdit>
 #include <QPainter>
-#include <QStyleOption>
+#include <QPlainTextEdit>
+#include <QTextEdit>
 
 namespace abissora::fields {
 
@@ -28,8 +26,6 @@ bool sideBySide(const QStyleOptionSpinBox& option)
 
 int buttonsWidth(const QStyleOptionSpinBox& option)
 {
-    if (option.buttonSymbols == QAbstractSpinBox::NoButtons)
-        return 0;
     return sideBySide(option) ? 2 * sideButtonWidth : stackedButtonWidth;
 }
 
@@ -50,6 +46,11 @@ void drawSpinButton(const QStyleOptionSpinBox& option, QPainter& painter, QStyle
 }
 
 } // namespace
+
+bool isTextEdit(const QWidget* widget)
+{
+    return qobject_cast<const QTextEdit*>(widget) != nullptr || qobject_cast<const QPlainTextEdit*>(widget) != nullptr;
+}
 
 void drawFieldPanel(const QStyleOption& option, QPainter& painter, const QWidget* widget)
 {
@@ -72,28 +73,13 @@ void drawComboBox(const QStyleOptionComboBox& option, QPainter& painter, const Q
     const bool enabled = option.state & QStyle::State_Enabled;
     drawFieldPanel(option, painter, widget);
     const QRect arrow = comboBoxPart(option, QStyle::SC_ComboBoxArrow);
-    if (qobject_cast<const QDateTimeEdit*>(widget) == nullptr) {
-        drawGlyph(painter, arrow, Glyph::ChevronUpDown, enabled ? tokens.text : tokens.disabled, 10);
-        return;
-    }
-    const bool over = enabled && (option.activeSubControls & QStyle::SC_ComboBoxArrow) &&
-                      (option.state & (QStyle::State_MouseOver | QStyle::State_Sunken));
-    if (over) {
-        QColor veil = tokens.text;
-        veil.setAlphaF(0.08F);
-        drawPanel(painter, arrow.adjusted(3, 3, -3, -3), metrics::controlRadius - 3, veil, {});
-    }
-    QRect place(0, 0, metrics::iconSize, metrics::iconSize);
-    place.moveCenter(arrow.center());
-    symbolIcon(u"calendar"_s, enabled ? tokens.secondaryText : tokens.disabled).paint(&painter, place);
+    drawGlyph(painter, arrow, Glyph::ChevronUpDown, enabled ? tokens.text : tokens.disabled, 10);
 }
 
-void drawComboBoxLabel(const QStyleOptionComboBox& option, QPainter& painter, const QStyle& style,
-                       const QWidget* widget)
+void drawComboBoxLabel(const QStyleOptionComboBox& option, QPainter& painter, const QStyle& style)
 {
     if (option.editable)
         return;
-    Q_UNUSED(widget)
     const bool enabled = option.state & QStyle::State_Enabled;
     QRect place = comboBoxPart(option, QStyle::SC_ComboBoxEditField).adjusted(2, 0, 0, 0);
     if (!option.currentIcon.isNull()) {
@@ -138,8 +124,6 @@ QSize comboBoxSize(const QStyleOptionComboBox& option, QSize contents)
 void drawSpinBox(const QStyleOptionSpinBox& option, QPainter& painter, const QWidget* widget)
 {
     drawFieldPanel(option, painter, widget);
-    if (option.buttonSymbols == QAbstractSpinBox::NoButtons)
-        return;
     const bool side = sideBySide(option);
     if (side) {
         const QRect minus = spinBoxPart(option, QStyle::SC_SpinBoxDown);
@@ -162,7 +146,7 @@ QRect spinBoxPart(const QStyleOptionSpinBox& option, QStyle::SubControl part)
     case QStyle::SC_SpinBoxFrame:
         return all;
     case QStyle::SC_SpinBoxEditField:
-        place = all.adjusted(metrics::fieldPadding, 1, -buttons - (buttons ? 0 : metrics::fieldPadding), -1);
+        place = all.adjusted(metrics::fieldPadding, 1, -buttons, -1);
         break;
     case QStyle::SC_SpinBoxUp:
         place = sideBySide(option) ? strip.adjusted(sideButtonWidth, 0, 0, 0)
@@ -180,8 +164,7 @@ QRect spinBoxPart(const QStyleOptionSpinBox& option, QStyle::SubControl part)
 
 QSize spinBoxSize(const QStyleOptionSpinBox& option, QSize contents)
 {
-    return {contents.width() + metrics::fieldPadding + metrics::spaceXS +
-                std::max(buttonsWidth(option), metrics::fieldPadding),
+    return {contents.width() + metrics::fieldPadding + metrics::spaceXS + buttonsWidth(option),
             controlHeight(option.fontMetrics)};
 }
 

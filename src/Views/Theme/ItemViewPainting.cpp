@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ItemViewPainting.h"
+#include "ControlPainting.h"
 
 #include "ControlLook.h"
 #include "Metrics.h"
@@ -9,8 +9,6 @@
 
 #include <QHeaderView>
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOption>
 
 namespace abissora::itemviews {
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "MenuPainting.h"
+#include "ControlPainting.h"
 
 #include "Metrics.h"
 #include "Painting.h"
 #include "Tokens.h"
 
 #include <QPainter>
-#include <QStyleOptionMenuItem>
 
 namespace abissora::menus {
 

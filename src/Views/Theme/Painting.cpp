@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Painting.h"
 
+#include "Literals.h"
 #include "Metrics.h"
 #include "Tokens.h"
 
 #include <QAbstractScrollArea>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
@@ -42,7 +44,6 @@ QPainterPath glyphPath(Glyph glyph)
     case Glyph::Check:
         line({{-4, 0}, {-1.2, 2.8}, {4, -2.8}});
         break;
-    case Glyph::Dash:
     case Glyph::Minus:
         line({{-4, 0}, {4, 0}});
         break;
@@ -173,6 +174,18 @@ QColor touched(const QColor& fill, const QStyleOption& option)
     if (option.state & (QStyle::State_Sunken | QStyle::State_On))
         return mix(fill, ink, 0.12);
     return option.state & QStyle::State_MouseOver ? mix(fill, ink, 0.05) : fill;
+}
+
+bool windowsCanBeTranslucent()
+{
+    return QGuiApplication::platformName() != "xcb"_L1;
+}
+
+QRegion roundedRegion(const QRect& rect, int radius)
+{
+    QPainterPath path;
+    path.addRoundedRect(rect, radius, radius);
+    return QRegion(path.toFillPolygon().toPolygon());
 }
 
 } // namespace abissora

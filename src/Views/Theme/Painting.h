@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QRectF>
+#include <QRegion>
 
 class QAbstractScrollArea;
 class QPainter;
@@ -35,7 +36,7 @@ void drawFocusRing(QAbstractScrollArea& area, qreal radius = 0);
 void drawHorizontalHairline(QPainter& painter, qreal left, qreal right, qreal y, const QColor& color);
 void drawVerticalHairline(QPainter& painter, qreal top, qreal bottom, qreal x, const QColor& color);
 
-enum class Glyph { Check, Dash, Plus, Minus, ChevronUp, ChevronDown, ChevronLeft, ChevronRight, ChevronUpDown };
+enum class Glyph { Check, Plus, Minus, ChevronUp, ChevronDown, ChevronLeft, ChevronRight, ChevronUpDown };
 
 /// Centred in the rectangle; `size` is the side of the glyph's square.
 void drawGlyph(QPainter& painter, const QRectF& rect, Glyph glyph, const QColor& color, qreal size = 10);
@@ -45,5 +46,11 @@ void drawGlyph(QPainter& painter, const QRectF& rect, Glyph glyph, const QColor&
 
 /// The fill of a control under the pointer or pressed: a little of the text's colour over it.
 [[nodiscard]] QColor touched(const QColor& fill, const QStyleOption& option);
+
+/// False under X11, where a translucent window shows black corners unless a compositor runs; such windows take
+/// roundedRegion() as their mask instead.
+[[nodiscard]] bool windowsCanBeTranslucent();
+
+[[nodiscard]] QRegion roundedRegion(const QRect& rect, int radius);
 
 } // namespace abissora

@@ -3,7 +3,6 @@
 
 #include "AbissoraStyle.h"
 #include "Literals.h"
-#include "SchemePalette.h"
 
 #include <QApplication>
 #include <QToolTip>
@@ -23,6 +22,43 @@ QFont interfaceFont(QFont system)
 }
 
 } // namespace
+
+QPalette paletteFor(Scheme scheme)
+{
+    const Tokens& tokens = Tokens::of(scheme);
+    QPalette palette;
+    const auto set = [&](QPalette::ColorRole role, const QColor& enabled, const QColor& disabled) {
+        palette.setColor(QPalette::Active, role, enabled);
+        palette.setColor(QPalette::Inactive, role, enabled);
+        palette.setColor(QPalette::Disabled, role, disabled);
+    };
+    const auto setBoth = [&](QPalette::ColorRole role, const QColor& color) { set(role, color, color); };
+
+    setBoth(QPalette::Window, tokens.window);
+    set(QPalette::WindowText, tokens.text, tokens.disabled);
+    set(QPalette::Base, tokens.field, tokens.window);
+    setBoth(QPalette::AlternateBase, tokens.sidebar);
+    set(QPalette::Text, tokens.text, tokens.disabled);
+    set(QPalette::PlaceholderText, tokens.secondaryText, tokens.disabled);
+    setBoth(QPalette::Button, tokens.surface);
+    set(QPalette::ButtonText, tokens.text, tokens.disabled);
+    setBoth(QPalette::BrightText, tokens.onFill);
+
+    setBoth(QPalette::Light, tokens.surface);
+    setBoth(QPalette::Midlight, tokens.divider);
+    setBoth(QPalette::Mid, tokens.border);
+    set(QPalette::Dark, tokens.strongBorder, tokens.border);
+    set(QPalette::Shadow, tokens.secondaryText, tokens.border);
+
+    set(QPalette::Highlight, tokens.accentFill, tokens.border);
+    set(QPalette::HighlightedText, tokens.onFill, tokens.text);
+    set(QPalette::Link, tokens.accentInk, tokens.disabled);
+    set(QPalette::LinkVisited, tokens.named(NamedColor::purple), tokens.disabled);
+    setBoth(QPalette::NoRole, tokens.window);
+    setBoth(QPalette::ToolTipBase, tokens.surface);
+    setBoth(QPalette::ToolTipText, tokens.text);
+    return palette;
+}
 
 void applyTheme(QApplication& application, Scheme scheme)
 {

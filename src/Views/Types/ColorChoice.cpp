@@ -3,7 +3,7 @@
 
 #include "Accessibility.h"
 #include "FlowLayout.h"
-#include "InkLabel.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"

@@ -2,21 +2,20 @@
 #include "EquipmentTypeFormView.h"
 
 #include "Buttons.h"
+#include "Cards.h"
 #include "ColorChoice.h"
 #include "EquipmentTypeViewModel.h"
 #include "FormRow.h"
-#include "GroupBox.h"
 #include "IconPicker.h"
-#include "IconTile.h"
+#include "IconViews.h"
 #include "IdGenerator.h"
-#include "InkLabel.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Stepper.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
 #include "TypeManagement.h"
-#include "WrapLabel.h"
 
 #include <QEvent>
 #include <QHBoxLayout>

@@ -5,7 +5,7 @@
 #include "Buttons.h"
 #include "EmptyState.h"
 #include "EquipmentTypeFormView.h"
-#include "InkLabel.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "SearchField.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CoalescedUpdate.h"
 #include "EquipmentTypeViewModel.h"
 #include "Sheet.h"
+#include "VisibleUpdate.h"
 
 class QStackedWidget;
 

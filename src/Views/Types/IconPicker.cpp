@@ -4,7 +4,7 @@
 #include "Accessibility.h"
 #include "EquipmentTypeFormState.h"
 #include "GridFocus.h"
-#include "InkLabel.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Buttons.h"
+#include "Cards.h"
 #include "DivingIcons.h"
-#include "GroupBox.h"
 
 namespace abissora {
 

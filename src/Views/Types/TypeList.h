@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Card.h"
+#include "Cards.h"
 #include "EquipmentTypeModel.h"
 
 class QScrollArea;

@@ -3,13 +3,13 @@
 
 #include "Accessibility.h"
 #include "Buttons.h"
-#include "IconTile.h"
+#include "IconViews.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
-#include "WrapLabel.h"
 
 #include <QHBoxLayout>
 #include <QPainter>

@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "Card.h"
+#include "Cards.h"
 #include "ComponentTest.h"
-#include "GroupBox.h"
-#include "IconLabel.h"
-#include "IconTile.h"
-#include "IconView.h"
+#include "IconViews.h"
 #include "Literals.h"
-#include "Separator.h"
 #include "SymbolIcon.h"
 
 #include <QLabel>

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "CheckedField.h"
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
 #include "FormRow.h"

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Buttons.h"
+#include "Cards.h"
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
 #include "FormRow.h"
-#include "GroupBox.h"
 #include "Literals.h"
-#include "Scrim.h"
 #include "Sheet.h"
 
 #include <QLineEdit>
@@ -172,14 +171,13 @@ void tst_Sheet::theFocusReturnsToTheOpener()
 void tst_Sheet::theWindowBelowIsDimmedMeanwhile()
 {
     m_sheet->open();
-    const auto* const scrim = m_window->findChild<Scrim*>();
-    QVERIFY(scrim != nullptr);
-    QCOMPARE(scrim->geometry(), m_window->rect());
+    const QWidget& scrim = test::part(*m_window, u"scrim"_s);
+    QCOMPARE(scrim.geometry(), m_window->rect());
     m_window->resize(1100, 720);
     test::settle();
-    QCOMPARE(scrim->geometry(), m_window->rect());
+    QCOMPARE(scrim.geometry(), m_window->rect());
     m_sheet->reject();
-    QVERIFY(m_window->findChild<Scrim*>() == nullptr);
+    QVERIFY(!test::isShown(*m_window, u"scrim"_s));
 }
 
 void tst_Sheet::itIsCentredAndFitsTheWindow()

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "CoalescedUpdate.h"
 #include "CommandLine.h"
 #include "Literals.h"
 #include "SingleInstance.h"
 #include "Snapshot.h"
 #include "TestRunner.h"
+#include "VisibleUpdate.h"
 
 #include <QImage>
 #include <QLabel>

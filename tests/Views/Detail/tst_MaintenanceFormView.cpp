@@ -4,11 +4,11 @@
 #include "ScaledText.h"
 
 #include "Buttons.h"
+#include "Cards.h"
 #include "ClippedTexts.h"
 #include "CostField.h"
 #include "DateField.h"
 #include "DetailParts.h"
-#include "GroupBox.h"
 #include "TestRunner.h"
 #include "ToggleSwitch.h"
 

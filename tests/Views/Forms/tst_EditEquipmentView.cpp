@@ -2,8 +2,8 @@
 #include "EditEquipmentView.h"
 #include "Literals.h"
 
+#include "Cards.h"
 #include "FormDriver.h"
-#include "GroupBox.h"
 #include "ScreenFixture.h"
 #include "TestRunner.h"
 #include "Theme.h"

@@ -3,9 +3,9 @@
 #include "Literals.h"
 #include "ScaledText.h"
 
+#include "Cards.h"
 #include "ClippedTexts.h"
 #include "FormDriver.h"
-#include "GroupBox.h"
 #include "ScreenFixture.h"
 #include "TestRunner.h"
 #include "Theme.h"

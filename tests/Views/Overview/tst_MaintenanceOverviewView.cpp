@@ -3,7 +3,7 @@
 #include "MaintenanceOverviewView.h"
 #include "ScaledText.h"
 
-#include "IconTile.h"
+#include "IconViews.h"
 #include "OverviewParts.h"
 #include "SymbolIcon.h"
 #include "TestRunner.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "IconLabel.h"
+#include "IconViews.h"
 #include "Literals.h"
 #include "ScreenFixture.h"
 #include "SettingsGroupBox.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Alert.h"
 #include "Buttons.h"
+#include "Cards.h"
 #include "ClippedTexts.h"
-#include "GroupBox.h"
 #include "Literals.h"
 #include "ScaledText.h"
 #include "ScreenFixture.h"

@@ -5,7 +5,7 @@
 #include "EquipmentListView.h"
 #include "EquipmentTableView.h"
 #include "FilterMenu.h"
-#include "IconTile.h"
+#include "IconViews.h"
 #include "Literals.h"
 #include "MainWindow.h"
 #include "ShellFixture.h"

@@ -31,7 +31,6 @@ struct Tokens
     QColor selection; ///< selected table row
     QColor danger;
     QColor dangerFill;
-    QColor dangerTint;
     QColor ok;
     QColor warning;
     QColor scrim; ///< over what a sheet covers; translucent

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
-#include "ScrollBarPainting.h"
+#include "ControlPainting.h"
 
+#include "ControlLook.h"
 #include "Painting.h"
 #include "Tokens.h"
 
 #include <QPainter>
-#include <QStyleOptionSlider>
 #include <algorithm>
 
-namespace abissora::scrollbars {
+namespace abissora::bars {
 
 namespace {
+
+constexpr qreal barHeight = 8;
 
 struct Thumb
 {
@@ -31,9 +33,21 @@ Thumb thumbOf(const QStyleOptionSlider& option)
     return {start, length};
 }
 
+/// A rounded bar of which `share`, from 0 to 1, is filled.
+void drawBar(QPainter& painter, const QRectF& rect, double share, const QColor& fill, const QPalette& palette)
+{
+    const qreal radius = rect.height() / 2;
+    drawPanel(painter, rect, radius, Tokens::of(palette).divider, {});
+    if (share <= 0)
+        return;
+    QRectF filled = rect;
+    filled.setWidth(std::max(rect.height(), rect.width() * std::min(share, 1.0)));
+    drawPanel(painter, filled, radius, fill, {});
+}
+
 } // namespace
 
-void draw(const QStyleOptionSlider& option, QPainter& painter)
+void drawScrollBar(const QStyleOptionSlider& option, QPainter& painter)
 {
     if (option.maximum <= option.minimum)
         return;
@@ -41,12 +55,13 @@ void draw(const QStyleOptionSlider& option, QPainter& painter)
     const bool touched = option.state & (QStyle::State_MouseOver | QStyle::State_Sunken);
     const bool active = touched && (option.activeSubControls & QStyle::SC_ScrollBarSlider);
     const qreal inset = touched ? 2 : 3;
-    const QRectF thumb = QRectF(part(option, QStyle::SC_ScrollBarSlider)).adjusted(inset, inset, -inset, -inset);
+    const QRectF thumb =
+        QRectF(scrollBarPart(option, QStyle::SC_ScrollBarSlider)).adjusted(inset, inset, -inset, -inset);
     drawPanel(painter, thumb, std::min(thumb.width(), thumb.height()) / 2,
               active ? tokens.secondaryText : tokens.strongBorder, {});
 }
 
-QRect part(const QStyleOptionSlider& option, QStyle::SubControl part)
+QRect scrollBarPart(const QStyleOptionSlider& option, QStyle::SubControl part)
 {
     const QRect& all = option.rect;
     const bool horizontal = option.orientation == Qt::Horizontal;
@@ -71,4 +86,17 @@ QRect part(const QStyleOptionSlider& option, QStyle::SubControl part)
     }
 }
 
-} // namespace abissora::scrollbars
+void drawProgressBar(const QStyleOptionProgressBar& option, QPainter& painter, const QWidget* widget)
+{
+    const Tokens& tokens = Tokens::of(option.palette);
+    const int range = option.maximum - option.minimum;
+    const double share = range > 0 ? double(option.progress - option.minimum) / range : 0;
+    QRectF bar(option.rect);
+    bar.setHeight(std::min(barHeight, bar.height()));
+    bar.moveCenter(QRectF(option.rect).center());
+    const std::optional<NamedColor> color = barColor(widget);
+    const QColor fill = color ? tokens.named(*color) : tokens.accentFill;
+    drawBar(painter, bar, share, option.state & QStyle::State_Enabled ? fill : tokens.disabled, option.palette);
+}
+
+} // namespace abissora::bars

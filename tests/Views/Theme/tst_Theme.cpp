@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Literals.h"
-#include "SchemePalette.h"
 #include "TestRunner.h"
+#include "Theme.h"
 
 #include <QTest>
 
@@ -9,7 +9,7 @@ using namespace abissora;
 
 Q_DECLARE_METATYPE(abissora::Scheme)
 
-class tst_SchemePalette : public test::TestCase
+class tst_Theme : public test::TestCase
 {
     Q_OBJECT
 
@@ -21,14 +21,14 @@ private Q_SLOTS:
     void rolesThatWidgetsRelyOn();
 };
 
-void tst_SchemePalette::everyRoleOfEveryGroupIsSet_data()
+void tst_Theme::everyRoleOfEveryGroupIsSet_data()
 {
     QTest::addColumn<Scheme>("scheme");
     QTest::newRow("light") << Scheme::Light;
     QTest::newRow("dark") << Scheme::Dark;
 }
 
-void tst_SchemePalette::everyRoleOfEveryGroupIsSet()
+void tst_Theme::everyRoleOfEveryGroupIsSet()
 {
     QFETCH(const Scheme, scheme);
     const QPalette palette = paletteFor(scheme);
@@ -41,13 +41,13 @@ void tst_SchemePalette::everyRoleOfEveryGroupIsSet()
     }
 }
 
-void tst_SchemePalette::inactiveWindowsLookLikeActiveOnes()
+void tst_Theme::inactiveWindowsLookLikeActiveOnes()
 {
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark})
         QVERIFY(paletteFor(scheme).isEqual(QPalette::Active, QPalette::Inactive));
 }
 
-void tst_SchemePalette::disabledTextIsPaler()
+void tst_Theme::disabledTextIsPaler()
 {
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
         const QPalette palette = paletteFor(scheme);
@@ -56,7 +56,7 @@ void tst_SchemePalette::disabledTextIsPaler()
     }
 }
 
-void tst_SchemePalette::rolesThatWidgetsRelyOn()
+void tst_Theme::rolesThatWidgetsRelyOn()
 {
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
         const QPalette palette = paletteFor(scheme);
@@ -70,5 +70,5 @@ void tst_SchemePalette::rolesThatWidgetsRelyOn()
     }
 }
 
-ABISSORA_TEST(tst_SchemePalette);
-#include "tst_SchemePalette.moc"
+ABISSORA_TEST(tst_Theme);
+#include "tst_Theme.moc"

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+#include "Labels.h"
+
+#include "Literals.h"
+
+#include <QEvent>
+#include <QHelpEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QTextDocument>
+#include <QTextLayout>
+#include <QToolTip>
+
+namespace abissora {
+
+namespace {
+
+/// Lays the text out in lines of the given width and gives its height.
+int layOut(QTextLayout& layout, const QLabel& label, int width)
+{
+    QTextOption option(label.alignment() & Qt::AlignHorizontal_Mask);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setTextDirection(label.layoutDirection());
+    layout.setTextOption(option);
+    layout.beginLayout();
+    qreal height = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0, height});
+        height += line.height();
+    }
+    layout.endLayout();
+    return qCeil(height);
+}
+
+QString lines(QString text)
+{
+    return text.replace(u'\n', QChar::LineSeparator);
+}
+
+} // namespace
+
+InkLabel::InkLabel(TextStyle style, Ink ink, const QString& text, QWidget* parent)
+    : QLabel(text, parent)
+    , m_style(style)
+    , m_ink(ink)
+{
+    setTextFormat(Qt::PlainText);
+    dress();
+}
+
+void InkLabel::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    const bool affects = event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationFontChange;
+    if (affects && !m_dressing)
+        dress();
+}
+
+void InkLabel::dress()
+{
+    const QScopedValueRollback dressing(m_dressing, true);
+    setFont(abissora::font(m_style));
+    QPalette own;
+    own.setColor(QPalette::WindowText, Tokens::of(palette()).*m_ink);
+    setPalette(own);
+}
+
+WrapLabel::WrapLabel(TextStyle style, Ink ink, const QString& text, QWidget* parent)
+    : InkLabel(style, ink, text, parent)
+{
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+QSize WrapLabel::sizeHint() const
+{
+    const QSize size = fontMetrics().size(0, text());
+    return {size.width() + 1, heightForWidth(size.width() + 1)};
+}
+
+QSize WrapLabel::minimumSizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * 4, fontMetrics().height()};
+}
+
+int WrapLabel::heightForWidth(int width) const
+{
+    QTextLayout layout(lines(text()), font());
+    return std::max(layOut(layout, *this, width), fontMetrics().height());
+}
+
+void WrapLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    QTextLayout layout(lines(text()), font());
+    const int tall = layOut(layout, *this, width());
+    layout.draw(&painter, QPointF(0, alignment() & Qt::AlignTop ? 0 : (height() - tall) / 2.0));
+}
+
+ElidedLabel::ElidedLabel(TextStyle style, Ink ink, QWidget* parent)
+    : InkLabel(style, ink, {}, parent)
+{}
+
+QString ElidedLabel::line() const
+{
+    return text().replace(u'\n', u' ');
+}
+
+QSize ElidedLabel::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(line()) + 1, fontMetrics().height()};
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * 4, fontMetrics().height()};
+}
+
+bool ElidedLabel::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const bool fits = sizeHint().width() <= width();
+        // Plain text whatever it looks like: a tool tip would take "<b>" for markup.
+        const QString tip = fits ? QString() : u"<p>%1</p>"_s.arg(text().toHtmlEscaped());
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
+        return true;
+    }
+    return InkLabel::event(event);
+}
+
+void ElidedLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    painter.drawText(rect(), Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine,
+                     fontMetrics().elidedText(line(), Qt::ElideRight, width()));
+}
+
+QString toolTipText(const QString& text)
+{
+    // Only where it must be: screen readers read tool tips, too.
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
+}
+
+} // namespace abissora
