@@ -116,7 +116,7 @@ private:
 void tst_HelpPage::everythingIsCopiedAsItReads()
 {
     Shown shown(QString::fromUtf8(everyKind));
-    activate(shown.page);
+    test::activate(shown.page);
     QTest::keySequence(&shown.page, QKeySequence::SelectAll);
     QTest::keySequence(&shown.page, QKeySequence::Copy);
     QCOMPARE(QGuiApplication::clipboard()->text(), u"Titolo\n"
@@ -137,7 +137,7 @@ void tst_HelpPage::everythingIsCopiedAsItReads()
 void tst_HelpPage::aSelectionGoesAcrossBlocks()
 {
     Shown shown(QString::fromUtf8(everyKind));
-    activate(shown.page);
+    test::activate(shown.page);
     const QRect first = shown.page.cursorRect(at(shown.page, u"Primo"_s));
     const QRect last = shown.page.cursorRect(at(shown.page, u"Due"_s));
     QWidget* const viewport = shown.page.viewport();
@@ -190,7 +190,7 @@ void tst_HelpPage::htmlIsText()
 void tst_HelpPage::picturesAreNeverLoaded()
 {
     Shown shown(u"![una bombola](:/appicon/abissora.svg)\n\n- ![](file:///a.png)\n\n<img src=\"b.png\">"_s);
-    activate(shown.page);
+    test::activate(shown.page);
     QVERIFY(!shown.page.toPlainText().contains(QChar::ObjectReplacementCharacter));
     QVERIFY(shown.page.toPlainText().contains(u"una bombola"_s));
     QVERIFY(!shown.page.loadResource(QTextDocument::ImageResource, QUrl(u":/appicon/abissora.svg"_s)).isValid());
@@ -199,7 +199,7 @@ void tst_HelpPage::picturesAreNeverLoaded()
 void tst_HelpPage::aLinkIsOpenedByAClick()
 {
     Shown shown(QString::fromUtf8(everyKind));
-    activate(shown.page);
+    test::activate(shown.page);
     const QPoint link = shown.page.cursorRect(at(shown.page, u"cita"_s)).center();
     QTest::mouseClick(shown.page.viewport(), Qt::LeftButton, {}, link);
     QCOMPARE(shown.opener.opened(), QList<QUrl>{QUrl(u"https://abissora.example/a?b=c&d=e"_s)});
@@ -209,7 +209,7 @@ void tst_HelpPage::aLinkIsOpenedByAClick()
 void tst_HelpPage::aLinkIsOpenedByTheKeyboard()
 {
     Shown shown(QString::fromUtf8(everyKind));
-    activate(shown.page);
+    test::activate(shown.page);
     shown.page.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&shown.page, Qt::Key_Tab);
     QTest::keyClick(&shown.page, Qt::Key_Return);
@@ -220,7 +220,7 @@ void tst_HelpPage::aLinkThatNothingOpensIsTold()
 {
     Shown shown(QString::fromUtf8(everyKind));
     shown.opener.succeed(false);
-    activate(shown.page);
+    test::activate(shown.page);
     const QPoint link = shown.page.cursorRect(at(shown.page, u"cita"_s)).center();
     QTest::mouseClick(shown.page.viewport(), Qt::LeftButton, {}, link);
     const auto* notice = shown.page.findChild<Alert*>();
@@ -232,7 +232,7 @@ void tst_HelpPage::hostileLinksAreText()
 {
     Shown shown(u"[uno](javascript:alert(1)) [due](file:///etc/passwd)\n\n- [tre](data:text/html,a)\n"
                 "1. [quattro](HELP.md)\n> [cinque](qrc:/a)"_s);
-    activate(shown.page);
+    test::activate(shown.page);
     for (const char* text : {"uno", "due", "tre", "quattro", "cinque"}) {
         const QTextCursor link = at(shown.page, QString::fromUtf8(text));
         QVERIFY(!link.isNull());
@@ -245,7 +245,7 @@ void tst_HelpPage::hostileLinksAreText()
 void tst_HelpPage::theSchemeSwitchesLive()
 {
     Shown shown(QString::fromUtf8(everyKind) + manyParagraphs());
-    activate(shown.page);
+    test::activate(shown.page);
     QTextCursor selected = at(shown.page, u"Terzo"_s);
     shown.page.setTextCursor(selected);
     shown.page.verticalScrollBar()->setValue(70);
@@ -256,7 +256,7 @@ void tst_HelpPage::theSchemeSwitchesLive()
 
     Shown fresh(QString::fromUtf8(everyKind) + manyParagraphs());
     fresh.page.setTextCursor(at(fresh.page, u"Terzo"_s));
-    activate(fresh.page);
+    test::activate(fresh.page);
     fresh.page.verticalScrollBar()->setValue(70);
     QCOMPARE(shown.page.viewport()->grab().toImage(), fresh.page.viewport()->grab().toImage());
 }
@@ -264,7 +264,7 @@ void tst_HelpPage::theSchemeSwitchesLive()
 void tst_HelpPage::theTextSizeFollowsTheApplication()
 {
     Shown shown(QString::fromUtf8(everyKind));
-    activate(shown.page);
+    test::activate(shown.page);
     const auto size = [&] { return at(shown.page, u"Primo"_s).charFormat().font().pointSizeF(); };
     const qreal before = size();
     QFont larger = m_font;
@@ -299,7 +299,7 @@ void tst_HelpPage::theKeysScroll()
     QFETCH(const int, modifiers);
     QFETCH(const bool, isForward);
     Shown shown(manyParagraphs());
-    activate(shown.page);
+    test::activate(shown.page);
     QScrollBar& bar = *shown.page.verticalScrollBar();
     const int middle = bar.maximum() / 2;
     bar.setValue(middle);
@@ -311,7 +311,7 @@ void tst_HelpPage::theKeysScroll()
 void tst_HelpPage::shiftedKeysSelect()
 {
     Shown shown(manyParagraphs());
-    activate(shown.page);
+    test::activate(shown.page);
     sendKey(shown.page, Qt::Key_Down, Qt::ShiftModifier);
     sendKey(shown.page, Qt::Key_Down, Qt::ShiftModifier);
     QVERIFY(shown.page.textCursor().selectedText().startsWith(u"Titolo\u2029Una riga di testo.\u2029"_s));
@@ -321,7 +321,7 @@ void tst_HelpPage::shiftedKeysSelect()
 void tst_HelpPage::escapeIsLeftToOthers()
 {
     Shown shown(manyParagraphs());
-    activate(shown.page);
+    test::activate(shown.page);
     QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     QApplication::sendEvent(&shown.page, &escape);
     QVERIFY(!escape.isAccepted());
@@ -330,7 +330,7 @@ void tst_HelpPage::escapeIsLeftToOthers()
 void tst_HelpPage::anotherSectionIsShownFromItsTop()
 {
     Shown shown(manyParagraphs());
-    activate(shown.page);
+    test::activate(shown.page);
     shown.page.selectAll();
     shown.page.verticalScrollBar()->setValue(200);
     shown.page.setSection({u"sezione-1"_s, u"Altro"_s, manyParagraphs()});
@@ -342,7 +342,7 @@ void tst_HelpPage::anotherSectionIsShownFromItsTop()
 void tst_HelpPage::theSameSectionStaysWhereItIs()
 {
     Shown shown(manyParagraphs());
-    activate(shown.page);
+    test::activate(shown.page);
     shown.page.verticalScrollBar()->setValue(200);
     shown.page.setSection(section(manyParagraphs()));
     QCOMPARE(shown.page.verticalScrollBar()->value(), 200);
@@ -365,7 +365,7 @@ void tst_HelpPage::nothingIsWiderThanThePage()
 {
     QFETCH(const QString, body);
     Shown shown(body);
-    activate(shown.page);
+    test::activate(shown.page);
     QCOMPARE(shown.page.horizontalScrollBar()->maximum(), 0);
     QVERIFY(shown.page.document()->idealWidth() <= shown.page.viewport()->width());
 }
@@ -374,7 +374,7 @@ void tst_HelpPage::linesOfAWidePageStayReadable()
 {
     Shown shown(u"parola "_s.repeated(400));
     shown.page.resize(1600, 600);
-    activate(shown.page);
+    test::activate(shown.page);
     const QTextLayout& lines = *shown.page.document()->begin().next().layout();
     QVERIFY(lines.lineCount() > 1);
     QVERIFY(lines.lineAt(0).naturalTextWidth() > 600);
@@ -385,7 +385,7 @@ void tst_HelpPage::linesOfAWidePageStayReadable()
 void tst_HelpPage::itIsReadAsTextWithTheSectionsName()
 {
     Shown shown(QString::fromUtf8(everyKind));
-    activate(shown.page);
+    test::activate(shown.page);
     QCOMPARE(nameOf(shown.page), u"Titolo"_s);
     QAccessibleInterface* const page = QAccessible::queryAccessibleInterface(&shown.page);
     QVERIFY(page->textInterface() != nullptr);

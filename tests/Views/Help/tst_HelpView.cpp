@@ -48,7 +48,7 @@ private Q_SLOTS:
 void tst_HelpView::opensAtTheFirstSection()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     QVERIFY(shown.label(u"Aiuto"_s) != nullptr);
     QVERIFY(shown.label(u"Guida all'uso di Abissora"_s) != nullptr);
     QCOMPARE(shown.search.placeholderText(), u"Cerca nella guida…"_s);
@@ -60,7 +60,7 @@ void tst_HelpView::opensAtTheFirstSection()
 void tst_HelpView::aClickSelects()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.click(2);
     QCOMPARE(shown.selectedRow(), 2);
     QCOMPARE(shown.pageTitle(), u"Tipologie e qualità"_s);
@@ -69,7 +69,7 @@ void tst_HelpView::aClickSelects()
 void tst_HelpView::theArrowsSelect()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.list.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&shown.list, Qt::Key_Down);
     QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
@@ -80,7 +80,7 @@ void tst_HelpView::theArrowsSelect()
 void tst_HelpView::enterSelectsTheRowOfTheKeyboard()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.type(u"rebreather"_s);
     shown.type(u"scontrino"_s);
     QCOMPARE(shown.selectedRow(), -1);
@@ -93,7 +93,7 @@ void tst_HelpView::enterSelectsTheRowOfTheKeyboard()
 void tst_HelpView::aScreenReaderSelects()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.list.selectionModel()->select(shown.list.model()->index(1, 0), QItemSelectionModel::ClearAndSelect);
     QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
 }
@@ -101,7 +101,7 @@ void tst_HelpView::aScreenReaderSelects()
 void tst_HelpView::theSearchNarrowsTheIndex()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.type(u"MANUTENZIONE"_s);
     QCOMPARE(shown.rows(), (QStringList{u"Primi passi"_s, u"Manutenzioni"_s}));
     QCOMPARE(shown.selectedRow(), 0);
@@ -112,7 +112,7 @@ void tst_HelpView::theSearchNarrowsTheIndex()
 void tst_HelpView::aSearchThatIsDictatedCounts()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     QAccessible::queryAccessibleInterface(&shown.search)->setText(QAccessible::Value, u"scontrino"_s);
     QCOMPARE(shown.rows(), QStringList{u"Manutenzioni"_s});
 }
@@ -120,7 +120,7 @@ void tst_HelpView::aSearchThatIsDictatedCounts()
 void tst_HelpView::theSelectionMovesToTheFirstMatchAndStays()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.type(u"scontrino"_s);
     QCOMPARE(shown.rows(), QStringList{u"Manutenzioni"_s});
     QCOMPARE(shown.selectedRow(), 0);
@@ -134,7 +134,7 @@ void tst_HelpView::theSelectionMovesToTheFirstMatchAndStays()
 void tst_HelpView::nothingFoundIsSaid()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     QVERIFY(shown.label(u"Seleziona un argomento"_s) == nullptr);
     shown.type(u"rebreather"_s);
     const QLabel* const said = shown.label(u"Nessun risultato per\n\"rebreather\""_s);
@@ -149,7 +149,7 @@ void tst_HelpView::nothingFoundIsSaid()
 void tst_HelpView::blanksAroundTheSearchAreShownAsTyped()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.type(u" rebreather "_s);
     QVERIFY(shown.label(u"Nessun risultato per\n\" rebreather \""_s) != nullptr);
 }
@@ -157,7 +157,7 @@ void tst_HelpView::blanksAroundTheSearchAreShownAsTyped()
 void tst_HelpView::theSearchIsNoMarkup()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.type(u"<b>%1</b>"_s);
     const QLabel* const said = shown.label(u"Nessun risultato per\n\"<b>%1</b>\""_s);
     QVERIFY(said != nullptr);
@@ -167,7 +167,7 @@ void tst_HelpView::theSearchIsNoMarkup()
 void tst_HelpView::afterNothingFoundTheReaderPicks()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.type(u"rebreather"_s);
     QTest::keyClick(&shown.search, Qt::Key_Escape);
     QCOMPARE(shown.rows().size(), qsizetype(3));
@@ -183,7 +183,7 @@ void tst_HelpView::afterNothingFoundTheReaderPicks()
 void tst_HelpView::theClearMarkEmptiesTheSearch()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     auto* const action = shown.search.findChild<QAction*>(u"clear"_s);
     QVERIFY(!action->isVisible());
     shown.type(u"scontrino"_s);
@@ -199,7 +199,7 @@ void tst_HelpView::everyNewViewStartsAfresh()
 {
     {
         ShownHelp shown;
-        activate(shown.view);
+        test::activate(shown.view);
         shown.type(u"scontrino"_s);
     }
     const ShownHelp again;
@@ -210,7 +210,7 @@ void tst_HelpView::everyNewViewStartsAfresh()
 void tst_HelpView::aMissingGuideIsExplained()
 {
     ShownHelp shown(HelpLoader::load(u":/guide/none.md"_s));
-    activate(shown.view);
+    test::activate(shown.view);
     QCOMPARE(shown.rows(), QStringList{u"Guida non disponibile"_s});
     QCOMPARE(shown.selectedRow(), 0);
     QCOMPARE(shown.page.toPlainText(),
@@ -221,7 +221,7 @@ void tst_HelpView::aMissingGuideIsExplained()
 void tst_HelpView::anEmptyGuideShowsTheEmptyState()
 {
     ShownHelp shown(QList<HelpSection>{});
-    activate(shown.view);
+    test::activate(shown.view);
     QVERIFY(shown.rows().isEmpty());
     QVERIFY(shown.label(u"Seleziona un argomento"_s) != nullptr);
     shown.type(u"a"_s);
@@ -232,7 +232,7 @@ void tst_HelpView::theProgramsGuideIsShown()
 {
     test::RecordingOpener opener;
     HelpView view(opener);
-    activate(view);
+    test::activate(view);
     const auto* const list = view.findChild<QListView*>(u"helpSections"_s);
     QCOMPARE(list->model()->rowCount(), static_cast<int>(HelpLoader::load().size()));
 }
@@ -240,7 +240,7 @@ void tst_HelpView::theProgramsGuideIsShown()
 void tst_HelpView::controlFGoesToTheSearch()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.type(u"manu"_s);
     shown.page.setFocus();
     QTest::keySequence(&shown.page, QKeySequence::Find);
@@ -251,7 +251,7 @@ void tst_HelpView::controlFGoesToTheSearch()
 void tst_HelpView::escapeClearsTheSearchAndThenGoesOn()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.type(u"manu"_s);
     QTest::keyClick(&shown.search, Qt::Key_Escape);
     QVERIFY(shown.search.text().isEmpty());
@@ -266,7 +266,7 @@ void tst_HelpView::escapeClearsTheSearchAndThenGoesOn()
 void tst_HelpView::theTabKeyGoesInReadingOrder()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.search.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&shown.search, Qt::Key_Tab);
     QVERIFY(shown.list.hasFocus());
@@ -279,7 +279,7 @@ void tst_HelpView::theTabKeyGoesInReadingOrder()
 void tst_HelpView::everythingHasAName()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     for (QWidget* widget : shown.view.findChildren<QWidget*>()) {
         if (widget->focusPolicy() != Qt::NoFocus && widget->isVisible())
             QVERIFY2(!nameOf(*widget).isEmpty(), widget->metaObject()->className());
@@ -303,7 +303,7 @@ void tst_HelpView::noTextIsClipped()
     for (const qreal factor : {1.0, 1.25}) {
         const test::ScaledText scaled(factor);
         ShownHelp shown(HelpLoader::load());
-        activate(shown.view);
+        test::activate(shown.view);
         shown.type(search);
         QCoreApplication::processEvents();
         const QStringList clipped = test::clippedTexts(shown.view);
@@ -325,13 +325,13 @@ void tst_HelpView::noTextIsClipped()
 void tst_HelpView::theSchemeSwitchesLive()
 {
     ShownHelp shown;
-    activate(shown.view);
+    test::activate(shown.view);
     shown.search.clearFocus();
     applyTheme(*qApp, Scheme::Dark);
     QCoreApplication::processEvents();
     const QImage switched = shown.view.grab().toImage();
     ShownHelp fresh;
-    activate(fresh.view);
+    test::activate(fresh.view);
     fresh.search.clearFocus();
     QCoreApplication::processEvents();
     QCOMPARE(switched, fresh.view.grab().toImage());

@@ -50,6 +50,7 @@ constexpr Named surface{"surface", &Tokens::surface};
 constexpr Named field{"field", &Tokens::field};
 constexpr Named accentTint{"accent tint", &Tokens::accentTint};
 constexpr Named selection{"selection", &Tokens::selection};
+constexpr Named dangerTint{"danger tint", &Tokens::dangerTint};
 constexpr Named divider{"divider", &Tokens::divider};
 
 } // namespace
@@ -80,11 +81,12 @@ void tst_Tokens::contrastOfPairs_data()
                 QTest::addRow("%s: %s on %s", schemeName, ink.name, ground.name)
                     << tokens.*ink.role << tokens.*ground.role << least;
         };
-        pairs({"text", &Tokens::text}, {window, sidebar, surface, field, accentTint, selection, divider}, textContrast);
+        pairs({"text", &Tokens::text}, {window, sidebar, surface, field, accentTint, selection, dangerTint, divider},
+              textContrast);
         pairs({"secondary text", &Tokens::secondaryText},
               {window, sidebar, surface, field, accentTint, selection, divider}, textContrast);
         pairs({"accent ink", &Tokens::accentInk}, {window, surface, field, accentTint}, textContrast);
-        pairs({"danger", &Tokens::danger}, {window, surface, field, selection}, textContrast);
+        pairs({"danger", &Tokens::danger}, {window, surface, field, selection, dangerTint}, textContrast);
         pairs({"ok", &Tokens::ok}, {window, surface, selection}, textContrast);
         pairs({"warning", &Tokens::warning}, {window, surface}, textContrast);
         pairs({"text on fill", &Tokens::onFill},
@@ -137,11 +139,12 @@ void tst_Tokens::everyColorIsSet()
 {
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
         const Tokens& tokens = Tokens::of(scheme);
-        for (const Role role :
-             {&Tokens::window,    &Tokens::sidebar,      &Tokens::surface, &Tokens::field,         &Tokens::border,
-              &Tokens::divider,   &Tokens::strongBorder, &Tokens::text,    &Tokens::secondaryText, &Tokens::disabled,
-              &Tokens::accentInk, &Tokens::accentFill,   &Tokens::onFill,  &Tokens::accentTint,    &Tokens::selection,
-              &Tokens::danger,    &Tokens::dangerFill,   &Tokens::ok,      &Tokens::warning,       &Tokens::scrim})
+        for (const Role role : {&Tokens::window,        &Tokens::sidebar,    &Tokens::surface,      &Tokens::field,
+                                &Tokens::border,        &Tokens::divider,    &Tokens::strongBorder, &Tokens::text,
+                                &Tokens::secondaryText, &Tokens::disabled,   &Tokens::accentInk,    &Tokens::accentFill,
+                                &Tokens::onFill,        &Tokens::accentTint, &Tokens::selection,    &Tokens::danger,
+                                &Tokens::dangerFill,    &Tokens::dangerTint, &Tokens::ok,           &Tokens::warning,
+                                &Tokens::scrim})
             QVERIFY((tokens.*role).isValid());
         QVERIFY(std::all_of(tokens.namedColors.begin(), tokens.namedColors.end(), std::mem_fn(&QColor::isValid)));
     }

@@ -31,6 +31,7 @@ struct Tokens
     QColor selection; ///< selected table row
     QColor danger;
     QColor dangerFill;
+    QColor dangerTint;
     QColor ok;
     QColor warning;
     QColor scrim; ///< over what a sheet covers; translucent
