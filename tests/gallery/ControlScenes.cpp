@@ -30,7 +30,7 @@ class TouchedButton final : public LookButton
 {
 public:
     TouchedButton(Touch touch, ButtonLook look, const QString& text)
-        : LookButton(look, text, nullptr)
+        : LookButton(look, text)
         , m_touch(touch)
     {
         setDown(touch == Touch::Pressed);

@@ -31,34 +31,20 @@ QIcon symbolFor(ButtonLook look, const QString& name)
 
 } // namespace
 
-LookButton::LookButton(ButtonLook look, const QString& text, QWidget* parent)
-    : QPushButton(text, parent)
+LookButton::LookButton(ButtonLook look, const QString& text, const QString& symbol)
+    : QPushButton(text)
     , m_look(look)
 {
     setButtonLook(*this, look);
     setAutoDefault(false);
+    if (!symbol.isEmpty())
+        setSymbol(symbol);
 }
 
 void LookButton::setSymbol(const QString& name)
 {
     setIcon(symbolFor(m_look, name));
 }
-
-PrimaryButton::PrimaryButton(const QString& text, QWidget* parent)
-    : LookButton(ButtonLook::Primary, text, parent)
-{}
-
-PlainButton::PlainButton(const QString& text, QWidget* parent)
-    : LookButton(ButtonLook::Plain, text, parent)
-{}
-
-DestructiveButton::DestructiveButton(const QString& text, QWidget* parent)
-    : LookButton(ButtonLook::Destructive, text, parent)
-{}
-
-LinkButton::LinkButton(const QString& text, QWidget* parent)
-    : LookButton(ButtonLook::Link, text, parent)
-{}
 
 IconButton::IconButton(const QIcon& icon, const QString& name, QWidget* parent)
     : QToolButton(parent)

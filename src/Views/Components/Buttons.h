@@ -14,9 +14,9 @@ class LookButton : public QPushButton
     Q_OBJECT
 
 public:
-    LookButton(ButtonLook look, const QString& text, QWidget* parent);
+    explicit LookButton(ButtonLook look, const QString& text = {}, const QString& symbol = {});
 
-    /// The symbol in the colour of the look's text.
+    /// In the colour of the look's text.
     void setSymbol(const QString& name);
 
 private:
@@ -28,7 +28,9 @@ class PrimaryButton final : public LookButton
     Q_OBJECT
 
 public:
-    explicit PrimaryButton(const QString& text, QWidget* parent = nullptr);
+    explicit PrimaryButton(const QString& text, const QString& symbol = {})
+        : LookButton(ButtonLook::Primary, text, symbol)
+    {}
 };
 
 class PlainButton final : public LookButton
@@ -36,7 +38,9 @@ class PlainButton final : public LookButton
     Q_OBJECT
 
 public:
-    explicit PlainButton(const QString& text, QWidget* parent = nullptr);
+    explicit PlainButton(const QString& text, const QString& symbol = {})
+        : LookButton(ButtonLook::Plain, text, symbol)
+    {}
 };
 
 class DestructiveButton final : public LookButton
@@ -44,7 +48,9 @@ class DestructiveButton final : public LookButton
     Q_OBJECT
 
 public:
-    explicit DestructiveButton(const QString& text, QWidget* parent = nullptr);
+    explicit DestructiveButton(const QString& text, const QString& symbol = {})
+        : LookButton(ButtonLook::Destructive, text, symbol)
+    {}
 };
 
 class LinkButton final : public LookButton
@@ -52,7 +58,9 @@ class LinkButton final : public LookButton
     Q_OBJECT
 
 public:
-    explicit LinkButton(const QString& text, QWidget* parent = nullptr);
+    explicit LinkButton(const QString& text, const QString& symbol = {})
+        : LookButton(ButtonLook::Link, text, symbol)
+    {}
 };
 
 /// A button without text; its name is read by screen readers and shown as tool tip.

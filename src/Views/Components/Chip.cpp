@@ -2,6 +2,7 @@
 #include "Chip.h"
 
 #include "Accessibility.h"
+#include "Assembly.h"
 #include "Buttons.h"
 #include "IconViews.h"
 #include "Labels.h"
@@ -12,7 +13,6 @@
 #include "Tokens.h"
 #include "TypeScale.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
@@ -45,20 +45,15 @@ Chip::Chip(QWidget* parent)
     : QFrame(parent)
     , m_icon(new IconView({}, metrics::iconSize))
     , m_text(new ChipText)
-    , m_clear(new IconButton(symbolIcon(u"xmark.circle.fill"_s, NamedColor::secondary), u"Cancella filtri"_s))
+    , m_clear(named(new IconButton(symbolIcon(u"xmark.circle.fill"_s, NamedColor::secondary), u"Cancella filtri"_s),
+                    u"clear"_s))
 {
     setAccessibleRole(*this, QAccessible::Grouping);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     m_text->setFont(abissora::font(TextStyle::Caption));
     m_text->setTextFormat(Qt::PlainText);
-    m_clear->setObjectName(u"clear"_s);
     m_clear->setFixedSize(metrics::spaceXL - 2, metrics::spaceXL - 2);
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(metrics::spaceS + 2, 2, metrics::spaceXS, 2);
-    layout->setSpacing(metrics::spaceXS + 1);
-    layout->addWidget(m_icon);
-    layout->addWidget(m_text);
-    layout->addWidget(m_clear);
+    setLayout(inRow(metrics::spaceXS + 1, {m_icon, m_text, m_clear}, {metrics::spaceS + 2, 2, metrics::spaceXS, 2}));
     connect(m_clear, &QAbstractButton::clicked, this, &Chip::clearClicked);
 }
 

@@ -2,6 +2,7 @@
 #include "EmptyState.h"
 
 #include "Accessibility.h"
+#include "Assembly.h"
 #include "Buttons.h"
 #include "IconViews.h"
 #include "Literals.h"
@@ -10,7 +11,6 @@
 #include "TypeScale.h"
 
 #include <QLabel>
-#include <QVBoxLayout>
 
 namespace abissora {
 
@@ -36,22 +36,16 @@ EmptyState::EmptyState(QWidget* parent)
     , m_icon(new IconView({}, symbolSide))
     , m_title(secondaryLabel(TextStyle::Headline))
     , m_text(secondaryLabel(TextStyle::Body))
-    , m_button(new PlainButton({}))
+    , m_button(named(new PlainButton({}), u"emptyStateButton"_s))
 {
     setAccessibleRole(*this, QAccessible::Grouping);
     m_text->hide();
     m_button->hide();
-    m_button->setObjectName(u"emptyStateButton"_s);
     setFocusProxy(m_button);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceXL);
-    layout->setSpacing(metrics::spaceM);
-    layout->addStretch();
-    layout->addWidget(m_icon, 0, Qt::AlignHCenter);
-    layout->addWidget(m_title);
-    layout->addWidget(m_text);
-    layout->addWidget(m_button, 0, Qt::AlignHCenter);
-    layout->addStretch();
+    setLayout(inColumn(
+        metrics::spaceM,
+        {Stretch(), {m_icon, 0, Qt::AlignHCenter}, m_title, m_text, {m_button, 0, Qt::AlignHCenter}, Stretch()},
+        {metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceXL}));
     connect(m_button, &QAbstractButton::clicked, this, &EmptyState::buttonClicked);
 }
 

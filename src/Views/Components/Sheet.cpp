@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Sheet.h"
 
+#include "Assembly.h"
 #include "Buttons.h"
 #include "Cards.h"
 #include "Literals.h"
@@ -11,7 +12,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QShortcut>
-#include <QVBoxLayout>
 
 namespace abissora {
 
@@ -25,25 +25,18 @@ constexpr int sideMargin = 18;
 Sheet::Sheet(const QString& title, QWidget* parent)
     : SheetWindow(parent)
     , m_title(new QLabel)
-    , m_cancel(new PlainButton(u"Annulla"_s))
-    , m_primary(new PrimaryButton({}))
+    , m_cancel(named(new PlainButton(u"Annulla"_s), u"cancel"_s))
+    , m_primary(named(new PrimaryButton({}), u"primary"_s))
     , m_scroll(new ScrollPane)
     , m_body(new QVBoxLayout(m_scroll->widget()))
 {
     setTitle(title);
-    m_cancel->setObjectName(u"cancel"_s);
-    m_primary->setObjectName(u"primary"_s);
     m_primary->hide();
 
     m_body->setContentsMargins(sideMargin, metrics::spaceL, sideMargin, metrics::spaceL);
     m_body->setSpacing(metrics::spaceL - 2);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(1, 1, 1, 1);
-    layout->setSpacing(0);
-    layout->addWidget(makeHeader());
-    layout->addWidget(new Separator);
-    layout->addWidget(m_scroll, 1);
+    setLayout(inColumn(0, {makeHeader(), new Separator, {m_scroll, 1}}, {1, 1, 1, 1}));
 
     connect(m_cancel, &QAbstractButton::clicked, this, &QDialog::reject);
     connect(m_primary, &QAbstractButton::clicked, this, &Sheet::primaryClicked);

@@ -10,15 +10,13 @@ namespace abissora {
 
 DetailActions::DetailActions(QWidget* parent)
     : QWidget(parent)
-    , m_addMaintenance(new PrimaryButton(u"Aggiungi Manutenzione"_s))
-    , m_toggleActive(new LookButton(ButtonLook::Caution, {}, nullptr))
+    , m_addMaintenance(new PrimaryButton(u"Aggiungi Manutenzione"_s, u"wrench.fill"_s))
+    , m_toggleActive(new LookButton(ButtonLook::Caution))
 {
-    auto* edit = new PlainButton(u"Modifica"_s);
+    auto* edit = new PlainButton(u"Modifica"_s, u"pencil"_s);
     edit->setObjectName(u"editEquipment"_s);
-    edit->setSymbol(u"pencil"_s);
     edit->setToolTip(u"Modifica l'attrezzatura"_s);
     m_addMaintenance->setObjectName(u"addMaintenance"_s);
-    m_addMaintenance->setSymbol(u"wrench.fill"_s);
     m_addMaintenance->setToolTip(u"Aggiungi una nuova manutenzione"_s);
     m_toggleActive->setObjectName(u"toggleActive"_s);
     auto* remove = new DestructiveButton(u"Elimina"_s);

@@ -16,7 +16,7 @@ DocumentLink::DocumentLink(DocumentSlot slot, MaintenanceDocumentStore& document
     , m_documents(documents)
     , m_opener(opener)
     , m_open(new LinkButton(documentLabel(slot)))
-    , m_replace(new LookButton(ButtonLook::DestructiveLink, u"Sostituisci"_s, nullptr))
+    , m_replace(new LookButton(ButtonLook::DestructiveLink, u"Sostituisci"_s))
     , m_upload(new LinkButton(u"Carica "_s + documentLabel(slot)))
 {
     const bool isReceipt = slot == DocumentSlot::Receipt;

@@ -16,15 +16,13 @@ ListHeader::ListHeader(QWidget* parent)
     : QWidget(parent)
     , m_line(new QHBoxLayout)
     , m_title(new WrapLabel(TextStyle::Title, &Tokens::text, u"Attrezzatura Subacquea"_s))
-    , m_refresh(new PlainButton(u"Aggiorna"_s))
-    , m_add(new PrimaryButton(u"Aggiungi"_s))
+    , m_refresh(new PlainButton(u"Aggiorna"_s, u"arrow.clockwise"_s))
+    , m_add(new PrimaryButton(u"Aggiungi"_s, u"plus"_s))
     , m_chip(new Chip)
 {
     m_title->setObjectName(u"listTitle"_s);
     m_refresh->setObjectName(u"refreshButton"_s);
-    m_refresh->setSymbol(u"arrow.clockwise"_s);
     m_add->setObjectName(u"addButton"_s);
-    m_add->setSymbol(u"plus"_s);
     m_chip->setObjectName(u"filterChip"_s);
     m_chip->hide();
 

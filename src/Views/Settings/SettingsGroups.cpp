@@ -99,9 +99,8 @@ SettingsGroupBox* makeTypesGroup(EquipmentTypeViewModel& types, const std::funct
     group->addText(u"Gestisci le tipologie di attrezzatura disponibili per la categorizzazione"_s);
     auto* count = new InkLabel(TextStyle::Body, &Tokens::secondaryText);
     count->setObjectName(u"activeTypes"_s);
-    auto* button = new PlainButton(u"Gestisci Tipologie"_s);
+    auto* button = new PlainButton(u"Gestisci Tipologie"_s, u"pencil.circle"_s);
     button->setObjectName(u"manageTypes"_s);
-    button->setSymbol(u"pencil.circle"_s);
     group->addLine(count, button);
     QObject::connect(button, &QAbstractButton::clicked, group, manage);
 
@@ -170,9 +169,8 @@ SettingsGroupBox* makeHelpGroup(const std::function<void()>& open)
 {
     auto* group = new SettingsGroupBox(u"Aiuto"_s, u"book"_s);
     group->addText(u"Guida all'uso completa del programma: funzioni, manutenzioni, allegati PDF e domande frequenti"_s);
-    auto* button = new PlainButton(u"Apri la Guida"_s);
+    auto* button = new PlainButton(u"Apri la Guida"_s, u"book.fill"_s);
     button->setObjectName(u"openHelp"_s);
-    button->setSymbol(u"book.fill"_s);
     group->addButton(button);
     QObject::connect(button, &QAbstractButton::clicked, group, open);
     return group;

@@ -105,7 +105,7 @@ UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& op
     : QWidget(parent)
     , m_offer(UpdateOffer::of(update, website))
     , m_opener(opener)
-    , m_download(new PrimaryButton(u"Scarica la nuova versione"_s))
+    , m_download(new PrimaryButton(u"Scarica la nuova versione"_s, u"arrow.down.circle"_s))
 {
     setObjectName(u"updateView"_s);
     auto* title = new InkLabel(TextStyle::Title, &Tokens::text, u"Aggiornamento disponibile"_s);
@@ -115,7 +115,6 @@ UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& op
     auto* later = new PlainButton(u"Più tardi"_s);
     later->setObjectName(u"later"_s);
     m_download->setObjectName(u"download"_s);
-    m_download->setSymbol(u"arrow.down.circle"_s);
     connect(later, &QAbstractButton::clicked, this, &UpdateView::closeRequested);
     connect(m_download, &QAbstractButton::clicked, this, &UpdateView::download);
     auto* escape = new QShortcut(QKeySequence::Cancel, this);

@@ -37,7 +37,7 @@ class UpdatesGroup::CheckButton final : public LookButton
 {
 public:
     CheckButton()
-        : LookButton(ButtonLook::Plain, label, nullptr)
+        : LookButton(ButtonLook::Plain, label)
         , m_indicator(new ProgressIndicator(this))
     {
         m_indicator->setAttribute(Qt::WA_TransparentForMouseEvents);

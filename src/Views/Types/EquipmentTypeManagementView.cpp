@@ -33,7 +33,7 @@ EquipmentTypeManagementView::EquipmentTypeManagementView(EquipmentTypeViewModel&
     , m_ids(ids)
     , m_update([this] { redraw(); })
     , m_search(new SearchField(u"Cerca..."_s))
-    , m_add(new PrimaryButton(u"Nuova Tipologia"_s))
+    , m_add(new PrimaryButton(u"Nuova Tipologia"_s, u"plus"_s))
     , m_list(new TypeList)
     , m_empty(new EmptyState(u"magnifyingglass"_s, u"Nessuna tipologia trovata"_s))
     , m_pages(new QStackedWidget)
@@ -53,7 +53,6 @@ QWidget* EquipmentTypeManagementView::makeContent()
     m_search->setObjectName(u"typeSearch"_s);
     m_search->setFixedWidth(withText(searchWidth, fontMetrics()));
     m_add->setObjectName(u"addType"_s);
-    m_add->setSymbol(u"plus"_s);
     m_count->setObjectName(u"typeCount"_s);
     m_reset->setObjectName(u"resetTypes"_s);
     m_list->setAccessibleName(u"Tipologie Attrezzatura"_s);

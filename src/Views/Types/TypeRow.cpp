@@ -27,16 +27,14 @@ TypeRow::TypeRow(QWidget* parent)
     , m_tile(new IconTile(tileSide))
     , m_name(new WrapLabel(TextStyle::BodyMedium, &Tokens::text))
     , m_interval(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText))
-    , m_edit(new LookButton(ButtonLook::Link, u"Modifica"_s, nullptr))
-    , m_delete(new LookButton(ButtonLook::DestructiveLink, u"Elimina"_s, nullptr))
+    , m_edit(new LookButton(ButtonLook::Link, u"Modifica"_s, u"pencil.circle.fill"_s))
+    , m_delete(new LookButton(ButtonLook::DestructiveLink, u"Elimina"_s, u"trash.circle.fill"_s))
 {
     setAccessibleRole(*this, QAccessible::ListItem);
     m_name->setObjectName(u"typeName"_s);
     m_interval->setObjectName(u"typeInterval"_s);
     m_edit->setObjectName(u"editType"_s);
-    m_edit->setSymbol(u"pencil.circle.fill"_s);
     m_delete->setObjectName(u"deleteType"_s);
-    m_delete->setSymbol(u"trash.circle.fill"_s);
 
     auto* texts = new QVBoxLayout;
     texts->setSpacing(metrics::spaceXS / 2);
