@@ -2,15 +2,13 @@
 #pragma once
 
 #include "Fakes.h"
+#include "Gui.h"
 #include "HelpPage.h"
 #include "HelpParts.h"
 #include "HelpView.h"
-#include "Literals.h"
 #include "SearchField.h"
 
-#include <QLabel>
 #include <QListView>
-#include <QTest>
 
 namespace abissora::test {
 
@@ -21,9 +19,9 @@ struct ShownHelp
 {
     explicit ShownHelp(const QList<HelpSection>& sections = threeSections())
         : view(sections, opener)
-        , search(*view.findChild<SearchField*>(u"helpSearch"_s))
-        , list(*view.findChild<QListView*>(u"helpSections"_s))
-        , page(*view.findChild<HelpPage*>())
+        , search(existing<SearchField>(view, u"helpSearch"))
+        , list(existing<QListView>(view, u"helpSections"))
+        , page(existing<HelpPage>(view, u"helpPage"))
     {
         view.resize(smallest);
     }
@@ -45,22 +43,6 @@ struct ShownHelp
     [[nodiscard]] QString pageTitle() const
     {
         return page.isVisible() ? page.toPlainText().section(u'\n', 0, 0) : QString();
-    }
-
-    [[nodiscard]] QLabel* label(const QString& text) const
-    {
-        for (QLabel* label : view.findChildren<QLabel*>()) {
-            if (label->text() == text && label->isVisible())
-                return label;
-        }
-        return nullptr;
-    }
-
-    void type(const QString& text)
-    {
-        search.setFocus();
-        search.selectAll();
-        QTest::keyClicks(&search, text);
     }
 
     void click(int row)

@@ -9,10 +9,9 @@
 #include <QToolButton>
 
 using namespace abissora;
-using test::ShownHelp;
-using test::smallest;
+using namespace abissora::test;
 
-class tst_HelpView : public test::ComponentTest
+class tst_HelpView : public ComponentTest
 {
     Q_OBJECT
 
@@ -48,9 +47,9 @@ private Q_SLOTS:
 void tst_HelpView::opensAtTheFirstSection()
 {
     ShownHelp shown;
-    test::activate(shown.view);
-    QVERIFY(shown.label(u"Aiuto"_s) != nullptr);
-    QVERIFY(shown.label(u"Guida all'uso di Abissora"_s) != nullptr);
+    activate(shown.view);
+    QVERIFY(visibleLabels(shown.view).contains(u"Aiuto"_s));
+    QVERIFY(visibleLabels(shown.view).contains(u"Guida all'uso di Abissora"_s));
     QCOMPARE(shown.search.placeholderText(), u"Cerca nella guida…"_s);
     QCOMPARE(shown.rows(), (QStringList{u"Primi passi"_s, u"Manutenzioni"_s, u"Tipologie e qualità"_s}));
     QCOMPARE(shown.selectedRow(), 0);
@@ -60,7 +59,7 @@ void tst_HelpView::opensAtTheFirstSection()
 void tst_HelpView::aClickSelects()
 {
     ShownHelp shown;
-    test::activate(shown.view);
+    activate(shown.view);
     shown.click(2);
     QCOMPARE(shown.selectedRow(), 2);
     QCOMPARE(shown.pageTitle(), u"Tipologie e qualità"_s);
@@ -69,7 +68,7 @@ void tst_HelpView::aClickSelects()
 void tst_HelpView::theArrowsSelect()
 {
     ShownHelp shown;
-    test::activate(shown.view);
+    activate(shown.view);
     shown.list.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&shown.list, Qt::Key_Down);
     QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
@@ -80,9 +79,9 @@ void tst_HelpView::theArrowsSelect()
 void tst_HelpView::enterSelectsTheRowOfTheKeyboard()
 {
     ShownHelp shown;
-    test::activate(shown.view);
-    shown.type(u"rebreather"_s);
-    shown.type(u"scontrino"_s);
+    activate(shown.view);
+    type(shown.view, u"helpSearch", u"rebreather"_s);
+    type(shown.view, u"helpSearch", u"scontrino"_s);
     QCOMPARE(shown.selectedRow(), -1);
     shown.list.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&shown.list, Qt::Key_Return);
@@ -93,7 +92,7 @@ void tst_HelpView::enterSelectsTheRowOfTheKeyboard()
 void tst_HelpView::aScreenReaderSelects()
 {
     ShownHelp shown;
-    test::activate(shown.view);
+    activate(shown.view);
     shown.list.selectionModel()->select(shown.list.model()->index(1, 0), QItemSelectionModel::ClearAndSelect);
     QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
 }
@@ -101,18 +100,18 @@ void tst_HelpView::aScreenReaderSelects()
 void tst_HelpView::theSearchNarrowsTheIndex()
 {
     ShownHelp shown;
-    test::activate(shown.view);
-    shown.type(u"MANUTENZIONE"_s);
+    activate(shown.view);
+    type(shown.view, u"helpSearch", u"MANUTENZIONE"_s);
     QCOMPARE(shown.rows(), (QStringList{u"Primi passi"_s, u"Manutenzioni"_s}));
     QCOMPARE(shown.selectedRow(), 0);
-    shown.type(u"   "_s);
+    type(shown.view, u"helpSearch", u"   "_s);
     QCOMPARE(shown.rows().size(), qsizetype(3));
 }
 
 void tst_HelpView::aSearchThatIsDictatedCounts()
 {
     ShownHelp shown;
-    test::activate(shown.view);
+    activate(shown.view);
     QAccessible::queryAccessibleInterface(&shown.search)->setText(QAccessible::Value, u"scontrino"_s);
     QCOMPARE(shown.rows(), QStringList{u"Manutenzioni"_s});
 }
@@ -120,8 +119,8 @@ void tst_HelpView::aSearchThatIsDictatedCounts()
 void tst_HelpView::theSelectionMovesToTheFirstMatchAndStays()
 {
     ShownHelp shown;
-    test::activate(shown.view);
-    shown.type(u"scontrino"_s);
+    activate(shown.view);
+    type(shown.view, u"helpSearch", u"scontrino"_s);
     QCOMPARE(shown.rows(), QStringList{u"Manutenzioni"_s});
     QCOMPARE(shown.selectedRow(), 0);
     QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
@@ -134,41 +133,41 @@ void tst_HelpView::theSelectionMovesToTheFirstMatchAndStays()
 void tst_HelpView::nothingFoundIsSaid()
 {
     ShownHelp shown;
-    test::activate(shown.view);
-    QVERIFY(shown.label(u"Seleziona un argomento"_s) == nullptr);
-    shown.type(u"rebreather"_s);
-    const QLabel* const said = shown.label(u"Nessun risultato per\n\"rebreather\""_s);
-    QVERIFY(said != nullptr);
-    QVERIFY(said->alignment().testFlag(Qt::AlignHCenter));
+    activate(shown.view);
+    QVERIFY(!visibleLabels(shown.view).contains(u"Seleziona un argomento"_s));
+    type(shown.view, u"helpSearch", u"rebreather"_s);
+    const auto& said = part<QLabel>(shown.view, u"noResult");
+    QCOMPARE(said.text(), u"Nessun risultato per\n\"rebreather\""_s);
+    QVERIFY(said.alignment().testFlag(Qt::AlignHCenter));
     QVERIFY(!shown.list.isVisible());
     QVERIFY(!shown.page.isVisible());
-    QVERIFY(shown.label(u"Seleziona un argomento"_s) != nullptr);
-    QVERIFY(shown.label(u"Scegli una sezione dall'indice a sinistra per leggere la guida."_s) != nullptr);
+    QVERIFY(visibleLabels(shown.view).contains(u"Seleziona un argomento"_s));
+    QVERIFY(visibleLabels(shown.view).contains(u"Scegli una sezione dall'indice a sinistra per leggere la guida."_s));
 }
 
 void tst_HelpView::blanksAroundTheSearchAreShownAsTyped()
 {
     ShownHelp shown;
-    test::activate(shown.view);
-    shown.type(u" rebreather "_s);
-    QVERIFY(shown.label(u"Nessun risultato per\n\" rebreather \""_s) != nullptr);
+    activate(shown.view);
+    type(shown.view, u"helpSearch", u" rebreather "_s);
+    QVERIFY(visibleLabels(shown.view).contains(u"Nessun risultato per\n\" rebreather \""_s));
 }
 
 void tst_HelpView::theSearchIsNoMarkup()
 {
     ShownHelp shown;
-    test::activate(shown.view);
-    shown.type(u"<b>%1</b>"_s);
-    const QLabel* const said = shown.label(u"Nessun risultato per\n\"<b>%1</b>\""_s);
-    QVERIFY(said != nullptr);
-    QCOMPARE(said->textFormat(), Qt::PlainText);
+    activate(shown.view);
+    type(shown.view, u"helpSearch", u"<b>%1</b>"_s);
+    const auto& said = part<QLabel>(shown.view, u"noResult");
+    QCOMPARE(said.text(), u"Nessun risultato per\n\"<b>%1</b>\""_s);
+    QCOMPARE(said.textFormat(), Qt::PlainText);
 }
 
 void tst_HelpView::afterNothingFoundTheReaderPicks()
 {
     ShownHelp shown;
-    test::activate(shown.view);
-    shown.type(u"rebreather"_s);
+    activate(shown.view);
+    type(shown.view, u"helpSearch", u"rebreather"_s);
     QTest::keyClick(&shown.search, Qt::Key_Escape);
     QCOMPARE(shown.rows().size(), qsizetype(3));
     QCOMPARE(shown.selectedRow(), -1);
@@ -183,10 +182,10 @@ void tst_HelpView::afterNothingFoundTheReaderPicks()
 void tst_HelpView::theClearMarkEmptiesTheSearch()
 {
     ShownHelp shown;
-    test::activate(shown.view);
+    activate(shown.view);
     auto* const action = shown.search.findChild<QAction*>(u"clear"_s);
     QVERIFY(!action->isVisible());
-    shown.type(u"scontrino"_s);
+    type(shown.view, u"helpSearch", u"scontrino"_s);
     QVERIFY(action->isVisible());
     QCOMPARE(action->toolTip(), u"Cancella la ricerca"_s);
     action->trigger();
@@ -199,8 +198,8 @@ void tst_HelpView::everyNewViewStartsAfresh()
 {
     {
         ShownHelp shown;
-        test::activate(shown.view);
-        shown.type(u"scontrino"_s);
+        activate(shown.view);
+        type(shown.view, u"helpSearch", u"scontrino"_s);
     }
     const ShownHelp again;
     QVERIFY(again.search.text().isEmpty());
@@ -210,7 +209,7 @@ void tst_HelpView::everyNewViewStartsAfresh()
 void tst_HelpView::aMissingGuideIsExplained()
 {
     ShownHelp shown(HelpLoader::load(u":/guide/none.md"_s));
-    test::activate(shown.view);
+    activate(shown.view);
     QCOMPARE(shown.rows(), QStringList{u"Guida non disponibile"_s});
     QCOMPARE(shown.selectedRow(), 0);
     QCOMPARE(shown.page.toPlainText(),
@@ -221,18 +220,18 @@ void tst_HelpView::aMissingGuideIsExplained()
 void tst_HelpView::anEmptyGuideShowsTheEmptyState()
 {
     ShownHelp shown(QList<HelpSection>{});
-    test::activate(shown.view);
+    activate(shown.view);
     QVERIFY(shown.rows().isEmpty());
-    QVERIFY(shown.label(u"Seleziona un argomento"_s) != nullptr);
-    shown.type(u"a"_s);
-    QVERIFY(shown.label(u"Nessun risultato per\n\"a\""_s) != nullptr);
+    QVERIFY(visibleLabels(shown.view).contains(u"Seleziona un argomento"_s));
+    type(shown.view, u"helpSearch", u"a"_s);
+    QVERIFY(visibleLabels(shown.view).contains(u"Nessun risultato per\n\"a\""_s));
 }
 
 void tst_HelpView::theProgramsGuideIsShown()
 {
-    test::RecordingOpener opener;
+    RecordingOpener opener;
     HelpView view(opener);
-    test::activate(view);
+    activate(view);
     const auto* const list = view.findChild<QListView*>(u"helpSections"_s);
     QCOMPARE(list->model()->rowCount(), static_cast<int>(HelpLoader::load().size()));
 }
@@ -240,8 +239,8 @@ void tst_HelpView::theProgramsGuideIsShown()
 void tst_HelpView::controlFGoesToTheSearch()
 {
     ShownHelp shown;
-    test::activate(shown.view);
-    shown.type(u"manu"_s);
+    activate(shown.view);
+    type(shown.view, u"helpSearch", u"manu"_s);
     shown.page.setFocus();
     QTest::keySequence(&shown.page, QKeySequence::Find);
     QVERIFY(shown.search.hasFocus());
@@ -251,8 +250,8 @@ void tst_HelpView::controlFGoesToTheSearch()
 void tst_HelpView::escapeClearsTheSearchAndThenGoesOn()
 {
     ShownHelp shown;
-    test::activate(shown.view);
-    shown.type(u"manu"_s);
+    activate(shown.view);
+    type(shown.view, u"helpSearch", u"manu"_s);
     QTest::keyClick(&shown.search, Qt::Key_Escape);
     QVERIFY(shown.search.text().isEmpty());
     for (QWidget* widget : {static_cast<QWidget*>(&shown.search), static_cast<QWidget*>(&shown.list),
@@ -266,7 +265,7 @@ void tst_HelpView::escapeClearsTheSearchAndThenGoesOn()
 void tst_HelpView::theTabKeyGoesInReadingOrder()
 {
     ShownHelp shown;
-    test::activate(shown.view);
+    activate(shown.view);
     shown.search.setFocus(Qt::TabFocusReason);
     QTest::keyClick(&shown.search, Qt::Key_Tab);
     QVERIFY(shown.list.hasFocus());
@@ -279,7 +278,7 @@ void tst_HelpView::theTabKeyGoesInReadingOrder()
 void tst_HelpView::everythingHasAName()
 {
     ShownHelp shown;
-    test::activate(shown.view);
+    activate(shown.view);
     for (QWidget* widget : shown.view.findChildren<QWidget*>()) {
         if (widget->focusPolicy() != Qt::NoFocus && widget->isVisible())
             QVERIFY2(!nameOf(*widget).isEmpty(), widget->metaObject()->className());
@@ -301,12 +300,12 @@ void tst_HelpView::noTextIsClipped()
 {
     QFETCH(const QString, search);
     for (const qreal factor : {1.0, 1.25}) {
-        const test::ScaledText scaled(factor);
+        const ScaledText scaled(factor);
         ShownHelp shown(HelpLoader::load());
-        test::activate(shown.view);
-        shown.type(search);
-        QCoreApplication::processEvents();
-        const QStringList clipped = test::clippedTexts(shown.view);
+        activate(shown.view);
+        type(shown.view, u"helpSearch", search);
+        settle();
+        const QStringList clipped = clippedTexts(shown.view);
         QStringList elided;
         for (int row = 0; row < shown.list.model()->rowCount() && shown.list.isVisible(); ++row) {
             const QModelIndex index = shown.list.model()->index(row, 0);
@@ -325,15 +324,15 @@ void tst_HelpView::noTextIsClipped()
 void tst_HelpView::theSchemeSwitchesLive()
 {
     ShownHelp shown;
-    test::activate(shown.view);
+    activate(shown.view);
     shown.search.clearFocus();
     applyTheme(*qApp, Scheme::Dark);
-    QCoreApplication::processEvents();
+    settle();
     const QImage switched = shown.view.grab().toImage();
     ShownHelp fresh;
-    test::activate(fresh.view);
+    activate(fresh.view);
     fresh.search.clearFocus();
-    QCoreApplication::processEvents();
+    settle();
     QCOMPARE(switched, fresh.view.grab().toImage());
 }
 

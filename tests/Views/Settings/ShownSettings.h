@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Gui.h"
 #include "IconViews.h"
 #include "Literals.h"
 #include "ScreenFixture.h"
 #include "SettingsGroupBox.h"
 #include "SettingsView.h"
 
-#include <QAbstractButton>
 #include <QVBoxLayout>
 
 namespace abissora::test {
@@ -22,32 +22,21 @@ struct ShownSettings
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(view);
         window.resize(size);
-        window.show();
-        window.activateWindow();
-        QCoreApplication::processEvents();
+        activate(window);
     }
 
-    QAbstractButton& button(const char* name) const
-    {
-        auto* found = view->findChild<QAbstractButton*>(QLatin1String(name));
-        if (found == nullptr || !found->isVisible() || !found->isEnabled())
-            qFatal("no visible, enabled button called %s", name);
-        return *found;
-    }
+    QAbstractButton& button(const char* name) const { return usable<QAbstractButton>(window, name); }
+    /// Clicks and lets everything happen.
     void click(const char* name) const
     {
-        view->ensureWidgetVisible(&button(name));
-        QTest::mouseClick(&button(name), Qt::LeftButton);
-        QCoreApplication::processEvents();
+        test::click(window, name);
+        settle();
     }
-    IconLabel& feedback() const { return *view->findChild<IconLabel*>(u"checkFeedback"_s); }
+    IconLabel& feedback() const { return existing<IconLabel>(*view, "checkFeedback"); }
     template <typename Sheet>
     Sheet* sheet() const
     {
-        for (Sheet* each : window.findChildren<Sheet*>())
-            if (each->isVisible())
-                return each;
-        return nullptr;
+        return findDialog<Sheet>(window);
     }
     QStringList information() const
     {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AboutView.h"
 #include "ClippedTexts.h"
+#include "Gui.h"
 #include "Literals.h"
 #include "ProgramFacts.h"
 #include "ScaledText.h"
@@ -44,9 +45,7 @@ private Q_SLOTS:
     {
         test::ScreenFixture f;
         AboutView view({f.info, f.product});
-        view.show();
-        view.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&view));
+        test::activate(view);
         const QList<SettingsInfoRow*> rows = view.findChildren<SettingsInfoRow*>();
         rows.last()->findChildren<QLabel*>().last()->setFocus();
         for (const SettingsInfoRow* row : rows) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Gui.h"
 #include "Literals.h"
 #include "ScreenFixture.h"
 #include "SegmentedControl.h"
@@ -31,15 +32,13 @@ struct Shown
         layout->addWidget(makeNotificationsGroup(f.settings));
         layout->addWidget(makeGeneralGroup(f.settings));
         layout->addWidget(makeAppearanceGroup(f.settings));
-        page.show();
-        page.activateWindow();
-        QCoreApplication::processEvents();
+        activate(page);
     }
 
-    ToggleSwitch& toggle(const char* name) { return *page.findChild<ToggleSwitch*>(QLatin1String(name)); }
-    Stepper& days() { return *page.findChild<Stepper*>(u"reminderDays"_s); }
-    SegmentedControl& interval() { return *page.findChild<SegmentedControl*>(u"defaultServiceInterval"_s); }
-    QLineEdit& currency() { return *page.findChild<QLineEdit*>(u"currencySymbol"_s); }
+    ToggleSwitch& toggle(const char* name) { return usable<ToggleSwitch>(page, name); }
+    Stepper& days() { return usable<Stepper>(page, "reminderDays"); }
+    SegmentedControl& interval() { return usable<SegmentedControl>(page, "defaultServiceInterval"); }
+    QLineEdit& currency() { return usable<QLineEdit>(page, "currencySymbol"); }
     QStringList segments()
     {
         QStringList texts;

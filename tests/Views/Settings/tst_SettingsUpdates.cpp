@@ -41,13 +41,13 @@ private Q_SLOTS:
         s.click("checkForUpdates");
         QCOMPARE(f.http.requested().size(), 1);
         f.http.answer(200, newer);
-        QCoreApplication::processEvents();
+        settle();
         QVERIFY(s.feedback().isVisible());
         auto* offer = s.sheet<ViewSheet>();
         QVERIFY(offer != nullptr);
         offer->reject();
         QVERIFY(!f.updates.availableUpdate());
-        QCoreApplication::processEvents();
+        settle();
         QVERIFY(s.sheet<ViewSheet>() == nullptr);
         QCOMPARE(s.feedback().text(), u"Versione 1.3.0 (build 57) disponibile"_s);
     }
@@ -58,7 +58,7 @@ private Q_SLOTS:
         ShownSettings s(f);
         s.click("checkForUpdates");
         f.http.answer(200, current);
-        QCoreApplication::processEvents();
+        settle();
         QVERIFY(s.feedback().y() > s.button("checkForUpdates").geometry().bottom());
         QCOMPARE(s.feedback().x(), s.button("checkForUpdates").x());
     }
@@ -112,7 +112,7 @@ private Q_SLOTS:
         s.click("checkForUpdates");
         QCOMPARE(f.http.requested().size(), 1);
         f.http.answer(200, current);
-        QCoreApplication::processEvents();
+        settle();
         QCOMPARE(check.text(), u"Controlla aggiornamenti ora"_s);
         s.click("checkForUpdates");
         QCOMPARE(f.http.requested().size(), 2);
@@ -164,10 +164,10 @@ private Q_SLOTS:
         s.view->hide();
         f.updates.checkForUpdates();
         f.http.answer(200, newer);
-        QCoreApplication::processEvents();
+        settle();
         QVERIFY(s.sheet<ViewSheet>() == nullptr);
         s.view->show();
-        QCoreApplication::processEvents();
+        settle();
         QVERIFY(s.sheet<ViewSheet>() != nullptr);
     }
 
@@ -180,10 +180,10 @@ private Q_SLOTS:
         QVERIFY(types != nullptr);
         f.updates.checkForUpdates();
         f.http.answer(200, newer);
-        QCoreApplication::processEvents();
+        settle();
         QVERIFY(s.sheet<ViewSheet>() == nullptr);
         types->reject();
-        QCoreApplication::processEvents();
+        settle();
         QVERIFY(s.sheet<ViewSheet>() != nullptr);
     }
 };

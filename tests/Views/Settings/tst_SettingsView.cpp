@@ -98,7 +98,7 @@ private Q_SLOTS:
         ScreenFixture f;
         ShownSettings s(f);
         f.types.deleteType(f.types.types().first());
-        QCoreApplication::processEvents();
+        settle();
         QVERIFY(s.texts().contains(u"15 tipologie attive"_s));
         QCOMPARE(s.information().last(), u"Tipologie disponibili: 15"_s);
     }
@@ -130,7 +130,7 @@ private Q_SLOTS:
         s.click("manageTypes");
         QVERIFY(s.view->showingTypeManagement());
         s.sheet<EquipmentTypeManagementView>()->reject();
-        QCoreApplication::processEvents();
+        settle();
         QVERIFY(!s.view->showingTypeManagement());
         QVERIFY(s.button("manageTypes").hasFocus());
         s.button("openHelp").setFocus();
@@ -138,7 +138,7 @@ private Q_SLOTS:
         QVERIFY(s.view->showingHelp());
         QCOMPARE(s.sheet<ViewSheet>()->focusWidget()->objectName(), u"helpSearch"_s);
         QTest::keyClick(s.sheet<ViewSheet>(), Qt::Key_Escape);
-        QCoreApplication::processEvents();
+        settle();
         QVERIFY(!s.view->showingHelp());
         QVERIFY(s.button("openHelp").hasFocus());
     }
@@ -217,7 +217,7 @@ private Q_SLOTS:
         ShownSettings s(f, {772, 700});
         s.click("checkForUpdates");
         f.http.answer(tl::unexpected(HttpError{}));
-        QCoreApplication::processEvents();
+        settle();
         QCOMPARE(clippedTexts(*s.view), QStringList());
         QCOMPARE(s.view->horizontalScrollBar()->maximum(), 0);
     }

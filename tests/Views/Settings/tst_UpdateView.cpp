@@ -3,6 +3,7 @@
 #include "Buttons.h"
 #include "Cards.h"
 #include "ClippedTexts.h"
+#include "Gui.h"
 #include "Literals.h"
 #include "ScaledText.h"
 #include "ScreenFixture.h"
@@ -33,18 +34,12 @@ struct Offer
         : view(update, f.product.websiteURL, f.opener)
         , closed(&view, &UpdateView::closeRequested)
     {
-        view.show();
-        view.activateWindow();
-        if (!QTest::qWaitForWindowActive(&view))
-            qFatal("the view was not shown");
+        test::activate(view);
     }
 
     [[nodiscard]] QPlainTextEdit& notes() const { return *view.findChild<QPlainTextEdit*>(); }
-    [[nodiscard]] QString versionLine() const { return view.findChild<QLabel*>(u"newVersion"_s)->text(); }
-    [[nodiscard]] QAbstractButton& button(const char* name) const
-    {
-        return *view.findChild<QAbstractButton*>(QLatin1String(name));
-    }
+    [[nodiscard]] QString versionLine() const { return test::textOf(view, "newVersion"); }
+    [[nodiscard]] QAbstractButton& button(const char* name) const { return test::usable<QAbstractButton>(view, name); }
 
     test::ScreenFixture f;
     UpdateView view;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ColorChoice.h"
+#include "Gui.h"
 #include "Literals.h"
 #include "TestRunner.h"
 #include "Theme.h"
@@ -21,10 +22,7 @@ struct Shown
     Shown()
     {
         choice.resize(372, choice.heightForWidth(372));
-        choice.show();
-        choice.activateWindow();
-        if (!QTest::qWaitForWindowActive(&choice))
-            qFatal("the window does not become active");
+        test::activate(choice);
     }
 
     QRadioButton& swatch(AvailableColors color) { return *choice.findChild<QRadioButton*>(caseName(color)); }
@@ -117,7 +115,7 @@ private Q_SLOTS:
         QFETCH(int, width);
         Shown s;
         s.choice.resize(width, s.choice.heightForWidth(width));
-        QCoreApplication::processEvents();
+        test::settle();
         s.swatch(AvailableColors::blue).setFocus(Qt::TabFocusReason);
         QList<AvailableColors> visited{s.choice.selectedColor()};
         for (int i = 0; i < 12; ++i) {

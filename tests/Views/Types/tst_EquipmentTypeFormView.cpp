@@ -64,7 +64,7 @@ private Q_SLOTS:
         TypeForm o(f, newType);
         const QPoint before = o.driver.part<Stepper>("interval").mapTo(&o.sheet, QPoint());
         o.driver.type("name", u"Boa"_s);
-        QCoreApplication::processEvents();
+        settle();
         QCOMPARE(o.driver.part<Stepper>("interval").mapTo(&o.sheet, QPoint()), before);
     }
 
@@ -96,7 +96,7 @@ private Q_SLOTS:
         ScreenFixture f;
         TypeForm o(f, newType);
         o.sheet.scrollArea()->verticalScrollBar()->setValue(o.sheet.scrollArea()->verticalScrollBar()->maximum());
-        QCoreApplication::processEvents();
+        settle();
         const QWidget* preview = part(o.sheet, "previewTile").parentWidget();
         QCOMPARE(preview->visibleRegion().boundingRect(), preview->rect());
         o.sheet.scrollArea()->verticalScrollBar()->setValue(0);
@@ -129,7 +129,7 @@ private Q_SLOTS:
         for (const auto& [key, icon] :
              {std::pair(Qt::Key_End, DivingIcons::spareParts), std::pair(Qt::Key_Home, DivingIcons::diveLight)}) {
             QTest::keyClick(o.sheet.focusWidget(), key);
-            QCoreApplication::processEvents();
+            settle();
             QVERIFY(cell(o, icon).hasFocus());
             QCOMPARE(cell(o, icon).visibleRegion().boundingRect(), cell(o, icon).rect());
         }
@@ -180,7 +180,7 @@ private Q_SLOTS:
             type.serviceIntervalDays = 1234567;
             for (const auto& edited : {newType, std::optional(type)}) {
                 TypeForm o(f, edited);
-                QCoreApplication::processEvents();
+                settle();
                 QCOMPARE(clippedTexts(o.sheet).join(u'|'), QString());
                 QVERIFY(o.sheet.width() < 1000 && o.sheet.height() < 700);
                 const QScrollArea* area = o.sheet.scrollArea();

@@ -2,6 +2,7 @@
 #include "IconPicker.h"
 #include "Literals.h"
 
+#include "Gui.h"
 #include "SearchField.h"
 #include "TestRunner.h"
 #include "Theme.h"
@@ -23,10 +24,7 @@ struct Shown
     Shown()
     {
         picker.resize(556, 900);
-        picker.show();
-        picker.activateWindow();
-        if (!QTest::qWaitForWindowActive(&picker))
-            qFatal("the window does not become active");
+        test::activate(picker);
     }
 
     SearchField& search() { return *picker.findChild<SearchField*>(u"iconSearch"_s); }

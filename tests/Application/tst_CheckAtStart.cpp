@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Gui.h"
 #include "Literals.h"
 #include "LocalServer.h"
 #include "MainWindow.h"
@@ -13,6 +14,7 @@
 #include <QTest>
 
 using namespace abissora;
+using namespace abissora::test;
 
 namespace {
 
@@ -52,10 +54,10 @@ private Q_SLOTS:
         start();
         m_app->showMainWindow();
         QVERIFY(QTest::qWaitForWindowExposed(&m_app->mainWindow()));
-        handleEverything();
+        settle();
         m_app->mainWindow().close();
         m_app->showMainWindow();
-        handleEverything();
+        settle();
         QCOMPARE(m_http->requested(), QList<QUrl>());
     }
 
@@ -65,7 +67,7 @@ private Q_SLOTS:
         start();
         m_app->mainWindow().show();
         QVERIFY(QTest::qWaitForWindowExposed(&m_app->mainWindow()));
-        handleEverything();
+        settle();
         QCOMPARE(m_http->requested(), QList<QUrl>());
     }
 
@@ -79,7 +81,7 @@ private Q_SLOTS:
         m_app->mainWindow().close();
         m_app->showMainWindow();
         m_app->showMainWindow();
-        handleEverything();
+        settle();
         QCOMPARE(m_http->requested().size(), 1);
     }
 
@@ -114,7 +116,7 @@ private Q_SLOTS:
         QTRY_COMPARE(m_http->open(), 1);
         const auto windows = QApplication::topLevelWidgets().size();
         m_http->answer(answer);
-        handleEverything();
+        settle();
         QCOMPARE(offered.size(), 0);
         QCOMPARE(QApplication::topLevelWidgets().size(), windows);
     }
@@ -138,7 +140,7 @@ private Q_SLOTS:
         else
             m_app.reset();
         m_http->answer(200, newer);
-        handleEverything();
+        settle();
     }
 
     void mayEndWhileTheServerHangs()
@@ -164,12 +166,6 @@ private:
         PreferencesStore preferences(folders.preferences(), folders.backups(), clock);
         StandardOutput console;
         SettingsViewModel(preferences, console).setCheckForUpdatesOnLaunch(want);
-    }
-
-    static void handleEverything()
-    {
-        for (int pass = 0; pass < 5; ++pass)
-            QCoreApplication::processEvents();
     }
 
     std::optional<QTemporaryDir> m_folder;
