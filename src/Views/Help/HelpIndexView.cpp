@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "HelpIndexView.h"
 
+#include "Assembly.h"
 #include "ControlLook.h"
 #include "HelpIndex.h"
 #include "IconViews.h"
@@ -20,7 +21,6 @@
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStyledItemDelegate>
-#include <QVBoxLayout>
 
 namespace abissora {
 
@@ -76,11 +76,8 @@ HelpIndexView::HelpIndexView(HelpIndex& index, QWidget* parent)
     buildList();
     m_pages->addWidget(m_list);
     m_pages->addWidget(makeNoResult());
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(metrics::spaceM, metrics::spaceM, metrics::spaceM, metrics::spaceM);
-    layout->setSpacing(metrics::spaceM - 1);
-    layout->addWidget(m_search);
-    layout->addWidget(m_pages, 1);
+    setLayout(inColumn(metrics::spaceM - 1, {m_search, {m_pages, 1}},
+                       {metrics::spaceM, metrics::spaceM, metrics::spaceM, metrics::spaceM}));
     // A screen reader or a dictation sets the text, which is no edit to the field.
     connect(m_search, &QLineEdit::textChanged, this, &HelpIndexView::search);
     showSections();
@@ -128,14 +125,9 @@ QWidget* HelpIndexView::makeNoResult()
     m_noResult->setObjectName(u"noResult"_s);
     m_noResult->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     auto* page = new QWidget;
-    auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(0, metrics::spaceXL, 0, metrics::spaceXL);
-    layout->setSpacing(metrics::spaceM);
-    layout->addStretch(1);
-    layout->addWidget(new IconView(symbolIcon(u"magnifyingglass"_s, NamedColor::secondary), largeIconSide), 0,
-                      Qt::AlignHCenter);
-    layout->addWidget(m_noResult);
-    layout->addStretch(2);
+    auto* icon = new IconView(symbolIcon(u"magnifyingglass"_s, NamedColor::secondary), largeIconSide);
+    page->setLayout(inColumn(metrics::spaceM, {Stretch(1), {icon, 0, Qt::AlignHCenter}, m_noResult, Stretch(2)},
+                             {0, metrics::spaceXL, 0, metrics::spaceXL}));
     return page;
 }
 

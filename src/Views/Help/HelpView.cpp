@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "HelpView.h"
 
+#include "Assembly.h"
 #include "Cards.h"
 #include "EmptyState.h"
 #include "HelpIndexView.h"
@@ -14,7 +15,6 @@
 
 #include <QShortcut>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 
 namespace abissora {
 
@@ -38,47 +38,31 @@ HelpView::HelpView(QList<HelpSection> sections, Opener& opener, QWidget* parent)
     , m_pages(new QStackedWidget)
 {
     setObjectName(u"helpView"_s);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(makeHeader());
-    layout->addWidget(new Separator);
-    layout->addWidget(makeBody(), 1);
+    setLayout(inColumn(0, {makeHeader(), new Separator, {makeBody(), 1}}));
     connect(m_indexView, &HelpIndexView::selectionChanged, this, &HelpView::showSelection);
     connect(new QShortcut(QKeySequence::Find, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
             &QShortcut::activated, m_indexView, &HelpIndexView::focusSearch);
     showSelection();
 }
 
-QWidget* HelpView::makeHeader()
+QLayout* HelpView::makeHeader()
 {
-    auto* texts = new QVBoxLayout;
-    texts->setSpacing(0);
-    texts->addWidget(new InkLabel(TextStyle::Headline, &Tokens::text, u"Aiuto"_s));
-    texts->addWidget(new InkLabel(TextStyle::Caption, &Tokens::secondaryText, u"Guida all'uso di Abissora"_s));
-    auto* header = new QWidget;
-    auto* layout = new QHBoxLayout(header);
-    layout->setContentsMargins(headerMargin, metrics::spaceM + 2, headerMargin, metrics::spaceM + 2);
-    layout->setSpacing(metrics::spaceM);
-    layout->addWidget(new IconView(symbolIcon(u"book.fill"_s, NamedColor::blue), bookSide));
-    layout->addLayout(texts, 1);
-    return header;
+    auto* texts =
+        inColumn(0, {new InkLabel(TextStyle::Headline, &Tokens::text, u"Aiuto"_s),
+                     new InkLabel(TextStyle::Caption, &Tokens::secondaryText, u"Guida all'uso di Abissora"_s)});
+    auto* book = new IconView(symbolIcon(u"book.fill"_s, NamedColor::blue), bookSide);
+    return inRow(metrics::spaceM, {book, {texts, 1}},
+                 {headerMargin, metrics::spaceM + 2, headerMargin, metrics::spaceM + 2});
 }
 
-QWidget* HelpView::makeBody()
+QLayout* HelpView::makeBody()
 {
     m_indexView->setFixedWidth(withText(indexWidth, fontMetrics()));
     auto* nothing = new EmptyState(u"book"_s, u"Seleziona un argomento"_s);
     nothing->setText(u"Scegli una sezione dall'indice a sinistra per leggere la guida."_s);
     m_pages->addWidget(m_page);
     m_pages->addWidget(nothing);
-    auto* body = new QWidget;
-    auto* layout = new QHBoxLayout(body);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_indexView);
-    layout->addWidget(m_pages, 1);
-    return body;
+    return inRow(0, {m_indexView, {m_pages, 1}});
 }
 
 void HelpView::showSelection()

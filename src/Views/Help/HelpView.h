@@ -25,8 +25,8 @@ public:
     HelpView(QList<HelpSection> sections, Opener& opener, QWidget* parent = nullptr);
 
 private:
-    [[nodiscard]] static QWidget* makeHeader();
-    [[nodiscard]] QWidget* makeBody();
+    [[nodiscard]] static QLayout* makeHeader();
+    [[nodiscard]] QLayout* makeBody();
     void showSelection();
 
     HelpIndex m_index;

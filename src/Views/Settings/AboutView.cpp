@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AboutView.h"
 
+#include "Assembly.h"
 #include "Cards.h"
 #include "Labels.h"
 #include "Literals.h"
@@ -90,16 +91,15 @@ AboutView::AboutView(const ProgramFacts& program, QWidget* parent)
     auto* name = new InkLabel(TextStyle::LargeTitle, &Tokens::text, u"Abissora"_s);
     auto* subtitle =
         new InkLabel(TextStyle::Body, &Tokens::secondaryText, u"Gestione attrezzatura subacquea e manutenzioni"_s);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(metrics::spaceXL, metrics::spaceL, metrics::spaceXL, metrics::spaceXL);
-    layout->setSpacing(metrics::spaceXS);
-    layout->addWidget(new ShadowedIcon(iconSide), 0, Qt::AlignHCenter);
-    layout->addSpacing(metrics::spaceXS);
-    layout->addWidget(name, 0, Qt::AlignHCenter);
-    layout->addWidget(subtitle, 0, Qt::AlignHCenter);
-    layout->addSpacing(metrics::spaceL);
-    layout->addWidget(makeRows(program));
-    layout->addStretch();
+    setLayout(inColumn(metrics::spaceXS,
+                       {{new ShadowedIcon(iconSide), 0, Qt::AlignHCenter},
+                        Gap(metrics::spaceXS),
+                        {name, 0, Qt::AlignHCenter},
+                        {subtitle, 0, Qt::AlignHCenter},
+                        Gap(metrics::spaceL),
+                        makeRows(program),
+                        Stretch()},
+                       {metrics::spaceXL, metrics::spaceL, metrics::spaceXL, metrics::spaceXL}));
     setMinimumWidth(withText(contentWidth, fontMetrics()));
 }
 

@@ -1,31 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsGroupBox.h"
 
+#include "Assembly.h"
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "ToggleSwitch.h"
 
 #include <QAbstractButton>
-#include <QHBoxLayout>
 
 namespace abissora {
 
 SettingsInfoRow::SettingsInfoRow(const QString& label, InkLabel::Ink valueColor, TextStyle style, QWidget* parent)
     : QWidget(parent)
     , m_label(new InkLabel(style, &Tokens::text, label))
-    , m_value(new InkLabel(style, valueColor))
+    , m_value(named(new InkLabel(style, valueColor), u"informationValue"))
 {
-    m_value->setObjectName(u"informationValue"_s);
     m_label->setBuddy(m_value);
     m_value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_value->setFocusPolicy(Qt::StrongFocus); // the toolkit gives the focus to clicks only
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(metrics::spaceL);
-    layout->addWidget(m_label);
-    layout->addWidget(m_value, 1);
+    setLayout(inRow(metrics::spaceL, {m_label, {m_value, 1}}));
 }
 
 SettingsGroupBox::SettingsGroupBox(const QString& title, const QString& symbol, QWidget* parent)
@@ -49,8 +44,7 @@ void SettingsGroupBox::addExplanation(const QString& text, QWidget* control)
 QAbstractButton* SettingsGroupBox::addSwitch(const QString& text, const QString& name, SettingsViewModel& settings,
                                              Getter get, Setter set)
 {
-    auto* toggle = new ToggleSwitch(text);
-    toggle->setObjectName(name);
+    auto* toggle = named(new ToggleSwitch(text), name);
     toggle->setChecked((settings.*get)());
     // Not clicked, which leaves out a screen reader's toggling.
     connect(toggle, &QAbstractButton::toggled, &settings, [&settings, get, set](bool on) {
@@ -85,11 +79,7 @@ void SettingsGroupBox::addLine(const QString& caption, QWidget* control)
 
 void SettingsGroupBox::addLine(InkLabel* text, QWidget* button)
 {
-    auto* line = new QHBoxLayout;
-    line->setSpacing(metrics::spaceM);
-    line->addWidget(text, 1);
-    line->addWidget(button);
-    content()->addLayout(line);
+    content()->addLayout(inRow(metrics::spaceM, {{text, 1}, button}));
 }
 
 } // namespace abissora

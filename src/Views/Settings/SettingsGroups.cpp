@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsGroups.h"
 
+#include "Assembly.h"
 #include "Buttons.h"
 #include "EquipmentTypeViewModel.h"
 #include "Labels.h"
@@ -15,7 +16,6 @@
 #include "TypeManagement.h"
 #include "VisibleUpdate.h"
 
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <limits>
 
@@ -56,16 +56,11 @@ private:
     {
         const QUrl address = m_program.product.websiteURL;
         const QString caption = u"— sito dell'applicazione"_s;
-        auto* link = new LinkButton(address.host());
-        link->setObjectName(u"website"_s);
+        auto* link = named(new LinkButton(address.host()), u"website");
         link->setAccessibleDescription(caption);
         connect(link, &QAbstractButton::clicked, this, [this, address, &opener] { openPage(address, opener, *this); });
-        auto* line = new QHBoxLayout;
-        line->setSpacing(0);
-        line->addSpacing(-metrics::spaceXS); // the link's own padding
-        line->addWidget(link);
-        line->addWidget(new InkLabel(TextStyle::Body, &Tokens::secondaryText, caption), 1);
-        return line;
+        const Gap ownPadding(-metrics::spaceXS);
+        return inRow(0, {ownPadding, link, {new InkLabel(TextStyle::Body, &Tokens::secondaryText, caption), 1}});
     }
 
     void redraw()
@@ -97,10 +92,8 @@ SettingsGroupBox* makeTypesGroup(EquipmentTypeViewModel& types, const std::funct
 {
     auto* group = new SettingsGroupBox(u"Tipologie Attrezzatura"_s, u"list.bullet"_s);
     group->addText(u"Gestisci le tipologie di attrezzatura disponibili per la categorizzazione"_s);
-    auto* count = new InkLabel(TextStyle::Body, &Tokens::secondaryText);
-    count->setObjectName(u"activeTypes"_s);
-    auto* button = new PlainButton(u"Gestisci Tipologie"_s, u"pencil.circle"_s);
-    button->setObjectName(u"manageTypes"_s);
+    auto* count = named(new InkLabel(TextStyle::Body, &Tokens::secondaryText), u"activeTypes");
+    auto* button = named(new PlainButton(u"Gestisci Tipologie"_s, u"pencil.circle"_s), u"manageTypes");
     group->addLine(count, button);
     QObject::connect(button, &QAbstractButton::clicked, group, manage);
 
@@ -116,8 +109,7 @@ SettingsGroupBox* makeNotificationsGroup(SettingsViewModel& settings)
     auto* group = new SettingsGroupBox(u"Notifiche"_s, u"bell"_s);
     group->addSwitch(u"Abilita Notifiche"_s, u"notificationsEnabled"_s, settings,
                      &SettingsViewModel::notificationsEnabled, &SettingsViewModel::setNotificationsEnabled);
-    auto* days = new Stepper;
-    days->setObjectName(u"reminderDays"_s);
+    auto* days = named(new Stepper, u"reminderDays");
     days->setRange(7, 90);
     days->setSingleStep(7);
     days->setSuffix(u" giorni"_s);
@@ -129,12 +121,10 @@ SettingsGroupBox* makeNotificationsGroup(SettingsViewModel& settings)
 
 SettingsGroupBox* makeGeneralGroup(SettingsViewModel& settings)
 {
-    auto* interval = new SegmentedControl(SegmentedControl::Purpose::Choice);
-    interval->setObjectName(u"defaultServiceInterval"_s);
+    auto* interval = named(new SegmentedControl(SegmentedControl::Purpose::Choice), u"defaultServiceInterval");
     for (const ServiceInterval& offered : offeredIntervals)
         interval->addSegment(offered.text);
-    auto* currency = new QLineEdit;
-    currency->setObjectName(u"currencySymbol"_s);
+    auto* currency = named(new QLineEdit, u"currencySymbol");
     currency->setMaxLength(std::numeric_limits<int>::max()); // what is stored shall not be shortened
     currency->setPlaceholderText(u"Simbolo"_s);
     currency->setFixedWidth(withText(currencyWidth, currency->fontMetrics()));
@@ -169,8 +159,7 @@ SettingsGroupBox* makeHelpGroup(const std::function<void()>& open)
 {
     auto* group = new SettingsGroupBox(u"Aiuto"_s, u"book"_s);
     group->addText(u"Guida all'uso completa del programma: funzioni, manutenzioni, allegati PDF e domande frequenti"_s);
-    auto* button = new PlainButton(u"Apri la Guida"_s, u"book.fill"_s);
-    button->setObjectName(u"openHelp"_s);
+    auto* button = named(new PlainButton(u"Apri la Guida"_s, u"book.fill"_s), u"openHelp");
     group->addButton(button);
     QObject::connect(button, &QAbstractButton::clicked, group, open);
     return group;
@@ -184,8 +173,7 @@ SettingsGroupBox* makeInformationGroup(const ProgramFacts& program, EquipmentTyp
 SettingsGroupBox* makeRestoreGroup(const std::function<void()>& reset)
 {
     auto* group = new SettingsGroupBox(u"Ripristino"_s, u"arrow.counterclockwise"_s);
-    auto* button = new DestructiveButton(u"Ripristina Impostazioni Default"_s);
-    button->setObjectName(u"resetSettings"_s);
+    auto* button = named(new DestructiveButton(u"Ripristina Impostazioni Default"_s), u"resetSettings");
     group->addButton(button);
     group->addExplanation(u"Ripristina tutte le impostazioni ai valori predefiniti"_s, button);
     QObject::connect(button, &QAbstractButton::clicked, group, reset);

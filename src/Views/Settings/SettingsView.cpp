@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsView.h"
 
+#include "Assembly.h"
 #include "EquipmentTypeManagementView.h"
 #include "HelpView.h"
 #include "IconViews.h"
@@ -48,11 +49,7 @@ SettingsView::SettingsView(SettingsViewModel& settings, EquipmentTypeViewModel& 
     addGroups(groups);
     groups->addStretch();
 
-    auto* layout = new QHBoxLayout(widget());
-    layout->setContentsMargins(metrics::spaceXL, 0, metrics::spaceXL, 0);
-    layout->addStretch(1);
-    layout->addWidget(column, 1000);
-    layout->addStretch(1);
+    widget()->setLayout(inRow(0, {Stretch(1), {column, 1000}, Stretch(1)}, {metrics::spaceXL, 0, metrics::spaceXL, 0}));
     connect(&updates, &UpdateCheckerViewModel::availableUpdateChanged, this, &SettingsView::offerUpdate);
 }
 

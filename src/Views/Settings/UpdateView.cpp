@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "UpdateView.h"
 
+#include "Assembly.h"
 #include "Buttons.h"
 #include "Cards.h"
 #include "IconViews.h"
@@ -11,7 +12,6 @@
 #include "Painting.h"
 #include "SymbolIcon.h"
 
-#include <QHBoxLayout>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QShortcut>
@@ -109,11 +109,9 @@ UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& op
 {
     setObjectName(u"updateView"_s);
     auto* title = new InkLabel(TextStyle::Title, &Tokens::text, u"Aggiornamento disponibile"_s);
-    auto* version = new WrapLabel(TextStyle::Body, &Tokens::secondaryText, m_offer.version);
-    version->setObjectName(u"newVersion"_s);
+    auto* version = named(new WrapLabel(TextStyle::Body, &Tokens::secondaryText, m_offer.version), u"newVersion");
     version->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    auto* later = new PlainButton(u"Più tardi"_s);
-    later->setObjectName(u"later"_s);
+    auto* later = named(new PlainButton(u"Più tardi"_s), u"later");
     m_download->setObjectName(u"download"_s);
     connect(later, &QAbstractButton::clicked, this, &UpdateView::closeRequested);
     connect(m_download, &QAbstractButton::clicked, this, &UpdateView::download);
@@ -121,22 +119,16 @@ UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& op
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, this, &UpdateView::closeRequested);
 
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(metrics::spaceM);
-    buttons->addStretch();
-    buttons->addWidget(later);
-    buttons->addWidget(m_download);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceL);
-    layout->setSpacing(metrics::spaceS);
-    layout->addWidget(new IconView(symbolIcon(u"arrow.down.circle.fill"_s, NamedColor::blue), iconSide), 0,
-                      Qt::AlignHCenter);
-    layout->addWidget(title, 0, Qt::AlignHCenter);
-    layout->addWidget(version);
-    layout->addSpacing(metrics::spaceS);
-    layout->addWidget(makeNotes(), 1);
-    layout->addSpacing(metrics::spaceS);
-    layout->addLayout(buttons);
+    auto* icon = new IconView(symbolIcon(u"arrow.down.circle.fill"_s, NamedColor::blue), iconSide);
+    setLayout(inColumn(metrics::spaceS,
+                       {{icon, 0, Qt::AlignHCenter},
+                        {title, 0, Qt::AlignHCenter},
+                        version,
+                        Gap(metrics::spaceS),
+                        {makeNotes(), 1},
+                        Gap(metrics::spaceS),
+                        inRow(metrics::spaceM, {Stretch(), later, m_download})},
+                       {metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceL}));
     setMinimumWidth(withText(contentWidth, fontMetrics()));
     setFocusProxy(m_download);
 }
@@ -150,8 +142,7 @@ void UpdateView::showEvent(QShowEvent* event)
 GroupBox* UpdateView::makeNotes() const
 {
     const QString title = u"Novità in questa versione"_s;
-    auto* notes = new ReleaseNotes(m_offer.notes);
-    notes->setObjectName(u"releaseNotes"_s);
+    auto* notes = named(new ReleaseNotes(m_offer.notes), u"releaseNotes");
     notes->setAccessibleName(title);
     auto* box = new GroupBox(title, u"sparkles"_s);
     box->content()->addWidget(notes, 1);

@@ -2,6 +2,7 @@
 #include "ColorChoice.h"
 
 #include "Accessibility.h"
+#include "Assembly.h"
 #include "FlowLayout.h"
 #include "Labels.h"
 #include "Literals.h"
@@ -14,7 +15,6 @@
 #include <QPainter>
 #include <QRadioButton>
 #include <QStyleOption>
-#include <QVBoxLayout>
 
 namespace abissora {
 
@@ -72,11 +72,10 @@ void ColorSwatch::paintEvent(QPaintEvent*)
 ColorChoice::ColorChoice(QWidget* parent)
     : QWidget(parent)
     , m_swatches(new QButtonGroup(this))
-    , m_label(new InkLabel(TextStyle::Caption, &Tokens::secondaryText))
+    , m_label(named(new InkLabel(TextStyle::Caption, &Tokens::secondaryText), u"colorLabel"))
 {
     setAccessibleRole(*this, QAccessible::Grouping);
     setAccessibleName(u"Colore"_s);
-    m_label->setObjectName(u"colorLabel"_s);
     auto* flow = new FlowLayout(0, metrics::spaceXS);
     for (const AvailableColors color : allCases<AvailableColors>()) {
         auto* swatch = new ColorSwatch(color);
@@ -84,11 +83,7 @@ ColorChoice::ColorChoice(QWidget* parent)
         swatch->installEventFilter(this);
         flow->addWidget(swatch);
     }
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(metrics::spaceXS);
-    layout->addLayout(flow);
-    layout->addWidget(m_label);
+    setLayout(inColumn(metrics::spaceXS, {flow, m_label}));
     setSelectedColor(m_selectedColor);
     connect(m_swatches, &QButtonGroup::idClicked, this, [this](int id) { choose(static_cast<AvailableColors>(id)); });
 }

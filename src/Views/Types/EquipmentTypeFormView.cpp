@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeFormView.h"
 
+#include "Assembly.h"
 #include "Buttons.h"
 #include "Cards.h"
 #include "ColorChoice.h"
@@ -18,7 +19,6 @@
 #include "TypeManagement.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -101,24 +101,17 @@ class EquipmentTypeFormView::Preview final : public Card
 {
 public:
     Preview()
-        : m_tile(new IconTile(previewTileSide))
-        , m_name(new WrapLabel(TextStyle::BodyMedium, &Tokens::text))
-        , m_interval(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText))
+        : m_tile(named(new IconTile(previewTileSide), u"previewTile"))
+        , m_name(named(new WrapLabel(TextStyle::BodyMedium, &Tokens::text), u"previewName"))
+        , m_interval(named(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText), u"previewInterval"))
     {
         auto* title = new WrapLabel(TextStyle::Headline, &Tokens::text, u"Anteprima"_s);
         setAccessibleName(title->text());
-        m_tile->setObjectName(u"previewTile"_s);
-        m_name->setObjectName(u"previewName"_s);
-        m_interval->setObjectName(u"previewInterval"_s);
         for (WrapLabel* label : {title, m_name, m_interval})
             label->setAlignment(Qt::AlignCenter);
-        content()->addWidget(title);
-        content()->addSpacing(metrics::spaceXS);
-        content()->addWidget(m_tile, 0, Qt::AlignHCenter);
-        content()->addSpacing(metrics::spaceXS);
-        content()->addWidget(m_name);
-        content()->addWidget(m_interval);
-        content()->setSpacing(metrics::spaceXS);
+        const Gap gap(metrics::spaceXS);
+        content()->addLayout(
+            inColumn(metrics::spaceXS, {title, gap, {m_tile, 0, Qt::AlignHCenter}, gap, m_name, m_interval}));
     }
 
     void setType(const EquipmentTypeModel& type)
@@ -141,10 +134,10 @@ EquipmentTypeFormView::EquipmentTypeFormView(EquipmentTypeViewModel& types, IdGe
     , m_types(types)
     , m_ids(ids)
     , m_editingType(editingType)
-    , m_name(new QLineEdit)
+    , m_name(named(new QLineEdit, u"name"))
     , m_invalidName(new InkLabel(TextStyle::Caption, &Tokens::danger, u"Inserisci un nome valido"_s))
-    , m_interval(new Stepper)
-    , m_color(new ColorChoice)
+    , m_interval(named(new Stepper, u"interval"))
+    , m_color(named(new ColorChoice, u"color"))
     , m_icons(new IconPicker)
     , m_preview(new Preview)
 {
@@ -159,18 +152,15 @@ EquipmentTypeFormView::EquipmentTypeFormView(EquipmentTypeViewModel& types, IdGe
 
 GroupBox* EquipmentTypeFormView::makeBasics()
 {
-    m_name->setObjectName(u"name"_s);
     m_name->setMaxLength(std::numeric_limits<int>::max()); // a form shall not shorten what is stored
     m_name->setPlaceholderText(u"Inserisci il nome"_s);
     m_invalidName->setObjectName(u"invalidName"_s);
     QSizePolicy policy = m_invalidName->sizePolicy();
     policy.setRetainSizeWhenHidden(true); // nothing shall jump while somebody types
     m_invalidName->setSizePolicy(policy);
-    m_interval->setObjectName(u"interval"_s);
     m_interval->setRange(shortestInterval, longestInterval);
     m_interval->setSingleStep(intervalStep);
     m_interval->setSuffix(u" giorni"_s);
-    m_color->setObjectName(u"color"_s);
 
     auto* name = row(u"Nome Tipologia*"_s, m_name);
     name->setHint(u"* Campo obbligatorio"_s);
@@ -184,16 +174,9 @@ GroupBox* EquipmentTypeFormView::makeBasics()
 
 void EquipmentTypeFormView::makeColumns()
 {
-    auto* fields = new QVBoxLayout;
-    fields->setSpacing(body()->spacing());
-    fields->addWidget(makeBasics());
-    fields->addWidget(m_icons);
-    fields->addStretch();
-    auto* columns = new QHBoxLayout;
-    columns->setSpacing(metrics::spaceL);
-    columns->addLayout(fields, 1);
-    columns->addWidget(new StickyColumn(m_preview, *scrollArea(), withText(previewWidth, fontMetrics())));
-    body()->addLayout(columns);
+    auto* fields = inColumn(body()->spacing(), {makeBasics(), m_icons, Stretch()});
+    auto* preview = new StickyColumn(m_preview, *scrollArea(), withText(previewWidth, fontMetrics()));
+    body()->addLayout(inRow(metrics::spaceL, {{fields, 1}, preview}));
 }
 
 void EquipmentTypeFormView::setState(const EquipmentTypeFormState& state)
