@@ -2,7 +2,6 @@
 #include "MarevoloApp.h"
 
 #include "AppWindows.h"
-#include "EditEquipmentView.h"
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
@@ -83,10 +82,9 @@ MainWindow& MarevoloApp::mainWindow()
     return *m_mainWindow;
 }
 
-AppContext MarevoloApp::context()
+std::unique_ptr<EquipmentDetail> MarevoloApp::detail(const Equipment& equipment)
 {
-    return {m_equipment, m_types,  m_settings, m_updates, m_console,  m_clock,        m_ids,
-            m_documents, m_opener, m_info,     m_product, m_calendar, m_almanac.dates};
+    return std::make_unique<EquipmentDetail>(m_equipment, m_types, m_documents, m_ids, m_almanac, equipment);
 }
 
 SidebarView* MarevoloApp::makeSidebar()
@@ -101,13 +99,13 @@ EquipmentListView* MarevoloApp::makeList()
 
 EquipmentDetailView* MarevoloApp::makeDetail(const Equipment& equipment)
 {
-    return new EquipmentDetailView(context(), equipment);
+    return new EquipmentDetailView(detail(equipment), m_opener);
 }
 
 QWidget* MarevoloApp::makeOverview()
 {
     return new MaintenanceOverviewView(m_equipment, m_types, [this](const Equipment& equipment, QWidget* parent) {
-        return EquipmentDetailView::makeSheet(context(), equipment, parent);
+        return EquipmentDetailView::makeSheet(detail(equipment), m_opener, parent);
     });
 }
 
@@ -123,12 +121,12 @@ QWidget* MarevoloApp::makeSettings()
 
 EquipmentFormView* MarevoloApp::makeFormForNew(QWidget* over)
 {
-    return new EquipmentFormView(context(), over);
+    return new EquipmentFormView(m_equipment, m_types, m_almanac, m_ids, over);
 }
 
 EditEquipmentView* MarevoloApp::makeFormFor(const Equipment& equipment, QWidget* over)
 {
-    return new EditEquipmentView(context(), equipment, over);
+    return new EditEquipmentView(m_equipment, m_types, m_almanac, equipment, over);
 }
 
 void MarevoloApp::applyScheme()

@@ -2,20 +2,24 @@
 #pragma once
 
 #include "Almanac.h"
-#include "AppContext.h"
 #include "ApplicationDirectories.h"
 #include "DayWatch.h"
 #include "DesktopFilePanel.h"
 #include "DesktopOpener.h"
+#include "EquipmentTypeViewModel.h"
+#include "EquipmentViewModel.h"
 #include "MaintenanceDocumentStore.h"
 #include "ScreenFactory.h"
+#include "SettingsViewModel.h"
 #include "SymbolIcon.h"
+#include "UpdateCheckerViewModel.h"
 
 class QApplication;
 
 namespace abissora {
 
 class AppWindows;
+class EquipmentDetail;
 class MainWindow;
 
 /// The entry: the only place that creates services and state objects, in the order in which the program starts, and
@@ -43,7 +47,7 @@ Q_SIGNALS:
 
 private:
     QCoro::Task<> checkForUpdatesAtStart();
-    [[nodiscard]] AppContext context();
+    [[nodiscard]] std::unique_ptr<EquipmentDetail> detail(const Equipment& equipment);
     void applyScheme();
 
     SidebarView* makeSidebar() override;

@@ -3,11 +3,10 @@
 
 #include "Literals.h"
 
+#include <QLocale>
 #include <QStringList>
 #include <array>
 #include <charconv>
-#include <cmath>
-#include <limits>
 
 namespace abissora::costText {
 
@@ -20,7 +19,7 @@ constexpr qsizetype groupLength = 3;
 
 bool areDigits(QStringView text)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
 QString withoutCurrency(const QString& text)
@@ -40,11 +39,9 @@ std::optional<QString> ungrouped(const QString& digits, QChar separator)
     const QString& first = groups.first();
     if (groups.size() > 1 && (first.isEmpty() || first.size() > groupLength || first.startsWith(u'0')))
         return std::nullopt;
-    for (qsizetype i = 1; i < groups.size(); ++i) {
-        if (groups.at(i).size() != groupLength)
-            return std::nullopt;
-    }
-    return groups.join(QString());
+    const bool areOfThree = std::ranges::all_of(
+        groups.sliced(1), [](qsizetype length) { return length == groupLength; }, &QString::size);
+    return areOfThree ? std::optional(groups.join(QString())) : std::nullopt;
 }
 
 /// What separates the decimals, if anything does.
@@ -76,22 +73,12 @@ std::optional<QString> normalized(const QString& amount)
     return (digits->isEmpty() ? u"0"_s : *digits) + fullStop + (decimals.isEmpty() ? u"0"_s : decimals);
 }
 
-/// Long enough for every finite number written out.
-using Buffer = std::array<char, 1200>;
-
-QString written(double cost, int decimals)
+/// Half a cent goes to the even one, as the exact value of the number lies; the toolkit would round it up.
+QString withTwoDecimals(double cost)
 {
-    Buffer buffer;
-    const auto end =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), cost, std::chars_format::fixed, decimals);
-    return QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
-}
-
-QString writtenShortest(double cost)
-{
-    Buffer buffer;
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), cost, std::chars_format::fixed);
-    return QString::fromLatin1(buffer.data(), end.ptr - buffer.data());
+    std::array<char, 400> text; // long enough for every finite number
+    const auto end = std::to_chars(text.begin(), text.end(), cost, std::chars_format::fixed, 2);
+    return QString::fromLatin1(text.data(), end.ptr - text.data());
 }
 
 std::optional<double> valueOf(const QString& amount)
@@ -99,12 +86,9 @@ std::optional<double> valueOf(const QString& amount)
     const std::optional<QString> number = normalized(amount);
     if (!number)
         return std::nullopt;
-    const QByteArray digits = number->toLatin1();
-    double cost = 0;
-    const auto end = std::from_chars(digits.data(), digits.data() + digits.size(), cost);
-    if (end.ec != std::errc() || end.ptr != digits.data() + digits.size())
-        return std::nullopt;
-    return cost;
+    bool isInRange = false;
+    const double cost = number->toDouble(&isInRange);
+    return isInRange ? std::optional(cost) : std::nullopt;
 }
 
 } // namespace
@@ -127,10 +111,10 @@ QString show(double cost)
 {
     if (cost == 0)
         return {};
-    QString text = writtenShortest(cost);
+    QString text = QString::number(cost, 'f', QLocale::FloatingPointShortest);
     const qsizetype stop = text.indexOf(fullStop);
     if (stop < 0 || text.size() - stop <= 2)
-        text = written(cost, 2);
+        text = withTwoDecimals(cost);
     return text.replace(fullStop, comma);
 }
 
@@ -138,7 +122,7 @@ std::optional<QString> listed(double cost)
 {
     if (!(cost > 0))
         return std::nullopt;
-    return euro + written(cost, 2);
+    return euro + withTwoDecimals(cost);
 }
 
 } // namespace abissora::costText

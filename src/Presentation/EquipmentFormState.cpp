@@ -1,15 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentFormState.h"
 
-#include "EquipmentTypeViewModel.h"
+#include "ServiceInterval.h"
 
 namespace abissora {
-
-namespace {
-
-constexpr std::int64_t intervalOfUnknownTypes = 365;
-
-} // namespace
 
 EquipmentFormState EquipmentFormState::of(const Equipment& item)
 {
@@ -26,17 +20,23 @@ EquipmentFormState EquipmentFormState::of(const Equipment& item)
     };
 }
 
+EquipmentFormState EquipmentFormState::ofNewItem(Instant now)
+{
+    EquipmentFormState state;
+    state.purchaseDate = now;
+    state.lastServiceDate = now;
+    return state;
+}
+
 bool EquipmentFormState::isFormValid() const
 {
     return !name.trimmed().isEmpty() && !brand.trimmed().isEmpty();
 }
 
-Instant EquipmentFormState::calculateNextServiceDate(const EquipmentTypeViewModel& types, const Calendar& calendar,
-                                                     Instant now) const
+Instant EquipmentFormState::calculateNextServiceDate(const EquipmentTypeViewModel& types, const Almanac& almanac) const
 {
-    const auto type = types.getTypeByName(selectedTypeName);
-    const std::int64_t interval = type ? type->serviceIntervalDays : intervalOfUnknownTypes;
-    return calendar.addDays(lastServiceDate, interval).value_or(now);
+    const std::int64_t interval = serviceInterval::ofType(selectedTypeName, types);
+    return almanac.calendar.addDays(lastServiceDate, interval).value_or(almanac.now());
 }
 
 Equipment EquipmentFormState::appliedTo(Equipment item, Instant nextServiceDate) const

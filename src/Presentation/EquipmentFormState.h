@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Almanac.h"
 #include "Equipment.h"
 
 namespace abissora {
@@ -21,13 +22,13 @@ struct EquipmentFormState
     bool isActive = true;
 
     [[nodiscard]] static EquipmentFormState of(const Equipment& item);
+    /// Of an item that was bought and serviced now.
+    [[nodiscard]] static EquipmentFormState ofNewItem(Instant now);
 
     /// Name and brand hold more than white space.
     [[nodiscard]] bool isFormValid() const;
-    /// The last service plus the type's interval, or 365 days for a type that the catalogue does not have; `now` when
-    /// the calendar cannot produce the date.
-    [[nodiscard]] Instant calculateNextServiceDate(const EquipmentTypeViewModel& types, const Calendar& calendar,
-                                                   Instant now) const;
+    /// The last service plus the type's interval; the present moment when the calendar cannot produce the date.
+    [[nodiscard]] Instant calculateNextServiceDate(const EquipmentTypeViewModel& types, const Almanac& almanac) const;
     /// `item` with what the form holds, texts trimmed at both ends; its id and history stay.
     [[nodiscard]] Equipment appliedTo(Equipment item, Instant nextServiceDate) const;
 

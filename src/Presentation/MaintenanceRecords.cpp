@@ -22,7 +22,7 @@ const std::optional<QString>& documentName(const Maintenance& maintenance, Docum
 
 void forgetDocument(Maintenance& maintenance, const QString& name)
 {
-    for (const DocumentSlot slot : {DocumentSlot::Receipt, DocumentSlot::Certificate}) {
+    for (const DocumentSlot slot : documentSlots) {
         if (documentName(maintenance, slot) == name)
             documentName(maintenance, slot).reset();
     }
@@ -50,10 +50,8 @@ QList<Maintenance> newestFirst(const QList<Maintenance>& history)
     QList<const Maintenance*> order;
     for (const Maintenance& record : history)
         order.append(&record);
-    std::stable_sort(order.begin(), order.end(),
-                     [](const Maintenance* a, const Maintenance* b) { return a->date > b->date; });
+    std::ranges::stable_sort(order, std::ranges::greater(), &Maintenance::date);
     QList<Maintenance> sorted;
-    sorted.reserve(history.size());
     for (const Maintenance* record : order)
         sorted.append(*record);
     return sorted;
@@ -61,14 +59,13 @@ QList<Maintenance> newestFirst(const QList<Maintenance>& history)
 
 std::optional<Maintenance> recordOf(const QList<Maintenance>& history, const QUuid& id)
 {
-    const auto found = std::find_if(history.begin(), history.end(), [&](const Maintenance& m) { return m.id == id; });
+    const auto found = std::ranges::find(history, id, &Maintenance::id);
     return found == history.end() ? std::nullopt : std::optional(*found);
 }
 
 void replaceRecord(QList<Maintenance>& history, const Maintenance& record)
 {
-    const auto found =
-        std::find_if(history.begin(), history.end(), [&](const Maintenance& m) { return m.id == record.id; });
+    const auto found = std::ranges::find(history, record.id, &Maintenance::id);
     if (found != history.end())
         *found = record;
 }

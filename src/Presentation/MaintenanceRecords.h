@@ -5,11 +5,13 @@
 #include "TypeAppearance.h"
 
 #include <QList>
+#include <array>
 
 namespace abissora {
 
 /// One of the two documents that a record may carry.
 enum class DocumentSlot { Receipt, Certificate };
+inline constexpr std::array documentSlots{DocumentSlot::Receipt, DocumentSlot::Certificate};
 
 /// "Scontrino" or "Certificato".
 [[nodiscard]] QString documentLabel(DocumentSlot slot);

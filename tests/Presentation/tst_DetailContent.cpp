@@ -12,7 +12,7 @@ namespace {
 
 DetailContent contentOf(RegisterFixture& f, const Equipment& item)
 {
-    return DetailContent::of(item, f.types, f.almanac.dates, f.calendar, f.clock.now());
+    return DetailContent::of(item, f.types, f.almanac);
 }
 
 QString valueOf(const DetailContent& content, const char* label)

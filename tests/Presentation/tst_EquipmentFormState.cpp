@@ -3,7 +3,6 @@
 #include "Literals.h"
 
 #include "RegisterFixture.h"
-#include "StableUuid.h"
 #include "TestRunner.h"
 #include "TypeChoice.h"
 
@@ -151,7 +150,7 @@ private Q_SLOTS:
         EquipmentFormState state = filled();
         state.selectedTypeName = type;
         state.lastServiceDate = f.inDays(-100);
-        QCOMPARE(state.calculateNextServiceDate(f.types, f.calendar, f.clock.now()), f.inDays(days - 100));
+        QCOMPARE(state.calculateNextServiceDate(f.types, f.almanac), f.inDays(days - 100));
     }
 
     void nextServiceDateBeyondTheCalendarIsNow()
@@ -161,7 +160,7 @@ private Q_SLOTS:
         EquipmentFormState state = filled();
         state.selectedTypeName = u"Eterno"_s;
         state.lastServiceDate = f.inDays(-1);
-        QCOMPARE(state.calculateNextServiceDate(f.types, f.calendar, f.clock.now()), f.clock.now());
+        QCOMPARE(state.calculateNextServiceDate(f.types, f.almanac), f.clock.now());
     }
 
     void defaultType_data()

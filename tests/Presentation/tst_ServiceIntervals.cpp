@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ServiceIntervals.h"
+#include "ServiceInterval.h"
 #include "TestRunner.h"
 
 #include <QTest>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Literals.h"
-#include "StableUuid.h"
+#include "TypeChoice.h"
 
 #include "TestRunner.h"
 

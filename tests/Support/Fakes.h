@@ -16,6 +16,7 @@
 #include <QSet>
 #include <QStringList>
 #include <QVariant>
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -78,10 +79,14 @@ class ScriptedFilePanel final : public FilePanel
 public:
     void answer(const std::optional<QString>& path) { m_answers.append(path); }
     void grantAccess(bool granted) { m_grants = granted; }
+    /// What happens while the panel is open: its own event loop runs.
+    void meanwhile(std::function<void()> action) { m_meanwhile = std::move(action); }
 
     [[nodiscard]] std::optional<QString> pickFile(const FilePanelRequest& request) override
     {
         m_requests.append(request);
+        if (m_meanwhile)
+            m_meanwhile();
         return m_answers.isEmpty() ? std::nullopt : m_answers.takeFirst();
     }
     [[nodiscard]] bool beginAccess(const QString& path) override
@@ -102,6 +107,7 @@ private:
     QList<FilePanelRequest> m_requests;
     QStringList m_begun;
     QStringList m_ended;
+    std::function<void()> m_meanwhile;
     bool m_grants = false;
 };
 

@@ -3,6 +3,7 @@
 
 #include "Almanac.h"
 #include "ApplicationDirectories.h"
+#include "EquipmentDetail.h"
 #include "EquipmentTypeViewModel.h"
 #include "EquipmentViewModel.h"
 #include "Fakes.h"
@@ -13,6 +14,8 @@
 #include "SettingsViewModel.h"
 #include "UpdateCheckerViewModel.h"
 
+#include <QDir>
+#include <QFile>
 #include <QTemporaryDir>
 
 namespace abissora::test {
@@ -27,6 +30,20 @@ inline Equipment makeItem(int id, const QString& name, EquipmentType type, Insta
     item.model = u"Modello%1"_s.arg(id);
     item.nextServiceDate = nextServiceDate;
     return item;
+}
+
+/// A record done so many days before the fixed clock's time.
+inline Maintenance makeRecord(int id, int daysAgo, const QString& description)
+{
+    const Calendar calendar{QTimeZone("Europe/Rome")};
+    Maintenance record;
+    record.id = SequentialIds::at(20'000 + id);
+    record.date = calendar.addDays(FixedClock().now(), -daysAgo).value();
+    record.nextServiceDate = calendar.addDays(FixedClock().now(), 365 - daysAgo).value();
+    record.description = description;
+    record.performedBy = u"Blu Service"_s;
+    record.isCompleted = true;
+    return record;
 }
 
 /// The state objects over a register in a temporary folder, at the fixed clock's time, in Italian and the zone of Rome.
@@ -53,6 +70,34 @@ public:
         const QStringList lines = console.lines();
         console.clear();
         return lines;
+    }
+
+    /// A file outside the register, to be picked; gives its path.
+    [[nodiscard]] QString writePdf(const QString& name) const
+    {
+        QFile file(folder.filePath(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write("%PDF-1.4 ") < 0 || file.write(name.toUtf8()) < 0)
+            qFatal("the temporary folder cannot be written");
+        return file.fileName();
+    }
+    /// A file among the documents; gives its name.
+    [[nodiscard]] QString storedDocument(const QString& name) { return documents.store(writePdf(name)).value(); }
+    [[nodiscard]] QStringList documentFiles() const
+    {
+        return QDir(directories.maintenanceDocuments()).entryList(QDir::Files, QDir::Name);
+    }
+
+    /// What the detail screen of an item works with.
+    [[nodiscard]] std::unique_ptr<EquipmentDetail> detail(const Equipment& item)
+    {
+        return std::make_unique<EquipmentDetail>(equipment, types, documents, ids, almanac, item);
+    }
+
+    /// What the form for a record works with; for a new one when none is given.
+    [[nodiscard]] std::unique_ptr<MaintenanceDraft> draft(const QUuid& itemId,
+                                                          const std::optional<Maintenance>& record = std::nullopt)
+    {
+        return std::make_unique<MaintenanceDraft>(equipment, types, documents, ids, almanac, itemId, record);
     }
 
     QTemporaryDir folder;

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "ContentView.h"
-#include "EditEquipmentView.h"
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
@@ -27,11 +26,14 @@ public:
 
     SidebarView* makeSidebar() override { return new SidebarView(equipment, types, console); }
     EquipmentListView* makeList() override { return new EquipmentListView(equipment, types, almanac, console, ids); }
-    EquipmentDetailView* makeDetail(const Equipment& item) override { return new EquipmentDetailView(context, item); }
+    EquipmentDetailView* makeDetail(const Equipment& item) override
+    {
+        return new EquipmentDetailView(detail(item), opener);
+    }
     QWidget* makeOverview() override
     {
         return new MaintenanceOverviewView(equipment, types, [this](const Equipment& item, QWidget* parent) {
-            return EquipmentDetailView::makeSheet(context, item, parent);
+            return EquipmentDetailView::makeSheet(detail(item), opener, parent);
         });
     }
     QWidget* makeStatistics() override { return new StatisticsView(equipment, types); }
@@ -39,10 +41,13 @@ public:
     {
         return new SettingsView(settings, types, updates, {info, product}, ids, opener);
     }
-    EquipmentFormView* makeFormForNew(QWidget* over) override { return new EquipmentFormView(context, over); }
+    EquipmentFormView* makeFormForNew(QWidget* over) override
+    {
+        return new EquipmentFormView(equipment, types, almanac, ids, over);
+    }
     EditEquipmentView* makeFormFor(const Equipment& item, QWidget* over) override
     {
-        return new EditEquipmentView(context, item, over);
+        return new EditEquipmentView(equipment, types, almanac, item, over);
     }
 };
 

@@ -9,7 +9,6 @@
 #include "MaintenanceFormView.h"
 #include "ScreenStage.h"
 
-#include <QFile>
 #include <QLineEdit>
 
 namespace abissora::gallery {
@@ -38,7 +37,7 @@ Scene detail(const QString& name, const Equipment& item, int height = 900,
             prepare(f, shown);
             f.equipment.updateEquipment(shown);
         }
-        auto view = std::make_unique<EquipmentDetailView>(f.context, shown);
+        auto view = std::make_unique<EquipmentDetailView>(f.detail(shown), f.opener);
         view->resize(385, height);
         return view;
     });
@@ -64,13 +63,6 @@ std::unique_ptr<QWidget> alertOf(std::unique_ptr<QWidget> screen)
     alert->setParent(nullptr, alert->windowFlags());
     std::make_unique<KeptScreen>(std::move(screen)).release()->setParent(alert.get());
     return alert;
-}
-
-std::optional<QString> storedDocument(test::ScreenFixture& f, const QString& name)
-{
-    QFile file(f.folder.filePath(name));
-    return file.open(QIODevice::WriteOnly) && file.write("%PDF-1.4") > 0 ? f.documents.store(file.fileName())
-                                                                         : std::nullopt;
 }
 
 Equipment dueIn(int days)
@@ -108,9 +100,9 @@ void longHistory(test::ScreenFixture& f, Equipment& item)
         record.type = allCases<MaintenanceType>()[static_cast<std::size_t>(i) % allCases<MaintenanceType>().size()];
         record.date -= i * 24h * 200;
         if (i % 3 != 2)
-            record.receiptFileName = storedDocument(f, u"scontrino.pdf"_s);
+            record.receiptFileName = f.storedDocument(u"scontrino.pdf"_s);
         if (i % 2 == 0)
-            record.certificateFileName = storedDocument(f, u"certificato.pdf"_s);
+            record.certificateFileName = f.storedDocument(u"certificato.pdf"_s);
         item.maintenanceHistory.append(record);
     }
 }
@@ -127,14 +119,14 @@ QList<Scene> alertScenes()
     return {
         scene(u"alert-delete-item"_s, items(),
               [](test::ScreenFixture& f) {
-                  auto view = std::make_unique<EquipmentDetailView>(f.context, f.equipment.equipment().at(2));
+                  auto view = std::make_unique<EquipmentDetailView>(f.detail(f.equipment.equipment().at(2)), f.opener);
                   view->confirmDeletion();
                   return alertOf(std::move(view));
               }),
         scene(u"alert-delete-record"_s, items(),
               [](test::ScreenFixture& f) {
                   const Equipment item = f.equipment.equipment().at(2);
-                  auto view = std::make_unique<EquipmentDetailView>(f.context, item);
+                  auto view = std::make_unique<EquipmentDetailView>(f.detail(item), f.opener);
                   view->confirmDeleteMaintenance(item.maintenanceHistory.last().id);
                   return alertOf(std::move(view));
               }),
@@ -147,15 +139,15 @@ QList<Scene> alertScenes()
         scene(u"alert-document-not-opened"_s, items(),
               [](test::ScreenFixture& f) {
                   Equipment item = f.equipment.equipment().at(2);
-                  item.maintenanceHistory.last().receiptFileName = storedDocument(f, u"a.pdf"_s);
+                  item.maintenanceHistory.last().receiptFileName = f.storedDocument(u"a.pdf"_s);
                   f.opener.succeed(false);
-                  auto view = std::make_unique<EquipmentDetailView>(f.context, item);
+                  auto view = std::make_unique<EquipmentDetailView>(f.detail(item), f.opener);
                   view->findChild<QAbstractButton*>(u"openReceipt"_s)->click();
                   return alertOf(std::move(view));
               }),
         scene(u"alert-validation"_s, items(),
               [](test::ScreenFixture& f) {
-                  auto view = std::make_unique<EquipmentFormView>(f.context, nullptr);
+                  auto view = std::make_unique<EquipmentFormView>(f.equipment, f.types, f.almanac, f.ids);
                   view->primaryButton()->click();
                   return alertOf(std::move(view));
               }),
@@ -180,15 +172,15 @@ QList<Scene> detailScenes()
                      [](test::ScreenFixture& f) {
                          Equipment item = f.equipment.equipment().at(2);
                          Maintenance& record = item.maintenanceHistory.last();
-                         record.receiptFileName = storedDocument(f, u"scontrino.pdf"_s);
+                         record.receiptFileName = f.storedDocument(u"scontrino.pdf"_s);
                          record.notes = u"Garanzia di due anni."_s;
                          f.equipment.updateEquipment(item);
-                         return std::make_unique<MaintenanceFormView>(f.context, item.id, record);
+                         return std::make_unique<MaintenanceFormView>(f.draft(item.id, record), f.opener);
                      }),
                scene(u"maintenance-form-invalid"_s, items(),
                      [](test::ScreenFixture& f) {
-                         auto form = std::make_unique<MaintenanceFormView>(
-                             f.context, f.equipment.equipment().first().id, std::nullopt);
+                         auto form = std::make_unique<MaintenanceFormView>(f.draft(f.equipment.equipment().first().id),
+                                                                           f.opener);
                          form->findChild<QLineEdit*>(u"date"_s)->setText(u"31/02/2026"_s);
                          form->findChild<QLineEdit*>(u"description"_s)->setText(u"Prova"_s);
                          form->findChild<QLineEdit*>(u"cost"_s)->setText(u"12.5.0"_s);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "ContentView.h"
-#include "EditEquipmentView.h"
 #include "EquipmentFormView.h"
 #include "Literals.h"
 #include "MaintenanceFormView.h"
@@ -15,7 +14,7 @@ class MaintenanceForm final : private Holder, public MaintenanceFormView
 public:
     explicit MaintenanceForm(const QList<Equipment>& stored)
         : Holder(stored)
-        , MaintenanceFormView(fixture.context, stored.at(2).id, std::nullopt)
+        , MaintenanceFormView(fixture.draft(stored.at(2).id), fixture.opener)
     {}
 };
 
@@ -40,10 +39,13 @@ QList<Scene> screenScenes()
             items(), QSize(1000, 700)),
         {u"maintenance-form"_s, [] { return std::make_unique<MaintenanceForm>(items()); }},
         form(u"equipment-form"_s,
-             [](test::ScreenFixture& f) { return std::make_unique<EquipmentFormView>(f.context, nullptr); }),
+             [](test::ScreenFixture& f) {
+                 return std::make_unique<EquipmentFormView>(f.equipment, f.types, f.almanac, f.ids);
+             }),
         form(u"equipment-form-edit"_s,
              [](test::ScreenFixture& f) {
-                 return std::make_unique<EditEquipmentView>(f.context, f.equipment.equipment().first(), nullptr);
+                 return std::make_unique<EditEquipmentView>(f.equipment, f.types, f.almanac,
+                                                            f.equipment.equipment().first());
              }),
         window(u"detail-no-history"_s,
                [](test::ScreenFixture& f, MainWindow& w) {

@@ -179,15 +179,26 @@ class Journey:
         assert self.content(replaced) == SOURCES[BARE]
         return replaced
 
-    def remove_in_the_form(self, receipt, certificate):
+    def remove_certificate(self):
         self.press("Modifica", 1)  # the first one edits the item
         self.program.find_anywhere(Atspi.Role.LABEL, "Modifica Manutenzione")
         self.press("Rimuovi", 1)  # the certificate's
-        self.wait_for_files(receipt)
+        until("the removal in the form", lambda: self.buttons("Rimuovi") == 1)
+
+    def remove_in_the_form(self, receipt, certificate):
+        # Removed in a form that is cancelled, it stays.
+        self.remove_certificate()
+        self.wait_for_files(receipt, certificate)
+        self.press("Annulla")
+        self.wait_until_closed("Modifica Manutenzione")
+        self.wait_for_files(receipt, certificate)
         assert self.record()["certificateFileName"] == certificate
+        assert self.content(certificate) == SOURCES[CERTIFICATE]
+        self.remove_certificate()
         self.program.key("ctrl+Return")
         self.wait_until_closed("Modifica Manutenzione")
         until("the removal", lambda: "certificateFileName" not in self.record())
+        self.wait_for_files(receipt)
         assert self.record()["receiptFileName"] == receipt
         # Attached in a form that is cancelled, it goes again.
         self.press("Modifica", 1)

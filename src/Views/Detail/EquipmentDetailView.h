@@ -1,35 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
+#include "EquipmentDetail.h"
 
 #include <QWidget>
-
-class QScrollArea;
 
 namespace abissora {
 
 class DetailActions;
 class DetailHeader;
 class MaintenanceHistory;
+class Opener;
+class ScrollPane;
 class SelectableText;
 class TechnicalDetails;
 class ViewSheet;
 
-/// One item in full, with what can be done with it. Works on a copy of the item, writes every change through the
-/// register and takes over whatever the register makes of the item. An item that the register no longer has stays on
-/// show as it was.
+/// One item in full, with what can be done with it.
 class EquipmentDetailView : public QWidget
 {
     Q_OBJECT
 
 public:
-    EquipmentDetailView(const AppContext& context, const Equipment& equipment, QWidget* parent = nullptr);
+    /// `opener` must outlive it.
+    EquipmentDetailView(std::unique_ptr<EquipmentDetail> detail, Opener& opener, QWidget* parent = nullptr);
+    /// Over another screen.
+    [[nodiscard]] static ViewSheet* makeSheet(std::unique_ptr<EquipmentDetail> detail, Opener& opener, QWidget* parent);
 
-    /// The screen in a sheet over another one.
-    [[nodiscard]] static ViewSheet* makeSheet(const AppContext& context, const Equipment& equipment, QWidget* parent);
-
-    [[nodiscard]] const Equipment& equipment() const { return m_equipment; }
+    [[nodiscard]] const Equipment& equipment() const { return m_detail->equipment(); }
     /// Shows an item, another one from its top.
     void setEquipment(const Equipment& equipment);
 
@@ -39,7 +37,6 @@ public:
     void startEditingMaintenance(const QUuid& id);
     void confirmDeleteMaintenance(const QUuid& id);
     void confirmDeletion();
-    [[nodiscard]] QString maintenanceDeleteAlertMessage() const;
 
 Q_SIGNALS:
     /// The person closed the screen or deleted the item.
@@ -50,25 +47,21 @@ protected:
 
 private:
     [[nodiscard]] QWidget* makeTitleBar();
-    [[nodiscard]] QScrollArea* makeBody();
+    [[nodiscard]] ScrollPane* makeBody();
     void connectParts();
-    void syncFromModel();
     void redraw();
-    void toggleActive();
-    void storeMaintenance(const Maintenance& maintenance);
-    void deleteSelectedMaintenance();
-    void openMaintenanceForm(const std::optional<Maintenance>& editing);
+    void openForm(std::unique_ptr<MaintenanceDraft> draft);
+    void openDocument(const QUuid& recordId, DocumentSlot slot);
 
-    AppContext m_context;
-    Equipment m_equipment;
-    std::optional<Maintenance> m_maintenanceToDelete;
+    std::unique_ptr<EquipmentDetail> m_detail;
+    Opener& m_opener;
 
     DetailHeader* m_header;
     TechnicalDetails* m_technical;
     SelectableText* m_notes;
     DetailActions* m_actions;
     MaintenanceHistory* m_history;
-    QScrollArea* m_body;
+    ScrollPane* m_body;
 };
 
 } // namespace abissora

@@ -1,23 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "MaintenanceFormView.h"
 
+#include "Assembly.h"
 #include "Buttons.h"
 #include "Cards.h"
 #include "CostField.h"
 #include "DateField.h"
-#include "DocumentField.h"
+#include "DocumentControl.h"
+#include "FormFields.h"
 #include "FormRow.h"
 #include "IconViews.h"
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
-#include "NotesField.h"
+#include "Opening.h"
 #include "SymbolIcon.h"
 #include "ToggleSwitch.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <limits>
+#include <QLineEdit>
 
 namespace abissora {
 
@@ -25,152 +27,136 @@ namespace {
 
 constexpr int costWidth = 170;
 constexpr int notesHeight = 96;
-constexpr std::int64_t usualInterval = 365;
-constexpr std::int64_t computerInterval = 730;
-
-Maintenance newRecord(const AppContext& context)
-{
-    Maintenance record;
-    record.date = context.clock.now();
-    record.nextServiceDate = record.date;
-    record.isCompleted = true;
-    return record;
-}
 
 } // namespace
 
-MaintenanceFormView::MaintenanceFormView(const AppContext& context, const QUuid& equipmentId,
-                                         const std::optional<Maintenance>& editingMaintenance, QWidget* parent)
-    : Sheet(editingMaintenance ? u"Modifica Manutenzione"_s : u"Nuova Manutenzione"_s, parent)
-    , m_context(context)
-    , m_equipmentId(equipmentId)
-    , m_isEditing(editingMaintenance.has_value())
-    , m_original(editingMaintenance ? *editingMaintenance : newRecord(context))
-    , m_date(new DateField(context.calendar))
-    , m_type(new QComboBox)
-    , m_description(new QLineEdit)
-    , m_performedBy(new QLineEdit)
-    , m_cost(new CostField)
-    , m_completed(new ToggleSwitch(u"Manutenzione avvenuta"_s))
-    , m_receipt(new DocumentField(DocumentSlot::Receipt, context.documents, context.opener))
-    , m_certificate(new DocumentField(DocumentSlot::Certificate, context.documents, context.opener))
-    , m_next(new DateField(context.calendar))
-    , m_notes(new NotesField(notesHeight))
+MaintenanceFormView::MaintenanceFormView(std::unique_ptr<MaintenanceDraft> draft, Opener& opener, QWidget* parent)
+    : Sheet(draft->isNew() ? u"Nuova Manutenzione"_s : u"Modifica Manutenzione"_s, parent)
+    , m_draft(std::move(draft))
+    , m_opener(opener)
+    , m_initial(m_draft->initial())
+    , m_date(named(new DateField(m_draft->calendar()), "date"))
+    , m_type(named(new QComboBox, "type"))
+    , m_description(makeTextField(u"description"_s, u"Inserisci la descrizione"_s))
+    , m_performedBy(makeTextField(u"performedBy"_s, u"Nome del tecnico"_s))
+    , m_cost(named(new CostField, "cost"))
+    , m_completed(named(new ToggleSwitch(u"Manutenzione avvenuta"_s), "isCompleted"))
+    , m_next(named(new DateField(m_draft->calendar()), "nextServiceDate"))
+    , m_notes(named(new NotesField(notesHeight), "notes"))
 {
     setObjectName(u"maintenanceForm"_s);
     setPrimaryText(u"Salva"_s);
     buildBody();
-    showRecord();
+    showState();
     connectFields();
-    if (!m_isEditing)
-        updateNextServiceDate();
 }
 
 void MaintenanceFormView::buildBody()
 {
-    for (QWidget* group : {makeDetails(), makeAdditional(), makeOutcome(), makeNextService(), makeNotes()})
+    m_cost->setMaximumWidth(withText(costWidth, fontMetrics()));
+    m_next->setAccessibleName(u"Data Prossimo Tagliando"_s);
+    for (QWidget* group : std::initializer_list<QWidget*>{
+             makeDetails(),
+             makeGroup(u"Informazioni Aggiuntive"_s,
+                       {new FormRow(u"Eseguito da"_s, m_performedBy), new FormRow(u"Costo"_s, m_cost)}),
+             makeGroup(u"Esito e Documenti"_s,
+                       {m_completed, makeDocument(DocumentSlot::Receipt), makeDocument(DocumentSlot::Certificate)}),
+             makeNextService(),
+             makeGroup(u"Note"_s, {m_notes}),
+             new InkLabel(TextStyle::Caption, &Tokens::secondaryText, u"* Campi obbligatori"_s),
+         })
         body()->addWidget(group);
-    body()->addWidget(new InkLabel(TextStyle::Caption, &Tokens::secondaryText, u"* Campi obbligatori"_s));
     setFirstField(m_description);
 }
 
 QWidget* MaintenanceFormView::makeDetails()
 {
-    m_date->setObjectName(u"date"_s);
     m_date->setAccessibleName(u"Data"_s);
     m_date->setFixedWidth(withText(FormRow::labelColumn, fontMetrics())); // the type stands above the other fields
-    m_type->setObjectName(u"type"_s);
     m_type->setAccessibleName(u"Tipo"_s);
     for (const MaintenanceType type : allCases<MaintenanceType>()) {
         const TypeAppearance look = appearanceOf(type);
         m_type->addItem(symbolIcon(look.icon, look.color), rawValue(type), static_cast<int>(type));
     }
     m_type->setFocusPolicy(Qt::StrongFocus);
-    for (QLineEdit* field : {m_description, m_performedBy})
-        field->setMaxLength(std::numeric_limits<int>::max()); // a form shall not shorten what is stored
-    m_description->setObjectName(u"description"_s);
-    m_description->setPlaceholderText(u"Inserisci la descrizione"_s);
 
-    auto* group = new GroupBox(u"Dettagli Manutenzione"_s);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(metrics::spaceM);
-    row->addWidget(m_date);
-    row->addWidget(m_type, 1);
-    auto* error = new WrapLabel(TextStyle::Caption, &Tokens::danger);
-    error->setObjectName(u"dateError"_s);
+    auto* error = named(new WrapLabel(TextStyle::Caption, &Tokens::danger), "dateError");
     error->hide();
     connect(m_date, &CheckedField::errorChanged, error, [error](const QString& text) {
         error->setText(text);
         error->setVisible(!text.isEmpty());
     });
-    group->content()->addLayout(row);
+    auto* group = new GroupBox(u"Dettagli Manutenzione"_s);
+    group->content()->addLayout(inRow(metrics::spaceM, {m_date, {m_type, 1}}));
     group->content()->addWidget(error);
     group->content()->addWidget(new FormRow(u"Descrizione*"_s, m_description));
     return group;
 }
 
-QWidget* MaintenanceFormView::makeAdditional()
+QWidget* MaintenanceFormView::makeDocument(DocumentSlot slot)
 {
-    m_performedBy->setObjectName(u"performedBy"_s);
-    m_performedBy->setPlaceholderText(u"Nome del tecnico"_s);
-    m_cost->setObjectName(u"cost"_s);
-    m_cost->setMaximumWidth(withText(costWidth, fontMetrics()));
-    auto* group = new GroupBox(u"Informazioni Aggiuntive"_s);
-    group->content()->addWidget(new FormRow(u"Eseguito da"_s, m_performedBy));
-    group->content()->addWidget(new FormRow(u"Costo"_s, m_cost));
-    return group;
-}
-
-QWidget* MaintenanceFormView::makeOutcome()
-{
-    m_completed->setObjectName(u"isCompleted"_s);
-    auto* group = new GroupBox(u"Esito e Documenti"_s);
-    group->content()->addWidget(m_completed);
-    group->content()->addWidget(new FormRow(documentLabel(DocumentSlot::Receipt), m_receipt));
-    group->content()->addWidget(new FormRow(documentLabel(DocumentSlot::Certificate), m_certificate));
-    return group;
+    auto* document = new DocumentControl(slot, DocumentControl::Place::Form);
+    AttachmentDraft& attachments = m_draft->attachments();
+    const auto refresh = [document, slot, &attachments] { document->setPresent(attachments.path(slot).has_value()); };
+    connect(document, &DocumentControl::openClicked, this, [this, slot, &attachments, refresh] {
+        if (const auto path = attachments.path(slot))
+            openDocument(*path, m_opener, *this);
+        else
+            refresh();
+    });
+    connect(document, &DocumentControl::takeAwayClicked, this, [slot, &attachments, refresh] {
+        attachments.remove(slot);
+        refresh();
+    });
+    connect(document, &DocumentControl::takeInClicked, this, [document, slot, &attachments, refresh] {
+        const QPointer<DocumentControl> alive(document);
+        attachments.attach(slot);
+        if (alive)
+            refresh();
+    });
+    refresh();
+    return new FormRow(documentLabel(slot), document);
 }
 
 QWidget* MaintenanceFormView::makeNextService()
 {
-    m_next->setObjectName(u"nextServiceDate"_s);
-    m_next->setAccessibleName(u"Data Prossimo Tagliando"_s);
     auto* explanation =
-        new WrapLabel(TextStyle::Body, &Tokens::secondaryText,
-                      u"Calcolata automaticamente: %1 giorni dall'intervallo configurato per la tipologia"_s.arg(
-                          equipmentIntervalDays()));
-    explanation->setObjectName(u"intervalExplanation"_s);
-    auto* line = new QHBoxLayout;
-    line->setSpacing(metrics::spaceS);
-    line->addWidget(new IconView(symbolIcon(u"wand.and.stars"_s, NamedColor::blue)), 0, Qt::AlignTop);
-    line->addWidget(explanation, 1);
+        named(new WrapLabel(TextStyle::Body, &Tokens::secondaryText,
+                            u"Calcolata automaticamente: %1 giorni dall'intervallo configurato per la tipologia"_s.arg(
+                                m_draft->intervalDays())),
+              "intervalExplanation");
+    auto* wand = new IconView(symbolIcon(u"wand.and.stars"_s, NamedColor::blue));
     auto* group = new GroupBox(u"Prossimo Tagliando"_s);
-    group->content()->addLayout(line);
+    group->content()->addLayout(inRow(metrics::spaceS, {{wand, 0, Qt::AlignTop}, {explanation, 1}}));
     group->content()->addWidget(new FormRow(u"Data Prossimo Tagliando"_s, m_next));
     return group;
 }
 
-QWidget* MaintenanceFormView::makeNotes()
+void MaintenanceFormView::showState()
 {
-    m_notes->setObjectName(u"notes"_s);
-    auto* group = new GroupBox(u"Note"_s);
-    group->content()->addWidget(m_notes);
-    return group;
+    m_date->setInstant(m_initial.date);
+    m_type->setCurrentIndex(m_type->findData(static_cast<int>(m_initial.type)));
+    m_description->setText(m_initial.description);
+    m_performedBy->setText(m_initial.performedBy);
+    m_cost->setCost(m_initial.cost);
+    m_completed->setChecked(m_initial.isCompleted);
+    m_next->setInstant(m_initial.nextServiceDate);
+    m_notes->setNotes(m_initial.notes);
+    primaryButton()->setEnabled(m_initial.isFormValid());
 }
 
-void MaintenanceFormView::showRecord()
+MaintenanceFormState MaintenanceFormView::state() const
 {
-    m_date->setInstant(m_original.date);
-    m_type->setCurrentIndex(m_type->findData(static_cast<int>(m_original.type)));
-    m_description->setText(m_original.description);
-    m_performedBy->setText(m_original.performedBy);
-    m_cost->setCost(m_original.cost);
-    m_completed->setChecked(m_original.isCompleted.value_or(true));
-    m_receipt->setFileName(m_original.receiptFileName);
-    m_certificate->setFileName(m_original.certificateFileName);
-    m_next->setInstant(m_original.nextServiceDate);
-    m_notes->setNotes(m_original.notes);
-    primaryButton()->setEnabled(!m_original.description.isEmpty());
+    return {
+        .date = m_date->instant(),
+        .type = static_cast<MaintenanceType>(m_type->currentData().toInt()),
+        .description = m_description->text(),
+        .performedBy = m_performedBy->text(),
+        .cost = m_cost->cost().value_or(m_initial.cost),
+        .isCompleted = m_completed->isChecked(),
+        .nextServiceDate = m_next->instant(),
+        .notes = m_notes->notes(),
+    };
 }
 
 void MaintenanceFormView::connectFields()
@@ -178,30 +164,12 @@ void MaintenanceFormView::connectFields()
     connect(m_date, &DateField::edited, this, [this] {
         // What stands unfinished in the other field is the person's own.
         if (m_autoUpdateNextDate && m_next->error().isEmpty())
-            updateNextServiceDate();
+            m_next->setInstant(m_draft->nextServiceDate(m_date->instant()));
     });
     connect(m_next, &DateField::edited, this, [this] { m_autoUpdateNextDate = false; });
     connect(m_description, &QLineEdit::textChanged, this,
-            [this](const QString& text) { primaryButton()->setEnabled(!text.isEmpty()); });
+            [this] { primaryButton()->setEnabled(state().isFormValid()); });
     connect(this, &Sheet::primaryClicked, this, &MaintenanceFormView::save);
-}
-
-std::int64_t MaintenanceFormView::equipmentIntervalDays() const
-{
-    const QList<Equipment>& items = m_context.equipment.equipment();
-    const auto item =
-        std::find_if(items.begin(), items.end(), [this](const Equipment& e) { return e.id == m_equipmentId; });
-    if (item == items.end())
-        return usualInterval;
-    if (const auto type = m_context.types.getTypeByName(item->typeName()))
-        return std::max<std::int64_t>(type->serviceIntervalDays, 1);
-    return item->type == EquipmentType::computer ? computerInterval : usualInterval;
-}
-
-void MaintenanceFormView::updateNextServiceDate()
-{
-    const Instant date = m_date->instant();
-    m_next->setInstant(m_context.calendar.addDays(date, equipmentIntervalDays()).value_or(date));
 }
 
 CheckedField* MaintenanceFormView::firstInvalidField() const
@@ -215,43 +183,21 @@ CheckedField* MaintenanceFormView::firstInvalidField() const
     return first;
 }
 
-Maintenance MaintenanceFormView::record()
-{
-    Maintenance record = m_original;
-    if (!m_isEditing)
-        record.id = m_context.ids.next();
-    record.date = m_date->instant();
-    record.type = static_cast<MaintenanceType>(m_type->currentData().toInt());
-    record.description = m_description->text();
-    record.performedBy = m_performedBy->text();
-    record.cost = m_cost->cost().value_or(m_original.cost);
-    record.isCompleted = m_completed->isChecked();
-    record.receiptFileName = m_receipt->fileName();
-    record.certificateFileName = m_certificate->fileName();
-    record.nextServiceDate = m_next->instant();
-    record.notes = m_notes->notes();
-    return record;
-}
-
 void MaintenanceFormView::save()
 {
-    if (m_description->text().isEmpty())
+    if (!state().isFormValid())
         return;
     if (CheckedField* const field = firstInvalidField()) {
         goTo(field);
         return;
     }
-    if (m_isEditing)
-        m_context.equipment.updateMaintenance(m_equipmentId, record());
-    else
-        m_context.equipment.addMaintenance(m_equipmentId, record());
+    m_draft->save(state());
     accept();
 }
 
 void MaintenanceFormView::reject()
 {
-    m_receipt->discardAttached();
-    m_certificate->discardAttached();
+    m_draft->attachments().discard();
     Sheet::reject();
 }
 

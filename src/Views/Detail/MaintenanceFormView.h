@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
+#include "MaintenanceDraft.h"
 #include "Sheet.h"
 
 class QComboBox;
@@ -12,8 +12,8 @@ namespace abissora {
 class CheckedField;
 class CostField;
 class DateField;
-class DocumentField;
 class NotesField;
+class Opener;
 class ToggleSwitch;
 
 /// Enters a new maintenance record of an item, or edits one. The next service date follows the maintenance date until
@@ -23,12 +23,9 @@ class MaintenanceFormView : public Sheet
     Q_OBJECT
 
 public:
-    MaintenanceFormView(const AppContext& context, const QUuid& equipmentId,
-                        const std::optional<Maintenance>& editingMaintenance, QWidget* parent = nullptr);
+    /// `opener` must outlive it.
+    MaintenanceFormView(std::unique_ptr<MaintenanceDraft> draft, Opener& opener, QWidget* parent = nullptr);
 
-    /// The days between two services of the item.
-    [[nodiscard]] std::int64_t equipmentIntervalDays() const;
-    void updateNextServiceDate();
     /// Does nothing while the record lacks its description; takes the person to a date or a cost that is none.
     void save();
 
@@ -37,19 +34,16 @@ public:
 private:
     void buildBody();
     [[nodiscard]] QWidget* makeDetails();
-    [[nodiscard]] QWidget* makeAdditional();
-    [[nodiscard]] QWidget* makeOutcome();
+    [[nodiscard]] QWidget* makeDocument(DocumentSlot slot);
     [[nodiscard]] QWidget* makeNextService();
-    [[nodiscard]] QWidget* makeNotes();
     void connectFields();
-    void showRecord();
+    void showState();
+    [[nodiscard]] MaintenanceFormState state() const;
     [[nodiscard]] CheckedField* firstInvalidField() const;
-    [[nodiscard]] Maintenance record();
 
-    AppContext m_context;
-    QUuid m_equipmentId;
-    bool m_isEditing;
-    Maintenance m_original;
+    std::unique_ptr<MaintenanceDraft> m_draft;
+    Opener& m_opener;
+    MaintenanceFormState m_initial;
     bool m_autoUpdateNextDate = true;
 
     DateField* m_date;
@@ -58,8 +52,6 @@ private:
     QLineEdit* m_performedBy;
     CostField* m_cost;
     ToggleSwitch* m_completed;
-    DocumentField* m_receipt;
-    DocumentField* m_certificate;
     DateField* m_next;
     NotesField* m_notes;
 };

@@ -4,30 +4,27 @@
 #include "Cards.h"
 #include "EmptyState.h"
 #include "Literals.h"
-#include "MaintenanceRecords.h"
 #include "MaintenanceRow.h"
 
 #include <QVBoxLayout>
 
 namespace abissora {
 
-MaintenanceHistory::MaintenanceHistory(const AppContext& context, QWidget* parent)
+MaintenanceHistory::MaintenanceHistory(QWidget* parent)
     : GroupBox(u"Cronologia Manutenzione"_s, u"clock.arrow.circlepath"_s, parent)
-    , m_context(context)
     , m_empty(new EmptyState(u"checkmark.circle"_s, u"Nessuna manutenzione registrata"_s))
 {
     m_empty->setObjectName(u"emptyHistory"_s);
     content()->addWidget(m_empty);
 }
 
-void MaintenanceHistory::setHistory(const QList<Maintenance>& history)
+void MaintenanceHistory::setRows(const QList<MaintenanceRowContent>& rows)
 {
-    const QList<Maintenance> records = newestFirst(history);
-    while (m_entries.size() < records.size())
+    while (m_entries.size() < rows.size())
         addRow();
-    if (!records.isEmpty())
-        keepFocusAbove(records.size());
-    while (m_entries.size() > records.size()) {
+    if (!rows.isEmpty())
+        keepFocusAbove(rows.size());
+    while (m_entries.size() > rows.size()) {
         // Later, not now: the change may come from a button of the very row.
         const Entry entry = m_entries.takeLast();
         for (QWidget* part : {entry.divider, static_cast<QWidget*>(entry.row)}) {
@@ -35,9 +32,9 @@ void MaintenanceHistory::setHistory(const QList<Maintenance>& history)
             part->deleteLater();
         }
     }
-    for (qsizetype i = 0; i < records.size(); ++i)
-        m_entries.at(i).row->setMaintenance(records.at(i));
-    m_empty->setVisible(records.isEmpty());
+    for (qsizetype i = 0; i < rows.size(); ++i)
+        m_entries.at(i).row->setRow(rows.at(i));
+    m_empty->setVisible(rows.isEmpty());
 }
 
 void MaintenanceHistory::keepFocusAbove(qsizetype staying)
@@ -51,13 +48,14 @@ void MaintenanceHistory::keepFocusAbove(qsizetype staying)
 
 void MaintenanceHistory::addRow()
 {
-    const Entry entry{new Separator(Separator::Weight::Divider), new MaintenanceRow(m_context)};
+    const Entry entry{new Separator(Separator::Weight::Divider), new MaintenanceRow};
     MaintenanceRow* const row = entry.row;
     row->setObjectName(u"maintenance%1"_s.arg(m_entries.size()));
-    connect(row, &MaintenanceRow::updated, this, [this, row] { Q_EMIT updated(row->maintenance()); });
-    connect(row, &MaintenanceRow::editRequested, this, [this, row] { Q_EMIT editRequested(row->maintenance().id); });
-    connect(row, &MaintenanceRow::deleteRequested, this,
-            [this, row] { Q_EMIT deleteRequested(row->maintenance().id); });
+    connect(row, &MaintenanceRow::editRequested, this, &MaintenanceHistory::editRequested);
+    connect(row, &MaintenanceRow::deleteRequested, this, &MaintenanceHistory::deleteRequested);
+    connect(row, &MaintenanceRow::openRequested, this, &MaintenanceHistory::openRequested);
+    connect(row, &MaintenanceRow::replaceRequested, this, &MaintenanceHistory::replaceRequested);
+    connect(row, &MaintenanceRow::uploadRequested, this, &MaintenanceHistory::uploadRequested);
     content()->addWidget(entry.divider);
     content()->addWidget(row);
     entry.divider->setVisible(!m_entries.isEmpty());

@@ -1,30 +1,33 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
 #include "Cards.h"
+#include "DetailContent.h"
+#include "MaintenanceRecords.h"
 
 namespace abissora {
 
 class EmptyState;
 class MaintenanceRow;
 
-/// The records of an item, newest first.
+/// The records of an item, each in its row.
 class MaintenanceHistory : public GroupBox
 {
     Q_OBJECT
 
 public:
-    explicit MaintenanceHistory(const AppContext& context, QWidget* parent = nullptr);
+    explicit MaintenanceHistory(QWidget* parent = nullptr);
 
     /// A row that goes leaves the focus to the last one that stays; the last of all leaves it to whoever takes it.
-    void setHistory(const QList<Maintenance>& history);
+    void setRows(const QList<MaintenanceRowContent>& rows);
 
 Q_SIGNALS:
-    /// The record as the person changed it in its row.
-    void updated(const abissora::Maintenance& maintenance);
-    void editRequested(const QUuid& id);
-    void deleteRequested(const QUuid& id);
+    /// What the person wants done with the record of this id.
+    void editRequested(QUuid id);
+    void deleteRequested(QUuid id);
+    void openRequested(QUuid id, abissora::DocumentSlot slot);
+    void replaceRequested(QUuid id, abissora::DocumentSlot slot);
+    void uploadRequested(QUuid id, abissora::DocumentSlot slot);
 
 private:
     void addRow();
@@ -36,7 +39,6 @@ private:
         MaintenanceRow* row;
     };
 
-    AppContext m_context;
     QList<Entry> m_entries;
     EmptyState* m_empty;
 };

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppContext.h"
+#include "DetailContent.h"
 #include "MaintenanceRecords.h"
 
 #include <QWidget>
 
 namespace abissora {
 
-class DocumentLink;
+class DocumentControl;
 class IconButton;
 class IconTile;
 class IconView;
@@ -21,30 +21,31 @@ class MaintenanceRow : public QWidget
     Q_OBJECT
 
 public:
-    explicit MaintenanceRow(const AppContext& context, QWidget* parent = nullptr);
+    explicit MaintenanceRow(QWidget* parent = nullptr);
 
-    void setMaintenance(const Maintenance& maintenance);
-    [[nodiscard]] const Maintenance& maintenance() const { return m_maintenance; }
+    void setRow(const MaintenanceRowContent& row);
     /// On the first of its buttons.
     void takeFocus();
 
 Q_SIGNALS:
-    /// The person changed the record here; maintenance() has the change.
-    void updated();
-    void editRequested();
-    void deleteRequested();
+    /// What the person wants done with the record of this id.
+    void editRequested(QUuid id);
+    void deleteRequested(QUuid id);
+    void openRequested(QUuid id, abissora::DocumentSlot slot);
+    void replaceRequested(QUuid id, abissora::DocumentSlot slot);
+    void uploadRequested(QUuid id, abissora::DocumentSlot slot);
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    void build();
     [[nodiscard]] QWidget* makeButtons();
-    [[nodiscard]] DocumentLink* makeLink(DocumentSlot slot);
+    [[nodiscard]] DocumentControl* makeDocument(DocumentSlot slot);
+    void edit() { Q_EMIT editRequested(m_id); }
+    void remove() { Q_EMIT deleteRequested(m_id); }
     void showMenu(QPoint globalPosition);
 
-    AppContext m_context;
-    Maintenance m_maintenance;
+    QUuid m_id;
     IconTile* m_tile;
     WrapLabel* m_type;
     InkLabel* m_cost;
@@ -54,8 +55,8 @@ private:
     WrapLabel* m_completed;
     WrapLabel* m_notCompleted;
     IconButton* m_edit;
-    DocumentLink* m_receipt;
-    DocumentLink* m_certificate;
+    DocumentControl* m_receipt;
+    DocumentControl* m_certificate;
 };
 
 } // namespace abissora

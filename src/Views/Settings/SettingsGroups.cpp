@@ -10,7 +10,7 @@
 #include "Opening.h"
 #include "ProgramFacts.h"
 #include "SegmentedControl.h"
-#include "ServiceIntervals.h"
+#include "ServiceInterval.h"
 #include "SettingsGroupBox.h"
 #include "Stepper.h"
 #include "TypeManagement.h"

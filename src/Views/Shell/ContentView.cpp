@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ContentView.h"
 
-#include "EditEquipmentView.h"
 #include "EmptyState.h"
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"

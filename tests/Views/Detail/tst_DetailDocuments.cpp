@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Alert.h"
-#include "DetailParts.h"
 #include "EquipmentDetailView.h"
+#include "Gui.h"
 #include "Literals.h"
-#include "MaintenanceRow.h"
+#include "RegisterFixture.h"
 #include "TestRunner.h"
-
-#include <QDir>
 
 using namespace abissora;
 using namespace abissora::test;
@@ -16,37 +14,31 @@ namespace {
 /// An item with one record on show, whose document slots hold these names.
 struct Shown
 {
-    using Names = std::function<void(ScreenFixture&, Maintenance&)>;
+    using Names = std::function<void(RegisterFixture&, Maintenance&)>;
 
-    explicit Shown(const Names& attach = [](ScreenFixture&, Maintenance&) {})
+    explicit Shown(const Names& attach = [](RegisterFixture&, Maintenance&) {})
     {
         Equipment item = makeItem(1, u"Bombola"_s, EquipmentType::cylinder, f.inDays(100));
-        Maintenance record = makeRecord(f, 1, 1, u"Collaudo"_s);
+        Maintenance record = makeRecord(1, 1, u"Collaudo"_s);
         attach(f, record);
         item.maintenanceHistory = {record};
         id = item.id;
         f.equipment.addEquipment(item);
-        view = std::make_unique<EquipmentDetailView>(f.context, item);
+        view = std::make_unique<EquipmentDetailView>(f.detail(item), f.opener);
         view->resize(385, 1200);
-        view->show();
-        view->activateWindow();
-        settle();
+        activate(*view);
     }
 
     [[nodiscard]] Maintenance stored() const { return f.equipment.equipment().last().maintenanceHistory.first(); }
-    [[nodiscard]] QStringList files() const
-    {
-        return QDir(f.directories.maintenanceDocuments()).entryList(QDir::Files, QDir::Name);
-    }
 
-    ScreenFixture f;
+    RegisterFixture f;
     QUuid id;
     std::unique_ptr<EquipmentDetailView> view;
 };
 
-void attachReceipt(ScreenFixture& f, Maintenance& record)
+void attachReceipt(RegisterFixture& f, Maintenance& record)
 {
-    record.receiptFileName = storedDocument(f, u"scontrino.pdf"_s);
+    record.receiptFileName = f.storedDocument(u"scontrino.pdf"_s);
 }
 
 } // namespace
@@ -56,17 +48,6 @@ class tst_DetailDocuments : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void aRowsButtonsSayWhichRecordTheyMean()
-    {
-        ScreenFixture f;
-        MaintenanceRow row(f.context);
-        row.setMaintenance(makeRecord(f, 1, 5, u"Revisione"_s));
-        const QAbstractButton* remove = row.findChild<QAbstractButton*>(u"deleteMaintenance"_s);
-        QCOMPARE(remove->accessibleDescription(), u"10 giu 2026, Revisione"_s);
-        row.setMaintenance(makeRecord(f, 2, 6, u"Lavaggio"_s));
-        QCOMPARE(remove->accessibleDescription(), u"9 giu 2026, Lavaggio"_s);
-    }
-
     void withoutDocuments()
     {
         Shown s;
@@ -79,11 +60,11 @@ private Q_SLOTS:
     void uploading()
     {
         Shown s;
-        s.f.panel.answer(writePdf(s.f, u"a.pdf"_s));
+        s.f.panel.answer(s.f.writePdf(u"a.pdf"_s));
         click(*s.view, u"uploadCertificate"_s);
         QCOMPARE(s.f.panel.requests().size(), 1);
         QVERIFY(!s.stored().receiptFileName);
-        QCOMPARE(s.files(), QStringList(s.stored().certificateFileName.value()));
+        QCOMPARE(s.f.documentFiles(), QStringList(s.stored().certificateFileName.value()));
         QCOMPARE(part<QAbstractButton>(*s.view, u"openCertificate"_s).text(), u"Certificato"_s);
         QVERIFY(part(*s.view, u"openCertificate"_s).hasFocus());
         QVERIFY(!isShown(*s.view, u"uploadCertificate"_s));
@@ -139,29 +120,18 @@ private Q_SLOTS:
         QCOMPARE(part(*s.view, u"replaceReceipt"_s).toolTip(), u"Sostituisci il documento allegato"_s);
         click(*s.view, u"replaceReceipt"_s);
         QVERIFY(!s.stored().receiptFileName);
-        QCOMPARE(s.files(), QStringList());
+        QCOMPARE(s.f.documentFiles(), QStringList());
         QVERIFY(isShown(*s.view, u"uploadReceipt"_s));
         QCOMPARE(s.f.panel.requests().size(), 0);
     }
 
-    void replacingClearsBothSlotsOfOneFile()
-    {
-        Shown s([](ScreenFixture& f, Maintenance& record) {
-            attachReceipt(f, record);
-            record.certificateFileName = record.receiptFileName;
-        });
-        click(*s.view, u"replaceCertificate"_s);
-        QVERIFY(!s.stored().receiptFileName && !s.stored().certificateFileName);
-        QVERIFY(isShown(*s.view, u"uploadReceipt"_s));
-    }
-
     void missingFileIsOfferedForUpload()
     {
-        Shown s([](ScreenFixture&, Maintenance& record) { record.receiptFileName = u"SPARITO.pdf"_s; });
+        Shown s([](RegisterFixture&, Maintenance& record) { record.receiptFileName = u"SPARITO.pdf"_s; });
         QVERIFY(isShown(*s.view, u"uploadReceipt"_s));
-        s.f.panel.answer(writePdf(s.f, u"b.pdf"_s));
+        s.f.panel.answer(s.f.writePdf(u"b.pdf"_s));
         click(*s.view, u"uploadReceipt"_s);
-        QCOMPARE(s.files(), QStringList(s.stored().receiptFileName.value()));
+        QCOMPARE(s.f.documentFiles(), QStringList(s.stored().receiptFileName.value()));
     }
 
     void fileThatVanishedMeanwhileIsNotOpened()
@@ -171,24 +141,6 @@ private Q_SLOTS:
         click(*s.view, u"openReceipt"_s);
         QCOMPARE(s.f.opener.opened(), QList<QUrl>());
         QVERIFY(isShown(*s.view, u"uploadReceipt"_s));
-    }
-
-    void failedCopy()
-    {
-        Shown s;
-        s.f.takeLog();
-        s.f.panel.answer(s.f.folder.filePath(u"non-esiste.pdf"_s));
-        click(*s.view, u"uploadReceipt"_s);
-        QVERIFY(s.f.takeLog().first().startsWith(u"Errore salvataggio documento: "_s));
-        QVERIFY(!s.stored().receiptFileName);
-    }
-
-    void deletingTheRecordDeletesItsFiles()
-    {
-        Shown s(attachReceipt);
-        click(*s.view, u"deleteMaintenance"_s);
-        click(openDialog<Alert>(*s.view), u"destructive"_s);
-        QCOMPARE(s.files(), QStringList());
     }
 };
 

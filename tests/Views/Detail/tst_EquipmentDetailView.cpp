@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
-#include "EquipmentDetailView.h"
-#include "Literals.h"
-#include "ScaledText.h"
-
 #include "Alert.h"
 #include "Buttons.h"
 #include "ClippedTexts.h"
-#include "DetailParts.h"
-#include "DetailRow.h"
-#include "EditEquipmentView.h"
+#include "DetailSections.h"
+#include "EquipmentDetailView.h"
+#include "EquipmentFormView.h"
+#include "Gui.h"
+#include "Literals.h"
 #include "MaintenanceFormView.h"
 #include "MaintenanceRow.h"
-#include "SelectableText.h"
+#include "RegisterFixture.h"
+#include "ScaledText.h"
 #include "TestRunner.h"
+#include "ViewSheet.h"
 
 #include <QAccessible>
+#include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
 
@@ -33,11 +34,9 @@ struct Shown
         item.maintenanceHistory = history;
         f.equipment.addEquipment(item);
         f.takeLog();
-        view = std::make_unique<EquipmentDetailView>(f.context, item);
+        view = std::make_unique<EquipmentDetailView>(f.detail(item), f.opener);
         view->resize(385, 1400);
-        view->show();
-        view->activateWindow();
-        settle();
+        activate(*view);
     }
 
     [[nodiscard]] Equipment stored() const
@@ -53,21 +52,20 @@ struct Shown
         QStringList texts;
         for (const MaintenanceRow* row : view->findChildren<MaintenanceRow*>()) {
             if (row->isVisible())
-                texts.append(row->maintenance().description);
+                texts.append(textOf(*row, u"maintenanceDescription"_s));
         }
         return texts;
     }
     MaintenanceRow& row(int index) { return part<MaintenanceRow>(*view, u"maintenance%1"_s.arg(index)); }
 
-    ScreenFixture f;
+    RegisterFixture f;
     Equipment item;
     std::unique_ptr<EquipmentDetailView> view;
 };
 
 QList<Maintenance> threeRecords()
 {
-    const ScreenFixture f;
-    return {makeRecord(f, 1, 20, u"metà"_s), makeRecord(f, 2, 40, u"prima"_s), makeRecord(f, 3, 5, u"ultima"_s)};
+    return {makeRecord(1, 20, u"metà"_s), makeRecord(2, 40, u"prima"_s), makeRecord(3, 5, u"ultima"_s)};
 }
 
 } // namespace
@@ -100,8 +98,7 @@ private Q_SLOTS:
         };
         QVERIFY(below(part(*s.view, u"closeDetail"_s)));
         QVERIFY(below(part(*s.view, u"detailName"_s)));
-        for (const DetailRow* row : s.view->findChildren<DetailRow*>())
-            QVERIFY2(below(*row), qPrintable(row->label()));
+        QVERIFY(below(*s.view->findChild<TechnicalDetails*>()));
         QVERIFY(below(part(*s.view, u"notes"_s)));
         QVERIFY(below(part(*s.view, u"editEquipment"_s)));
         for (int i = 0; i < 3; ++i)
@@ -155,30 +152,6 @@ private Q_SLOTS:
         QVERIFY(!isShown(*s.view, u"emptyHistory"_s));
     }
 
-    void rowTexts()
-    {
-        const ScreenFixture f;
-        Maintenance done = makeRecord(f, 1, 1, u"Tagliando"_s);
-        done.cost = 12.5;
-        Maintenance open = makeRecord(f, 2, 2, u"Prova"_s);
-        open.type = MaintenanceType::test;
-        open.isCompleted = false;
-        Maintenance old = makeRecord(f, 3, 3, u"Antica"_s);
-        old.isCompleted.reset();
-        Shown s({done, open, old});
-        QCOMPARE(textOf(s.row(0), u"maintenanceType"_s), u"Manutenzione Annuale"_s);
-        QCOMPARE(textOf(s.row(0), u"maintenanceCost"_s), u"€12.50"_s);
-        QCOMPARE(textOf(s.row(0), u"maintenanceDescription"_s), u"Tagliando"_s);
-        QCOMPARE(textOf(s.row(0), u"maintenanceDate"_s), u"14 giu 2026 · Eseguito da: Blu Service"_s);
-        QCOMPARE(textOf(s.row(0), u"completed"_s), u"Manutenzione avvenuta"_s);
-        QVERIFY(!isShown(s.row(0), u"notCompleted"_s));
-        QCOMPARE(textOf(s.row(1), u"maintenanceType"_s), u"Test"_s);
-        QVERIFY(!isShown(s.row(1), u"maintenanceCost"_s));
-        QCOMPARE(textOf(s.row(1), u"notCompleted"_s), u"Manutenzione non avvenuta"_s);
-        QVERIFY(!isShown(s.row(1), u"completed"_s));
-        QVERIFY(isShown(s.row(2), u"completed"_s));
-    }
-
     void recordIsDeletedAfterItsConfirmation()
     {
         Shown s(threeRecords());
@@ -203,8 +176,7 @@ private Q_SLOTS:
 
     void lastRecordLeavesTheEmptyHistoryAtOnce()
     {
-        const ScreenFixture f;
-        Shown s({makeRecord(f, 1, 1, u"sola"_s)});
+        Shown s({makeRecord(1, 1, u"sola"_s)});
         click(s.row(0), u"deleteMaintenance"_s);
         click(openDialog<Alert>(*s.view), u"destructive"_s);
         QVERIFY(isShown(*s.view, u"emptyHistory"_s));
@@ -275,7 +247,7 @@ private Q_SLOTS:
         s.item.name = u"Nuovo nome"_s;
         s.f.equipment.updateEquipment(s.item);
         QCOMPARE(textOf(*s.view, u"detailName"_s), s.item.name);
-        s.f.equipment.addMaintenance(s.item.id, makeRecord(s.f, 1, 1, u"aggiunta"_s));
+        s.f.equipment.addMaintenance(s.item.id, makeRecord(1, 1, u"aggiunta"_s));
         settle();
         QCOMPARE(s.descriptions(), QStringList(u"aggiunta"_s));
         QCOMPARE(s.view->equipment().lastServiceDate, s.f.inDays(-1));
@@ -359,8 +331,7 @@ private Q_SLOTS:
     {
         QFETCH(qreal, size);
         const ScaledText scaled(size);
-        const ScreenFixture f;
-        Maintenance record = makeRecord(f, 1, 1, u"Sostituzione degli anelli di tenuta e prova"_s);
+        Maintenance record = makeRecord(1, 1, u"Sostituzione degli anelli di tenuta e prova"_s);
         record.cost = 1234.5;
         record.performedBy = QString(60, u'W');
         Shown s({record}, 3);
@@ -371,6 +342,21 @@ private Q_SLOTS:
         s.view->resize(s.view->minimumWidth(), 2400);
         settle();
         QCOMPARE(clippedTexts(*s.view), QStringList());
+    }
+
+    void asASheet()
+    {
+        RegisterFixture f;
+        QWidget below;
+        below.resize(1280, 800);
+        below.show();
+        ViewSheet* const sheet =
+            EquipmentDetailView::makeSheet(f.detail(f.equipment.equipment().first()), f.opener, &below);
+        sheet->open();
+        QCOMPARE(sheet->size(), QSize(750, 650));
+        QCOMPARE(sheet->windowTitle(), u"Dettagli Attrezzatura"_s);
+        click(*sheet, u"closeDetail"_s);
+        QVERIFY(!sheet->isVisible());
     }
 };
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "DetailParts.h"
+#include "Gui.h"
 #include "Literals.h"
 #include "MaintenanceFormView.h"
+#include "RegisterFixture.h"
 #include "TestRunner.h"
-
-#include <QDir>
 
 using namespace abissora;
 using namespace abissora::test;
@@ -16,31 +15,27 @@ struct Shown
     explicit Shown(bool withReceipt)
     {
         Equipment item = makeItem(1, u"Articolo"_s, EquipmentType::fins, f.inDays(100));
-        Maintenance record = makeRecord(f, 1, 1, u"Collaudo"_s);
+        Maintenance record = makeRecord(1, 1, u"Collaudo"_s);
         if (withReceipt)
-            record.receiptFileName = storedDocument(f, u"vecchio.pdf"_s);
+            record.receiptFileName = f.storedDocument(u"vecchio.pdf"_s);
         item.maintenanceHistory = {record};
         f.equipment.addEquipment(item);
         below.resize(1280, 1300);
         below.show();
-        form = std::make_unique<MaintenanceFormView>(f.context, item.id, record, &below);
+        form = std::make_unique<MaintenanceFormView>(f.draft(item.id, record), f.opener, &below);
         form->open();
         settle();
     }
 
     void attach(const char* slot)
     {
-        f.panel.answer(writePdf(f, u"nuovo.pdf"_s));
+        f.panel.answer(f.writePdf(u"nuovo.pdf"_s));
         click(*form, u"attach"_s + QLatin1String(slot));
     }
     void save() { click(*form, u"primary"_s); }
     [[nodiscard]] Maintenance stored() const { return f.equipment.equipment().last().maintenanceHistory.first(); }
-    [[nodiscard]] QStringList files() const
-    {
-        return QDir(f.directories.maintenanceDocuments()).entryList(QDir::Files, QDir::Name);
-    }
 
-    ScreenFixture f;
+    RegisterFixture f;
     QWidget below;
     std::unique_ptr<MaintenanceFormView> form;
 };
@@ -60,7 +55,7 @@ private Q_SLOTS:
         QVERIFY(!isShown(*s.form, u"attachCertificato"_s));
         QVERIFY(isShown(*s.form, u"attachScontrino"_s));
         s.save();
-        QCOMPARE(s.files(), QStringList(s.stored().certificateFileName.value()));
+        QCOMPARE(s.f.documentFiles(), QStringList(s.stored().certificateFileName.value()));
         QVERIFY(!s.stored().receiptFileName);
     }
 
@@ -83,26 +78,58 @@ private Q_SLOTS:
         QCOMPARE(s.f.opener.opened().size(), 1);
     }
 
-    void removedAtOnce()
+    void removedOnceSaved()
     {
         Shown s(true);
+        const QStringList before = s.f.documentFiles();
         QCOMPARE(part<QAbstractButton>(*s.form, u"removeScontrino"_s).text(), u"Rimuovi"_s);
         click(*s.form, u"removeScontrino"_s);
-        QCOMPARE(s.files(), QStringList());
+        QCOMPARE(s.f.documentFiles(), before);
         QVERIFY(isShown(*s.form, u"attachScontrino"_s));
         s.save();
+        QCOMPARE(s.f.documentFiles(), QStringList());
         QVERIFY(!s.stored().receiptFileName);
+    }
+
+    void removedInACancelledFormStays()
+    {
+        Shown s(true);
+        const QStringList before = s.f.documentFiles();
+        click(*s.form, u"removeScontrino"_s);
+        s.attach("Scontrino");
+        QCOMPARE(s.f.documentFiles().size(), 2);
+        click(*s.form, u"cancel"_s);
+        QCOMPARE(s.f.documentFiles(), before);
+        QCOMPARE(s.stored().receiptFileName, std::optional(before.first()));
+    }
+
+    void attachedInAFormThatGoesUnansweredGoesAgain()
+    {
+        Shown s(false);
+        s.attach("Scontrino");
+        QCOMPARE(s.f.documentFiles().size(), 1);
+        s.form.reset();
+        QCOMPARE(s.f.documentFiles(), QStringList());
+    }
+
+    void theFormMayGoWhileThePanelIsOpen()
+    {
+        Shown s(false);
+        s.f.panel.meanwhile([&s] { s.form.reset(); });
+        s.attach("Scontrino");
+        QVERIFY(!s.form);
+        QCOMPARE(s.f.documentFiles(), QStringList());
     }
 
     /// A file that no record names would lie there for ever.
     void attachedInACancelledFormGoesAgain()
     {
         Shown s(true);
-        const QStringList before = s.files();
+        const QStringList before = s.f.documentFiles();
         s.attach("Certificato");
-        QCOMPARE(s.files().size(), 2);
+        QCOMPARE(s.f.documentFiles().size(), 2);
         QTest::keyClick(s.form.get(), Qt::Key_Escape);
-        QCOMPARE(s.files(), before);
+        QCOMPARE(s.f.documentFiles(), before);
         QVERIFY(!s.stored().certificateFileName);
         QVERIFY(s.stored().receiptFileName);
     }

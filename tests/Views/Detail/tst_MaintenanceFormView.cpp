@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "Literals.h"
-#include "MaintenanceFormView.h"
-#include "ScaledText.h"
-
 #include "Buttons.h"
 #include "Cards.h"
 #include "ClippedTexts.h"
 #include "CostField.h"
 #include "DateField.h"
-#include "DetailParts.h"
+#include "Gui.h"
+#include "Literals.h"
+#include "MaintenanceFormView.h"
+#include "RegisterFixture.h"
+#include "ScaledText.h"
 #include "TestRunner.h"
 #include "ToggleSwitch.h"
 
@@ -22,13 +22,12 @@ using namespace abissora::test;
 
 namespace {
 
-/// The form over a window, for an item of this kind.
+/// The form over a window.
 struct Shown
 {
-    explicit Shown(const std::optional<Maintenance>& editing = std::nullopt,
-                   EquipmentType kind = EquipmentType::regulator)
+    explicit Shown(const std::optional<Maintenance>& editing = std::nullopt)
     {
-        Equipment item = makeItem(1, u"Articolo"_s, kind, f.inDays(100));
+        Equipment item = makeItem(1, u"Articolo"_s, EquipmentType::regulator, f.inDays(100));
         if (editing)
             item.maintenanceHistory = {*editing};
         id = item.id;
@@ -40,7 +39,7 @@ struct Shown
 
     void open(const std::optional<Maintenance>& editing)
     {
-        form = std::make_unique<MaintenanceFormView>(f.context, id, editing, &below);
+        form = std::make_unique<MaintenanceFormView>(f.draft(id, editing), f.opener, &below);
         form->open();
         settle();
     }
@@ -60,7 +59,7 @@ struct Shown
     void save() { click(*form, u"primary"_s); }
     [[nodiscard]] QList<Maintenance> history() const { return f.equipment.equipment().last().maintenanceHistory; }
 
-    ScreenFixture f;
+    RegisterFixture f;
     QUuid id;
     QWidget below;
     std::unique_ptr<MaintenanceFormView> form;
@@ -109,57 +108,14 @@ private Q_SLOTS:
         QCOMPARE(type.currentIndex(), 0);
     }
 
-    void interval_data()
+    void intervalIsExplained()
     {
-        QTest::addColumn<int>("kind");
-        QTest::addColumn<int>("typeDays");
-        QTest::addColumn<QString>("typeName");
-        QTest::addColumn<int>("expected");
-        const auto regulator = static_cast<int>(EquipmentType::regulator);
-        const auto computer = static_cast<int>(EquipmentType::computer);
-        QTest::newRow("of the type") << regulator << 180 << u"Erogatore"_s << 180;
-        QTest::newRow("unmatched") << regulator << 180 << u"Pinne"_s << 365;
-        QTest::newRow("exact case") << regulator << 180 << u"erogatore"_s << 365;
-        QTest::newRow("unmatched computer") << computer << 180 << u"Pinne"_s << 730;
-        QTest::newRow("computer of a type") << computer << 90 << u"Computer Subacqueo"_s << 90;
-        QTest::newRow("none") << regulator << 0 << u"Erogatore"_s << 1;
-        QTest::newRow("negative") << regulator << -5 << u"Erogatore"_s << 1;
-    }
-
-    void interval()
-    {
-        QFETCH(int, kind);
-        QFETCH(int, typeDays);
-        QFETCH(QString, typeName);
-        QFETCH(int, expected);
-        Shown s(std::nullopt, static_cast<EquipmentType>(kind));
-        s.f.types.setTypes({typeCalled(typeName, typeDays)});
+        Shown s;
+        s.f.types.setTypes({typeCalled(u"Erogatore"_s, 180)});
         s.open(std::nullopt);
-        QCOMPARE(s.form->equipmentIntervalDays(), expected);
         QCOMPARE(textOf(*s.form, u"intervalExplanation"_s),
-                 u"Calcolata automaticamente: %1 giorni dall'intervallo configurato per la tipologia"_s.arg(expected));
-        QCOMPARE(s.field<DateField>("nextServiceDate").instant(), s.f.inDays(expected));
-    }
-
-    void inactiveTypesAndUnknownItemsDoNotCount()
-    {
-        Shown s;
-        EquipmentTypeModel inactive = typeCalled(u"Erogatore"_s, 10);
-        inactive.isActive = false;
-        s.f.types.setTypes({inactive});
-        QCOMPARE(s.form->equipmentIntervalDays(), 365);
-        s.f.equipment.deleteEquipment(s.f.equipment.equipment().last());
-        QCOMPARE(s.form->equipmentIntervalDays(), 365);
-    }
-
-    void intervalBeyondTheCalendar()
-    {
-        Shown s;
-        EquipmentTypeModel type = typeCalled(u"Erogatore"_s, 1);
-        type.serviceIntervalDays = std::numeric_limits<std::int64_t>::max();
-        s.f.types.setTypes({type});
-        s.open(std::nullopt);
-        QCOMPARE(s.field<DateField>("nextServiceDate").instant(), s.f.clock.now());
+                 u"Calcolata automaticamente: 180 giorni dall'intervallo configurato per la tipologia"_s);
+        QCOMPARE(s.field<DateField>("nextServiceDate").instant(), s.f.inDays(180));
     }
 
     void nextDateFollowsTheDateUntilChangedByHand()
@@ -175,9 +131,8 @@ private Q_SLOTS:
 
     void editingChangesNothingUntilTheDateChanges()
     {
-        ScreenFixture f;
-        Maintenance record = makeRecord(f, 1, 30, u"Vecchia"_s);
-        record.nextServiceDate = f.inDays(777);
+        Maintenance record = makeRecord(1, 30, u"Vecchia"_s);
+        record.nextServiceDate += std::chrono::days(412);
         Shown s(record);
         QCOMPARE(s.form->windowTitle(), u"Modifica Manutenzione"_s);
         QCOMPARE(s.field<DateField>("nextServiceDate").instant(), record.nextServiceDate);
@@ -191,8 +146,7 @@ private Q_SLOTS:
 
     void untouchedRecordComesBackBitForBit()
     {
-        ScreenFixture f;
-        Maintenance record = makeRecord(f, 1, 30, u"a\u00a0b\tc\nd\u2028e"_s);
+        Maintenance record = makeRecord(1, 30, u"a\u00a0b\tc\nd\u2028e"_s);
         record.type = MaintenanceType::cleaning;
         record.cost = 0.1 + 0.2;
         record.notes = u"uno\r\ndue\u00a0tre"_s;
@@ -229,8 +183,8 @@ private Q_SLOTS:
         QCOMPARE(saved.cost, 1234.5);
         QCOMPARE(saved.isCompleted, std::optional(false));
         QCOMPARE(saved.notes, u"nota"_s);
-        QCOMPARE(s.f.context.dates.dayAndTime(saved.date), u"01/06/2026 12:00"_s);
-        QCOMPARE(s.f.context.dates.dayAndTime(saved.nextServiceDate), u"01/06/2027 12:00"_s);
+        QCOMPARE(s.f.almanac.dates.dayAndTime(saved.date), u"01/06/2026 12:00"_s);
+        QCOMPARE(s.f.almanac.dates.dayAndTime(saved.nextServiceDate), u"01/06/2027 12:00"_s);
         QCOMPARE(s.f.equipment.equipment().last().nextServiceDate, saved.nextServiceDate);
     }
 
@@ -261,7 +215,7 @@ private Q_SLOTS:
         date.selectAll();
         QTest::keyClicks(&date, u"01062026"_s);
         QTest::keyClick(&date, Qt::Key_Return, Qt::ControlModifier);
-        QCOMPARE(s.f.context.dates.dayAndTime(s.history().value(0).date), u"01/06/2026 12:00"_s);
+        QCOMPARE(s.f.almanac.dates.dayAndTime(s.history().value(0).date), u"01/06/2026 12:00"_s);
     }
 
     void descriptionIsRequiredAsItStands()

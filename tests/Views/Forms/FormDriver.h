@@ -3,8 +3,8 @@
 
 #include "Alert.h"
 #include "DateField.h"
+#include "FormFields.h"
 #include "Sheet.h"
-#include "TypePicker.h"
 
 #include <QAbstractButton>
 #include <QApplication>

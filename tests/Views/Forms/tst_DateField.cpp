@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ControlLook.h"
 #include "DateField.h"
+#include "Gui.h"
 #include "Literals.h"
 
 #include "TestRunner.h"
@@ -44,9 +45,7 @@ struct Shown
         auto* layout = new QVBoxLayout(&window);
         layout->addWidget(other);
         layout->addWidget(field);
-        window.show();
-        window.activateWindow();
-        QCoreApplication::processEvents();
+        activate(window);
     }
 
     /// Comes by Tab, which selects everything, and types.

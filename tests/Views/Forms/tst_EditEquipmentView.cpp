@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "EditEquipmentView.h"
+#include "EquipmentFormView.h"
 #include "Literals.h"
 
+#include "Alert.h"
+#include "Builders.h"
 #include "Cards.h"
-#include "FormDriver.h"
-#include "ScreenFixture.h"
+#include "DateField.h"
+#include "FormParts.h"
+#include "RegisterFixture.h"
 #include "TestRunner.h"
 #include "Theme.h"
 #include "ToggleSwitch.h"
@@ -18,29 +21,23 @@ namespace {
 
 struct Open
 {
-    Open(const AppContext& context, const Equipment& item)
-        : form(context, item)
-        , driver(form)
+    Open(RegisterFixture& f, const Almanac& almanac, const Equipment& item)
+        : form(f.equipment, f.types, almanac, item)
         , saved(&form, &EditEquipmentView::saved)
     {
         form.open();
-        form.activateWindow();
-        QCoreApplication::processEvents();
+        activate(form);
     }
+    Open(RegisterFixture& f, const Equipment& item)
+        : Open(f, f.almanac, item)
+    {}
 
     EditEquipmentView form;
-    FormDriver driver;
     QSignalSpy saved;
 };
 
-Instant at(const char* iso)
-{
-    return Instant(
-        std::chrono::milliseconds(QDateTime::fromString(QLatin1String(iso), Qt::ISODateWithMs).toMSecsSinceEpoch()));
-}
-
 /// An item as the form would write it: saving it unchanged changes nothing.
-Equipment settled(const ScreenFixture& f)
+Equipment settled(const RegisterFixture& f)
 {
     Equipment item = makeItem(1, u"Erogatore vecchio"_s, EquipmentType::regulator, {});
     item.serialNumber = u"A\u00A0B"_s;
@@ -63,58 +60,58 @@ private Q_SLOTS:
 
     void startsWithTheItem()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         const Equipment item = settled(f);
-        Open o(f.context, item);
+        Open o(f, item);
         QCOMPARE(o.form.windowTitle(), u"Modifica Attrezzatura"_s);
         QStringList groups;
         for (const GroupBox* group : o.form.findChildren<GroupBox*>())
             groups.append(group->title());
         QCOMPARE(groups,
                  QStringList({u"Informazioni Generali"_s, u"Dettagli Tecnici"_s, u"Date"_s, u"Stato"_s, u"Note"_s}));
-        QCOMPARE(o.driver.part<QLineEdit>("name").text(), item.name);
-        QCOMPARE(o.driver.part<QLineEdit>("brand").text(), item.brand);
-        QCOMPARE(o.driver.part<QLineEdit>("model").text(), item.model);
-        QCOMPARE(o.driver.part<QLineEdit>("serialNumber").text(), item.serialNumber);
-        QCOMPARE(o.driver.part<DateField>("purchaseDate").text(), u"29/03/2020"_s);
-        QCOMPARE(o.driver.chosenType(), u"Erogatore"_s);
-        QCOMPARE(o.driver.text("interval"), u"365 giorni"_s);
-        QCOMPARE(o.driver.part<ToggleSwitch>("isActive").text(), u"Attivo"_s);
-        QVERIFY(o.driver.part<ToggleSwitch>("isActive").isChecked());
-        QVERIFY(!o.driver.shows("incomplete"));
-        QVERIFY(o.driver.shows("required"));
-        QCOMPARE(QApplication::focusWidget(), &o.driver.part<QLineEdit>("name"));
+        QCOMPARE(usable<QLineEdit>(o.form, "name").text(), item.name);
+        QCOMPARE(usable<QLineEdit>(o.form, "brand").text(), item.brand);
+        QCOMPARE(usable<QLineEdit>(o.form, "model").text(), item.model);
+        QCOMPARE(usable<QLineEdit>(o.form, "serialNumber").text(), item.serialNumber);
+        QCOMPARE(usable<DateField>(o.form, "purchaseDate").text(), u"29/03/2020"_s);
+        QCOMPARE(chosenType(o.form), u"Erogatore"_s);
+        QCOMPARE(textOf(o.form, "interval"), u"365 giorni"_s);
+        QCOMPARE(usable<ToggleSwitch>(o.form, "isActive").text(), u"Attivo"_s);
+        QVERIFY(usable<ToggleSwitch>(o.form, "isActive").isChecked());
+        QVERIFY(!isShown(o.form, "incomplete"));
+        QVERIFY(isShown(o.form, "required"));
+        QCOMPARE(QApplication::focusWidget(), &usable<QLineEdit>(o.form, "name"));
     }
 
     void theFirstEmptyRequiredFieldHasTheFocus()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Equipment item = settled(f);
         item.brand = u" "_s;
-        Open o(f.context, item);
-        QCOMPARE(QApplication::focusWidget(), &o.driver.part<QLineEdit>("brand"));
-        QVERIFY(o.driver.shows("incomplete"));
+        Open o(f, item);
+        QCOMPARE(QApplication::focusWidget(), &usable<QLineEdit>(o.form, "brand"));
+        QVERIFY(isShown(o.form, "incomplete"));
     }
 
     void writesEveryFieldAndKeepsTheRest()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         const Equipment item = settled(f);
         f.equipment.addEquipment(item);
-        Open o(f.context, item);
-        o.driver.type("name", u"Luce"_s);
-        o.driver.choose(u"Torcia"_s);
-        o.driver.type("brand", u"Altra"_s);
-        o.driver.type("model", QString());
-        o.driver.type("serialNumber", u"9"_s);
-        o.driver.type("purchaseDate", u"30/03/2020"_s);
-        o.driver.type("lastServiceDate", u"25/10/2026"_s);
-        o.driver.click("isActive");
-        o.driver.type("notes", u"nuove"_s);
-        QCOMPARE(o.driver.text("nextServiceDate"), u"25 ott 2027"_s);
+        Open o(f, item);
+        type(o.form, "name", u"Luce"_s);
+        choose(o.form, u"Torcia"_s);
+        type(o.form, "brand", u"Altra"_s);
+        type(o.form, "model", QString());
+        type(o.form, "serialNumber", u"9"_s);
+        type(o.form, "purchaseDate", u"30/03/2020"_s);
+        type(o.form, "lastServiceDate", u"25/10/2026"_s);
+        click(o.form, "isActive");
+        type(o.form, "notes", u"nuove"_s);
+        QCOMPARE(textOf(o.form, "nextServiceDate"), u"25 ott 2027"_s);
         QSignalSpy changed(&f.equipment, &EquipmentViewModel::equipmentChanged);
         f.console.clear();
-        o.driver.save();
+        click(o.form, "primary");
 
         Equipment expected = item;
         expected.name = u"Luce"_s;
@@ -139,15 +136,15 @@ private Q_SLOTS:
 
     void toABuiltInKindClearsTheCustomName()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Equipment item = settled(f);
         item.type = EquipmentType::other;
         item.customTypeName = u"Torcia"_s;
         f.equipment.addEquipment(item);
-        Open o(f.context, item);
-        QCOMPARE(o.driver.chosenType(), u"Torcia"_s);
-        o.driver.choose(u"Bombola"_s);
-        o.driver.save();
+        Open o(f, item);
+        QCOMPARE(chosenType(o.form), u"Torcia"_s);
+        choose(o.form, u"Bombola"_s);
+        click(o.form, "primary");
         QCOMPARE(f.equipment.equipment().last().type, EquipmentType::cylinder);
         QVERIFY(!f.equipment.equipment().last().customTypeName);
     }
@@ -168,22 +165,22 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, zone);
         QFETCH(Instant, lastService);
-        ScreenFixture f;
-        AppContext context = f.context;
-        context.calendar = Calendar(QTimeZone(zone));
+        RegisterFixture f;
+        const Calendar calendar{QTimeZone(zone)};
+        const Almanac almanac{f.clock, calendar, f.almanac.dates};
         Equipment item = settled(f);
         item.lastServiceDate = lastService;
-        item.nextServiceDate = *context.calendar.addDays(lastService, 365);
+        item.nextServiceDate = *calendar.addDays(lastService, 365);
         f.equipment.addEquipment(item);
         const auto before = f.equipment.equipment();
         const auto stored = f.preferences.data(StorageManager::equipmentKey).value();
         for (int times = 0; times < 3; ++times) {
-            Open o(context, f.equipment.equipment().last());
+            Open o(f, almanac, f.equipment.equipment().last());
             QCOMPARE(f.preferences.data(StorageManager::equipmentKey).value(), stored);
             // Through every field without changing any.
             for (int i = 0; i < 12; ++i)
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            o.driver.save();
+            click(o.form, "primary");
             QCOMPARE(f.equipment.equipment(), before);
             QCOMPARE(f.preferences.data(StorageManager::equipmentKey).value(), stored);
         }
@@ -191,65 +188,65 @@ private Q_SLOTS:
 
     void longAndManyLinedTextsSurvive()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Equipment item = settled(f);
         item.name = QString(50'000, u'x');
         item.brand = u"due\nrighe"_s;
         f.equipment.addEquipment(item);
-        Open o(f.context, item);
-        o.driver.save();
+        Open o(f, item);
+        click(o.form, "primary");
         QCOMPARE(f.equipment.equipment().last(), item);
     }
 
     void aDeletedTypeIsStillShown()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Equipment item = settled(f);
         item.type = EquipmentType::other;
         item.customTypeName = u"Faro"_s;
         f.equipment.addEquipment(item);
-        Open o(f.context, item);
-        QCOMPARE(o.driver.chosenType(), u"Faro"_s);
-        QCOMPARE(o.driver.offeredTypes().size(), 17);
-        QCOMPARE(o.driver.offeredTypes().last(), u"Faro"_s);
-        QVERIFY(!o.driver.part<TypePicker>("type").itemIcon(16).isNull());
-        QVERIFY(!o.driver.shows("interval"));
-        o.driver.save();
+        Open o(f, item);
+        QCOMPARE(chosenType(o.form), u"Faro"_s);
+        QCOMPARE(offeredTypes(o.form).size(), 17);
+        QCOMPARE(offeredTypes(o.form).last(), u"Faro"_s);
+        QVERIFY(!usable<TypePicker>(o.form, "type").itemIcon(16).isNull());
+        QVERIFY(!isShown(o.form, "interval"));
+        click(o.form, "primary");
         QCOMPARE(f.equipment.equipment().last(), item);
     }
 
     void anotherChoiceDropsTheDeletedType()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Equipment item = settled(f);
         item.customTypeName = u"Faro"_s;
-        Open o(f.context, item);
-        o.driver.choose(u"Computer Subacqueo"_s);
-        QVERIFY(!o.driver.offeredTypes().contains(u"Faro"_s));
-        QCOMPARE(o.driver.text("interval"), u"730 giorni"_s);
+        Open o(f, item);
+        choose(o.form, u"Computer Subacqueo"_s);
+        QVERIFY(!offeredTypes(o.form).contains(u"Faro"_s));
+        QCOMPARE(textOf(o.form, "interval"), u"730 giorni"_s);
     }
 
     void theIntervalFollowsTheCatalogue()
     {
-        ScreenFixture f;
-        Open o(f.context, settled(f));
+        RegisterFixture f;
+        Open o(f, settled(f));
         EquipmentTypeModel type = *f.types.getTypeByName(u"Erogatore"_s);
         type.serviceIntervalDays = 30;
         f.types.updateType(type);
-        QCOMPARE(o.driver.text("interval"), u"30 giorni"_s);
+        QCOMPARE(textOf(o.form, "interval"), u"30 giorni"_s);
         type.isActive = false;
         f.types.updateType(type);
-        QVERIFY(!o.driver.shows("interval"));
-        QCOMPARE(o.driver.chosenType(), u"Erogatore"_s); // as the appended entry
+        QVERIFY(!isShown(o.form, "interval"));
+        QCOMPARE(chosenType(o.form), u"Erogatore"_s); // as the appended entry
     }
 
     void escapeWritesNothing()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         const Equipment item = settled(f);
         f.equipment.addEquipment(item);
-        Open o(f.context, item);
-        o.driver.type("name", u"Altro nome"_s);
+        Open o(f, item);
+        type(o.form, "name", u"Altro nome"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(!o.form.isVisible());
         QCOMPARE(f.equipment.equipment().last(), item);
@@ -258,23 +255,23 @@ private Q_SLOTS:
 
     void anEmptiedFieldAlerts()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         const Equipment item = settled(f);
         f.equipment.addEquipment(item);
-        Open o(f.context, item);
-        o.driver.type("brand", QString());
-        o.driver.save();
-        QVERIFY(o.driver.alert());
-        QTest::keyClick(o.driver.alert(), Qt::Key_Return);
-        QVERIFY(!o.driver.alert());
+        Open o(f, item);
+        type(o.form, "brand", QString());
+        click(o.form, "primary");
+        QVERIFY(findDialog<Alert>(o.form));
+        QTest::keyClick(&openDialog<Alert>(o.form), Qt::Key_Return);
+        QVERIFY(!findDialog<Alert>(o.form));
         QCOMPARE(f.equipment.equipment().last(), item);
         QVERIFY(o.saved.isEmpty());
     }
 
     void tabFollowsTheReadingOrder()
     {
-        ScreenFixture f;
-        Open o(f.context, settled(f));
+        RegisterFixture f;
+        Open o(f, settled(f));
         QStringList order;
         for (int i = 0; i < 11; ++i) {
             order.append(QApplication::focusWidget()->objectName());

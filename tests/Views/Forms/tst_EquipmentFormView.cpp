@@ -3,10 +3,12 @@
 #include "Literals.h"
 #include "ScaledText.h"
 
+#include "Alert.h"
 #include "Cards.h"
 #include "ClippedTexts.h"
-#include "FormDriver.h"
-#include "ScreenFixture.h"
+#include "DateField.h"
+#include "FormParts.h"
+#include "RegisterFixture.h"
 #include "TestRunner.h"
 #include "Theme.h"
 
@@ -22,18 +24,15 @@ namespace {
 /// The form over a window of the smallest size.
 struct Open
 {
-    explicit Open(ScreenFixture& f, QSize size = QSize(1000, 700))
-        : form((window.resize(size), window.show(), f.context), &window)
-        , driver(form)
+    explicit Open(RegisterFixture& f, QSize size = QSize(1000, 700))
+        : form((window.resize(size), window.show(), f.equipment), f.types, f.almanac, f.ids, &window)
     {
         form.open();
-        form.activateWindow();
-        QCoreApplication::processEvents();
+        activate(form);
     }
 
     QWidget window;
     EquipmentFormView form;
-    FormDriver driver;
 };
 
 QStringList visibleTexts(const QWidget& form)
@@ -57,7 +56,7 @@ private Q_SLOTS:
 
     void textsInOrder()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Open o(f);
         QCOMPARE(o.form.windowTitle(), u"Nuova Attrezzatura"_s);
         QStringList groups;
@@ -72,50 +71,50 @@ private Q_SLOTS:
                                      u"Marca*"_s, u"Modello"_s, u"Numero Seriale"_s, u"Date"_s, u"Data Acquisto"_s,
                                      u"Ultimo Tagliando"_s, u"Prossimo Tagliando"_s, u"15 giu 2027"_s, u"Note"_s,
                                      u"* Campi obbligatori"_s, u"Compila tutti i campi obbligatori"_s}));
-        QCOMPARE(o.driver.part<QLineEdit>("name").placeholderText(), u"Inserisci il nome"_s);
-        QCOMPARE(o.driver.part<QLineEdit>("brand").placeholderText(), u"Inserisci la marca"_s);
-        QCOMPARE(o.driver.part<QLineEdit>("model").placeholderText(), u"Inserisci il modello"_s);
-        QCOMPARE(o.driver.part<QLineEdit>("serialNumber").placeholderText(), u"Inserisci il numero seriale"_s);
-        QCOMPARE(o.driver.part<QAbstractButton>("cancel").text(), u"Annulla"_s);
-        QCOMPARE(o.driver.part<QAbstractButton>("primary").text(), u"Salva"_s);
+        QCOMPARE(usable<QLineEdit>(o.form, "name").placeholderText(), u"Inserisci il nome"_s);
+        QCOMPARE(usable<QLineEdit>(o.form, "brand").placeholderText(), u"Inserisci la marca"_s);
+        QCOMPARE(usable<QLineEdit>(o.form, "model").placeholderText(), u"Inserisci il modello"_s);
+        QCOMPARE(usable<QLineEdit>(o.form, "serialNumber").placeholderText(), u"Inserisci il numero seriale"_s);
+        QCOMPARE(usable<QAbstractButton>(o.form, "cancel").text(), u"Annulla"_s);
+        QCOMPARE(usable<QAbstractButton>(o.form, "primary").text(), u"Salva"_s);
     }
 
     void startsEmptyOnToday()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Open o(f);
         for (const char* field : {"name", "brand", "model", "serialNumber"})
-            QCOMPARE(o.driver.part<QLineEdit>(field).text(), QString());
+            QCOMPARE(usable<QLineEdit>(o.form, field).text(), QString());
         for (const char* field : {"purchaseDate", "lastServiceDate"})
-            QCOMPARE(o.driver.part<DateField>(field).instant(), f.clock.now());
-        QCOMPARE(o.driver.chosenType(), u"Erogatore"_s);
-        QCOMPARE(o.driver.offeredTypes().size(), 16);
-        QCOMPARE(QApplication::focusWidget(), &o.driver.part<QLineEdit>("name"));
-        QVERIFY(!o.driver.shows("isActive"));
-        QVERIFY(!o.driver.shows("interval"));
-        QVERIFY(o.driver.shows("incomplete"));
+            QCOMPARE(usable<DateField>(o.form, field).instant(), f.clock.now());
+        QCOMPARE(chosenType(o.form), u"Erogatore"_s);
+        QCOMPARE(offeredTypes(o.form).size(), 16);
+        QCOMPARE(QApplication::focusWidget(), &usable<QLineEdit>(o.form, "name"));
+        QVERIFY(!isShown(o.form, "isActive"));
+        QVERIFY(!isShown(o.form, "interval"));
+        QVERIFY(isShown(o.form, "incomplete"));
     }
 
     void addsWhatWasEntered()
     {
-        ScreenFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         Open o(f);
-        o.driver.type("name", u"  Bombola 12 litri "_s);
-        o.driver.choose(u"Bombola"_s);
-        o.driver.type("brand", u"Faber"_s);
-        o.driver.type("model", u" Hot Dipped"_s);
-        o.driver.type("serialNumber", u"A-1 "_s);
-        o.driver.type("purchaseDate", u"29/02/2024"_s);
-        o.driver.type("lastServiceDate", u"31/12/2025"_s);
-        o.driver.type("notes", u" due righe"_s);
-        QTest::keyClick(&o.driver.part<QPlainTextEdit>("notes"), Qt::Key_Return);
-        QTest::keyClicks(&o.driver.part<QPlainTextEdit>("notes"), u"di note "_s);
-        QVERIFY(!o.driver.shows("incomplete"));
-        QCOMPARE(o.driver.text("nextServiceDate"), u"31 dic 2026"_s);
+        type(o.form, "name", u"  Bombola 12 litri "_s);
+        choose(o.form, u"Bombola"_s);
+        type(o.form, "brand", u"Faber"_s);
+        type(o.form, "model", u" Hot Dipped"_s);
+        type(o.form, "serialNumber", u"A-1 "_s);
+        type(o.form, "purchaseDate", u"29/02/2024"_s);
+        type(o.form, "lastServiceDate", u"31/12/2025"_s);
+        type(o.form, "notes", u" due righe"_s);
+        QTest::keyClick(&usable<QPlainTextEdit>(o.form, "notes"), Qt::Key_Return);
+        QTest::keyClicks(&usable<QPlainTextEdit>(o.form, "notes"), u"di note "_s);
+        QVERIFY(!isShown(o.form, "incomplete"));
+        QCOMPARE(textOf(o.form, "nextServiceDate"), u"31 dic 2026"_s);
         const int idsBefore = f.ids.count();
         QSignalSpy changed(&f.equipment, &EquipmentViewModel::equipmentChanged);
         f.console.clear();
-        o.driver.save();
+        click(o.form, "primary");
 
         Equipment expected;
         expected.id = SequentialIds::at(idsBefore + 1);
@@ -138,12 +137,12 @@ private Q_SLOTS:
 
     void aTypeOfTheUsersOwnIsStoredByName()
     {
-        ScreenFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         Open o(f);
-        o.driver.type("name", u"Luce"_s);
-        o.driver.type("brand", u"X"_s);
-        o.driver.choose(u"Torcia"_s);
-        o.driver.save();
+        type(o.form, "name", u"Luce"_s);
+        type(o.form, "brand", u"X"_s);
+        choose(o.form, u"Torcia"_s);
+        click(o.form, "primary");
         QCOMPARE(f.equipment.equipment().first().type, EquipmentType::other);
         QCOMPARE(f.equipment.equipment().first().customTypeName, std::optional(u"Torcia"_s));
     }
@@ -163,14 +162,14 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QString, brand);
         QFETCH(QString, focused);
-        ScreenFixture f;
+        RegisterFixture f;
         Open o(f);
-        o.driver.type("name", name);
-        o.driver.type("brand", brand);
-        o.driver.type("model", u"Modello"_s);
-        QVERIFY(o.driver.shows("incomplete"));
-        o.driver.save();
-        Alert* alert = o.driver.alert();
+        type(o.form, "name", name);
+        type(o.form, "brand", brand);
+        type(o.form, "model", u"Modello"_s);
+        QVERIFY(isShown(o.form, "incomplete"));
+        click(o.form, "primary");
+        Alert* alert = findDialog<Alert>(o.form);
         QVERIFY(alert);
         QCOMPARE(alert->windowTitle(), u"Errore"_s);
         QCOMPARE(alert->message(), u"Per favore, compila tutti i campi obbligatori."_s);
@@ -180,12 +179,12 @@ private Q_SLOTS:
                 buttons.append(button->text());
         }
         QCOMPARE(buttons, QStringList(u"OK"_s));
-        FormDriver(*alert).click("safe");
-        QVERIFY(!o.driver.alert());
+        click(*alert, "safe");
+        QVERIFY(!findDialog<Alert>(o.form));
         QVERIFY(o.form.isVisible());
         QCOMPARE(f.equipment.equipment().size(), 3);
-        QCOMPARE(o.driver.part<QLineEdit>("name").text(), name);
-        QCOMPARE(o.driver.part<QLineEdit>("model").text(), u"Modello"_s);
+        QCOMPARE(usable<QLineEdit>(o.form, "name").text(), name);
+        QCOMPARE(usable<QLineEdit>(o.form, "model").text(), u"Modello"_s);
         o.form.activateWindow();
         QCOMPARE(o.form.focusWidget()->objectName(), focused);
         QVERIFY(o.form.rect().contains(o.form.focusWidget()->mapTo(&o.form, QPoint(0, 0))));
@@ -193,31 +192,31 @@ private Q_SLOTS:
 
     void theFootnoteFollowsTheFields()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Open o(f);
         const QSize before = o.form.size();
-        o.driver.type("name", u"N"_s);
-        QVERIFY(o.driver.shows("incomplete"));
-        o.driver.type("brand", u"B"_s);
-        QVERIFY(!o.driver.shows("incomplete"));
-        QVERIFY(o.driver.shows("required"));
+        type(o.form, "name", u"N"_s);
+        QVERIFY(isShown(o.form, "incomplete"));
+        type(o.form, "brand", u"B"_s);
+        QVERIFY(!isShown(o.form, "incomplete"));
+        QVERIFY(isShown(o.form, "required"));
         QCOMPARE(o.form.size(), before);
-        o.driver.type("name", u" "_s);
-        QVERIFY(o.driver.shows("incomplete"));
+        type(o.form, "name", u" "_s);
+        QVERIFY(isShown(o.form, "incomplete"));
     }
 
     void cancelAndEscapeSaveNothing()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         for (const bool byKey : {false, true}) {
             Open o(f);
-            o.driver.type("name", u"N"_s);
-            o.driver.type("brand", u"B"_s);
+            type(o.form, "name", u"N"_s);
+            type(o.form, "brand", u"B"_s);
             f.console.clear();
             if (byKey)
-                QTest::keyClick(&o.driver.part<QLineEdit>("brand"), Qt::Key_Escape);
+                QTest::keyClick(&usable<QLineEdit>(o.form, "brand"), Qt::Key_Escape);
             else
-                o.driver.cancel();
+                click(o.form, "cancel");
             QVERIFY(!o.form.isVisible());
             QCOMPARE(f.takeLog(), QStringList());
         }
@@ -227,12 +226,12 @@ private Q_SLOTS:
 
     void controlReturnSavesWithTheDayBeingTyped()
     {
-        ScreenFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         Open o(f);
-        o.driver.type("name", u"N"_s);
-        o.driver.type("brand", u"B"_s);
-        o.driver.type("lastServiceDate", u"1/2/25"_s);
-        QTest::keyClick(&o.driver.part<DateField>("lastServiceDate"), Qt::Key_Return, Qt::ControlModifier);
+        type(o.form, "name", u"N"_s);
+        type(o.form, "brand", u"B"_s);
+        type(o.form, "lastServiceDate", u"1/2/25"_s);
+        QTest::keyClick(&usable<DateField>(o.form, "lastServiceDate"), Qt::Key_Return, Qt::ControlModifier);
         QVERIFY(!o.form.isVisible());
         const Equipment item = f.equipment.equipment().first();
         QCOMPARE(f.calendar.local(item.lastServiceDate).date(), QDate(2025, 2, 1));
@@ -241,80 +240,80 @@ private Q_SLOTS:
 
     void anUnfinishedDateIsNotSaved()
     {
-        ScreenFixture f(QList<Equipment>{});
+        RegisterFixture f(QList<Equipment>{});
         Open o(f);
-        o.driver.type("name", u"Pinne"_s);
-        o.driver.type("brand", u"Mares"_s);
-        o.driver.type("purchaseDate", u"31/02/2026"_s);
-        o.driver.type("lastServiceDate", u"1/2"_s);
+        type(o.form, "name", u"Pinne"_s);
+        type(o.form, "brand", u"Mares"_s);
+        type(o.form, "purchaseDate", u"31/02/2026"_s);
+        type(o.form, "lastServiceDate", u"1/2"_s);
         QTest::keyClick(&o.form, Qt::Key_Return, Qt::ControlModifier);
         QVERIFY(o.form.isVisible());
-        QVERIFY(!o.driver.alert());
+        QVERIFY(!findDialog<Alert>(o.form));
         QVERIFY(f.equipment.equipment().isEmpty());
-        auto& date = o.driver.part<DateField>("purchaseDate");
+        auto& date = usable<DateField>(o.form, "purchaseDate");
         QVERIFY(date.hasFocus());
         QCOMPARE(date.selectedText(), u"31/02/2026"_s);
         QCOMPARE(visibleTexts(o.form).filter(u"Data non valida"_s).size(), 2);
 
-        o.driver.type("purchaseDate", u"28/02/2026"_s);
-        o.driver.type("lastServiceDate", u"1/2/26"_s);
+        type(o.form, "purchaseDate", u"28/02/2026"_s);
+        type(o.form, "lastServiceDate", u"1/2/26"_s);
         QTest::keyClick(&o.form, Qt::Key_Return, Qt::ControlModifier);
         QCOMPARE(f.equipment.equipment().size(), 1);
-        QCOMPARE(f.context.dates.abbreviatedDate(f.equipment.equipment().first().lastServiceDate), u"1 feb 2026"_s);
+        QCOMPARE(f.almanac.dates.abbreviatedDate(f.equipment.equipment().first().lastServiceDate), u"1 feb 2026"_s);
     }
 
     void returnInAFieldSavesNothing()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Open o(f);
-        o.driver.type("name", u"N"_s);
-        o.driver.type("brand", u"B"_s);
-        QTest::keyClick(&o.driver.part<QLineEdit>("brand"), Qt::Key_Return);
+        type(o.form, "name", u"N"_s);
+        type(o.form, "brand", u"B"_s);
+        QTest::keyClick(&usable<QLineEdit>(o.form, "brand"), Qt::Key_Return);
         QVERIFY(o.form.isVisible());
         QCOMPARE(f.equipment.equipment().size(), 3);
     }
 
     void theNextServiceIsLive()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Open o(f);
-        o.driver.choose(u"Computer Subacqueo"_s);
-        QCOMPARE(o.driver.text("nextServiceDate"), u"14 giu 2028"_s);
-        o.driver.type("lastServiceDate", u"01/01/2025"_s);
-        QCOMPARE(o.driver.text("nextServiceDate"), u"1 gen 2027"_s);
-        o.driver.type("purchaseDate", u"01/01/2020"_s);
-        QCOMPARE(o.driver.text("nextServiceDate"), u"1 gen 2027"_s);
+        choose(o.form, u"Computer Subacqueo"_s);
+        QCOMPARE(textOf(o.form, "nextServiceDate"), u"14 giu 2028"_s);
+        type(o.form, "lastServiceDate", u"01/01/2025"_s);
+        QCOMPARE(textOf(o.form, "nextServiceDate"), u"1 gen 2027"_s);
+        type(o.form, "purchaseDate", u"01/01/2020"_s);
+        QCOMPARE(textOf(o.form, "nextServiceDate"), u"1 gen 2027"_s);
         EquipmentTypeModel computer = *f.types.getTypeByName(u"Computer Subacqueo"_s);
         computer.serviceIntervalDays = 1;
         f.types.updateType(computer);
-        QCOMPARE(o.driver.text("nextServiceDate"), u"2 gen 2025"_s);
+        QCOMPARE(textOf(o.form, "nextServiceDate"), u"2 gen 2025"_s);
     }
 
     void theTypeIsChosenAnewWhenItIsNoLongerOffered()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Open o(f);
-        o.driver.choose(u"Pinne"_s);
+        choose(o.form, u"Pinne"_s);
         f.types.deleteType(*f.types.getTypeByName(u"Muta"_s));
-        QCOMPARE(o.driver.chosenType(), u"Pinne"_s);
-        QCOMPARE(o.driver.offeredTypes().size(), 15);
+        QCOMPARE(chosenType(o.form), u"Pinne"_s);
+        QCOMPARE(offeredTypes(o.form).size(), 15);
         f.types.deleteType(*f.types.getTypeByName(u"Pinne"_s));
-        QCOMPARE(o.driver.chosenType(), u"Erogatore"_s);
+        QCOMPARE(chosenType(o.form), u"Erogatore"_s);
         f.types.deleteType(*f.types.getTypeByName(u"Erogatore"_s));
-        QCOMPARE(o.driver.chosenType(), u"Altro"_s); // the first
+        QCOMPARE(chosenType(o.form), u"Altro"_s); // the first
         f.types.setSearchText(u"stagna"_s);
-        QCOMPARE(o.driver.offeredTypes(), QStringList(u"Muta Stagna"_s));
-        QCOMPARE(o.driver.chosenType(), u"Muta Stagna"_s);
+        QCOMPARE(offeredTypes(o.form), QStringList(u"Muta Stagna"_s));
+        QCOMPARE(chosenType(o.form), u"Muta Stagna"_s);
         f.types.setTypes({});
-        QCOMPARE(o.driver.chosenType(), QString());
+        QCOMPARE(chosenType(o.form), QString());
         f.types.setSearchText({});
         f.types.setTypes(f.types.getDefaultTypes());
-        QCOMPARE(o.driver.chosenType(), u"Erogatore"_s);
+        QCOMPARE(chosenType(o.form), u"Erogatore"_s);
     }
 
     void tabFollowsTheReadingOrder()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Open o(f);
         QStringList order;
         for (int i = 0; i < 11; ++i) {
@@ -327,9 +326,9 @@ private Q_SLOTS:
 
     void tabBringsFieldsIntoView()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Open o(f);
-        auto& notes = o.driver.part<QPlainTextEdit>("notes");
+        auto& notes = usable<QPlainTextEdit>(o.form, "notes");
         while (!notes.hasFocus())
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QVERIFY(notes.visibleRegion().boundingRect().height() > notes.height() / 2);
@@ -338,7 +337,7 @@ private Q_SLOTS:
 
     void fieldsAreNamedByTheirLabels()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Open o(f);
         const QList<QPair<const char*, QString>> names{
             {"name", u"Nome*"_s},
@@ -352,11 +351,11 @@ private Q_SLOTS:
             {"primary", u"Salva"_s},
         };
         for (const auto& [part, name] : names) {
-            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&o.driver.part<QWidget>(part));
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&usable(o.form, part));
             QCOMPARE(accessible->text(QAccessible::Name), name);
         }
         // On this platform a picker reads out its choice, and its label through the relation.
-        QAccessibleInterface* picker = QAccessible::queryAccessibleInterface(&o.driver.part<QWidget>("type"));
+        QAccessibleInterface* picker = QAccessible::queryAccessibleInterface(&usable(o.form, "type"));
         const auto labels = picker->relations(QAccessible::Label);
         QCOMPARE(labels.size(), 1);
         QCOMPARE(labels.first().first->text(QAccessible::Name), u"Tipo*"_s);
@@ -365,11 +364,11 @@ private Q_SLOTS:
     void nothingIsCutOffWithLargerText()
     {
         const ScaledText scaled(1.25);
-        ScreenFixture f;
+        RegisterFixture f;
         Open o(f);
         QCOMPARE(clippedTexts(o.form).join(u'|'), QString());
         for (const char* field : {"purchaseDate", "lastServiceDate", "name", "type"})
-            QVERIFY(o.driver.part<QWidget>(field).height() >= o.driver.part<QWidget>(field).sizeHint().height());
+            QVERIFY(usable(o.form, field).height() >= usable(o.form, field).sizeHint().height());
         QVERIFY(o.form.width() < 1000 && o.form.height() < 700);
     }
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "FormFields.h"
 #include "Literals.h"
-#include "TypePicker.h"
 
 #include "Fakes.h"
 #include "TestRunner.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ContentView.h"
-#include "EditEquipmentView.h"
 #include "EquipmentDetailView.h"
+#include "EquipmentFormView.h"
 #include "EquipmentListView.h"
 #include "EquipmentTableView.h"
 #include "FilterMenu.h"
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QCOMPARE(s.fixture.equipment.equipment(), before);
         QCOMPARE(s.fixture.preferences.data(StorageManager::equipmentKey), stored);
 
-        EditEquipmentView form(s.fixture.context, before.first(), s.window.get());
+        EditEquipmentView form(s.fixture.equipment, s.fixture.types, s.fixture.almanac, before.first(), s.window.get());
         form.open();
         const FormDriver driver(form);
         QCOMPARE(driver.chosenType(), u"Boa"_s);
@@ -155,7 +155,8 @@ private Q_SLOTS:
     void anOpenFormKeepsTheNameOfADeletedType()
     {
         Shown s;
-        EditEquipmentView form(s.fixture.context, s.fixture.equipment.equipment().first(), s.window.get());
+        EditEquipmentView form(s.fixture.equipment, s.fixture.types, s.fixture.almanac,
+                               s.fixture.equipment.equipment().first(), s.window.get());
         form.open();
         const FormDriver driver(form);
         QVERIFY(driver.shows("interval"));

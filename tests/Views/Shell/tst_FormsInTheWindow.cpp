@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ContentView.h"
-#include "EditEquipmentView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
 #include "EquipmentTableView.h"
-#include "FormDriver.h"
+#include "Gui.h"
 #include "Literals.h"
 #include "MainWindow.h"
 #include "ShellFixture.h"
 #include "TestRunner.h"
 
 #include <QAction>
+#include <QLineEdit>
 #include <QMenuBar>
 
 using namespace abissora;
@@ -23,19 +23,7 @@ struct Shown
     explicit Shown(ShellFixture& f)
         : window(f, f.equipment, f.directories.windowStateFile())
     {
-        window.show();
-        window.activateWindow();
-        QCoreApplication::processEvents();
-    }
-
-    template <typename Form>
-    Form* openForm()
-    {
-        for (Form* form : window.findChildren<Form*>()) {
-            if (form->isVisible())
-                return form;
-        }
-        return nullptr;
+        activate(window);
     }
 
     EquipmentTableView& table() { return *window.findChild<EquipmentTableView*>(); }
@@ -43,10 +31,10 @@ struct Shown
     MainWindow window;
 };
 
-void fill(const FormDriver& driver, const QString& name)
+void fill(const QWidget& form, const QString& name)
 {
-    driver.type("name", name);
-    driver.type("brand", u"Marca"_s);
+    type(form, "name", name);
+    type(form, "brand", u"Marca"_s);
 }
 
 } // namespace
@@ -64,17 +52,16 @@ private Q_SLOTS:
         QVERIFY(!s.window.content().showingAddSheet());
         add->setFocus();
         QTest::mouseClick(add, Qt::LeftButton);
-        auto* form = s.openForm<EquipmentFormView>();
+        auto* form = findDialog<EquipmentFormView>(s.window);
         QVERIFY(form);
         QCOMPARE(form->windowModality(), Qt::WindowModal);
         QVERIFY(s.window.content().showingAddSheet());
         QVERIFY(f.equipment.isAddingEquipment());
-        const FormDriver driver(*form);
-        fill(driver, u"Nuovo erogatore"_s);
-        driver.save();
+        fill(*form, u"Nuovo erogatore"_s);
+        click(*form, "primary");
         QVERIFY(!s.window.content().showingAddSheet());
         QVERIFY(!f.equipment.isAddingEquipment());
-        QCoreApplication::processEvents();
+        settle();
         QCOMPARE(s.table().model()->rowCount(), 4);
         s.window.activateWindow();
         QCOMPARE(s.window.focusWidget(), add);
@@ -89,34 +76,29 @@ private Q_SLOTS:
         QCOMPARE(add->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_N));
         s.table().setFocus();
         QTest::keyClick(&s.window, Qt::Key_N, Qt::ControlModifier);
-        auto* form = s.openForm<EquipmentFormView>();
+        auto* form = findDialog<EquipmentFormView>(s.window);
         QVERIFY(form);
         add->trigger();
         s.window.content().editEquipment(f.equipment.equipment().first());
         QCOMPARE(s.window.findChildren<Sheet*>().size(), 1);
-        FormDriver(*form).cancel();
+        click(*form, "cancel");
         QVERIFY(!s.window.content().showingAddSheet());
         s.window.activateWindow();
         QCOMPARE(s.window.focusWidget(), &s.table());
         add->trigger();
-        QVERIFY(s.openForm<EquipmentFormView>());
+        QVERIFY(findDialog<EquipmentFormView>(s.window));
     }
 
     void addingTheFirstItem()
     {
         ShellFixture f(QList<Equipment>{});
         Shown s(f);
-        for (QAbstractButton* button : s.window.findChildren<QAbstractButton*>()) {
-            if (button->text() == u"Aggiungi la prima attrezzatura"_s && button->isVisible()) {
-                QTest::mouseClick(button, Qt::LeftButton);
-                break;
-            }
-        }
-        auto* form = s.openForm<EquipmentFormView>();
+        press(s.window, u"Aggiungi la prima attrezzatura"_s);
+        auto* form = findDialog<EquipmentFormView>(s.window);
         QVERIFY(form);
-        fill(FormDriver(*form), u"Primo"_s);
-        FormDriver(*form).save();
-        QCoreApplication::processEvents();
+        fill(*form, u"Primo"_s);
+        click(*form, "primary");
+        settle();
         QCOMPARE(s.table().model()->rowCount(), 1);
         QVERIFY(s.window.focusWidget() && s.window.focusWidget()->isVisible());
     }
@@ -135,16 +117,15 @@ private Q_SLOTS:
                 action->trigger();
         }
         menu->close();
-        auto* form = s.openForm<EditEquipmentView>();
+        auto* form = findDialog<EditEquipmentView>(s.window);
         QVERIFY(form);
         QVERIFY(!s.window.content().showingAddSheet());
         QVERIFY(!f.equipment.isAddingEquipment());
         QCOMPARE(s.window.content().selectedEquipment()->name, u"GAV Scubapro Hydros"_s);
-        const FormDriver driver(*form);
-        QCOMPARE(driver.part<QLineEdit>("name").text(), u"GAV Scubapro Hydros"_s);
-        driver.type("name", u"GAV rosso"_s);
-        driver.save();
-        QCoreApplication::processEvents();
+        QCOMPARE(usable<QLineEdit>(*form, "name").text(), u"GAV Scubapro Hydros"_s);
+        type(*form, "name", u"GAV rosso"_s);
+        click(*form, "primary");
+        settle();
         QCOMPARE(s.window.content().selectedEquipment()->name, u"GAV rosso"_s);
         QVERIFY(f.equipment.equipment().contains(*s.window.content().selectedEquipment()));
         QVERIFY(s.table().selectionModel()->hasSelection());
@@ -157,7 +138,7 @@ private Q_SLOTS:
         {
             Shown s(f);
             s.window.content().addEquipment();
-            QVERIFY(s.openForm<EquipmentFormView>());
+            QVERIFY(findDialog<EquipmentFormView>(s.window));
         }
         QCOMPARE(f.equipment.equipment().size(), 3);
     }

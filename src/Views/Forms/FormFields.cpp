@@ -1,10 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "TypePicker.h"
+#include "FormFields.h"
 
+#include "Assembly.h"
+#include "Cards.h"
+#include "Literals.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
+#include "TypeScale.h"
 
+#include <QLineEdit>
+#include <QVBoxLayout>
 #include <QWheelEvent>
+#include <limits>
 
 namespace abissora {
 
@@ -13,6 +20,44 @@ namespace {
 constexpr int entriesShown = 17;
 
 } // namespace
+
+GroupBox* makeGroup(const QString& title, std::initializer_list<QWidget*> rows)
+{
+    auto* group = new GroupBox(title);
+    for (QWidget* row : rows)
+        group->content()->addWidget(row);
+    return group;
+}
+
+QLineEdit* makeTextField(const QString& objectName, const QString& placeholder)
+{
+    auto* field = named(new QLineEdit, objectName);
+    field->setMaxLength(std::numeric_limits<int>::max());
+    field->setPlaceholderText(placeholder);
+    return field;
+}
+
+NotesField::NotesField(int height, QWidget* parent)
+    : QPlainTextEdit(parent)
+{
+    setAccessibleName(u"Note"_s);
+    setTabChangesFocus(true);
+    setFixedHeight(withText(height, fontMetrics()));
+}
+
+void NotesField::setNotes(const QString& notes)
+{
+    m_given = notes;
+    setPlainText(notes);
+    m_shown = toPlainText();
+}
+
+QString NotesField::notes() const
+{
+    // Not whether the document is modified: a screen reader that puts in the whole text leaves it unmodified.
+    const QString text = toPlainText();
+    return text == m_shown ? m_given : text;
+}
 
 TypePicker::TypePicker(QWidget* parent)
     : QComboBox(parent)

@@ -2,11 +2,11 @@
 #include "Alert.h"
 #include "ClippedTexts.h"
 #include "ContentView.h"
-#include "DetailHeader.h"
-#include "DetailParts.h"
+#include "DetailSections.h"
 #include "EquipmentDetailView.h"
 #include "EquipmentListView.h"
 #include "EquipmentTableView.h"
+#include "Gui.h"
 #include "Literals.h"
 #include "MainWindow.h"
 #include "Metrics.h"
@@ -28,9 +28,7 @@ struct Shown
     explicit Shown(ShellFixture& f)
         : window(f, f.equipment, f.directories.windowStateFile())
     {
-        window.show();
-        window.activateWindow();
-        settle();
+        activate(window);
     }
 
     EquipmentTableView& table() { return *window.findChild<EquipmentTableView*>(); }
@@ -40,15 +38,9 @@ struct Shown
         table().selectRow(row);
         settle();
     }
-    [[nodiscard]] bool isPaneShown() const { return isShown(window, u"detailPane"_s); }
+    [[nodiscard]] bool isPaneShown() const { return isShown(window, "detailPane"); }
 
     MainWindow window;
-
-private:
-    static bool isShown(const QWidget& parent, const QString& name)
-    {
-        return parent.findChild<QWidget*>(name)->isVisible();
-    }
 };
 
 } // namespace
@@ -122,13 +114,11 @@ private Q_SLOTS:
         Shown s(f);
         s.window.resize(1280, 800);
         s.select(0);
-        for (int level = 0; level < 5; ++level)
-            settle();
+        settle();
         const QWidget& header = *s.window.findChild<DetailHeader*>();
         const int height = header.height();
         s.window.resize(1280, 1500);
-        for (int level = 0; level < 5; ++level)
-            settle();
+        settle();
         QCOMPARE(header.height(), height);
     }
 
@@ -139,9 +129,7 @@ private Q_SLOTS:
         s.window.resize(1000, 700);
         s.select(0);
         f.equipment.filterByTypeName(u"GAV"_s);
-        // A changed text travels upward one layout at a time, each by an event of its own.
-        for (int level = 0; level < 5; ++level)
-            settle();
+        settle();
         QCOMPARE(s.window.size(), QSize(1000, 700));
         QCOMPARE(s.table().horizontalScrollBar()->maximum(), 0);
         const QFontMetrics text(font(TextStyle::Body));

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "DocumentControl.h"
+
+#include "Assembly.h"
+#include "Buttons.h"
+#include "IconViews.h"
+#include "Literals.h"
+#include "Metrics.h"
+#include "SymbolIcon.h"
+#include "TypeScale.h"
+
+#include <QHBoxLayout>
+
+namespace abissora {
+
+DocumentControl::DocumentControl(DocumentSlot slot, Place place, QWidget* parent)
+    : QWidget(parent)
+{
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    if (place == Place::Form)
+        lookLikeAForm(slot);
+    else
+        lookLikeLinks(slot);
+    for (LookButton* button : {m_open, m_takeAway, m_takeIn})
+        layout->addWidget(button);
+    if (place == Place::Form)
+        layout->addStretch();
+    connect(m_open, &QAbstractButton::clicked, this, &DocumentControl::openClicked);
+    connect(m_takeAway, &QAbstractButton::clicked, this, &DocumentControl::takeAwayClicked);
+    connect(m_takeIn, &QAbstractButton::clicked, this, &DocumentControl::takeInClicked);
+    setPresent(false);
+}
+
+void DocumentControl::lookLikeAForm(DocumentSlot slot)
+{
+    const QString label = documentLabel(slot);
+    auto* file = named(new IconLabel(symbolIcon(u"doc.fill"_s, NamedColor::blue)), u"file"_s + label);
+    file->setText(label + u" (PDF)"_s);
+    m_file = file;
+    layout()->setSpacing(metrics::spaceS);
+    layout()->addWidget(file);
+
+    m_open = named(new PlainButton(u"Apri"_s), u"open"_s + label);
+    m_open->setAccessibleDescription(label);
+    m_takeAway = named(new DestructiveButton(u"Rimuovi"_s), u"remove"_s + label);
+    m_takeAway->setAccessibleDescription(label);
+    m_takeIn =
+        named(new PlainButton(u"Carica %1 (PDF)"_s.arg(label.toLower()), u"doc.badge.plus"_s), u"attach"_s + label);
+}
+
+void DocumentControl::lookLikeLinks(DocumentSlot slot)
+{
+    const QString label = documentLabel(slot);
+    const QString name = slot == DocumentSlot::Receipt ? u"Receipt"_s : u"Certificate"_s;
+    layout()->setSpacing(0);
+    m_open = named(new LinkButton(label, u"doc.text.fill"_s), u"open"_s + name);
+    m_takeAway = named(new LookButton(ButtonLook::DestructiveLink, u"Sostituisci"_s, u"arrow.triangle.2.circlepath"_s),
+                       u"replace"_s + name);
+    m_takeAway->setToolTip(u"Sostituisci il documento allegato"_s);
+    m_takeIn = named(new LinkButton(u"Carica "_s + label, u"doc.badge.plus"_s), u"upload"_s + name);
+    for (LookButton* button : {m_open, m_takeAway, m_takeIn})
+        button->setFont(abissora::font(TextStyle::Caption));
+}
+
+void DocumentControl::setPresent(bool present)
+{
+    const bool hadFocus = m_open->hasFocus() || m_takeAway->hasFocus() || m_takeIn->hasFocus();
+    const bool changes = m_takeIn->isHidden() != present;
+    if (changes && hadFocus) {
+        // Before the focused button is hidden, which would send the focus elsewhere.
+        LookButton* const next = present ? m_open : m_takeIn;
+        next->show();
+        next->setFocus();
+    }
+    if (m_file != nullptr)
+        m_file->setVisible(present);
+    m_open->setVisible(present);
+    m_takeAway->setVisible(present);
+    m_takeIn->setVisible(!present);
+}
+
+} // namespace abissora

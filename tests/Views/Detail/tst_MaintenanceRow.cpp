@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "MaintenanceRow.h"
+
+#include "Fakes.h"
+#include "Gui.h"
+#include "Literals.h"
+#include "TestRunner.h"
+
+#include <QSignalSpy>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+MaintenanceRowContent content()
+{
+    return {
+        .id = SequentialIds::at(7),
+        .typeName = u"Riparazione"_s,
+        .appearance = {u"wrench.fill"_s, NamedColor::red},
+        .cost = u"€12.50"_s,
+        .description = u"Primo stadio"_s,
+        .dateAndPerformer = u"14 giu 2026 · Eseguito da: Blu Service"_s,
+        .isCompleted = true,
+        .hasReceipt = true,
+        .hasCertificate = false,
+        .whichRecord = u"14 giu 2026, Primo stadio"_s,
+    };
+}
+
+struct Shown
+{
+    Shown()
+    {
+        row.setRow(content());
+        row.resize(385, 300);
+        row.show();
+        settle();
+    }
+
+    MaintenanceRow row;
+};
+
+} // namespace
+
+class tst_MaintenanceRow : public TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void texts()
+    {
+        Shown s;
+        QCOMPARE(visibleLabels(s.row),
+                 QStringList({u"Riparazione"_s, u"€12.50"_s, u"Primo stadio"_s,
+                              u"14 giu 2026 · Eseguito da: Blu Service"_s, u"Manutenzione avvenuta"_s}));
+    }
+
+    void withoutCostAndNotDone()
+    {
+        Shown s;
+        MaintenanceRowContent other = content();
+        other.cost.clear();
+        other.isCompleted = false;
+        s.row.setRow(other);
+        QVERIFY(!isShown(s.row, "maintenanceCost"));
+        QVERIFY(!isShown(s.row, "completed"));
+        QCOMPARE(textOf(s.row, "notCompleted"), u"Manutenzione non avvenuta"_s);
+    }
+
+    void itsButtonsSayWhichRecordTheyMean()
+    {
+        Shown s;
+        for (const char* name : {"editMaintenance", "deleteMaintenance", "maintenanceMenu"})
+            QCOMPARE(part(s.row, name).accessibleDescription(), u"14 giu 2026, Primo stadio"_s);
+        MaintenanceRowContent other = content();
+        other.whichRecord = u"9 giu 2026, Lavaggio"_s;
+        s.row.setRow(other);
+        QCOMPARE(part(s.row, "deleteMaintenance").accessibleDescription(), u"9 giu 2026, Lavaggio"_s);
+    }
+
+    void documentsAreOfferedAsTheyAreThere()
+    {
+        Shown s;
+        QVERIFY(isShown(s.row, "openReceipt") && isShown(s.row, "replaceReceipt"));
+        QVERIFY(!isShown(s.row, "uploadReceipt"));
+        QVERIFY(!isShown(s.row, "openCertificate") && !isShown(s.row, "replaceCertificate"));
+        QVERIFY(isShown(s.row, "uploadCertificate"));
+    }
+
+    void asksForWhatIsClicked()
+    {
+        Shown s;
+        QSignalSpy edit(&s.row, &MaintenanceRow::editRequested);
+        QSignalSpy remove(&s.row, &MaintenanceRow::deleteRequested);
+        click(s.row, "editMaintenance");
+        click(s.row, "deleteMaintenance");
+        for (const QSignalSpy* asked : {&edit, &remove}) {
+            QCOMPARE(asked->size(), 1);
+            QCOMPARE(asked->first().first().toUuid(), content().id);
+        }
+    }
+
+    void asksForADocument_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("open") << u"openReceipt"_s << u"open Scontrino"_s;
+        QTest::newRow("replace") << u"replaceReceipt"_s << u"replace Scontrino"_s;
+        QTest::newRow("upload") << u"uploadCertificate"_s << u"upload Certificato"_s;
+    }
+
+    void asksForADocument()
+    {
+        QFETCH(QString, button);
+        QFETCH(QString, expected);
+        Shown s;
+        QStringList asked;
+        const auto listen = [&](auto signal, const QString& verb) {
+            connect(&s.row, signal, this, [&asked, verb](QUuid id, DocumentSlot slot) {
+                if (id == content().id)
+                    asked.append(verb + documentLabel(slot));
+            });
+        };
+        listen(&MaintenanceRow::openRequested, u"open "_s);
+        listen(&MaintenanceRow::replaceRequested, u"replace "_s);
+        listen(&MaintenanceRow::uploadRequested, u"upload "_s);
+        click(s.row, button);
+        QCOMPARE(asked, QStringList(expected));
+    }
+};
+
+ABISSORA_TEST(tst_MaintenanceRow);
+
+#include "tst_MaintenanceRow.moc"
