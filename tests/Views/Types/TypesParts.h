@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Alert.h"
 #include "EquipmentTypeFormView.h"
 #include "EquipmentTypeManagementView.h"
-#include "FormDriver.h"
 #include "Gui.h"
 #include "IconPicker.h"
 #include "Literals.h"
 #include "ScaledText.h"
 #include "ScreenFixture.h"
 #include "TypeRow.h"
+
+#include <QLineEdit>
 
 /// Opening and reading the type screens.
 namespace abissora::test {
@@ -21,7 +23,6 @@ struct OpenSheet
     template <typename... Arguments>
     explicit OpenSheet(Arguments&&... arguments)
         : sheet((window.resize(1000, 700), window.show(), arguments)..., &window)
-        , driver(sheet)
     {
         sheet.open();
         sheet.activateWindow();
@@ -30,7 +31,6 @@ struct OpenSheet
 
     QWidget window;
     SheetClass sheet;
-    FormDriver driver;
 };
 
 /// Runs `check` with the application's font a quarter larger.
@@ -93,7 +93,7 @@ struct OpenManagement : OpenSheet<EquipmentTypeManagementView>
 
     void search(const QString& text) const
     {
-        driver.type("typeSearch", text);
+        type(sheet, "typeSearch", text);
         settle();
     }
 };

@@ -37,13 +37,13 @@ private Q_SLOTS:
              {"Informazioni Base", "Nome Tipologia*", "* Campo obbligatorio", "Inserisci un nome valido",
               "Intervallo Tagliando", "Blu", "Selezione Icona", "Anteprima", "365 giorni"})
             QVERIFY2(texts.contains(QString::fromUtf8(text)), text);
-        QCOMPARE(o.driver.part<QLineEdit>("name").placeholderText(), u"Inserisci il nome"_s);
+        QCOMPARE(usable<QLineEdit>(o.sheet, "name").placeholderText(), u"Inserisci il nome"_s);
         QCOMPARE(o.sheet.cancelButton()->text(), u"Annulla"_s);
         QCOMPARE(o.sheet.primaryButton()->text(), u"Salva"_s);
-        QCOMPARE(o.driver.part<Stepper>("interval").text(), u"365 giorni"_s);
-        QCOMPARE(o.driver.part<ColorChoice>("color").selectedColor(), AvailableColors::blue);
+        QCOMPARE(usable<Stepper>(o.sheet, "interval").text(), u"365 giorni"_s);
+        QCOMPARE(usable<ColorChoice>(o.sheet, "color").selectedColor(), AvailableColors::blue);
         QVERIFY(cell(o, DivingIcons::regulator).isChecked());
-        QVERIFY(o.driver.part<QLineEdit>("name").hasFocus());
+        QVERIFY(usable<QLineEdit>(o.sheet, "name").hasFocus());
     }
 
     void textsOfAnEditedType()
@@ -51,41 +51,41 @@ private Q_SLOTS:
         ScreenFixture f;
         TypeForm o(f, std::optional(boa()));
         QCOMPARE(o.sheet.windowTitle(), u"Modifica Tipologia"_s);
-        QCOMPARE(o.driver.part<QLineEdit>("name").text(), u"Boa segnasub"_s);
-        QCOMPARE(o.driver.part<ColorChoice>("color").selectedColor(), AvailableColors::orange);
+        QCOMPARE(usable<QLineEdit>(o.sheet, "name").text(), u"Boa segnasub"_s);
+        QCOMPARE(usable<ColorChoice>(o.sheet, "color").selectedColor(), AvailableColors::orange);
         QVERIFY(cell(o, DivingIcons::compass).isChecked());
-        QVERIFY(!o.driver.shows("invalidName"));
-        QCOMPARE(o.driver.text("previewName"), u"Boa segnasub"_s);
+        QVERIFY(!isShown(o.sheet, "invalidName"));
+        QCOMPARE(textOf(o.sheet, "previewName"), u"Boa segnasub"_s);
     }
 
     void nothingJumpsWhileANameIsTyped()
     {
         ScreenFixture f;
         TypeForm o(f, newType);
-        const QPoint before = o.driver.part<Stepper>("interval").mapTo(&o.sheet, QPoint());
-        o.driver.type("name", u"Boa"_s);
+        const QPoint before = usable<Stepper>(o.sheet, "interval").mapTo(&o.sheet, QPoint());
+        type(o.sheet, "name", u"Boa"_s);
         settle();
-        QCOMPARE(o.driver.part<Stepper>("interval").mapTo(&o.sheet, QPoint()), before);
+        QCOMPARE(usable<Stepper>(o.sheet, "interval").mapTo(&o.sheet, QPoint()), before);
     }
 
     void thePreviewIsLive()
     {
         ScreenFixture f;
         TypeForm o(f, newType);
-        const auto picture = [&o] { return o.driver.part<QWidget>("previewTile").grab().toImage(); };
+        const auto picture = [&o] { return usable(o.sheet, "previewTile").grab().toImage(); };
         QImage last = picture();
         const auto changed = [&] { return std::exchange(last, picture()) != last; };
-        o.driver.type("name", u"Boa"_s);
-        QCOMPARE(o.driver.text("previewName"), u"Boa"_s);
+        type(o.sheet, "name", u"Boa"_s);
+        QCOMPARE(textOf(o.sheet, "previewName"), u"Boa"_s);
         QVERIFY(!changed());
-        QTest::mouseClick(&o.driver.part<QAbstractButton>("red"), Qt::LeftButton);
+        QTest::mouseClick(&usable<QAbstractButton>(o.sheet, "red"), Qt::LeftButton);
         QVERIFY(changed());
         QTest::mouseClick(&cell(o, DivingIcons::compass), Qt::LeftButton);
         QVERIFY(changed());
-        auto& interval = o.driver.part<Stepper>("interval");
+        auto& interval = usable<Stepper>(o.sheet, "interval");
         interval.setFocus();
         QTest::keyClick(&interval, Qt::Key_End);
-        QCOMPARE(o.driver.text("previewInterval"), u"730 giorni"_s);
+        QCOMPARE(textOf(o.sheet, "previewInterval"), u"730 giorni"_s);
         applyTheme(*qApp, Scheme::Dark);
         QVERIFY(changed());
         applyTheme(*qApp, Scheme::Light);
@@ -107,10 +107,10 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         TypeForm o(f, newType);
-        o.driver.type("iconSearch", u"bomb"_s);
-        QTest::keyClick(&o.driver.part<SearchField>("iconSearch"), Qt::Key_Escape);
+        type(o.sheet, "iconSearch", u"bomb"_s);
+        QTest::keyClick(&usable<SearchField>(o.sheet, "iconSearch"), Qt::Key_Escape);
         QVERIFY(o.sheet.isVisible());
-        QTest::keyClick(&o.driver.part<SearchField>("iconSearch"), Qt::Key_Escape);
+        QTest::keyClick(&usable<SearchField>(o.sheet, "iconSearch"), Qt::Key_Escape);
         QVERIFY(!o.sheet.isVisible());
     }
 
@@ -139,14 +139,14 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         TypeForm o(f, newType);
-        o.driver.type("name", u"Boa"_s);
+        type(o.sheet, "name", u"Boa"_s);
         const QList<QPair<const char*, QString>> names{
             {"name", u"Nome Tipologia*"_s}, {"interval", u"Intervallo Tagliando"_s},
             {"color", u"Colore"_s},         {"iconSearch", u"Cerca icona..."_s},
             {"cancel", u"Annulla"_s},       {"primary", u"Salva"_s},
         };
         for (const auto& [part, name] : names) {
-            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&o.driver.part<QWidget>(part));
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&usable(o.sheet, part));
             QCOMPARE(accessible->text(QAccessible::Name), name);
         }
     }
@@ -155,7 +155,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         TypeForm o(f, newType);
-        const auto left = [&o](const char* part) { return o.driver.part<QWidget>(part).mapTo(&o.sheet, QPoint()).x(); };
+        const auto left = [&o](const char* part) { return usable(o.sheet, part).mapTo(&o.sheet, QPoint()).x(); };
         QCOMPARE(left("name"), left("interval"));
         QCOMPARE(left("name"), left("color"));
         for (const QLabel* label : o.sheet.findChildren<QLabel*>()) {
@@ -185,7 +185,7 @@ private Q_SLOTS:
                 QVERIFY(o.sheet.width() < 1000 && o.sheet.height() < 700);
                 const QScrollArea* area = o.sheet.scrollArea();
                 QVERIFY(area->widget()->width() <= area->viewport()->width());
-                auto& interval = o.driver.part<Stepper>("interval");
+                auto& interval = usable<Stepper>(o.sheet, "interval");
                 QVERIFY(interval.width() >= interval.sizeHint().width());
             }
         };

@@ -32,11 +32,11 @@ private Q_SLOTS:
         QCOMPARE(o.sheet.windowModality(), Qt::WindowModal);
         QCOMPARE(o.sheet.cancelButton()->text(), u"Chiudi"_s);
         QVERIFY(visibleLabels(o.sheet).contains(u"Tipologie Attrezzatura"_s));
-        QCOMPARE(o.driver.part<SearchField>("typeSearch").placeholderText(), u"Cerca..."_s);
-        QCOMPARE(o.driver.part<QAbstractButton>("addType").text(), u"Nuova Tipologia"_s);
-        QCOMPARE(o.driver.part<QAbstractButton>("resetTypes").text(), u"Ripristina Default"_s);
-        QCOMPARE(o.driver.text("typeCount"), u"16 tipologie attive"_s);
-        QVERIFY(o.driver.part<QWidget>("typeSearch").hasFocus());
+        QCOMPARE(usable<SearchField>(o.sheet, "typeSearch").placeholderText(), u"Cerca..."_s);
+        QCOMPARE(usable<QAbstractButton>(o.sheet, "addType").text(), u"Nuova Tipologia"_s);
+        QCOMPARE(usable<QAbstractButton>(o.sheet, "resetTypes").text(), u"Ripristina Default"_s);
+        QCOMPARE(textOf(o.sheet, "typeCount"), u"16 tipologie attive"_s);
+        QVERIFY(usable(o.sheet, "typeSearch").hasFocus());
     }
 
     void rowsByName()
@@ -58,7 +58,7 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         OpenManagement o(f);
-        QAccessible::queryAccessibleInterface(&o.driver.part<SearchField>("typeSearch"))
+        QAccessible::queryAccessibleInterface(&usable<SearchField>(o.sheet, "typeSearch"))
             ->setText(QAccessible::Value, u"erog"_s);
         QCOMPARE(o.names(), QStringList(u"Erogatore"_s));
     }
@@ -89,7 +89,7 @@ private Q_SLOTS:
         QCOMPARE(o.names(), defaultNames());
         o.search(u"boa"_s);
         QCOMPARE(o.names(), QStringList());
-        QCOMPARE(o.driver.text("typeCount"), u"16 tipologie attive"_s);
+        QCOMPARE(textOf(o.sheet, "typeCount"), u"16 tipologie attive"_s);
     }
 
     void searching_data()
@@ -108,7 +108,7 @@ private Q_SLOTS:
         OpenManagement o(f);
         o.search(text);
         QTEST(o.names(), "found");
-        QCOMPARE(o.driver.text("typeCount"), u"16 tipologie attive"_s);
+        QCOMPARE(textOf(o.sheet, "typeCount"), u"16 tipologie attive"_s);
         QCOMPARE(f.types.searchText(), QString()); // the screen's search is its own
     }
 
@@ -121,7 +121,7 @@ private Q_SLOTS:
         QCOMPARE(o.names(), QStringList({u"Muta"_s, u"Muta Stagna"_s}));
         o.search(u"stagna"_s);
         QCOMPARE(o.names(), QStringList(u"Muta Stagna"_s));
-        QCOMPARE(o.driver.text("typeCount"), u"16 tipologie attive"_s);
+        QCOMPARE(textOf(o.sheet, "typeCount"), u"16 tipologie attive"_s);
     }
 
     void nothingFound()
@@ -130,11 +130,11 @@ private Q_SLOTS:
         OpenManagement o(f);
         o.search(u"xyz"_s);
         QVERIFY(visibleLabels(o.sheet).contains(u"Nessuna tipologia trovata"_s));
-        QCOMPARE(o.driver.part<QAbstractButton>("emptyStateButton").text(), u"Cancella ricerca"_s);
-        o.driver.click("emptyStateButton");
+        QCOMPARE(usable<QAbstractButton>(o.sheet, "emptyStateButton").text(), u"Cancella ricerca"_s);
+        click(o.sheet, "emptyStateButton");
         QCOMPARE(o.names(), defaultNames());
-        QCOMPARE(o.driver.part<SearchField>("typeSearch").text(), QString());
-        QVERIFY(o.driver.part<SearchField>("typeSearch").hasFocus());
+        QCOMPARE(usable<SearchField>(o.sheet, "typeSearch").text(), QString());
+        QVERIFY(usable<SearchField>(o.sheet, "typeSearch").hasFocus());
     }
 
     void clearingTheSearch()
@@ -142,7 +142,7 @@ private Q_SLOTS:
         ScreenFixture f;
         OpenManagement o(f);
         o.search(u"xyz"_s);
-        auto& search = o.driver.part<SearchField>("typeSearch");
+        auto& search = usable<SearchField>(o.sheet, "typeSearch");
         QTest::keyClick(&search, Qt::Key_Escape);
         QCOMPARE(o.names(), defaultNames());
         o.search(u"muta"_s);

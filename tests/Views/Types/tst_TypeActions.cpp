@@ -21,9 +21,9 @@ private Q_SLOTS:
         f.types.setTypes({});
         OpenManagement o(f);
         QVERIFY(visibleLabels(o.sheet).contains(u"Nessuna tipologia trovata"_s));
-        QVERIFY(!o.driver.shows("emptyStateButton")); // there is no search to clear
-        QCOMPARE(o.driver.text("typeCount"), u"0 tipologie attive"_s);
-        o.driver.click("resetTypes");
+        QVERIFY(!isShown(o.sheet, "emptyStateButton")); // there is no search to clear
+        QCOMPARE(textOf(o.sheet, "typeCount"), u"0 tipologie attive"_s);
+        click(o.sheet, "resetTypes");
         settle();
         QCOMPARE(o.names(), defaultNames());
     }
@@ -32,21 +32,20 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         OpenManagement o(f);
-        o.driver.part<QAbstractButton>("addType").setFocus();
-        o.driver.click("addType");
+        usable<QAbstractButton>(o.sheet, "addType").setFocus();
+        click(o.sheet, "addType");
         EquipmentTypeFormView* form = o.form();
         QVERIFY(form);
         QCOMPARE(form->windowTitle(), u"Nuova Tipologia"_s);
         QCOMPARE(form->windowModality(), Qt::WindowModal);
         QCOMPARE(form->parentWidget(), &o.sheet);
-        const FormDriver driver(*form);
-        driver.type("name", u"Boa"_s);
-        driver.save();
+        type(*form, "name", u"Boa"_s);
+        click(*form, "primary");
         settle();
         QCOMPARE(o.names().size(), 17);
         QCOMPARE(o.names().at(1), u"Boa"_s);
         QCOMPARE(f.types.types().last().name, u"Boa"_s);
-        QCOMPARE(o.driver.text("typeCount"), u"17 tipologie attive"_s);
+        QCOMPARE(textOf(o.sheet, "typeCount"), u"17 tipologie attive"_s);
         QCOMPARE(o.sheet.focusWidget()->objectName(), u"addType"_s);
     }
 
@@ -58,10 +57,9 @@ private Q_SLOTS:
         EquipmentTypeFormView* form = o.form();
         QVERIFY(form);
         QCOMPARE(form->windowTitle(), u"Modifica Tipologia"_s);
-        const FormDriver driver(*form);
-        QCOMPARE(driver.part<QLineEdit>("name").text(), u"Bussola"_s);
-        driver.type("name", u"Zaino"_s);
-        driver.save();
+        QCOMPARE(usable<QLineEdit>(*form, "name").text(), u"Bussola"_s);
+        type(*form, "name", u"Zaino"_s);
+        click(*form, "primary");
         settle();
         QCOMPARE(o.names().last(), u"Zaino"_s);
         QVERIFY(!o.names().contains(u"Bussola"_s));
@@ -76,7 +74,7 @@ private Q_SLOTS:
         OpenManagement o(f);
         const QList<EquipmentTypeModel> before = f.types.types();
         o.press(u"Pinne"_s, "deleteType");
-        Alert* alert = o.driver.alert();
+        Alert* alert = findDialog<Alert>(o.sheet);
         QVERIFY(alert);
         QCOMPARE(alert->windowModality(), Qt::WindowModal);
         QCOMPARE(alert->windowTitle(), u"Conferma Eliminazione"_s);
@@ -89,11 +87,11 @@ private Q_SLOTS:
         QCOMPARE(o.sheet.focusWidget(), o.row(u"Pinne"_s).buttons().last());
 
         o.press(u"Pinne"_s, "deleteType");
-        QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
+        QTest::mouseClick(findDialog<Alert>(o.sheet)->destructiveButton(), Qt::LeftButton);
         settle();
         QVERIFY(!f.types.getTypeByName(u"Pinne"_s));
         QCOMPARE(f.types.types().size(), 15);
-        QCOMPARE(o.driver.text("typeCount"), u"15 tipologie attive"_s);
+        QCOMPARE(textOf(o.sheet, "typeCount"), u"15 tipologie attive"_s);
         QCOMPARE(o.sheet.focusWidget(), o.row(u"Profondimetro"_s).buttons().last()); // the next one
     }
 
@@ -103,11 +101,11 @@ private Q_SLOTS:
         f.types.setTypes({own(1, u"A"_s), own(2, u"B"_s)});
         OpenManagement o(f);
         o.press(u"B"_s, "deleteType");
-        QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
+        QTest::mouseClick(findDialog<Alert>(o.sheet)->destructiveButton(), Qt::LeftButton);
         settle();
         QCOMPARE(o.sheet.focusWidget(), o.row(u"A"_s).buttons().last());
         o.press(u"A"_s, "deleteType");
-        QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
+        QTest::mouseClick(findDialog<Alert>(o.sheet)->destructiveButton(), Qt::LeftButton);
         settle();
         QCOMPARE(o.sheet.focusWidget()->objectName(), u"typeSearch"_s);
     }
@@ -118,7 +116,7 @@ private Q_SLOTS:
         f.types.setTypes({own(1, u"Boa"_s), own(2, u"Boa"_s)});
         OpenManagement o(f);
         QTest::mouseClick(o.rows().last()->buttons().last(), Qt::LeftButton);
-        QTest::mouseClick(o.driver.alert()->destructiveButton(), Qt::LeftButton);
+        QTest::mouseClick(findDialog<Alert>(o.sheet)->destructiveButton(), Qt::LeftButton);
         QCOMPARE(f.types.types(), QList<EquipmentTypeModel>({own(1, u"Boa"_s)}));
     }
 
@@ -130,8 +128,8 @@ private Q_SLOTS:
         QVERIFY(f.preferences.setInteger(EquipmentTypeViewModel::iconVersionKey, 3));
         OpenManagement o(f);
         QCOMPARE(o.names(), QStringList(u"Boa"_s));
-        o.driver.click("resetTypes");
-        QVERIFY(!o.driver.alert());
+        click(o.sheet, "resetTypes");
+        QVERIFY(!findDialog<Alert>(o.sheet));
         settle();
         QCOMPARE(o.names(), defaultNames());
         QCOMPARE(f.preferences.integer(EquipmentTypeViewModel::iconVersionKey), std::optional<std::int64_t>(4));
@@ -162,7 +160,7 @@ private Q_SLOTS:
         for (const QAbstractButton* button : o.rows().first()->buttons())
             QCOMPARE(button->size(), button->sizeHint());
         QTest::mouseClick(o.rows().first()->buttons().last(), Qt::LeftButton);
-        Alert* alert = o.driver.alert();
+        Alert* alert = findDialog<Alert>(o.sheet);
         QCOMPARE(alert->message(), "Sei sicuro di voler eliminare la tipologia '"_L1 + name + "'?"_L1);
         QVERIFY(o.window.geometry().contains(alert->geometry()));
         const QWidget* safe = alert->safeButton();

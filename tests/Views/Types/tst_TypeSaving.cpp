@@ -21,7 +21,7 @@ EquipmentTypeModel savedAs(ScreenFixture& f, const EquipmentTypeModel& type, con
     f.types.setTypes(f.types.getDefaultTypes() + QList<EquipmentTypeModel>{type});
     TypeForm form(f, std::optional(type));
     edit(form);
-    form.driver.save();
+    click(form.sheet, "primary");
     if (form.sheet.isVisible())
         qFatal("the form did not save");
     return f.types.types().last();
@@ -42,14 +42,14 @@ private Q_SLOTS:
         const QList<EquipmentTypeModel> before = f.types.types();
         const int ids = f.ids.count();
         TypeForm o(f, newType);
-        o.driver.type("name", u"Boa"_s);
-        QTest::mouseClick(&o.driver.part<QAbstractButton>("teal"), Qt::LeftButton);
+        type(o.sheet, "name", u"Boa"_s);
+        QTest::mouseClick(&usable<QAbstractButton>(o.sheet, "teal"), Qt::LeftButton);
         QTest::mouseClick(&cell(o, DivingIcons::reel), Qt::LeftButton);
-        auto& interval = o.driver.part<Stepper>("interval");
+        auto& interval = usable<Stepper>(o.sheet, "interval");
         interval.setFocus();
         QTest::keyClick(&interval, Qt::Key_Up);
         const QSignalSpy changed(&f.types, &EquipmentTypeViewModel::typesChanged);
-        o.driver.save();
+        click(o.sheet, "primary");
         QVERIFY(!o.sheet.isVisible());
         QCOMPARE(changed.size(), 1);
         QCOMPARE(f.types.types(), before + QList<EquipmentTypeModel>({{SequentialIds::at(ids + 1), u"Boa"_s,
@@ -63,8 +63,8 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         const EquipmentTypeModel saved = savedAs(f, boa(), [](TypeForm& form) {
-            form.driver.type("name", u"Pallone"_s);
-            QTest::mouseClick(&form.driver.part<QAbstractButton>("mint"), Qt::LeftButton);
+            type(form.sheet, "name", u"Pallone"_s);
+            QTest::mouseClick(&usable<QAbstractButton>(form.sheet, "mint"), Qt::LeftButton);
         });
         EquipmentTypeModel expected = boa();
         expected.name = u"Pallone"_s;
@@ -82,7 +82,7 @@ private Q_SLOTS:
     void theNameIsStoredAsTyped()
     {
         ScreenFixture f;
-        QCOMPARE(savedAs(f, boa(), [](TypeForm& form) { form.driver.type("name", u"  Boa  "_s); }).name, u"  Boa  "_s);
+        QCOMPARE(savedAs(f, boa(), [](TypeForm& form) { type(form.sheet, "name", u"  Boa  "_s); }).name, u"  Boa  "_s);
     }
 
     void longAndHostileNamesSurvive_data()
@@ -102,9 +102,9 @@ private Q_SLOTS:
         EquipmentTypeModel type = boa();
         type.name = name;
         const EquipmentTypeModel saved = savedAs(f, type, [&name](TypeForm& form) {
-            QCOMPARE(form.driver.part<QLineEdit>("name").text(), name);
-            QCOMPARE(form.driver.text("previewName"), name);
-            QCOMPARE(form.driver.part<QLabel>("previewName").textFormat(), Qt::PlainText);
+            QCOMPARE(usable<QLineEdit>(form.sheet, "name").text(), name);
+            QCOMPARE(textOf(form.sheet, "previewName"), name);
+            QCOMPARE(usable<QLabel>(form.sheet, "previewName").textFormat(), Qt::PlainText);
             QVERIFY(form.sheet.width() < 1000 && form.sheet.height() < 700);
         });
         QCOMPARE(saved, type);
@@ -132,8 +132,8 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         TypeForm o(f, newType);
-        o.driver.type("name", u"GAV"_s);
-        o.driver.save();
+        type(o.sheet, "name", u"GAV"_s);
+        click(o.sheet, "primary");
         QCOMPARE(f.types.types().size(), 17);
         QCOMPARE(f.types.getTypeByName(u"GAV"_s)->icon, u"dive.bcd"_s);
     }
@@ -143,7 +143,7 @@ private Q_SLOTS:
         ScreenFixture f;
         const QList<EquipmentTypeModel> before = f.types.types();
         TypeForm o(f, std::optional(boa()));
-        o.driver.save();
+        click(o.sheet, "primary");
         QVERIFY(!o.sheet.isVisible());
         QCOMPARE(f.types.types(), before);
     }
@@ -162,11 +162,11 @@ private Q_SLOTS:
         QFETCH(bool, valid);
         ScreenFixture f;
         TypeForm o(f, newType);
-        o.driver.type("name", u"x"_s);
-        o.driver.type("name", name);
+        type(o.sheet, "name", u"x"_s);
+        type(o.sheet, "name", name);
         QCOMPARE(o.sheet.primaryButton()->isEnabled(), valid);
-        QCOMPARE(o.driver.shows("invalidName"), !valid);
-        QTest::keyClick(&o.driver.part<QLineEdit>("name"), Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(isShown(o.sheet, "invalidName"), !valid);
+        QTest::keyClick(&usable<QLineEdit>(o.sheet, "name"), Qt::Key_Return, Qt::ControlModifier);
         QCOMPARE(o.sheet.isVisible(), !valid);
         QCOMPARE(f.types.types().size(), valid ? 17 : 16);
     }
@@ -196,7 +196,7 @@ private Q_SLOTS:
         const auto stepped = [&](std::optional<Qt::Key> key) {
             return savedAs(f, type,
                            [key](TypeForm& form) {
-                               auto& interval = form.driver.part<Stepper>("interval");
+                               auto& interval = usable<Stepper>(form.sheet, "interval");
                                interval.setFocus();
                                if (key)
                                    QTest::keyClick(&interval, *key);
@@ -214,11 +214,11 @@ private Q_SLOTS:
         const QList<EquipmentTypeModel> before = f.types.types();
         for (const bool byKey : {true, false}) {
             TypeForm o(f, newType);
-            o.driver.type("name", u"Boa"_s);
+            type(o.sheet, "name", u"Boa"_s);
             if (byKey)
-                QTest::keyClick(&o.driver.part<QLineEdit>("name"), Qt::Key_Escape);
+                QTest::keyClick(&usable<QLineEdit>(o.sheet, "name"), Qt::Key_Escape);
             else
-                o.driver.cancel();
+                click(o.sheet, "cancel");
             QVERIFY(!o.sheet.isVisible());
         }
         QCOMPARE(f.types.types(), before);
@@ -228,10 +228,10 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         TypeForm o(f, newType);
-        o.driver.type("name", u"Boa"_s);
-        QTest::keyClick(&o.driver.part<QLineEdit>("name"), Qt::Key_Return);
-        o.driver.type("iconSearch", u"bomb"_s);
-        QTest::keyClick(&o.driver.part<SearchField>("iconSearch"), Qt::Key_Return);
+        type(o.sheet, "name", u"Boa"_s);
+        QTest::keyClick(&usable<QLineEdit>(o.sheet, "name"), Qt::Key_Return);
+        type(o.sheet, "iconSearch", u"bomb"_s);
+        QTest::keyClick(&usable<SearchField>(o.sheet, "iconSearch"), Qt::Key_Return);
         QVERIFY(o.sheet.isVisible());
     }
 
@@ -239,8 +239,8 @@ private Q_SLOTS:
     {
         ScreenFixture f;
         const EquipmentTypeModel saved = savedAs(f, boa(), [](TypeForm& form) {
-            form.driver.type("iconSearch", u"xyz"_s);
-            QVERIFY(form.driver.shows("noIcon"));
+            type(form.sheet, "iconSearch", u"xyz"_s);
+            QVERIFY(isShown(form.sheet, "noIcon"));
         });
         QCOMPARE(saved, boa());
     }

@@ -16,6 +16,8 @@
 #include "TypeAppearance.h"
 #include "TypesParts.h"
 
+#include <QComboBox>
+
 using namespace abissora;
 using namespace abissora::test;
 
@@ -147,9 +149,8 @@ private Q_SLOTS:
 
         EditEquipmentView form(s.fixture.equipment, s.fixture.types, s.fixture.almanac, before.first(), s.window.get());
         form.open();
-        const FormDriver driver(form);
-        QCOMPARE(driver.chosenType(), u"Boa"_s);
-        QVERIFY(!driver.shows("interval"));
+        QCOMPARE(usable<QComboBox>(form, "type").currentText(), u"Boa"_s);
+        QVERIFY(!isShown(form, "interval"));
     }
 
     void anOpenFormKeepsTheNameOfADeletedType()
@@ -158,13 +159,12 @@ private Q_SLOTS:
         EditEquipmentView form(s.fixture.equipment, s.fixture.types, s.fixture.almanac,
                                s.fixture.equipment.equipment().first(), s.window.get());
         form.open();
-        const FormDriver driver(form);
-        QVERIFY(driver.shows("interval"));
+        QVERIFY(isShown(form, "interval"));
         s.fixture.types.deleteType(own(900, {}));
         Shown::settle();
-        QCOMPARE(driver.chosenType(), u"Boa"_s);
-        QVERIFY(!driver.shows("interval"));
-        driver.save();
+        QCOMPARE(usable<QComboBox>(form, "type").currentText(), u"Boa"_s);
+        QVERIFY(!isShown(form, "interval"));
+        click(form, "primary");
         QCOMPARE(s.fixture.equipment.equipment().first().customTypeName, std::optional(u"Boa"_s));
     }
 
@@ -189,15 +189,13 @@ private Q_SLOTS:
         auto* management = new EquipmentTypeManagementView(s.fixture.types, s.fixture.ids, s.window.get());
         management->setAttribute(Qt::WA_DeleteOnClose);
         management->open();
-        const FormDriver screen(*management);
-        screen.part<QAbstractButton>("addType").setFocus();
-        screen.click("addType");
+        usable<QAbstractButton>(*management, "addType").setFocus();
+        click(*management, "addType");
         auto* form = management->findChild<EquipmentTypeFormView*>();
         QVERIFY(form && form->isVisible() && form->isModal());
         for (const QWidget* sheet : {static_cast<QWidget*>(management), static_cast<QWidget*>(form)})
             QVERIFY(s.window->geometry().contains(sheet->geometry()));
-        const FormDriver fields(*form);
-        QTest::keyClick(&fields.part<QLineEdit>("name"), Qt::Key_Escape);
+        QTest::keyClick(&usable<QLineEdit>(*form, "name"), Qt::Key_Escape);
         QVERIFY(management->isVisible());
         QCOMPARE(management->focusWidget()->objectName(), u"addType"_s);
         QTest::keyClick(management, Qt::Key_Escape);
@@ -210,7 +208,7 @@ private Q_SLOTS:
         Shown s;
         auto* management = new EquipmentTypeManagementView(s.fixture.types, s.fixture.ids, s.window.get());
         management->open();
-        FormDriver(*management).click("addType");
+        click(*management, "addType");
         s.window.reset();
         QCOMPARE(s.fixture.types.types().size(), 17);
     }
