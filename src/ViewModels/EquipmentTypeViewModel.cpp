@@ -18,15 +18,12 @@ const QString savingFailed = u"Error saving types: "_s;
 
 EquipmentTypeViewModel::EquipmentTypeViewModel(PreferencesStore& preferences, const SymbolLibrary& symbols,
                                                Console& console, IdGenerator& ids, QObject* parent)
-    : QObject(parent)
+    : StateObject(parent)
     , m_preferences(preferences)
     , m_symbols(symbols)
     , m_console(console)
     , m_ids(ids)
 {
-    for (const auto signal : {&EquipmentTypeViewModel::typesChanged, &EquipmentTypeViewModel::selectedTypeChanged,
-                              &EquipmentTypeViewModel::searchTextChanged, &EquipmentTypeViewModel::isAddingTypeChanged})
-        connect(this, signal, this, &EquipmentTypeViewModel::changed);
     loadTypes();
 }
 
@@ -70,25 +67,25 @@ void EquipmentTypeViewModel::saveTypes()
 void EquipmentTypeViewModel::setTypes(const QList<EquipmentTypeModel>& types)
 {
     m_types = types;
-    Q_EMIT typesChanged();
+    announce(&EquipmentTypeViewModel::typesChanged);
 }
 
 void EquipmentTypeViewModel::setSelectedType(const std::optional<EquipmentTypeModel>& type)
 {
     m_selectedType = type;
-    Q_EMIT selectedTypeChanged();
+    announce(&EquipmentTypeViewModel::selectedTypeChanged);
 }
 
 void EquipmentTypeViewModel::setSearchText(const QString& text)
 {
     m_searchText = text;
-    Q_EMIT searchTextChanged();
+    announce(&EquipmentTypeViewModel::searchTextChanged);
 }
 
 void EquipmentTypeViewModel::setAddingType(bool adding)
 {
     m_isAddingType = adding;
-    Q_EMIT isAddingTypeChanged();
+    announce(&EquipmentTypeViewModel::isAddingTypeChanged);
 }
 
 QList<EquipmentTypeModel> EquipmentTypeViewModel::filteredTypes() const
@@ -123,7 +120,7 @@ void EquipmentTypeViewModel::addType(const EquipmentTypeModel& type)
 {
     m_types.append(type);
     saveTypes();
-    Q_EMIT typesChanged();
+    announce(&EquipmentTypeViewModel::typesChanged);
 }
 
 void EquipmentTypeViewModel::updateType(const EquipmentTypeModel& type)
@@ -133,7 +130,7 @@ void EquipmentTypeViewModel::updateType(const EquipmentTypeModel& type)
         return;
     m_types[index] = type;
     saveTypes();
-    Q_EMIT typesChanged();
+    announce(&EquipmentTypeViewModel::typesChanged);
 }
 
 void EquipmentTypeViewModel::deleteType(const EquipmentTypeModel& type)
@@ -143,7 +140,7 @@ void EquipmentTypeViewModel::deleteType(const EquipmentTypeModel& type)
         return;
     m_types.removeAt(index);
     saveTypes();
-    Q_EMIT typesChanged();
+    announce(&EquipmentTypeViewModel::typesChanged);
 }
 
 QList<EquipmentTypeModel> EquipmentTypeViewModel::getDefaultTypes() const
@@ -156,7 +153,7 @@ void EquipmentTypeViewModel::resetToDefaults()
     m_types = getDefaultTypes();
     saveTypes();
     storeIconVersion();
-    Q_EMIT typesChanged();
+    announce(&EquipmentTypeViewModel::typesChanged);
 }
 
 void EquipmentTypeViewModel::migrateIconsIfNeeded()
@@ -165,7 +162,7 @@ void EquipmentTypeViewModel::migrateIconsIfNeeded()
         return;
     if (migrateIcons(m_types, getDefaultTypes(), m_symbols)) {
         saveTypes();
-        Q_EMIT typesChanged();
+        announce(&EquipmentTypeViewModel::typesChanged);
     }
     storeIconVersion();
 }

@@ -7,16 +7,16 @@
 #include "IdGenerator.h"
 #include "Literals.h"
 #include "PreferencesStore.h"
+#include "StateObject.h"
 #include "SymbolLibrary.h"
 
 #include <QList>
-#include <QObject>
 
 namespace abissora {
 
 /// The user's catalogue of equipment types. Equipment is linked to a type by the type's name only: renaming,
 /// deactivating or deleting a type never touches equipment. Every change is written through at once.
-class EquipmentTypeViewModel : public QObject
+class EquipmentTypeViewModel : public StateObject
 {
     Q_OBJECT
 
@@ -67,7 +67,6 @@ Q_SIGNALS:
     void selectedTypeChanged();
     void searchTextChanged();
     void isAddingTypeChanged();
-    void changed();
 
 private:
     [[nodiscard]] bool loadStoredTypes();

@@ -7,17 +7,13 @@ namespace abissora {
 
 EquipmentViewModel::EquipmentViewModel(StorageManager storageManager, MaintenanceDocumentStore& documents,
                                        Console& console, const Clock& clock, Calendar calendar, QObject* parent)
-    : QObject(parent)
+    : StateObject(parent)
     , m_storageManager(std::move(storageManager))
     , m_documents(documents)
     , m_console(console)
     , m_clock(clock)
     , m_calendar(std::move(calendar))
 {
-    for (const auto signal : {&EquipmentViewModel::equipmentChanged, &EquipmentViewModel::selectedEquipmentChanged,
-                              &EquipmentViewModel::isAddingEquipmentChanged, &EquipmentViewModel::searchTextChanged,
-                              &EquipmentViewModel::selectedTypeChanged, &EquipmentViewModel::filterTypeNameChanged})
-        connect(this, signal, this, &EquipmentViewModel::changed);
     loadEquipment();
 }
 
@@ -30,19 +26,19 @@ void EquipmentViewModel::loadEquipment()
                orNil(item.customTypeName) + u'\'';
     }
     m_console.print(log);
-    Q_EMIT equipmentChanged();
+    announce(&EquipmentViewModel::equipmentChanged);
 }
 
 void EquipmentViewModel::setSelectedEquipment(const std::optional<Equipment>& equipment)
 {
     m_selectedEquipment = equipment;
-    Q_EMIT selectedEquipmentChanged();
+    announce(&EquipmentViewModel::selectedEquipmentChanged);
 }
 
 void EquipmentViewModel::setAddingEquipment(bool adding)
 {
     m_isAddingEquipment = adding;
-    Q_EMIT isAddingEquipmentChanged();
+    announce(&EquipmentViewModel::isAddingEquipmentChanged);
 }
 
 void EquipmentViewModel::addEquipment(const Equipment& equipment)
@@ -121,20 +117,20 @@ void EquipmentViewModel::deleteMaintenance(const QUuid& from, const QUuid& maint
 void EquipmentViewModel::setSearchText(const QString& text)
 {
     m_filter.searchText = text;
-    Q_EMIT searchTextChanged();
+    announce(&EquipmentViewModel::searchTextChanged);
 }
 
 void EquipmentViewModel::setSelectedType(std::optional<EquipmentType> type)
 {
     m_filter.selectedType = type;
-    Q_EMIT selectedTypeChanged();
+    announce(&EquipmentViewModel::selectedTypeChanged);
 }
 
 void EquipmentViewModel::setFilterTypeName(const std::optional<QString>& name)
 {
     const auto old = std::exchange(m_filter.filterTypeName, name);
     m_console.print(u"📌 filterTypeName cambiato da "_s + orNil(old) + u" a "_s + orNil(m_filter.filterTypeName));
-    Q_EMIT filterTypeNameChanged();
+    announce(&EquipmentViewModel::filterTypeNameChanged);
 }
 
 void EquipmentViewModel::resetFilters()
@@ -180,7 +176,7 @@ RegisterSummary EquipmentViewModel::summary() const
 
 void EquipmentViewModel::refreshDates()
 {
-    Q_EMIT equipmentChanged();
+    announce(&EquipmentViewModel::equipmentChanged);
 }
 
 Equipment* EquipmentViewModel::find(const QUuid& id)
@@ -212,7 +208,7 @@ void EquipmentViewModel::deleteDocuments(const Maintenance& maintenance) const
 void EquipmentViewModel::saveAndNotify()
 {
     m_storageManager.saveEquipment(m_equipment);
-    Q_EMIT equipmentChanged();
+    announce(&EquipmentViewModel::equipmentChanged);
 }
 
 } // namespace abissora

@@ -4,15 +4,14 @@
 #include "EquipmentFilter.h"
 #include "MaintenanceDocumentStore.h"
 #include "RegisterSummary.h"
+#include "StateObject.h"
 #include "StorageManager.h"
-
-#include <QObject>
 
 namespace abissora {
 
 /// The one owner of the register. Every verb changes the list, saves it whole, notifies and logs, in this order; an
-/// unknown id makes it do nothing. One signal per property, and `changed` after each of them, on the caller's thread.
-class EquipmentViewModel : public QObject
+/// unknown id makes it do nothing.
+class EquipmentViewModel : public StateObject
 {
     Q_OBJECT
 
@@ -70,7 +69,6 @@ Q_SIGNALS:
     void searchTextChanged();
     void selectedTypeChanged();
     void filterTypeNameChanged();
-    void changed();
 
 private:
     [[nodiscard]] Equipment* find(const QUuid& id);

@@ -14,107 +14,79 @@ const QString currencySymbolKey = u"currencySymbol"_s;
 const QString darkModeKey = u"darkMode"_s;
 const QString checkForUpdatesOnLaunchKey = u"checkForUpdatesOnLaunch"_s;
 
-const bool standardNotificationsEnabled = true;
-const std::int64_t standardReminderDays = 30;
-const std::int64_t standardServiceInterval = 365;
-const QString standardCurrencySymbol = u"€"_s;
-const bool standardDarkMode = false;
-const bool standardCheckForUpdatesOnLaunch = false;
-
 } // namespace
 
 SettingsViewModel::SettingsViewModel(PreferencesStore& preferences, Console& console, QObject* parent)
-    : QObject(parent)
+    : StateObject(parent)
     , m_preferences(preferences)
     , m_console(console)
 {
-    for (const auto signal :
-         {&SettingsViewModel::notificationsEnabledChanged, &SettingsViewModel::reminderDaysChanged,
-          &SettingsViewModel::defaultServiceIntervalChanged, &SettingsViewModel::currencySymbolChanged,
-          &SettingsViewModel::darkModeChanged, &SettingsViewModel::checkForUpdatesOnLaunchChanged})
-        connect(this, signal, this, &SettingsViewModel::changed);
-}
-
-bool SettingsViewModel::notificationsEnabled() const
-{
-    return m_preferences.boolean(notificationsEnabledKey).value_or(standardNotificationsEnabled);
+    m_values.notificationsEnabled =
+        preferences.boolean(notificationsEnabledKey).value_or(m_values.notificationsEnabled);
+    m_values.reminderDays = preferences.integer(reminderDaysKey).value_or(m_values.reminderDays);
+    m_values.defaultServiceInterval =
+        preferences.integer(defaultServiceIntervalKey).value_or(m_values.defaultServiceInterval);
+    m_values.currencySymbol = preferences.text(currencySymbolKey).value_or(m_values.currencySymbol);
+    m_values.darkMode = preferences.boolean(darkModeKey).value_or(m_values.darkMode);
+    m_values.checkForUpdatesOnLaunch =
+        preferences.boolean(checkForUpdatesOnLaunchKey).value_or(m_values.checkForUpdatesOnLaunch);
 }
 
 void SettingsViewModel::setNotificationsEnabled(bool enabled)
 {
-    report(m_preferences.setBoolean(notificationsEnabledKey, enabled));
-    Q_EMIT notificationsEnabledChanged();
-}
-
-std::int64_t SettingsViewModel::reminderDays() const
-{
-    return m_preferences.integer(reminderDaysKey).value_or(standardReminderDays);
+    m_values.notificationsEnabled = enabled;
+    publish(m_preferences.setBoolean(notificationsEnabledKey, enabled),
+            &SettingsViewModel::notificationsEnabledChanged);
 }
 
 void SettingsViewModel::setReminderDays(std::int64_t days)
 {
-    report(m_preferences.setInteger(reminderDaysKey, days));
-    Q_EMIT reminderDaysChanged();
-}
-
-std::int64_t SettingsViewModel::defaultServiceInterval() const
-{
-    return m_preferences.integer(defaultServiceIntervalKey).value_or(standardServiceInterval);
+    m_values.reminderDays = days;
+    publish(m_preferences.setInteger(reminderDaysKey, days), &SettingsViewModel::reminderDaysChanged);
 }
 
 void SettingsViewModel::setDefaultServiceInterval(std::int64_t days)
 {
-    report(m_preferences.setInteger(defaultServiceIntervalKey, days));
-    Q_EMIT defaultServiceIntervalChanged();
-}
-
-QString SettingsViewModel::currencySymbol() const
-{
-    return m_preferences.text(currencySymbolKey).value_or(standardCurrencySymbol);
+    m_values.defaultServiceInterval = days;
+    publish(m_preferences.setInteger(defaultServiceIntervalKey, days),
+            &SettingsViewModel::defaultServiceIntervalChanged);
 }
 
 void SettingsViewModel::setCurrencySymbol(const QString& symbol)
 {
-    report(m_preferences.setText(currencySymbolKey, symbol));
-    Q_EMIT currencySymbolChanged();
-}
-
-bool SettingsViewModel::darkMode() const
-{
-    return m_preferences.boolean(darkModeKey).value_or(standardDarkMode);
+    m_values.currencySymbol = symbol;
+    publish(m_preferences.setText(currencySymbolKey, symbol), &SettingsViewModel::currencySymbolChanged);
 }
 
 void SettingsViewModel::setDarkMode(bool dark)
 {
-    report(m_preferences.setBoolean(darkModeKey, dark));
-    Q_EMIT darkModeChanged();
-}
-
-bool SettingsViewModel::checkForUpdatesOnLaunch() const
-{
-    return m_preferences.boolean(checkForUpdatesOnLaunchKey).value_or(standardCheckForUpdatesOnLaunch);
+    m_values.darkMode = dark;
+    publish(m_preferences.setBoolean(darkModeKey, dark), &SettingsViewModel::darkModeChanged);
 }
 
 void SettingsViewModel::setCheckForUpdatesOnLaunch(bool check)
 {
-    report(m_preferences.setBoolean(checkForUpdatesOnLaunchKey, check));
-    Q_EMIT checkForUpdatesOnLaunchChanged();
+    m_values.checkForUpdatesOnLaunch = check;
+    publish(m_preferences.setBoolean(checkForUpdatesOnLaunchKey, check),
+            &SettingsViewModel::checkForUpdatesOnLaunchChanged);
 }
 
 void SettingsViewModel::resetToDefaults()
 {
-    setNotificationsEnabled(standardNotificationsEnabled);
-    setReminderDays(standardReminderDays);
-    setDefaultServiceInterval(standardServiceInterval);
-    setCurrencySymbol(standardCurrencySymbol);
-    setDarkMode(standardDarkMode);
-    setCheckForUpdatesOnLaunch(standardCheckForUpdatesOnLaunch);
+    const Values standard;
+    setNotificationsEnabled(standard.notificationsEnabled);
+    setReminderDays(standard.reminderDays);
+    setDefaultServiceInterval(standard.defaultServiceInterval);
+    setCurrencySymbol(standard.currencySymbol);
+    setDarkMode(standard.darkMode);
+    setCheckForUpdatesOnLaunch(standard.checkForUpdatesOnLaunch);
 }
 
-void SettingsViewModel::report(const IoResult<void>& stored) const
+void SettingsViewModel::publish(const IoResult<void>& stored, void (SettingsViewModel::*signal)())
 {
     if (!stored)
         m_console.print(u"Error saving settings: "_s + stored.error().reason);
+    announce(signal);
 }
 
 } // namespace abissora

@@ -19,15 +19,10 @@ QString textFor(const UpdateCheckFailure& failure)
 } // namespace
 
 UpdateCheckerViewModel::UpdateCheckerViewModel(const UpdateChecker& checker, const Clock& clock, QObject* parent)
-    : QObject(parent)
+    : StateObject(parent)
     , m_checker(checker)
     , m_clock(clock)
-{
-    for (const auto signal :
-         {&UpdateCheckerViewModel::isCheckingChanged, &UpdateCheckerViewModel::availableUpdateChanged,
-          &UpdateCheckerViewModel::lastErrorChanged, &UpdateCheckerViewModel::lastCheckedAtChanged})
-        connect(this, signal, this, &UpdateCheckerViewModel::changed);
-}
+{}
 
 QCoro::Task<std::optional<UpdateInfo>> UpdateCheckerViewModel::checkForUpdates()
 {
@@ -57,25 +52,25 @@ void UpdateCheckerViewModel::clearAvailableUpdate()
 void UpdateCheckerViewModel::setChecking(bool checking)
 {
     m_isChecking = checking;
-    Q_EMIT isCheckingChanged();
+    announce(&UpdateCheckerViewModel::isCheckingChanged);
 }
 
 void UpdateCheckerViewModel::setAvailableUpdate(const std::optional<UpdateInfo>& update)
 {
     m_availableUpdate = update;
-    Q_EMIT availableUpdateChanged();
+    announce(&UpdateCheckerViewModel::availableUpdateChanged);
 }
 
 void UpdateCheckerViewModel::setLastError(const std::optional<QString>& error)
 {
     m_lastError = error;
-    Q_EMIT lastErrorChanged();
+    announce(&UpdateCheckerViewModel::lastErrorChanged);
 }
 
 void UpdateCheckerViewModel::setLastCheckedAt(Instant instant)
 {
     m_lastCheckedAt = instant;
-    Q_EMIT lastCheckedAtChanged();
+    announce(&UpdateCheckerViewModel::lastCheckedAtChanged);
 }
 
 } // namespace abissora

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "StateObject.h"
 #include "UpdateChecker.h"
-
-#include <QObject>
 
 namespace abissora {
 
 /// Runs the check for updates and publishes its progress and outcome. Nothing is stored.
-class UpdateCheckerViewModel : public QObject
+class UpdateCheckerViewModel : public StateObject
 {
     Q_OBJECT
 
@@ -36,7 +35,6 @@ Q_SIGNALS:
     void availableUpdateChanged();
     void lastErrorChanged();
     void lastCheckedAtChanged();
-    void changed();
 
 private:
     void setChecking(bool checking);

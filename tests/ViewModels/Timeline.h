@@ -20,12 +20,12 @@ class Timeline final : public QObject, public Console
 public:
     void print(const QString& text) override { m_events.append(text); }
 
-    /// Every signal without arguments that `object` declares itself.
+    /// Every signal without arguments that `object` declares, on top of any QObject's.
     void follow(const QObject& object)
     {
         const QMetaMethod note = metaObject()->method(metaObject()->indexOfSlot("note()"));
         const QMetaObject& meta = *object.metaObject();
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        for (int i = QObject::staticMetaObject.methodCount(); i < meta.methodCount(); ++i) {
             if (meta.method(i).methodType() == QMetaMethod::Signal)
                 connect(&object, meta.method(i), this, note);
         }

@@ -60,7 +60,7 @@ private Q_SLOTS:
                                                          "   📌 Jacket: type='GAV', customType='nil'\n"
                                                          "   📌 Faro: type='GAV', customType='Torcia'\n"
                                                          "   📌 : type='GAV', customType=''"_s,
-                                                         changed, equipmentChanged}));
+                                                         equipmentChanged, changed}));
     }
 
     void anEmptyRegister()
@@ -94,7 +94,7 @@ private Q_SLOTS:
         catalogue.viewModel->addEquipment(test::equipment(2, u"Pinne"_s));
         QCOMPARE(catalogue.viewModel->equipment(), QList({test::equipment(1), test::equipment(2, u"Pinne"_s)}));
         QCOMPARE(catalogue.timeline.take(),
-                 QStringList({changed, equipmentChanged, u"➕ Aggiunto equipaggiamento: Pinne"_s}));
+                 QStringList({equipmentChanged, changed, u"➕ Aggiunto equipaggiamento: Pinne"_s}));
     }
 
     void updateReplacesTheFirstOfTheId()
@@ -107,7 +107,7 @@ private Q_SLOTS:
         catalogue.viewModel->updateEquipment(item);
         QCOMPARE(catalogue.viewModel->equipment(), QList({test::equipment(5), item, twin}));
         QCOMPARE(catalogue.timeline.take(),
-                 QStringList({changed, equipmentChanged, u"✏️ Aggiornato equipaggiamento: Nuovo nome"_s}));
+                 QStringList({equipmentChanged, changed, u"✏️ Aggiornato equipaggiamento: Nuovo nome"_s}));
     }
 
     void deletionRemovesTheFirstOfTheId()
@@ -119,7 +119,7 @@ private Q_SLOTS:
         catalogue.viewModel->deleteEquipment(test::equipment(1, u"Maschera"_s));
         QCOMPARE(catalogue.viewModel->equipment(), QList({test::equipment(2), twin}));
         QCOMPARE(catalogue.timeline.take(),
-                 QStringList({changed, equipmentChanged, u"🗑️ Eliminato equipaggiamento: Maschera"_s}));
+                 QStringList({equipmentChanged, changed, u"🗑️ Eliminato equipaggiamento: Maschera"_s}));
         QCOMPARE(catalogue.viewModel->selectedEquipment(), std::optional(test::equipment(1)));
     }
 
@@ -190,7 +190,7 @@ private Q_SLOTS:
         QCOMPARE(catalogue.console.calls(),
                  QStringList{QString(u"Error saving equipment: "_s + IoError::fromErrno(EFBIG).reason)});
         QCOMPARE(catalogue.timeline.take(),
-                 QStringList({changed, equipmentChanged, u"➕ Aggiunto equipaggiamento: Pinne"_s}));
+                 QStringList({equipmentChanged, changed, u"➕ Aggiunto equipaggiamento: Pinne"_s}));
     }
 
     void elementsOfTheListMayBeArguments()
@@ -217,7 +217,7 @@ private Q_SLOTS:
         catalogue.viewModel->setAddingEquipment(false);
         QVERIFY(!catalogue.viewModel->selectedEquipment());
         QVERIFY(!catalogue.viewModel->isAddingEquipment());
-        const QStringList pair{changed, u"<selectedEquipmentChanged>"_s, changed, u"<isAddingEquipmentChanged>"_s};
+        const QStringList pair{u"<selectedEquipmentChanged>"_s, changed, u"<isAddingEquipmentChanged>"_s, changed};
         QCOMPARE(catalogue.timeline.take(), pair + pair);
     }
 };

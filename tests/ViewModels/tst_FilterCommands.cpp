@@ -45,11 +45,11 @@ private Q_SLOTS:
         m_viewModel->setFilterTypeName(std::nullopt);
         m_viewModel->setFilterTypeName(std::nullopt);
         QCOMPARE(m_timeline->take(),
-                 QStringList({u"📌 filterTypeName cambiato da nil a GAV"_s, changed, filterTypeNameChanged,
-                              u"📌 filterTypeName cambiato da GAV a GAV"_s, changed, filterTypeNameChanged,
-                              u"📌 filterTypeName cambiato da GAV a "_s, changed, filterTypeNameChanged,
-                              u"📌 filterTypeName cambiato da  a nil"_s, changed, filterTypeNameChanged,
-                              u"📌 filterTypeName cambiato da nil a nil"_s, changed, filterTypeNameChanged}));
+                 QStringList({u"📌 filterTypeName cambiato da nil a GAV"_s, filterTypeNameChanged, changed,
+                              u"📌 filterTypeName cambiato da GAV a GAV"_s, filterTypeNameChanged, changed,
+                              u"📌 filterTypeName cambiato da GAV a "_s, filterTypeNameChanged, changed,
+                              u"📌 filterTypeName cambiato da  a nil"_s, filterTypeNameChanged, changed,
+                              u"📌 filterTypeName cambiato da nil a nil"_s, filterTypeNameChanged, changed}));
     }
 
     void searchTextAndKindAreAnnouncedOnly()
@@ -58,7 +58,7 @@ private Q_SLOTS:
         m_viewModel->setSelectedType(EquipmentType::fins);
         QCOMPARE(m_viewModel->searchText(), u"apeks"_s);
         QVERIFY(m_viewModel->selectedType() == EquipmentType::fins);
-        QCOMPARE(m_timeline->take(), QStringList({changed, searchTextChanged, changed, selectedTypeChanged}));
+        QCOMPARE(m_timeline->take(), QStringList({searchTextChanged, changed, selectedTypeChanged, changed}));
     }
 
     void filteringByATypeName()
@@ -72,8 +72,8 @@ private Q_SLOTS:
         QVERIFY(!m_viewModel->selectedType());
         QCOMPARE(m_viewModel->filterTypeName(), std::optional(u"GAV"_s));
         QCOMPARE(m_timeline->take(),
-                 QStringList({u"🎯 FILTRO PER NOME: 'GAV'"_s, changed, searchTextChanged, changed, selectedTypeChanged,
-                              u"📌 filterTypeName cambiato da Torcia a GAV"_s, changed, filterTypeNameChanged,
+                 QStringList({u"🎯 FILTRO PER NOME: 'GAV'"_s, searchTextChanged, changed, selectedTypeChanged, changed,
+                              u"📌 filterTypeName cambiato da Torcia a GAV"_s, filterTypeNameChanged, changed,
                               u"   ✅ filterTypeName impostato a: 'GAV'"_s}));
     }
 
@@ -96,9 +96,9 @@ private Q_SLOTS:
         QCOMPARE(m_viewModel->searchText(), QString());
         QVERIFY(!m_viewModel->selectedType());
         QVERIFY(!m_viewModel->filterTypeName());
-        QCOMPARE(m_timeline->take(), QStringList({u"🔄 Reset filtri"_s, changed, searchTextChanged, changed,
-                                                  selectedTypeChanged, u"📌 filterTypeName cambiato da Torcia a nil"_s,
-                                                  changed, filterTypeNameChanged, changed}));
+        QCOMPARE(m_timeline->take(), QStringList({u"🔄 Reset filtri"_s, searchTextChanged, changed, selectedTypeChanged,
+                                                  changed, u"📌 filterTypeName cambiato da Torcia a nil"_s,
+                                                  filterTypeNameChanged, changed, changed}));
     }
 
     void filtersAreNotStored()

@@ -216,7 +216,7 @@ private:
     {
         QStringList notices;
         for (const char* name : names)
-            notices << u"<changed>"_s << u"<%1>"_s.arg(QLatin1String(name));
+            notices << u"<%1>"_s.arg(QLatin1String(name)) << u"<changed>"_s;
         return notices;
     }
 
