@@ -5,7 +5,6 @@
 #include <cerrno>
 
 #ifdef Q_OS_UNIX
-#include <csignal>
 #include <poll.h>
 #include <unistd.h>
 #else
@@ -20,42 +19,6 @@ constexpr int standardOutput = 1;
 
 #ifdef Q_OS_UNIX
 
-/// Keeps a write to a pipe without reader from raising SIGPIPE in this thread, without touching the disposition that
-/// the rest of the process and its children see.
-class SigpipeGuard
-{
-public:
-    SigpipeGuard()
-    {
-        sigemptyset(&m_sigpipe);
-        sigaddset(&m_sigpipe, SIGPIPE);
-        m_pendingBefore = isPending();
-        pthread_sigmask(SIG_BLOCK, &m_sigpipe, &m_maskBefore);
-    }
-    ~SigpipeGuard()
-    {
-        if (!m_pendingBefore && isPending()) {
-            int taken = 0;
-            sigwait(&m_sigpipe, &taken);
-        }
-        pthread_sigmask(SIG_SETMASK, &m_maskBefore, nullptr);
-    }
-    Q_DISABLE_COPY_MOVE(SigpipeGuard)
-
-private:
-    static bool isPending()
-    {
-        sigset_t pending;
-        sigemptyset(&pending);
-        sigpending(&pending);
-        return sigismember(&pending, SIGPIPE) == 1;
-    }
-
-    sigset_t m_sigpipe{};
-    sigset_t m_maskBefore{};
-    bool m_pendingBefore = false;
-};
-
 bool waitUntilWritable(int descriptor)
 {
     pollfd waiting{descriptor, POLLOUT, 0};
@@ -64,7 +27,6 @@ bool waitUntilWritable(int descriptor)
 
 bool writeAll(int descriptor, const QByteArray& bytes)
 {
-    const SigpipeGuard guard;
     const char* next = bytes.constData();
     auto left = static_cast<std::size_t>(bytes.size());
     while (left > 0) {

@@ -15,7 +15,7 @@ public:
 };
 
 /// Standard output as UTF-8, past the buffers of stdio and iostreams. A closed or broken output is forgotten in
-/// silence, for good; a reader that went away raises no SIGPIPE. Waits for a slow reader.
+/// silence, for good, provided that the process ignores SIGPIPE. Waits for a slow reader.
 class StandardOutput final : public Console
 {
 public:

@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 #ifdef Q_OS_UNIX
+#include <csignal>
 #include <unistd.h>
 #endif
 
@@ -26,11 +27,14 @@ QString openingCommand()
 #endif
 }
 
-/// Out of reach of what ends this program.
+/// Out of reach of what ends this program, and without the signals that this program ignores.
 void detach(QProcess& process)
 {
 #ifdef Q_OS_UNIX
-    process.setChildProcessModifier([] { ::setsid(); });
+    process.setChildProcessModifier([] {
+        ::setsid();
+        ::signal(SIGPIPE, SIG_DFL);
+    });
 #endif
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());

@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <csignal>
 #include <sys/stat.h>
 
 using namespace abissora;
@@ -116,6 +117,17 @@ private Q_SLOTS:
         command.end();
         QTRY_COMPARE(opened, true);
         QCOMPARE(command.log(), "1\nhttps://abissora.example/\nwent on\n");
+    }
+
+    void whatItStartsHearsBrokenPipes()
+    {
+        const auto handler = std::signal(SIGPIPE, SIG_IGN); // as the program does
+        const Command command("kill -s PIPE $$");
+        std::optional<bool> opened;
+        DesktopOpener opener(30s);
+        openInto(opened, opener, QUrl(u"https://abissora.example/"_s));
+        QTRY_COMPARE(opened, false);
+        std::signal(SIGPIPE, handler);
     }
 
     void aCommandThatDoesNotStartOpensNothing()
