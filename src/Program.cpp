@@ -3,7 +3,6 @@
 
 #include "AtomicFile.h"
 #include "CommandLine.h"
-#include "Display.h"
 #include "Literals.h"
 #include "MainWindow.h"
 #include "MarevoloApp.h"
@@ -16,6 +15,7 @@
 #include <QTranslator>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 namespace abissora {
 
@@ -30,6 +30,41 @@ int fail(const QString& sentence)
 {
     say(stderr, sentence + u'\n');
     return EXIT_FAILURE;
+}
+
+/// Exit status of a program that found no screen to open its window on.
+constexpr int noDisplayStatus = 69;
+
+QString noDisplayText()
+{
+    return u"Abissora non trova uno schermo su cui aprire la finestra; con «--snapshot FILE» la disegna "
+           "in un file PNG.\n"_s;
+}
+
+/// False when a window cannot be opened for want of a screen, as on a server. True where that cannot be told.
+bool hasDisplay(const QStringList& arguments)
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || arguments.contains("-platform"_L1);
+#else
+    Q_UNUSED(arguments)
+    return true;
+#endif
+}
+
+/// Until the toolkit has found its screen. One that finds none after all ends the program with a sentence instead of
+/// aborting it.
+void explainMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
+{
+    if (type == QtFatalMsg) {
+        std::fputs(qUtf8Printable(noDisplayText()), stderr);
+        std::_Exit(noDisplayStatus);
+    }
+    // What the toolkit says on its way there is no help to the person.
+    if (!message.contains("qt.qpa"_L1) && !message.contains("platform plugin"_L1) &&
+        !message.contains("could not connect to display"_L1))
+        std::fprintf(stderr, "%s\n", qUtf8Printable(message));
 }
 
 QStringList rawArguments(int argc, char** argv)
@@ -106,16 +141,15 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
 int runProgram(int argc, char** argv, const Product& product)
 {
 #ifdef SIGPIPE
-    // The log goes to standard output; whoever reads it may leave at any time.
+    // The log goes to standard output; whoever reads it may leave at any time. Processes started from here get it back.
     std::signal(SIGPIPE, SIG_IGN);
 #endif
     const QStringList arguments = rawArguments(argc, argv);
     if (answered(arguments))
         return EXIT_SUCCESS;
     if (!hasDisplay(arguments)) {
-        const bool drawsToFile = std::any_of(arguments.begin(), arguments.end(), [](const QString& argument) {
-            return argument.startsWith("--snapshot"_L1);
-        });
+        const bool drawsToFile = std::ranges::any_of(
+            arguments, [](const QString& argument) { return argument.startsWith("--snapshot"_L1); });
         if (!drawsToFile) {
             say(stderr, noDisplayText());
             return noDisplayStatus;
@@ -125,7 +159,7 @@ int runProgram(int argc, char** argv, const Product& product)
 
     QCoreApplication::setApplicationName(u"abissora"_s);
     QGuiApplication::setDesktopFileName(u"abissora"_s);
-    explainMissingDisplay();
+    qInstallMessageHandler(explainMissingDisplay);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
     QTranslator translator;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "AppInfo.h"
 
-#include "Literals.h"
-
 #include <QFileInfo>
 
 namespace abissora {
@@ -18,21 +16,6 @@ AppInfo::AppInfo(const PackageInformation& package, const Clock& clock, Calendar
     , m_clock(clock)
     , m_format(QLocale(QLocale::Italian, QLocale::Italy), std::move(calendar))
 {}
-
-QString AppInfo::version() const
-{
-    return text(u"CFBundleShortVersionString"_s);
-}
-
-QString AppInfo::build() const
-{
-    return text(u"CFBundleVersion"_s);
-}
-
-QString AppInfo::year() const
-{
-    return m_format.year(m_clock.now());
-}
 
 QString AppInfo::buildDate() const
 {

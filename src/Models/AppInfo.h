@@ -3,6 +3,7 @@
 
 #include "Clock.h"
 #include "DateFormat.h"
+#include "Literals.h"
 #include "PackageInformation.h"
 
 namespace abissora {
@@ -14,10 +15,10 @@ public:
     /// `package` and `clock` must outlive it.
     AppInfo(const PackageInformation& package, const Clock& clock, Calendar calendar);
 
-    [[nodiscard]] QString version() const;
-    [[nodiscard]] QString build() const;
+    [[nodiscard]] QString version() const { return text(u"CFBundleShortVersionString"_s); }
+    [[nodiscard]] QString build() const { return text(u"CFBundleVersion"_s); }
     /// Of the clock at the moment of the call, not of the build.
-    [[nodiscard]] QString year() const;
+    [[nodiscard]] QString year() const { return m_format.year(m_clock.now()); }
     /// When the executable file was last modified: "07/03/2025 18:45", in the user's zone.
     [[nodiscard]] QString buildDate() const;
 

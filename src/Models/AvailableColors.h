@@ -12,22 +12,48 @@ enum class AvailableColors { blue, red, green, orange, purple, gray, cyan, indig
 template <>
 struct RawValues<AvailableColors>
 {
-    using Entry = RawValueEntry<AvailableColors>;
+    struct Entry
+    {
+        AvailableColors value;
+        QStringView rawValue;
+        QStringView caseName;
+        NamedColor color;
+    };
+
     static constexpr std::array entries{
-        Entry{AvailableColors::blue, u"Blu"},         Entry{AvailableColors::red, u"Rosso"},
-        Entry{AvailableColors::green, u"Verde"},      Entry{AvailableColors::orange, u"Arancione"},
-        Entry{AvailableColors::purple, u"Viola"},     Entry{AvailableColors::gray, u"Grigio"},
-        Entry{AvailableColors::cyan, u"Ciano"},       Entry{AvailableColors::indigo, u"Indaco"},
-        Entry{AvailableColors::pink, u"Rosa"},        Entry{AvailableColors::yellow, u"Giallo"},
-        Entry{AvailableColors::teal, u"Verde Acqua"}, Entry{AvailableColors::mint, u"Menta"},
-        Entry{AvailableColors::brown, u"Marrone"},
+        Entry{AvailableColors::blue, u"Blu", u"blue", NamedColor::blue},
+        Entry{AvailableColors::red, u"Rosso", u"red", NamedColor::red},
+        Entry{AvailableColors::green, u"Verde", u"green", NamedColor::green},
+        Entry{AvailableColors::orange, u"Arancione", u"orange", NamedColor::orange},
+        Entry{AvailableColors::purple, u"Viola", u"purple", NamedColor::purple},
+        Entry{AvailableColors::gray, u"Grigio", u"gray", NamedColor::gray},
+        Entry{AvailableColors::cyan, u"Ciano", u"cyan", NamedColor::cyan},
+        Entry{AvailableColors::indigo, u"Indaco", u"indigo", NamedColor::indigo},
+        Entry{AvailableColors::pink, u"Rosa", u"pink", NamedColor::pink},
+        Entry{AvailableColors::yellow, u"Giallo", u"yellow", NamedColor::yellow},
+        Entry{AvailableColors::teal, u"Verde Acqua", u"teal", NamedColor::teal},
+        Entry{AvailableColors::mint, u"Menta", u"mint", NamedColor::mint},
+        Entry{AvailableColors::brown, u"Marrone", u"brown", NamedColor::brown},
     };
 };
 
-[[nodiscard]] NamedColor colorValue(AvailableColors color);
+[[nodiscard]] constexpr NamedColor colorValue(AvailableColors color)
+{
+    return entryOf(color).color;
+}
+
 /// "blue", "red", ...: what EquipmentTypeModel::color stores.
-[[nodiscard]] QString caseName(AvailableColors color);
+[[nodiscard]] inline QString caseName(AvailableColors color)
+{
+    return entryOf(color).caseName.toString();
+}
+
 /// The colour whose case name is exactly `name`.
-[[nodiscard]] std::optional<AvailableColors> availableColorNamed(QStringView name);
+[[nodiscard]] inline std::optional<AvailableColors> availableColorNamed(QStringView name)
+{
+    constexpr auto& entries = RawValues<AvailableColors>::entries;
+    const auto found = std::ranges::find(entries, name, &RawValues<AvailableColors>::Entry::caseName);
+    return found == entries.end() ? std::nullopt : std::optional(found->value);
+}
 
 } // namespace abissora

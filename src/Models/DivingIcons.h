@@ -61,58 +61,67 @@ enum class DivingIcons {
 template <>
 struct RawValues<DivingIcons>
 {
-    using Entry = RawValueEntry<DivingIcons>;
+    struct Entry
+    {
+        DivingIcons value;
+        QStringView rawValue;
+        QStringView displayName;
+    };
+
     static constexpr std::array entries{
-        Entry{DivingIcons::regulator, u"dive.regulator"},
-        Entry{DivingIcons::bcd, u"dive.bcd"},
-        Entry{DivingIcons::tank, u"dive.tank"},
-        Entry{DivingIcons::mask, u"dive.mask"},
-        Entry{DivingIcons::fins, u"dive.fins"},
-        Entry{DivingIcons::wetsuit, u"dive.wetsuit"},
-        Entry{DivingIcons::drysuit, u"dive.drysuit"},
-        Entry{DivingIcons::diveComputer, u"dive.computer"},
-        Entry{DivingIcons::diveLight, u"dive.light"},
-        Entry{DivingIcons::compass, u"dive.compass"},
-        Entry{DivingIcons::depthGauge, u"gauge.with.dots.needle.bottom.0percent"},
-        Entry{DivingIcons::pressureGauge, u"dive.gauge"},
-        Entry{DivingIcons::diveKnife, u"dive.knife"},
-        Entry{DivingIcons::reel, u"dive.reel"},
-        Entry{DivingIcons::liftBag, u"balloon.fill"},
-        Entry{DivingIcons::weightBelt, u"dive.weightbelt"},
-        Entry{DivingIcons::lifeJacket, u"dive.lifejacket"},
-        Entry{DivingIcons::firstAid, u"cross.case.fill"},
-        Entry{DivingIcons::oxygen, u"lungs.fill"},
-        Entry{DivingIcons::whistle, u"dive.whistle"},
-        Entry{DivingIcons::safetyMarker, u"flag.checkered"},
-        Entry{DivingIcons::underwaterComms, u"antenna.radiowaves.left.and.right"},
-        Entry{DivingIcons::diveBell, u"bell.and.waves.left.and.right.fill"},
-        Entry{DivingIcons::camera, u"camera.fill"},
-        Entry{DivingIcons::gopro, u"camera.macro.circle.fill"},
-        Entry{DivingIcons::diveBag, u"suitcase.fill"},
-        Entry{DivingIcons::finsBag, u"bag.badge.plus"},
-        Entry{DivingIcons::repairKit, u"wrench.and.screwdriver.fill"},
-        Entry{DivingIcons::spareParts, u"gearshape.fill"},
-        Entry{DivingIcons::scuba, u"water.waves"},
-        Entry{DivingIcons::freediving, u"figure.water.fitness"},
-        Entry{DivingIcons::snorkel, u"dive.snorkel"},
-        Entry{DivingIcons::technical, u"graduationcap.fill"},
-        Entry{DivingIcons::cave, u"mountain.2.fill"},
-        Entry{DivingIcons::wreck, u"sailboat.fill"},
-        Entry{DivingIcons::night, u"moon.stars.fill"},
-        Entry{DivingIcons::deep, u"arrow.down.circle.fill"},
-        Entry{DivingIcons::service, u"wrench.fill"},
-        Entry{DivingIcons::cleaning, u"bubbles.and.sparkles.fill"},
-        Entry{DivingIcons::test, u"checkmark.circle.fill"},
-        Entry{DivingIcons::repair, u"hammer.circle.fill"},
-        Entry{DivingIcons::inspection, u"magnifyingglass.circle.fill"},
-        Entry{DivingIcons::calibration, u"slider.horizontal.3"},
-        Entry{DivingIcons::other, u"questionmark.circle.fill"},
-        Entry{DivingIcons::accessory, u"circle.hexagongrid.fill"},
-        Entry{DivingIcons::custom, u"pencil.circle.fill"},
+        Entry{DivingIcons::regulator, u"dive.regulator", u"Erogatore"},
+        Entry{DivingIcons::bcd, u"dive.bcd", u"GAV"},
+        Entry{DivingIcons::tank, u"dive.tank", u"Bombola"},
+        Entry{DivingIcons::mask, u"dive.mask", u"Maschera"},
+        Entry{DivingIcons::fins, u"dive.fins", u"Pinne"},
+        Entry{DivingIcons::wetsuit, u"dive.wetsuit", u"Muta"},
+        Entry{DivingIcons::drysuit, u"dive.drysuit", u"Muta Stagna"},
+        Entry{DivingIcons::diveComputer, u"dive.computer", u"Computer Sub"},
+        Entry{DivingIcons::diveLight, u"dive.light", u"Torcia"},
+        Entry{DivingIcons::compass, u"dive.compass", u"Bussola"},
+        Entry{DivingIcons::depthGauge, u"gauge.with.dots.needle.bottom.0percent", u"Profondimetro"},
+        Entry{DivingIcons::pressureGauge, u"dive.gauge", u"Manometro"},
+        Entry{DivingIcons::diveKnife, u"dive.knife", u"Coltello"},
+        Entry{DivingIcons::reel, u"dive.reel", u"Bozzello"},
+        Entry{DivingIcons::liftBag, u"balloon.fill", u"Sacco Sollevamento"},
+        Entry{DivingIcons::weightBelt, u"dive.weightbelt", u"Cintura Zavorra"},
+        Entry{DivingIcons::lifeJacket, u"dive.lifejacket", u"Salvagente"},
+        Entry{DivingIcons::firstAid, u"cross.case.fill", u"Pronto Soccorso"},
+        Entry{DivingIcons::oxygen, u"lungs.fill", u"Ossigeno"},
+        Entry{DivingIcons::whistle, u"dive.whistle", u"Fischietto"},
+        Entry{DivingIcons::safetyMarker, u"flag.checkered", u"Bandiera Sub"},
+        Entry{DivingIcons::underwaterComms, u"antenna.radiowaves.left.and.right", u"Comunicatore"},
+        Entry{DivingIcons::diveBell, u"bell.and.waves.left.and.right.fill", u"Campana Sub"},
+        Entry{DivingIcons::camera, u"camera.fill", u"Fotocamera Sub"},
+        Entry{DivingIcons::gopro, u"camera.macro.circle.fill", u"Action Cam"},
+        Entry{DivingIcons::diveBag, u"suitcase.fill", u"Borsa Sub"},
+        Entry{DivingIcons::finsBag, u"bag.badge.plus", u"Borsa Pinne"},
+        Entry{DivingIcons::repairKit, u"wrench.and.screwdriver.fill", u"Kit Riparazione"},
+        Entry{DivingIcons::spareParts, u"gearshape.fill", u"Ricambi"},
+        Entry{DivingIcons::scuba, u"water.waves", u"Subacquea"},
+        Entry{DivingIcons::freediving, u"figure.water.fitness", u"Apnea"},
+        Entry{DivingIcons::snorkel, u"dive.snorkel", u"Snorkeling"},
+        Entry{DivingIcons::technical, u"graduationcap.fill", u"Tecnica"},
+        Entry{DivingIcons::cave, u"mountain.2.fill", u"Grotta"},
+        Entry{DivingIcons::wreck, u"sailboat.fill", u"Relitto"},
+        Entry{DivingIcons::night, u"moon.stars.fill", u"Notturna"},
+        Entry{DivingIcons::deep, u"arrow.down.circle.fill", u"Profonda"},
+        Entry{DivingIcons::service, u"wrench.fill", u"Manutenzione"},
+        Entry{DivingIcons::cleaning, u"bubbles.and.sparkles.fill", u"Pulizia"},
+        Entry{DivingIcons::test, u"checkmark.circle.fill", u"Test"},
+        Entry{DivingIcons::repair, u"hammer.circle.fill", u"Riparazione"},
+        Entry{DivingIcons::inspection, u"magnifyingglass.circle.fill", u"Ispezione"},
+        Entry{DivingIcons::calibration, u"slider.horizontal.3", u"Calibrazione"},
+        Entry{DivingIcons::other, u"questionmark.circle.fill", u"Altro"},
+        Entry{DivingIcons::accessory, u"circle.hexagongrid.fill", u"Accessorio"},
+        Entry{DivingIcons::custom, u"pencil.circle.fill", u"Personalizzato"},
     };
 };
 
-[[nodiscard]] QString displayName(DivingIcons icon);
+[[nodiscard]] inline QString displayName(DivingIcons icon)
+{
+    return entryOf(icon).displayName.toString();
+}
 
 /// The title of the picker section that the icon stands in.
 [[nodiscard]] QString category(DivingIcons icon);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "NamedColor.h"
+#include "AvailableColors.h"
 
 #include <QHashFunctions>
 #include <QString>
@@ -20,11 +20,18 @@ struct EquipmentTypeModel
     bool isActive = true; ///< offered in pickers
 
     /// The colour that `color` names, whatever its letter case; primary for any other word.
-    [[nodiscard]] NamedColor colorValue() const;
+    [[nodiscard]] NamedColor colorValue() const
+    {
+        const auto known = availableColorNamed(color.toLower());
+        return known ? abissora::colorValue(*known) : NamedColor::primary;
+    }
 
     friend bool operator==(const EquipmentTypeModel&, const EquipmentTypeModel&) = default;
 };
 
-[[nodiscard]] size_t qHash(const EquipmentTypeModel& type, size_t seed = 0);
+[[nodiscard]] inline size_t qHash(const EquipmentTypeModel& type, size_t seed = 0)
+{
+    return qHashMulti(seed, type.id, type.name, type.icon, type.color, type.serviceIntervalDays, type.isActive);
+}
 
 } // namespace abissora

@@ -1,14 +1,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Instant.h"
-#include "MaintenanceType.h"
+#include "Clock.h"
+#include "RawValues.h"
 
 #include <QString>
 #include <QUuid>
 #include <optional>
 
 namespace abissora {
+
+/// The kinds of maintenance. Their raw values are both the stored and the displayed text.
+enum class MaintenanceType { annual, repair, test, cleaning, other };
+
+template <>
+struct RawValues<MaintenanceType>
+{
+    using Entry = RawValueEntry<MaintenanceType>;
+    static constexpr std::array entries{
+        Entry{MaintenanceType::annual, u"Manutenzione Annuale"},
+        Entry{MaintenanceType::repair, u"Riparazione"},
+        Entry{MaintenanceType::test, u"Test"},
+        Entry{MaintenanceType::cleaning, u"Pulizia"},
+        Entry{MaintenanceType::other, u"Altro"},
+    };
+};
 
 /// One intervention on a piece of equipment.
 struct Maintenance

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -15,7 +16,7 @@ struct RawValueEntry
 };
 
 /// Specialised for every enumeration that is stored and shown by text: `static constexpr std::array entries`, one entry
-/// per case in declaration order.
+/// per case in declaration order, which may say more of the case than RawValueEntry does.
 template <typename Case>
 struct RawValues;
 
@@ -26,9 +27,15 @@ concept HasRawValues = requires
 };
 
 template <HasRawValues Case>
+[[nodiscard]] constexpr const auto& entryOf(Case value)
+{
+    return RawValues<Case>::entries.at(static_cast<std::size_t>(value));
+}
+
+template <HasRawValues Case>
 [[nodiscard]] constexpr QStringView rawValueView(Case value)
 {
-    return RawValues<Case>::entries.at(static_cast<std::size_t>(value)).rawValue;
+    return entryOf(value).rawValue;
 }
 
 template <HasRawValues Case>
@@ -41,11 +48,9 @@ template <HasRawValues Case>
 template <HasRawValues Case>
 [[nodiscard]] std::optional<Case> fromRawValue(QStringView text)
 {
-    for (const auto& entry : RawValues<Case>::entries) {
-        if (entry.rawValue == text)
-            return entry.value;
-    }
-    return std::nullopt;
+    constexpr auto& entries = RawValues<Case>::entries;
+    const auto found = std::ranges::find(entries, text, &std::ranges::range_value_t<decltype(entries)>::rawValue);
+    return found == entries.end() ? std::nullopt : std::optional(found->value);
 }
 
 /// Every case in declaration order.
@@ -54,8 +59,7 @@ template <HasRawValues Case>
 {
     constexpr auto& entries = RawValues<Case>::entries;
     std::array<Case, entries.size()> cases{};
-    for (std::size_t i = 0; i < entries.size(); ++i)
-        cases[i] = entries[i].value;
+    std::ranges::transform(entries, cases.begin(), [](const auto& entry) { return entry.value; });
     return cases;
 }
 

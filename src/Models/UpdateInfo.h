@@ -1,11 +1,22 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "UpdateManifest.h"
-
+#include <QString>
 #include <QUrl>
+#include <optional>
 
 namespace abissora {
+
+/// What the website says of the newest release, as it says it.
+struct UpdateManifest
+{
+    QString version;
+    std::int64_t build = 0;
+    QString downloadURL;
+    std::optional<QString> releaseNotes;
+
+    friend bool operator==(const UpdateManifest&, const UpdateManifest&) = default;
+};
 
 /// A newer release that is offered to the user.
 struct UpdateInfo

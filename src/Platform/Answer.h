@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <coroutine>
+#include <QCoroTask>
 #include <optional>
 #include <utility>
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ApplicationDirectories.h"
 
-#include "Literals.h"
-
 #include <QDir>
 #include <QStandardPaths>
 
@@ -26,21 +24,6 @@ ApplicationDirectories::ApplicationDirectories(const QString& root, bool own)
 ApplicationDirectories ApplicationDirectories::standard()
 {
     return ApplicationDirectories(perUserFolder(QStandardPaths::GenericDataLocation));
-}
-
-QString ApplicationDirectories::preferences() const
-{
-    return m_root + "/preferences"_L1;
-}
-
-QString ApplicationDirectories::maintenanceDocuments() const
-{
-    return m_root + "/MaintenanceDocuments"_L1;
-}
-
-QString ApplicationDirectories::backups() const
-{
-    return m_root + "/backups"_L1;
 }
 
 QString ApplicationDirectories::windowStateFile() const

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QString>
+#include "Literals.h"
 
 namespace abissora {
 
@@ -16,9 +16,9 @@ public:
     [[nodiscard]] static ApplicationDirectories standard();
 
     [[nodiscard]] QString root() const { return m_root; }
-    [[nodiscard]] QString preferences() const;
-    [[nodiscard]] QString maintenanceDocuments() const;
-    [[nodiscard]] QString backups() const;
+    [[nodiscard]] QString preferences() const { return m_root + "/preferences"_L1; }
+    [[nodiscard]] QString maintenanceDocuments() const { return m_root + "/MaintenanceDocuments"_L1; }
+    [[nodiscard]] QString backups() const { return m_root + "/backups"_L1; }
     /// The file that keeps window sizes: in the platform's configuration folder, or in root() when the user chose it.
     [[nodiscard]] QString windowStateFile() const;
 

@@ -29,6 +29,8 @@ namespace AtomicFile {
 /// Creates the folder and its missing parents; an existing folder is not an error.
 [[nodiscard]] IoResult<void> makeFolder(const QString& path);
 
+/// ".abissora-0123456789abcdef.tmp" with random digits.
+[[nodiscard]] QString temporaryName();
 /// Removes the temporary files that a killed process left in `folder`. Nobody may be writing there.
 void removeLeftovers(const QString& folder);
 

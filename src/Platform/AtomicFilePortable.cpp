@@ -2,8 +2,6 @@
 // AtomicFile where the POSIX calls are missing: as safe as Qt's own classes make it.
 #include "AtomicFile.h"
 
-#include "TemporaryName.h"
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Calendar.h"
 
-#include "ZoneOffsets.h"
-
 #include <algorithm>
+#include <vector>
 
 namespace abissora {
 
@@ -13,6 +12,8 @@ using std::chrono::days;
 using std::chrono::floor;
 using std::chrono::milliseconds;
 using std::chrono::months;
+using std::chrono::seconds;
+using std::chrono::sys_days;
 using std::chrono::year;
 using std::chrono::year_month_day;
 using std::chrono::years;
@@ -24,6 +25,88 @@ constexpr LocalTime firstLocalTime = LocalDays{year{1} / 1 / 1};
 constexpr LocalTime endOfLocalTimes = LocalDays{year{10000} / 1 / 1};
 constexpr std::int64_t mostDays = (floor<days>(endOfLocalTimes) - floor<days>(firstLocalTime)).count();
 constexpr int mostYears = 9999;
+
+constexpr Instant tableBegin = sys_days{year{1900} / 1 / 1};
+// QTimeZone lists transitions up to 2037 and computes later ones when asked for a single instant.
+constexpr Instant tableEnd = sys_days{year{2037} / 1 / 1};
+
+QDateTime utc(Instant instant)
+{
+    return QDateTime::fromMSecsSinceEpoch(instant.time_since_epoch().count(), Qt::UTC);
+}
+
+} // namespace
+
+/// A time zone's offsets from UTC, tabulated where dates usually lie: asking the zone itself makes the day counts of a
+/// long register take about a hundred times as long. Immutable.
+class ZoneOffsets
+{
+public:
+    explicit ZoneOffsets(const QTimeZone& zone);
+
+    /// The system's zone of this moment, UTC when it cannot be determined. Shared while the zone stays the same: TZ is
+    /// looked at every time, the system's own setting at most once a second.
+    [[nodiscard]] static std::shared_ptr<const ZoneOffsets> system();
+
+    [[nodiscard]] const QTimeZone& zone() const { return m_zone; }
+    [[nodiscard]] seconds at(Instant instant) const;
+
+private:
+    struct Offset
+    {
+        Instant since;
+        seconds value;
+    };
+
+    QTimeZone m_zone;
+    std::vector<Offset> m_offsets;
+};
+
+ZoneOffsets::ZoneOffsets(const QTimeZone& zone)
+    : m_zone(zone)
+{
+    if (!m_zone.isValid())
+        m_zone = QTimeZone::utc();
+    m_offsets.push_back({tableBegin, seconds{m_zone.offsetFromUtc(utc(tableBegin))}});
+    const auto transitions = m_zone.transitions(utc(tableBegin), utc(tableEnd));
+    for (const QTimeZone::OffsetData& transition : transitions)
+        m_offsets.push_back(
+            {Instant{milliseconds{transition.atUtc.toMSecsSinceEpoch()}}, seconds{transition.offsetFromUtc}});
+}
+
+std::shared_ptr<const ZoneOffsets> ZoneOffsets::system()
+{
+    struct Looked
+    {
+        std::optional<QByteArray> variable;
+        std::chrono::steady_clock::time_point at;
+        std::shared_ptr<const ZoneOffsets> offsets;
+    };
+    // Holds nothing but what the next lookup would find again.
+    thread_local Looked cache;
+    const auto now = std::chrono::steady_clock::now();
+    const std::optional<QByteArray> variable =
+        qEnvironmentVariableIsSet("TZ") ? std::optional(qgetenv("TZ")) : std::nullopt;
+    const bool fresh = cache.offsets && cache.variable == variable &&
+                       (variable.has_value() || now - cache.at < std::chrono::seconds{1});
+    if (!fresh) {
+        const QTimeZone zone = QTimeZone::systemTimeZone();
+        if (!cache.offsets || cache.offsets->zone() != zone)
+            cache.offsets = std::make_shared<const ZoneOffsets>(zone);
+        cache.variable = variable;
+        cache.at = now;
+    }
+    return cache.offsets;
+}
+
+seconds ZoneOffsets::at(Instant instant) const
+{
+    if (instant < tableBegin || instant >= tableEnd)
+        return seconds{m_zone.offsetFromUtc(utc(instant))};
+    return std::prev(std::ranges::upper_bound(m_offsets, instant, {}, &Offset::since))->value;
+}
+
+namespace {
 
 std::optional<LocalTime> inRange(LocalTime local)
 {

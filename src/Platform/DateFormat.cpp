@@ -61,10 +61,9 @@ QString withoutConnection(const QString& literal)
 QString withoutWeekday(const QString& pattern)
 {
     std::vector<Piece> pieces = piecesOf(pattern);
-    const auto weekday =
-        std::find_if(pieces.begin(), pieces.end(), [](const Piece& piece) { return piece.isWeekday(); });
+    const auto weekday = std::ranges::find_if(pieces, &Piece::isWeekday);
     if (weekday != pieces.end()) {
-        const auto next = std::find_if(weekday + 1, pieces.end(), [](const Piece& piece) { return piece.isField; });
+        const auto next = std::ranges::find(weekday + 1, pieces.end(), true, &Piece::isField);
         if (next == pieces.end() && weekday != pieces.begin())
             std::prev(weekday)->text = withoutConnection(std::prev(weekday)->text);
         pieces.erase(weekday, next);

@@ -29,8 +29,8 @@ public:
 
     /// The grant that a sandboxing platform attaches to a picked file: true when access was granted and endAccess must
     /// give it back. Platforms without such grants answer false.
-    [[nodiscard]] virtual bool beginAccess(const QString& path);
-    virtual void endAccess(const QString& path);
+    [[nodiscard]] virtual bool beginAccess(const QString& /*path*/) { return false; }
+    virtual void endAccess(const QString& /*path*/) {}
 };
 
 } // namespace abissora

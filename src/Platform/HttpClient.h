@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Literals.h"
+
 #include <QByteArray>
 #include <QCoroTask>
 #include <QUrl>
@@ -29,6 +31,7 @@ struct HttpError
     Kind kind = Kind::Transfer;
     QString reason; ///< in the transport's own words, which are English and not meant for the person
 
+    [[nodiscard]] static HttpError cancelled() { return {Kind::Cancelled, u"The request was cancelled"_s}; }
     friend bool operator==(const HttpError&, const HttpError&) = default;
 };
 

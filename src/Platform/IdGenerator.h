@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
 #include <QUuid>
 
 namespace abissora {
@@ -16,10 +17,13 @@ public:
 class RandomIdGenerator final : public IdGenerator
 {
 public:
-    [[nodiscard]] QUuid next() override;
+    [[nodiscard]] QUuid next() override { return QUuid::createUuid(); }
 };
 
 /// The canonical stored form: 36 characters, hyphenated, upper case.
-[[nodiscard]] QString uuidText(const QUuid& id);
+[[nodiscard]] inline QString uuidText(const QUuid& id)
+{
+    return id.toString(QUuid::WithoutBraces).toUpper();
+}
 
 } // namespace abissora

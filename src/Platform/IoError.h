@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QString>
+#include <cstring>
+#include <system_error>
 #include <tl/expected.hpp>
 
 namespace abissora {
@@ -11,7 +13,16 @@ struct IoError
 {
     QString reason;
 
-    [[nodiscard]] static IoError fromErrno(int error);
+    [[nodiscard]] static IoError fromErrno(int error)
+    {
+#if defined(__GLIBC__) && __GLIBC_PREREQ(2, 32)
+        // Unlike strerror(), never translated: the log reads the same on every desktop.
+        if (const char* description = strerrordesc_np(error))
+            return {QString::fromLatin1(description)};
+#endif
+        return {QString::fromStdString(std::generic_category().message(error))};
+    }
+
     friend bool operator==(const IoError&, const IoError&) = default;
 };
 

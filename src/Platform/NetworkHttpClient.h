@@ -34,7 +34,7 @@ public:
 
 private:
     HttpLimits m_limits;
-    QObject m_transfers; ///< owns those under way
+    QObject m_transfers; ///< owns those under way, and nothing else
 };
 
 } // namespace abissora

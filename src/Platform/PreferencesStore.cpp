@@ -28,7 +28,7 @@ tl::unexpected<IoError> failure(int error)
 
 bool isPlainName(const QString& key)
 {
-    return !key.isEmpty() && std::all_of(key.begin(), key.end(), [](QChar c) {
+    return !key.isEmpty() && std::ranges::all_of(key, [](QChar c) {
         return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9');
     });
 }
@@ -62,7 +62,7 @@ bool areOneFile(const QString& a, const QString& b)
 bool hasCopy(const QString& folder, const QString& pattern, const QString& file, const std::optional<QByteArray>& bytes)
 {
     const QFileInfoList candidates = QDir(folder).entryInfoList({pattern}, QDir::Files);
-    return std::any_of(candidates.begin(), candidates.end(), [&](const QFileInfo& candidate) {
+    return std::ranges::any_of(candidates, [&](const QFileInfo& candidate) {
         const QString path = candidate.absoluteFilePath();
         if (areOneFile(path, file))
             return true;

@@ -11,7 +11,7 @@ namespace {
 /// and needs no memory.
 bool isSimple(QStringView text)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x100 && c != QChar(0xDF); });
+    return std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x100 && c != QChar(0xDF); });
 }
 
 // The lower-case letters whose full case folding is longer than one character, among those that canonical

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TypeChoice.h"
 
-#include "EquipmentType.h"
+#include "Equipment.h"
 #include "Literals.h"
 #include "TypeAppearance.h"
 

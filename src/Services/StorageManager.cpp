@@ -3,9 +3,58 @@
 
 #include "Literals.h"
 #include "RecordJson.h"
-#include "SampleEquipment.h"
 
 namespace abissora {
+
+namespace {
+
+/// The three items that a first start shows, built around `now`, with fresh ids.
+QList<Equipment> sampleEquipment(Instant now, const Calendar& calendar, IdGenerator& ids)
+{
+    const auto years = [&](int count) { return calendar.addYears(now, count).value_or(now); };
+    const auto months = [&](int count) { return calendar.addMonths(now, count).value_or(now); };
+    constexpr std::chrono::seconds fifteenDays{1'296'000};
+
+    Equipment regulator;
+    regulator.id = ids.next();
+    regulator.name = u"Erogatore Apeks XTX50"_s;
+    regulator.type = EquipmentType::regulator;
+    regulator.brand = u"Apeks"_s;
+    regulator.model = u"XTX50"_s;
+    regulator.serialNumber = u"AP123456"_s;
+    regulator.purchaseDate = years(-2);
+    regulator.lastServiceDate = years(-1);
+    regulator.nextServiceDate = years(1);
+    regulator.notes = u"Ottimo erogatore per acque fredde. Utilizzato per immersioni in Italia."_s;
+
+    Equipment bcd;
+    bcd.id = ids.next();
+    bcd.name = u"GAV Scubapro Hydros"_s;
+    bcd.type = EquipmentType::bcd;
+    bcd.brand = u"Scubapro"_s;
+    bcd.model = u"Hydros Pro"_s;
+    bcd.serialNumber = u"SP789012"_s;
+    bcd.purchaseDate = years(-1);
+    bcd.lastServiceDate = months(-6);
+    bcd.nextServiceDate = months(1);
+    bcd.notes = u"GAV leggero e confortevole. Perfetto per viaggi."_s;
+
+    Equipment computer;
+    computer.id = ids.next();
+    computer.name = u"Computer Suunto EON Core"_s;
+    computer.type = EquipmentType::computer;
+    computer.brand = u"Suunto"_s;
+    computer.model = u"EON Core"_s;
+    computer.serialNumber = u"SU456789"_s;
+    computer.purchaseDate = years(-1);
+    computer.lastServiceDate = months(-1);
+    computer.nextServiceDate = now + fifteenDays;
+    computer.notes = u"Computer subacqueo con display a colori."_s;
+
+    return {regulator, bcd, computer};
+}
+
+} // namespace
 
 StorageManager::StorageManager(PreferencesStore& userDefaults, Console& console, const Clock& clock, Calendar calendar,
                                IdGenerator& ids)
@@ -32,7 +81,7 @@ QList<Equipment> StorageManager::loadEquipment()
     if (!stored)
         return giveUpLoading(stored.error().reason);
     if (!*stored)
-        return loadSampleEquipment();
+        return sampleEquipment(m_clock.now(), m_calendar, m_ids);
     auto decoded = decodeEquipment(**stored);
     if (!decoded)
         return giveUpLoading(decoded.error().description());
@@ -44,11 +93,6 @@ QList<Equipment> StorageManager::giveUpLoading(const QString& reason)
     m_console.print(u"Error loading equipment: "_s + reason);
     if (const auto kept = m_userDefaults.preserveUnreadable(equipmentKey); !kept)
         m_console.print(u"Error saving equipment: "_s + kept.error().reason);
-    return loadSampleEquipment();
-}
-
-QList<Equipment> StorageManager::loadSampleEquipment()
-{
     return sampleEquipment(m_clock.now(), m_calendar, m_ids);
 }
 

@@ -29,7 +29,6 @@ public:
     [[nodiscard]] QList<Equipment> loadEquipment();
 
 private:
-    [[nodiscard]] QList<Equipment> loadSampleEquipment();
     [[nodiscard]] QList<Equipment> giveUpLoading(const QString& reason);
 
     PreferencesStore& m_userDefaults;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "UpdateChecker.h"
 
-#include "UpdateJson.h"
+#include "Literals.h"
+#include "RecordJson.h"
 
 #include <charconv>
 
@@ -40,6 +41,19 @@ QList<std::int64_t> numbersOf(const QString& version)
 }
 
 } // namespace
+
+QString UpdateCheckError::errorDescription() const
+{
+    switch (which) {
+    case Case::network:
+        return u"Impossibile contattare il sito. Controlla la connessione."_s;
+    case Case::invalidResponse:
+        return u"Il server non ha risposto correttamente."_s;
+    case Case::invalidManifest:
+        return u"Il file di aggiornamento sul sito non è valido."_s;
+    }
+    Q_UNREACHABLE();
+}
 
 UpdateChecker::UpdateChecker(HttpClient& http, const AppInfo& info, const Product& product)
     : m_http(http)

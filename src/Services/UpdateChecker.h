@@ -2,14 +2,26 @@
 #pragma once
 
 #include "AppInfo.h"
+#include "HttpClient.h"
 #include "Product.h"
-#include "UpdateCheckError.h"
 #include "UpdateInfo.h"
 
 #include <memory>
 #include <variant>
 
 namespace abissora {
+
+/// Why a check for updates failed, with a description for the user.
+struct UpdateCheckError
+{
+    enum class Case { network, invalidResponse, invalidManifest };
+
+    Case which;
+    std::optional<HttpError> underlying{}; ///< of Case::network
+
+    [[nodiscard]] QString errorDescription() const;
+    friend bool operator==(const UpdateCheckError&, const UpdateCheckError&) = default;
+};
 
 /// An HttpError is a transport's failure, passed on as it is.
 using UpdateCheckFailure = std::variant<UpdateCheckError, HttpError>;

@@ -29,8 +29,7 @@ void DayWatch::check()
 
 bool DayWatch::isAnyCountOtherThan(Instant before, Instant now) const
 {
-    const QList<Equipment>& items = m_equipment.equipment();
-    return std::any_of(items.begin(), items.end(), [&](const Equipment& item) {
+    return std::ranges::any_of(m_equipment.equipment(), [&](const Equipment& item) {
         return item.daysUntilNextService(before, m_calendar) != item.daysUntilNextService(now, m_calendar);
     });
 }

@@ -66,9 +66,7 @@ FilteredEquipment apply(const EquipmentFilter& filter, const QList<Equipment>& c
         keepFound(filter.searchText, catalogue, kept, log);
     log += u"\n   📊 Risultati: "_s + QString::number(kept.size()) + u" su "_s + total;
 
-    std::stable_sort(kept.begin(), kept.end(), [&](qsizetype a, qsizetype b) {
-        return catalogue.at(a).nextServiceDate < catalogue.at(b).nextServiceDate;
-    });
+    std::ranges::stable_sort(kept, {}, [&](qsizetype at) { return catalogue.at(at).nextServiceDate; });
     QList<Equipment> equipment;
     equipment.reserve(static_cast<qsizetype>(kept.size()));
     for (const qsizetype at : kept)

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeViewModel.h"
 
-#include "DefaultTypes.h"
+#include "AvailableColors.h"
+#include "DivingIcons.h"
 #include "IconMigration.h"
 #include "Literals.h"
 #include "RecordJson.h"
@@ -10,6 +11,33 @@
 namespace abissora {
 
 namespace {
+
+struct DefaultType
+{
+    QStringView name;
+    DivingIcons icon;
+    AvailableColors color;
+    std::int64_t serviceIntervalDays = 365;
+};
+
+constexpr std::array standardTypes{
+    DefaultType{u"Erogatore", DivingIcons::regulator, AvailableColors::blue},
+    DefaultType{u"GAV", DivingIcons::bcd, AvailableColors::orange},
+    DefaultType{u"Bombola", DivingIcons::tank, AvailableColors::gray},
+    DefaultType{u"Maschera", DivingIcons::mask, AvailableColors::purple},
+    DefaultType{u"Pinne", DivingIcons::fins, AvailableColors::green},
+    DefaultType{u"Muta", DivingIcons::wetsuit, AvailableColors::red},
+    DefaultType{u"Muta Stagna", DivingIcons::drysuit, AvailableColors::indigo},
+    DefaultType{u"Computer Subacqueo", DivingIcons::diveComputer, AvailableColors::cyan, 730},
+    DefaultType{u"Torcia", DivingIcons::diveLight, AvailableColors::yellow},
+    DefaultType{u"Bussola", DivingIcons::compass, AvailableColors::teal},
+    DefaultType{u"Profondimetro", DivingIcons::depthGauge, AvailableColors::mint},
+    DefaultType{u"Manometro", DivingIcons::pressureGauge, AvailableColors::gray},
+    DefaultType{u"Cintura Zavorra", DivingIcons::weightBelt, AvailableColors::brown},
+    DefaultType{u"Kit Pronto Soccorso", DivingIcons::firstAid, AvailableColors::red},
+    DefaultType{u"Ossigeno", DivingIcons::oxygen, AvailableColors::green},
+    DefaultType{u"Altro", DivingIcons::other, AvailableColors::gray},
+};
 
 const QString loadingFailed = u"Error loading types: "_s;
 const QString savingFailed = u"Error saving types: "_s;
@@ -92,22 +120,18 @@ QList<EquipmentTypeModel> EquipmentTypeViewModel::filteredTypes() const
 {
     const TextSearch search(m_searchText);
     QList<EquipmentTypeModel> filtered;
-    std::copy_if(m_types.begin(), m_types.end(), std::back_inserter(filtered),
-                 [&search](const EquipmentTypeModel& type) { return type.isActive && search.foundIn(type.name); });
-    const auto byCodePoint = [](const EquipmentTypeModel& a, const EquipmentTypeModel& b) {
-        const auto left = a.name.toUcs4();
-        const auto right = b.name.toUcs4();
-        return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end());
-    };
-    std::stable_sort(filtered.begin(), filtered.end(), byCodePoint);
+    std::ranges::copy_if(m_types, std::back_inserter(filtered), [&search](const EquipmentTypeModel& type) {
+        return type.isActive && search.foundIn(type.name);
+    });
+    const auto codePoints = [](const EquipmentTypeModel& type) { return type.name.toUcs4(); };
+    std::ranges::stable_sort(filtered, {}, codePoints);
     return filtered;
 }
 
 std::optional<EquipmentTypeModel> EquipmentTypeViewModel::getTypeByName(const QString& name) const
 {
-    const auto found = std::find_if(m_types.begin(), m_types.end(), [&name](const EquipmentTypeModel& type) {
-        return type.isActive && type.name == name;
-    });
+    const auto found = std::ranges::find_if(
+        m_types, [&name](const EquipmentTypeModel& type) { return type.isActive && type.name == name; });
     return found == m_types.end() ? std::nullopt : std::optional(*found);
 }
 
@@ -145,7 +169,11 @@ void EquipmentTypeViewModel::deleteType(const EquipmentTypeModel& type)
 
 QList<EquipmentTypeModel> EquipmentTypeViewModel::getDefaultTypes() const
 {
-    return defaultTypes(m_ids);
+    QList<EquipmentTypeModel> types;
+    for (const DefaultType& row : standardTypes)
+        types.append({m_ids.next(), row.name.toString(), rawValue(row.icon), caseName(row.color),
+                      row.serviceIntervalDays, true});
+    return types;
 }
 
 void EquipmentTypeViewModel::resetToDefaults()
@@ -175,8 +203,7 @@ void EquipmentTypeViewModel::storeIconVersion()
 
 qsizetype EquipmentTypeViewModel::indexOf(const QUuid& id) const
 {
-    const auto found =
-        std::find_if(m_types.begin(), m_types.end(), [&id](const EquipmentTypeModel& type) { return type.id == id; });
+    const auto found = std::ranges::find(m_types, id, &EquipmentTypeModel::id);
     return found == m_types.end() ? -1 : found - m_types.begin();
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Console.h"
-#include "EquipmentType.h"
+#include "Equipment.h"
 #include "EquipmentTypeModel.h"
 #include "IdGenerator.h"
 #include "Literals.h"

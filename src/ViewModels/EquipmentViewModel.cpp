@@ -90,8 +90,7 @@ void EquipmentViewModel::updateMaintenance(const QUuid& to, const Maintenance& m
     if (!item)
         return;
     auto& history = item->maintenanceHistory;
-    const auto record =
-        std::find_if(history.begin(), history.end(), [&](const Maintenance& m) { return m.id == maintenance.id; });
+    const auto record = std::ranges::find(history, maintenance.id, &Maintenance::id);
     if (record == history.end())
         return;
     *record = maintenance;
@@ -107,7 +106,7 @@ void EquipmentViewModel::deleteMaintenance(const QUuid& from, const QUuid& maint
     auto& history = item->maintenanceHistory;
     // By value: the argument may be the id of the very record that is moved over.
     const auto hasId = [maintenanceId](const Maintenance& m) { return m.id == maintenanceId; };
-    if (const auto record = std::find_if(history.cbegin(), history.cend(), hasId); record != history.cend())
+    if (const auto record = std::ranges::find_if(std::as_const(history), hasId); record != history.cend())
         deleteDocuments(*record);
     history.removeIf(hasId);
     recomputeServiceDates(*item);
@@ -162,10 +161,9 @@ QList<Equipment> EquipmentViewModel::overdueEquipment() const
 {
     const Instant now = m_clock.now();
     QList<Equipment> overdue;
-    for (const Equipment& item : m_equipment) {
-        if (isDueSoon(item, item.daysUntilNextService(now, m_calendar)))
-            overdue.append(item);
-    }
+    std::ranges::copy_if(m_equipment, std::back_inserter(overdue), [&](const Equipment& item) {
+        return isDueSoon(item, item.daysUntilNextService(now, m_calendar));
+    });
     return overdue;
 }
 
@@ -181,16 +179,14 @@ void EquipmentViewModel::refreshDates()
 
 Equipment* EquipmentViewModel::find(const QUuid& id)
 {
-    const auto found =
-        std::find_if(m_equipment.cbegin(), m_equipment.cend(), [&id](const Equipment& item) { return item.id == id; });
+    const auto found = std::ranges::find(std::as_const(m_equipment), id, &Equipment::id);
     return found == m_equipment.cend() ? nullptr : &m_equipment[found - m_equipment.cbegin()];
 }
 
 void EquipmentViewModel::recomputeServiceDates(Equipment& item)
 {
     const auto& history = item.maintenanceHistory;
-    const auto latest = std::max_element(history.cbegin(), history.cend(),
-                                         [](const Maintenance& a, const Maintenance& b) { return a.date < b.date; });
+    const auto latest = std::ranges::max_element(history, {}, &Maintenance::date);
     if (latest == history.cend())
         return;
     item.lastServiceDate = latest->date;

@@ -57,8 +57,7 @@ constexpr std::array successors{
 
 std::optional<QString> successorOf(const QString& icon)
 {
-    const auto found =
-        std::find_if(successors.begin(), successors.end(), [&icon](const Successor& row) { return row.old == icon; });
+    const auto found = std::ranges::find(successors, icon, &Successor::old);
     return found == successors.end() ? std::nullopt : std::optional(found->current.toString());
 }
 
@@ -71,9 +70,7 @@ QString migrated(const EquipmentTypeModel& type, const QList<EquipmentTypeModel>
                  const SymbolLibrary& symbols)
 {
     QString icon = successorOf(type.icon).value_or(type.icon);
-    const auto standard = std::find_if(defaults.begin(), defaults.end(), [&type](const EquipmentTypeModel& candidate) {
-        return candidate.name == type.name;
-    });
+    const auto standard = std::ranges::find(defaults, type.name, &EquipmentTypeModel::name);
     if (standard != defaults.end() && isOwnPicture(standard->icon))
         icon = standard->icon;
     if (!isOwnPicture(icon) && !symbols.contains(icon))

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "EquipmentType.h"
+#include "Equipment.h"
 #include "Literals.h"
-#include "MaintenanceType.h"
+#include "Maintenance.h"
 #include "TestRunner.h"
 
 #include <QTest>

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Literals.h"
+#include "RecordJson.h"
 #include "TestRunner.h"
-#include "UpdateCheckError.h"
-#include "UpdateJson.h"
 
 #include <QSet>
 #include <QTest>
@@ -72,17 +71,6 @@ private Q_SLOTS:
         QVERIFY(!decodeUpdateInfo("{}"));
         const auto decoded = decodeUpdateInfo(R"({"version":"1","build":1,"downloadURL":"a b"})");
         QCOMPARE(decoded.error().description(), u".downloadURL: expected an address"_s);
-    }
-
-    void errorsHaveDescriptions()
-    {
-        using Case = UpdateCheckError::Case;
-        QCOMPARE(UpdateCheckError{Case::network}.errorDescription(),
-                 u"Impossibile contattare il sito. Controlla la connessione."_s);
-        QCOMPARE(UpdateCheckError{Case::invalidResponse}.errorDescription(),
-                 u"Il server non ha risposto correttamente."_s);
-        QCOMPARE(UpdateCheckError{Case::invalidManifest}.errorDescription(),
-                 u"Il file di aggiornamento sul sito non è valido."_s);
     }
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Literals.h"
+#include "RecordJson.h"
 #include "TestRunner.h"
-#include "UpdateJson.h"
 
 #include <QTest>
 #include <limits>

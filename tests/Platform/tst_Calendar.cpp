@@ -159,6 +159,40 @@ private Q_SLOTS:
         QVERIFY(!rome.addMonths(noon(9999, 12, 31), 1));
     }
 
+    void localTimesAreTheZones_data()
+    {
+        QTest::addColumn<QByteArray>("id");
+        for (const char* id : {"Europe/Rome", "America/New_York", "America/Sao_Paulo", "Pacific/Apia", "Asia/Kathmandu",
+                               "Africa/Casablanca", "Australia/Lord_Howe", "UTC", "UTC+05:30"})
+            QTest::newRow(id) << QByteArray(id);
+    }
+
+    void localTimesAreTheZones()
+    {
+        QFETCH(QByteArray, id);
+        const QTimeZone zone(id);
+        const Calendar calendar(zone);
+        QCOMPARE(calendar.zone(), zone);
+        const auto check = [&](Instant instant) {
+            const QDateTime local = calendar.local(instant);
+            const Instant back = calendar.instant(local.date(), local.time()).value();
+            QVERIFY(back <= instant); // the first of two occurrences
+            const QDateTime again = calendar.local(back);
+            QCOMPARE(again.date(), local.date());
+            QCOMPARE(again.time(), local.time());
+        };
+        for (Instant day = at(u"1850-01-01T00:00:00Z"_s); day < at(u"2150-01-01T00:00:00Z"_s);
+             day += std::chrono::hours{24 * 30 + 5})
+            check(day);
+        // To the millisecond at the changes themselves.
+        for (const auto& change : zone.transitions(QDateTime(QDate(1960, 1, 1), QTime(0, 0), Qt::UTC),
+                                                   QDateTime(QDate(2036, 1, 1), QTime(0, 0), Qt::UTC))) {
+            const Instant instant{std::chrono::milliseconds{change.atUtc.toMSecsSinceEpoch()}};
+            check(instant);
+            check(instant - std::chrono::milliseconds{1});
+        }
+    }
+
     void hugeArgumentsGiveNothing()
     {
         const Calendar rome = in(u"Europe/Rome"_s);
@@ -187,6 +221,10 @@ private Q_SLOTS:
         qputenv("TZ", "Europe/Rome");
         QCOMPARE(calendar.local(noon).time(), QTime(14, 0));
         QCOMPARE(calendar.zone().id(), QByteArray("Europe/Rome"));
+        qputenv("TZ", "Nowhere/Land");
+        QCOMPARE(calendar.local(noon).time(), QTime(12, 0));
+        qunsetenv("TZ");
+        QVERIFY(calendar.zone().isValid());
         qputenv("TZ", before);
     }
 
@@ -194,6 +232,7 @@ private Q_SLOTS:
     {
         const Instant noon = at(u"2026-06-15T12:00:00Z"_s);
         QCOMPARE(Calendar(QTimeZone()).local(noon).time(), QTime(12, 0));
+        QVERIFY(Calendar(QTimeZone()).zone().isValid());
     }
 };
 

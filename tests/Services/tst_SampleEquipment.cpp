@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "Builders.h"
 #include "Literals.h"
-#include "SampleEquipment.h"
+#include "TemporaryRegister.h"
 #include "TestRunner.h"
 
 #include <QTest>
@@ -14,8 +13,10 @@ namespace {
 
 QList<Equipment> samplesOf(const char* now, const char* zone = "Europe/Rome")
 {
-    test::SequentialIds ids;
-    return sampleEquipment(at(now), Calendar(QTimeZone(zone)), ids);
+    test::TemporaryRegister files;
+    files.clock.set(at(now));
+    files.calendar = Calendar(QTimeZone(zone));
+    return files.storageManager().loadEquipment();
 }
 
 } // namespace
@@ -27,48 +28,35 @@ class tst_SampleEquipment : public test::TestCase
 private Q_SLOTS:
     void threeItems()
     {
-        Equipment regulator;
-        regulator.id = test::SequentialIds::at(1);
-        regulator.name = u"Erogatore Apeks XTX50"_s;
-        regulator.type = EquipmentType::regulator;
-        regulator.brand = u"Apeks"_s;
-        regulator.model = u"XTX50"_s;
-        regulator.serialNumber = u"AP123456"_s;
-        regulator.purchaseDate = at("2024-06-15T10:00:00.250Z");
-        regulator.lastServiceDate = at("2025-06-15T10:00:00.250Z");
-        regulator.nextServiceDate = at("2027-06-15T10:00:00.250Z");
-        regulator.notes = u"Ottimo erogatore per acque fredde. Utilizzato per immersioni in Italia."_s;
-
-        Equipment bcd;
-        bcd.id = test::SequentialIds::at(2);
-        bcd.name = u"GAV Scubapro Hydros"_s;
-        bcd.type = EquipmentType::bcd;
-        bcd.brand = u"Scubapro"_s;
-        bcd.model = u"Hydros Pro"_s;
-        bcd.serialNumber = u"SP789012"_s;
-        bcd.purchaseDate = at("2025-06-15T10:00:00.250Z");
-        bcd.lastServiceDate = at("2025-12-15T11:00:00.250Z"); // noon on the wall, then as now
-        bcd.nextServiceDate = at("2026-07-15T10:00:00.250Z");
-        bcd.notes = u"GAV leggero e confortevole. Perfetto per viaggi."_s;
-
-        Equipment computer;
-        computer.id = test::SequentialIds::at(3);
-        computer.name = u"Computer Suunto EON Core"_s;
-        computer.type = EquipmentType::computer;
-        computer.brand = u"Suunto"_s;
-        computer.model = u"EON Core"_s;
-        computer.serialNumber = u"SU456789"_s;
-        computer.purchaseDate = at("2025-06-15T10:00:00.250Z");
-        computer.lastServiceDate = at("2026-05-15T10:00:00.250Z");
-        computer.nextServiceDate = at("2026-06-30T10:00:00.250Z");
-        computer.notes = u"Computer subacqueo con display a colori."_s;
-
         const QList<Equipment> samples = samplesOf("2026-06-15T10:00:00.250Z");
         QCOMPARE(samples.size(), 3);
-        QCOMPARE(samples.at(0), regulator);
-        QCOMPARE(samples.at(1), bcd);
-        QCOMPARE(samples.at(2), computer);
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(samples.at(i).id, test::SequentialIds::at(i + 1));
+
+        const Equipment& regulator = samples.at(0);
+        QCOMPARE(regulator.name, u"Erogatore Apeks XTX50"_s);
+        QCOMPARE(regulator.displayTypeName(), u"Erogatore"_s);
+        QCOMPARE(regulator.purchaseDate, at("2024-06-15T10:00:00.250Z"));
+        QCOMPARE(regulator.lastServiceDate, at("2025-06-15T10:00:00.250Z"));
+        QCOMPARE(regulator.nextServiceDate, at("2027-06-15T10:00:00.250Z"));
+
+        const Equipment& bcd = samples.at(1);
+        QCOMPARE(bcd.name, u"GAV Scubapro Hydros"_s);
+        QCOMPARE(bcd.displayTypeName(), u"GAV"_s);
+        QCOMPARE(bcd.purchaseDate, at("2025-06-15T10:00:00.250Z"));
+        QCOMPARE(bcd.lastServiceDate, at("2025-12-15T11:00:00.250Z")); // noon on the wall, then as now
+        QCOMPARE(bcd.nextServiceDate, at("2026-07-15T10:00:00.250Z"));
+
+        const Equipment& computer = samples.at(2);
+        QCOMPARE(computer.name, u"Computer Suunto EON Core"_s);
+        QCOMPARE(computer.displayTypeName(), u"Computer Subacqueo"_s);
+        QCOMPARE(computer.purchaseDate, at("2025-06-15T10:00:00.250Z"));
+        QCOMPARE(computer.lastServiceDate, at("2026-05-15T10:00:00.250Z"));
+        QCOMPARE(computer.nextServiceDate, at("2026-06-30T10:00:00.250Z"));
+
         for (const Equipment& sample : samples) {
+            QVERIFY(sample.name.contains(sample.brand));
+            QVERIFY(!sample.model.isEmpty() && !sample.serialNumber.isEmpty() && !sample.notes.isEmpty());
             QVERIFY(sample.isActive);
             QVERIFY(sample.maintenanceHistory.isEmpty());
             QVERIFY(!sample.customTypeName);

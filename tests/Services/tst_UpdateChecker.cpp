@@ -244,6 +244,16 @@ private Q_SLOTS:
         running.package = test::release(u"1.2.0"_s, u"43"_s);
         QVERIFY(running.after(200, manifest("1.2.0", 43)) == current);
     }
+
+    void errorsHaveDescriptions()
+    {
+        QCOMPARE(UpdateCheckError{Case::network}.errorDescription(),
+                 u"Impossibile contattare il sito. Controlla la connessione."_s);
+        QCOMPARE(UpdateCheckError{Case::invalidResponse}.errorDescription(),
+                 u"Il server non ha risposto correttamente."_s);
+        QCOMPARE(UpdateCheckError{Case::invalidManifest}.errorDescription(),
+                 u"Il file di aggiornamento sul sito non è valido."_s);
+    }
 };
 
 ABISSORA_TEST(tst_UpdateChecker);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "HttpClientAnswer.h"
+#include "Answer.h"
+#include "HttpClient.h"
 
 #include <QList>
 #include <memory>
@@ -16,13 +17,14 @@ public:
     Q_DISABLE_COPY_MOVE(ScriptedHttpClient)
     ~ScriptedHttpClient() override
     {
+        const HttpResult cancelled(tl::unexpect, HttpError::cancelled());
         while (!m_open.isEmpty())
-            m_open.takeFirst()->cancel();
+            answer(cancelled);
     }
 
     [[nodiscard]] QCoro::Task<HttpResult> get(QUrl url) override
     {
-        const auto pending = std::make_shared<HttpClientAnswer>();
+        const auto pending = std::make_shared<Answer<HttpResult>>();
         m_requested.append(url);
         m_open.append(pending);
         co_return co_await pending->given();
@@ -37,7 +39,7 @@ public:
 
 private:
     QList<QUrl> m_requested;
-    QList<std::shared_ptr<HttpClientAnswer>> m_open;
+    QList<std::shared_ptr<Answer<HttpResult>>> m_open;
 };
 
 } // namespace abissora::test

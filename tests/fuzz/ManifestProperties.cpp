@@ -2,8 +2,8 @@
 #include "ManifestProperties.h"
 
 #include "Literals.h"
+#include "RecordJson.h"
 #include "UpdateChecker.h"
-#include "UpdateJson.h"
 
 namespace abissora::test {
 

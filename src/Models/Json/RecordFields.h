@@ -3,7 +3,7 @@
 
 #include "Equipment.h"
 #include "EquipmentTypeModel.h"
-#include "UpdateManifest.h"
+#include "UpdateInfo.h"
 
 #include <string_view>
 #include <tuple>

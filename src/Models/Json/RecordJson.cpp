@@ -21,13 +21,13 @@ tl::expected<QByteArray, JsonError> encodeRecords(const QList<Record>& records)
     }
 }
 
-template <typename Record>
-tl::expected<QList<Record>, JsonError> decodeRecords(const QByteArray& text)
+template <typename Value>
+tl::expected<Value, JsonError> decode(const QByteArray& text)
 {
-    QList<Record> records;
-    if (auto error = json::readInto(&records, json::SlotOf<QList<Record>>::slot, text))
+    Value value;
+    if (auto error = json::readInto(&value, json::SlotOf<Value>::slot, text))
         return tl::unexpected(std::move(*error));
-    return records;
+    return value;
 }
 
 } // namespace
@@ -49,12 +49,36 @@ tl::expected<QByteArray, JsonError> encode(const QList<EquipmentTypeModel>& type
 
 tl::expected<QList<Equipment>, JsonError> decodeEquipment(const QByteArray& json)
 {
-    return decodeRecords<Equipment>(json);
+    return decode<QList<Equipment>>(json);
 }
 
 tl::expected<QList<EquipmentTypeModel>, JsonError> decodeTypes(const QByteArray& json)
 {
-    return decodeRecords<EquipmentTypeModel>(json);
+    return decode<QList<EquipmentTypeModel>>(json);
+}
+
+tl::expected<UpdateManifest, JsonError> decodeManifest(const QByteArray& json)
+{
+    return decode<UpdateManifest>(json);
+}
+
+QByteArray encode(const UpdateInfo& info)
+{
+    json::RecordWriter writer;
+    writer.write(UpdateManifest{info.version, info.build,
+                                QString::fromLatin1(info.downloadURL.toEncoded(QUrl::FullyEncoded)),
+                                info.releaseNotes});
+    return QByteArray::fromStdString(writer.text());
+}
+
+tl::expected<UpdateInfo, JsonError> decodeUpdateInfo(const QByteArray& json)
+{
+    const auto manifest = decodeManifest(json);
+    if (!manifest)
+        return tl::unexpected(manifest.error());
+    if (auto info = UpdateInfo::from(*manifest))
+        return std::move(*info);
+    return tl::unexpected(JsonError{u".downloadURL"_s, u"expected an address"_s});
 }
 
 } // namespace abissora

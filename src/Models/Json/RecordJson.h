@@ -3,12 +3,22 @@
 
 #include "Equipment.h"
 #include "EquipmentTypeModel.h"
-#include "JsonError.h"
+#include "UpdateInfo.h"
 
 #include <QByteArray>
 #include <tl/expected.hpp>
 
 namespace abissora {
+
+/// Where in a document and why records could not be written or read.
+struct JsonError
+{
+    QString path; ///< "[2].maintenanceHistory[0].cost"; empty for the document as a whole
+    QString message;
+
+    [[nodiscard]] QString description() const;
+    friend bool operator==(const JsonError&, const JsonError&) = default;
+};
 
 /// The stored form: a JSON array of objects, UTF-8, members in declaration order, absent optional members left out.
 /// Identifiers are canonical UUIDs (upper case when written), dates ISO 8601 in UTC with whole seconds and "Z" (the
@@ -22,5 +32,13 @@ namespace abissora {
 
 [[nodiscard]] tl::expected<QList<Equipment>, JsonError> decodeEquipment(const QByteArray& json);
 [[nodiscard]] tl::expected<QList<EquipmentTypeModel>, JsonError> decodeTypes(const QByteArray& json);
+
+/// One JSON object, read as strictly: the build is a whole number of 64 bits, only the release notes may be missing or
+/// null.
+[[nodiscard]] tl::expected<UpdateManifest, JsonError> decodeManifest(const QByteArray& json);
+
+/// The manifest's form: the same members under the same names.
+[[nodiscard]] QByteArray encode(const UpdateInfo& info);
+[[nodiscard]] tl::expected<UpdateInfo, JsonError> decodeUpdateInfo(const QByteArray& json);
 
 } // namespace abissora

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "JsonError.h"
 #include "RecordFields.h"
+#include "RecordJson.h"
 
 #include <QList>
 #include <exception>

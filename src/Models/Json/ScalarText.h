@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Instant.h"
+#include "Clock.h"
 
 #include <QUuid>
 #include <optional>

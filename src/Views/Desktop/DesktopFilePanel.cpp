@@ -59,8 +59,7 @@ private:
     [[nodiscard]] bool isWanted(const QString& path) const
     {
         const QMimeType type = QMimeDatabase().mimeTypeForFile(path);
-        return std::any_of(m_contentTypes.begin(), m_contentTypes.end(),
-                           [&type](const QString& wanted) { return type.inherits(wanted); });
+        return std::ranges::any_of(m_contentTypes, [&type](const QString& wanted) { return type.inherits(wanted); });
     }
 
     void refuse(const QString& name)
