@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Calendar.h"
 #include "Equipment.h"
 #include "EquipmentTypeModel.h"
 #include "Fakes.h"
 #include "Literals.h"
 
 #include <QDateTime>
+#include <QTimeZone>
 
 // Short ways to write down records. Every record has all its required members set, each to a value of its own.
 namespace abissora::test {
@@ -59,6 +61,33 @@ inline Equipment equipmentWith(int id, const QList<Maintenance>& history)
     Equipment item = equipment(id);
     item.maintenanceHistory = history;
     return item;
+}
+
+/// One that says only what a list shows.
+inline Equipment makeItem(int id, const QString& name, EquipmentType type, Instant nextServiceDate)
+{
+    Equipment item;
+    item.id = SequentialIds::at(10'000 + id);
+    item.name = name;
+    item.type = type;
+    item.brand = u"Marca%1"_s.arg(id);
+    item.model = u"Modello%1"_s.arg(id);
+    item.nextServiceDate = nextServiceDate;
+    return item;
+}
+
+/// A record done so many days before the fixed clock's time.
+inline Maintenance makeRecord(int id, int daysAgo, const QString& description)
+{
+    const Calendar calendar{QTimeZone("Europe/Rome")};
+    Maintenance record;
+    record.id = SequentialIds::at(20'000 + id);
+    record.date = calendar.addDays(FixedClock().now(), -daysAgo).value();
+    record.nextServiceDate = calendar.addDays(FixedClock().now(), 365 - daysAgo).value();
+    record.description = description;
+    record.performedBy = u"Blu Service"_s;
+    record.isCompleted = true;
+    return record;
 }
 
 inline EquipmentTypeModel equipmentType(int id, const QString& name)

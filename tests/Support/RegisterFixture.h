@@ -6,55 +6,22 @@
 #include "EquipmentDetail.h"
 #include "EquipmentTypeViewModel.h"
 #include "EquipmentViewModel.h"
-#include "Fakes.h"
-#include "Literals.h"
-#include "MaintenanceDocumentStore.h"
-#include "RecordJson.h"
 #include "ScriptedHttpClient.h"
 #include "SettingsViewModel.h"
+#include "TemporaryRegister.h"
 #include "UpdateCheckerViewModel.h"
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 namespace abissora::test {
 
-inline Equipment makeItem(int id, const QString& name, EquipmentType type, Instant nextServiceDate)
-{
-    Equipment item;
-    item.id = SequentialIds::at(10'000 + id);
-    item.name = name;
-    item.type = type;
-    item.brand = u"Marca%1"_s.arg(id);
-    item.model = u"Modello%1"_s.arg(id);
-    item.nextServiceDate = nextServiceDate;
-    return item;
-}
-
-/// A record done so many days before the fixed clock's time.
-inline Maintenance makeRecord(int id, int daysAgo, const QString& description)
-{
-    const Calendar calendar{QTimeZone("Europe/Rome")};
-    Maintenance record;
-    record.id = SequentialIds::at(20'000 + id);
-    record.date = calendar.addDays(FixedClock().now(), -daysAgo).value();
-    record.nextServiceDate = calendar.addDays(FixedClock().now(), 365 - daysAgo).value();
-    record.description = description;
-    record.performedBy = u"Blu Service"_s;
-    record.isCompleted = true;
-    return record;
-}
-
-/// The state objects over a register in a temporary folder, at the fixed clock's time, in Italian and the zone of Rome.
-class RegisterFixture
+/// The state objects over a temporary register, in Italian.
+class RegisterFixture : public TemporaryRegister
 {
 public:
     explicit RegisterFixture(const std::optional<QList<Equipment>>& stored = std::nullopt)
-        : directories(folder.path(), true)
-        , preferences(directories.preferences(), directories.backups(), clock)
-        , documents(directories.maintenanceDocuments(), panel, ids, console)
-        , equipment(StorageManager(seeded(stored), console, clock, calendar, ids), documents, console, clock, calendar)
+        : equipment(storageManager(stored), documents, console, clock, calendar)
         , settings(preferences, console)
         , types(preferences, symbols, console, ids)
     {
@@ -100,13 +67,7 @@ public:
         return std::make_unique<MaintenanceDraft>(equipment, types, documents, ids, almanac, itemId, record);
     }
 
-    QTemporaryDir folder;
-    FixedClock clock;
-    Calendar calendar{QTimeZone("Europe/Rome")};
     Almanac almanac{clock, calendar, DateFormat(QLocale(QLocale::Italian, QLocale::Italy), calendar)};
-    SequentialIds ids;
-    RecordingConsole console;
-    ScriptedFilePanel panel;
     RecordingOpener opener;
     FakeSymbolLibrary symbols;
     FakePackageInformation package = release(u"1.2.0"_s, u"42"_s);
@@ -115,21 +76,11 @@ public:
                     QUrl(u"https://abissora.example/version.json"_s)};
     ScriptedHttpClient http;
     UpdateChecker checker{http, info, product};
-    ApplicationDirectories directories;
-    PreferencesStore preferences;
-    MaintenanceDocumentStore documents;
+    ApplicationDirectories directories{folder.path(), true};
     EquipmentViewModel equipment;
     SettingsViewModel settings;
     EquipmentTypeViewModel types;
     UpdateCheckerViewModel updates{checker, clock};
-
-private:
-    PreferencesStore& seeded(const std::optional<QList<Equipment>>& stored)
-    {
-        if (stored && !preferences.setData(StorageManager::equipmentKey, encode(*stored).value()))
-            qFatal("the temporary folder cannot be written");
-        return preferences;
-    }
 };
 
 } // namespace abissora::test

@@ -4,6 +4,7 @@
 #include "Builders.h"
 #include "Literals.h"
 #include "MaintenanceDocumentStore.h"
+#include "RecordJson.h"
 #include "StorageManager.h"
 
 #include <QDir>
@@ -27,7 +28,13 @@ struct TemporaryRegister
     PreferencesStore preferences{folder.filePath(u"preferences"_s), folder.filePath(u"backups"_s), clock};
     MaintenanceDocumentStore documents{folder.filePath(u"MaintenanceDocuments"_s), panel, ids, console};
 
-    [[nodiscard]] StorageManager storageManager() { return {preferences, console, clock, calendar, ids}; }
+    /// Over what is stored, or over `stored`, which takes its place.
+    [[nodiscard]] StorageManager storageManager(const std::optional<QList<Equipment>>& stored = std::nullopt)
+    {
+        if (stored && !preferences.setData(StorageManager::equipmentKey, encode(*stored).value()))
+            qFatal("the temporary folder cannot be written");
+        return {preferences, console, clock, calendar, ids};
+    }
 
     [[nodiscard]] QString path(const QString& name) const { return folder.filePath(name); }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "EquipmentViewModel.h"
-#include "RecordJson.h"
 #include "TemporaryRegister.h"
 
 namespace abissora::test {
@@ -11,7 +10,7 @@ namespace abissora::test {
 struct Catalogue : TemporaryRegister
 {
     explicit Catalogue(const QList<Equipment>& stored)
-        : viewModel(seeded(stored), documents, console, clock, calendar)
+        : viewModel(storageManager(stored), documents, console, clock, calendar)
     {
         console.clear();
     }
@@ -22,13 +21,6 @@ struct Catalogue : TemporaryRegister
     }
 
     EquipmentViewModel viewModel;
-
-private:
-    StorageManager seeded(const QList<Equipment>& stored)
-    {
-        write(registerFile, encode(stored).value());
-        return storageManager();
-    }
 };
 
 } // namespace abissora::test

@@ -19,8 +19,7 @@ struct Followed : test::TemporaryRegister
 {
     explicit Followed(const QList<Equipment>& stored)
     {
-        write(test::registerFile, encode(stored).value());
-        viewModel.emplace(storageManager(), documents, timeline, clock, calendar);
+        viewModel.emplace(storageManager(stored), documents, timeline, clock, calendar);
         timeline.follow(*viewModel);
         timeline.take();
     }
