@@ -41,7 +41,6 @@ EmptyState::EmptyState(QWidget* parent)
     setAccessibleRole(*this, QAccessible::Grouping);
     m_text->hide();
     m_button->hide();
-    setFocusProxy(m_button);
     setLayout(inColumn(
         metrics::spaceM,
         {Stretch(), {m_icon, 0, Qt::AlignHCenter}, m_title, m_text, {m_button, 0, Qt::AlignHCenter}, Stretch()},
@@ -77,6 +76,7 @@ void EmptyState::setButtonText(const QString& text)
 {
     m_button->setText(text);
     m_button->setVisible(!text.isEmpty());
+    setFocusProxy(text.isEmpty() ? nullptr : m_button); // a hidden one would swallow the focus
 }
 
 } // namespace abissora

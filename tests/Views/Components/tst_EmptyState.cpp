@@ -5,7 +5,9 @@
 #include "EmptyState.h"
 #include "Literals.h"
 
+#include <QLineEdit>
 #include <QSignalSpy>
+#include <QVBoxLayout>
 
 using namespace abissora;
 
@@ -18,6 +20,7 @@ private Q_SLOTS:
     void theButtonIsPressed();
     void itIsNamedAfterItsTitle();
     void longTextsWrap();
+    void withoutItsButtonTabPassesBy();
 };
 
 void tst_EmptyState::theButtonIsThereOnceItHasAText()
@@ -56,6 +59,25 @@ void tst_EmptyState::longTextsWrap()
     state.resize(300, 400);
     test::activate(state);
     QCOMPARE(test::clippedTexts(state), QStringList());
+}
+
+void tst_EmptyState::withoutItsButtonTabPassesBy()
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* before = new QLineEdit;
+    auto* state = new EmptyState;
+    auto* after = new QLineEdit;
+    for (QWidget* widget : std::initializer_list<QWidget*>{before, state, after})
+        layout->addWidget(widget);
+    test::activate(window);
+    before->setFocus();
+    QTest::keyClick(before, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), after);
+    state->setButtonText(u"Cancella filtri"_s);
+    before->setFocus();
+    QTest::keyClick(before, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), state->button());
 }
 
 ABISSORA_TEST(tst_EmptyState);
