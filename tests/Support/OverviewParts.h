@@ -75,6 +75,13 @@ inline QStringList rowTexts(const DueList& list)
     return texts;
 }
 
+/// Of a row of its own.
+inline int dueRowHeight()
+{
+    QWidget parent;
+    return DueRow(&parent).sizeHint().height();
+}
+
 /// So many active items, due one day after the other from today on.
 inline QList<Equipment> dueItems(const Calendar& calendar, Instant now, int count)
 {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "DueRow.h"
 
-#include "Accessibility.h"
 #include "Buttons.h"
 #include "IconViews.h"
 #include "Labels.h"
@@ -10,9 +9,7 @@
 #include "RegisterFigures.h"
 #include "SymbolIcon.h"
 
-#include <QFocusEvent>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 
 namespace abissora {
 
@@ -20,13 +17,6 @@ namespace {
 
 constexpr int tileSide = 38;
 constexpr int gap = metrics::spaceM + 2;
-constexpr int lineGap = 2;
-
-bool walks(int key)
-{
-    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown ||
-           key == Qt::Key_Home || key == Qt::Key_End;
-}
 
 } // namespace
 
@@ -38,7 +28,6 @@ DueRow::DueRow(QWidget* parent)
     , m_add(new PrimaryButton(u"Aggiungi Manutenzione"_s))
     , m_details(new PlainButton(u"Dettagli"_s))
 {
-    setAccessibleRole(*this, QAccessible::ListItem);
     m_tile->setObjectName(u"dueIcon"_s);
     m_name->setObjectName(u"dueName"_s);
     m_state->setObjectName(u"dueState"_s);
@@ -46,7 +35,7 @@ DueRow::DueRow(QWidget* parent)
     m_details->setObjectName(u"showDetails"_s);
 
     auto* texts = new QVBoxLayout;
-    texts->setSpacing(lineGap);
+    texts->setSpacing(metrics::spaceXS / 2);
     texts->addStretch();
     texts->addWidget(m_name);
     texts->addWidget(m_state);
@@ -58,7 +47,6 @@ DueRow::DueRow(QWidget* parent)
     layout->addLayout(texts, 1);
     for (QAbstractButton* button : {m_add, m_details}) {
         layout->addWidget(button);
-        button->installEventFilter(this);
         connect(button, &QAbstractButton::clicked, this, [this, button] { choose(*button); });
     }
 }
@@ -80,37 +68,6 @@ void DueRow::setItem(const RegisterSummary::DueItem& item, const TypeAppearance&
     setAccessibleName(m_name->text() + u", "_s + m_state->text());
     for (QAbstractButton* button : {m_add, m_details})
         button->setAccessibleDescription(item.equipment.name);
-}
-
-std::optional<DueRow::Part> DueRow::focusedPart() const
-{
-    const QWidget* const focused = window()->focusWidget();
-    if (focused == m_add)
-        return AddMaintenance;
-    if (focused == m_details)
-        return Details;
-    return std::nullopt;
-}
-
-int DueRow::rowHeight()
-{
-    const auto lineHeight = [](TextStyle style) { return QFontMetrics(abissora::font(style)).height(); };
-    const int texts = lineHeight(TextStyle::BodyMedium) + lineGap + lineHeight(TextStyle::Caption);
-    return std::max({tileSide, texts, controlHeight(QFontMetrics(abissora::font(TextStyle::Body)))}) +
-           2 * metrics::spaceM;
-}
-
-bool DueRow::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::FocusIn) {
-        Q_EMIT focused(static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason);
-    } else if (event->type() == QEvent::KeyPress) {
-        if (const int key = static_cast<QKeyEvent*>(event)->key(); walks(key)) {
-            Q_EMIT walked(key);
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 } // namespace abissora

@@ -3,6 +3,7 @@
 
 #include "Alert.h"
 #include "Buttons.h"
+#include "Cards.h"
 #include "EmptyState.h"
 #include "EquipmentTypeFormView.h"
 #include "Labels.h"
@@ -13,6 +14,7 @@
 #include "TypeManagement.h"
 
 #include <QHBoxLayout>
+#include <QScrollArea>
 #include <QStackedWidget>
 
 namespace abissora {
@@ -56,7 +58,10 @@ QWidget* EquipmentTypeManagementView::makeContent()
     m_count->setObjectName(u"typeCount"_s);
     m_reset->setObjectName(u"resetTypes"_s);
     m_list->setAccessibleName(u"Tipologie Attrezzatura"_s);
-    m_pages->addWidget(m_list);
+    auto* card = new Card;
+    card->content()->setContentsMargins(1, 1, 1, 1);
+    card->content()->addWidget(&m_list->area());
+    m_pages->addWidget(card);
     m_pages->addWidget(m_empty);
 
     auto* header = new QHBoxLayout;
@@ -99,7 +104,7 @@ void EquipmentTypeManagementView::redraw()
     const bool focusWasInTheList = m_list->isAncestorOf(focusWidget());
     m_list->setTypes(shown);
     m_empty->setButtonText(m_search->text().isEmpty() ? QString() : u"Cancella ricerca"_s);
-    m_pages->setCurrentWidget(shown.isEmpty() ? static_cast<QWidget*>(m_empty) : m_list);
+    m_pages->setCurrentIndex(shown.isEmpty() ? 1 : 0);
     if (shown.isEmpty() && focusWasInTheList)
         m_search->setFocus(Qt::OtherFocusReason);
 

@@ -1,58 +1,42 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Cards.h"
-#include "EquipmentTypeModel.h"
-
-class QScrollArea;
+#include "GridFocus.h"
+#include "RowList.h"
+#include "TypeRow.h"
 
 namespace abissora {
 
-class GridFocus;
-class TypeRow;
-
-/// The types below one another. The focus stays with its type when the types change, or near it when it is gone.
-///
-/// A row is made when it comes into sight for the first time, and then stays: there may be hundreds.
-class TypeList : public Card
+/// The types below one another, in a scroll area of their own.
+class TypeList : public RowList
 {
     Q_OBJECT
 
 public:
-    explicit TypeList(QWidget* parent = nullptr);
+    TypeList();
 
+    [[nodiscard]] QScrollArea& area() const { return m_area; }
+
+    /// The row with the focus comes in sight, wherever its type is now.
     void setTypes(const QList<EquipmentTypeModel>& types);
+
+    [[nodiscard]] QList<TypeRow*> rows() const { return rowsAs<TypeRow>(); }
 
 Q_SIGNALS:
     void editRequested(const abissora::EquipmentTypeModel& type);
     void deleteRequested(const abissora::EquipmentTypeModel& type);
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-    void changeEvent(QEvent* event) override;
-
 private:
-    struct Place
-    {
-        qsizetype row = -1;
-        qsizetype column = -1;
-    };
+    explicit TypeList(QScrollArea& area);
 
-    [[nodiscard]] Place focused() const;
-    void takeFocus(Place place);
-    void measure();
-    void makeRowsInSight();
-    void makeRow(qsizetype index);
-    void placeRow(qsizetype index);
-    void handOverToKeyboard();
+    QWidget* makeRow() override;
+    void fillRow(QWidget& row, qsizetype index) override;
+    [[nodiscard]] bool isOfUsualHeight(const QWidget& ruler, qsizetype index) const override;
+    void rowsChanged() override;
 
-    QScrollArea* m_scroll;
-    QWidget* m_canvas;
-    TypeRow* m_ruler; ///< tells how high rows are; never shown
-    GridFocus* m_focus;
+    QScrollArea& m_area;
     QList<EquipmentTypeModel> m_types;
-    QList<int> m_tops;      ///< of every type's row and of the end
-    QList<TypeRow*> m_rows; ///< by index, null where none was made; those behind the types are hidden
+    GridFocus m_focus{GridFocus::TabStop::Row};
 };
 
 } // namespace abissora

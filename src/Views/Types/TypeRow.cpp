@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "TypeRow.h"
 
-#include "Accessibility.h"
 #include "Buttons.h"
 #include "IconViews.h"
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
-#include "Painting.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 
 namespace abissora {
 
@@ -30,7 +27,6 @@ TypeRow::TypeRow(QWidget* parent)
     , m_edit(new LookButton(ButtonLook::Link, u"Modifica"_s, u"pencil.circle.fill"_s))
     , m_delete(new LookButton(ButtonLook::DestructiveLink, u"Elimina"_s, u"trash.circle.fill"_s))
 {
-    setAccessibleRole(*this, QAccessible::ListItem);
     m_name->setObjectName(u"typeName"_s);
     m_interval->setObjectName(u"typeInterval"_s);
     m_edit->setObjectName(u"editType"_s);
@@ -63,12 +59,6 @@ void TypeRow::setType(const EquipmentTypeModel& type)
         button->setAccessibleDescription(type.name);
 }
 
-void TypeRow::setFirst(bool first)
-{
-    m_first = first;
-    update();
-}
-
 bool TypeRow::showsInOneLine(const QString& name, int width) const
 {
     const QMargins margins = layout()->contentsMargins();
@@ -78,15 +68,7 @@ bool TypeRow::showsInOneLine(const QString& name, int width) const
     return !name.contains(u'\n') && m_name->fontMetrics().horizontalAdvance(name) < room;
 }
 
-void TypeRow::paintEvent(QPaintEvent*)
-{
-    if (m_first)
-        return;
-    QPainter painter(this);
-    drawHorizontalHairline(painter, 0, width(), 0, Tokens::of(palette()).divider);
-}
-
-GridFocus::Row TypeRow::buttons() const
+QList<QAbstractButton*> TypeRow::buttons() const
 {
     return {m_edit, m_delete};
 }

@@ -2,9 +2,10 @@
 #pragma once
 
 #include "EquipmentTypeModel.h"
-#include "GridFocus.h"
 
 #include <QWidget>
+
+class QAbstractButton;
 
 namespace abissora {
 
@@ -22,9 +23,7 @@ public:
 
     void setType(const EquipmentTypeModel& type);
     [[nodiscard]] const EquipmentTypeModel& type() const { return m_type; }
-    [[nodiscard]] GridFocus::Row buttons() const;
-    /// The first row has no line above it.
-    void setFirst(bool first);
+    [[nodiscard]] QList<QAbstractButton*> buttons() const;
 
     /// Whether a row of this width shows the name without breaking it; cheaper to ask than the height.
     [[nodiscard]] bool showsInOneLine(const QString& name, int width) const;
@@ -33,12 +32,8 @@ Q_SIGNALS:
     void editRequested();
     void deleteRequested();
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private:
     EquipmentTypeModel m_type;
-    bool m_first = false;
     IconTile* m_tile;
     WrapLabel* m_name;
     WrapLabel* m_interval;

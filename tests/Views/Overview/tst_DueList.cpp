@@ -99,7 +99,7 @@ private Q_SLOTS:
         for (const DueRow* row : list.rows()) {
             const int index = row->equipment().name.mid(9).toInt();
             QCOMPARE(row->accessibleName(), u"Articolo %1, Scaduto da %1 giorni"_s.arg(index));
-            QCOMPARE(row->y(), index * (DueRow::rowHeight() + 1) + 1);
+            QCOMPARE(row->y(), index * (dueRowHeight() + 1) + 1);
             QCOMPARE(row->width(), list.width());
             covered += row->geometry().adjusted(0, -1, 0, 1);
         }
@@ -201,7 +201,7 @@ private Q_SLOTS:
         f.equipment.deleteEquipment(f.equipment.equipment().at(2));
         settle();
         QCOMPARE(focusText(), u"Articolo 5/showDetails"_s);
-        QCOMPARE(rowWithFocus()->y(), 4 * (DueRow::rowHeight() + 1) + 1);
+        QCOMPARE(rowWithFocus()->y(), 4 * (dueRowHeight() + 1) + 1);
         QCOMPARE(rowTexts(s.dueList()).mid(2, 3),
                  QStringList({u"Articolo 3, Scaduto da 3 giorni"_s, u"Articolo 4, Scaduto da 4 giorni"_s,
                               u"Articolo 5, Scaduto da 5 giorni"_s}));
@@ -278,7 +278,8 @@ private Q_SLOTS:
         ShownOverview s(f, {770, 660});
         DueRow* const row = s.dueList().rows().first();
         QCOMPARE(row->accessibleName(), items.at(0).name + u", Scaduto da 0 giorni"_s);
-        QCOMPARE(row->height(), DueRow::rowHeight());
+        QCOMPARE(row->height(), dueRowHeight());
+        QCOMPARE(row->sizeHint().height(), dueRowHeight());
         QVERIFY(isInSight(*row->button(DueRow::Details), page(s.window)));
         QCOMPARE(page(s.window).horizontalScrollBar()->maximum(), 0);
     }

@@ -276,8 +276,8 @@ private Q_SLOTS:
         ShownOverview s(f);
         const ScaledText twice(2);
         settle();
-        QCOMPARE(s.dueList().rows().at(1)->height(), DueRow::rowHeight());
-        QCOMPARE(s.dueList().rows().at(1)->y(), DueRow::rowHeight() + 2);
+        QCOMPARE(s.dueList().rows().at(1)->height(), dueRowHeight());
+        QCOMPARE(s.dueList().rows().at(1)->y(), dueRowHeight() + 2);
         QVERIFY(s.dueList().rows().at(1)->geometry().bottom() < s.dueList().height());
     }
 };

@@ -9,7 +9,7 @@
 #include "Literals.h"
 #include "ScaledText.h"
 #include "ScreenFixture.h"
-#include "TypeRow.h"
+#include "TypeList.h"
 
 #include <QLineEdit>
 
@@ -50,11 +50,8 @@ struct OpenManagement : OpenSheet<EquipmentTypeManagementView>
 
     QList<TypeRow*> rows() const
     {
-        QList<TypeRow*> shown;
-        for (TypeRow* row : sheet.findChildren<TypeRow*>()) {
-            if (row->isVisible())
-                shown.append(row);
-        }
+        QList<TypeRow*> shown = sheet.findChild<TypeList*>()->rows();
+        shown.removeIf([](const TypeRow* row) { return !row->isVisible(); });
         return shown;
     }
 
