@@ -96,17 +96,4 @@ inline QList<Equipment> dueItems(int count)
     return dueItems(Calendar(QTimeZone("Europe/Rome")), FixedClock().now(), count);
 }
 
-/// A record of a service done now, which is due again in a year.
-inline Maintenance serviceNow(const RegisterFixture& f)
-{
-    Maintenance record;
-    record.id = SequentialIds::at(20'001);
-    record.date = f.clock.now();
-    record.nextServiceDate = f.inDays(365);
-    record.description = u"Revisione"_s;
-    record.performedBy = u"Blu Service"_s;
-    record.isCompleted = true;
-    return record;
-}
-
 } // namespace abissora::test

@@ -9,8 +9,8 @@
 #include "Gui.h"
 #include "MainWindow.h"
 #include "MaintenanceOverviewView.h"
+#include "RegisterFixture.h"
 #include "ScreenFactory.h"
-#include "ScreenFixture.h"
 #include "SettingsView.h"
 #include "SidebarView.h"
 #include "StatisticsView.h"
@@ -19,10 +19,10 @@
 namespace abissora::test {
 
 /// A register with every screen of the main window over it.
-class ShellFixture : public ScreenFixture, public ScreenFactory
+class ShellFixture : public RegisterFixture, public ScreenFactory
 {
 public:
-    using ScreenFixture::ScreenFixture;
+    using RegisterFixture::RegisterFixture;
 
     SidebarView* makeSidebar() override { return new SidebarView(equipment, types, console); }
     EquipmentListView* makeList() override { return new EquipmentListView(equipment, types, almanac, console, ids); }

@@ -15,7 +15,7 @@ namespace abissora::gallery {
 
 namespace {
 
-using Make = std::function<std::unique_ptr<QWidget>(test::ScreenFixture&)>;
+using Make = std::function<std::unique_ptr<QWidget>(test::RegisterFixture&)>;
 
 Scene scene(const QString& name, const QList<Equipment>& stored, const Make& make)
 {
@@ -29,9 +29,9 @@ Scene scene(const QString& name, const QList<Equipment>& stored, const Make& mak
 
 /// The detail screen of an item, in a pane's width.
 Scene detail(const QString& name, const Equipment& item, int height = 900,
-             const std::function<void(test::ScreenFixture&, Equipment&)>& prepare = {})
+             const std::function<void(test::RegisterFixture&, Equipment&)>& prepare = {})
 {
-    return scene(name, {item}, [=](test::ScreenFixture& f) {
+    return scene(name, {item}, [=](test::RegisterFixture& f) {
         Equipment shown = f.equipment.equipment().first();
         if (prepare) {
             prepare(f, shown);
@@ -91,7 +91,7 @@ Equipment longTexts()
     return item;
 }
 
-void longHistory(test::ScreenFixture& f, Equipment& item)
+void longHistory(test::RegisterFixture& f, Equipment& item)
 {
     const QList<Maintenance> two = item.maintenanceHistory;
     for (int i = 0; i < 6; ++i) {
@@ -118,26 +118,26 @@ QList<Scene> alertScenes()
 {
     return {
         scene(u"alert-delete-item"_s, items(),
-              [](test::ScreenFixture& f) {
+              [](test::RegisterFixture& f) {
                   auto view = std::make_unique<EquipmentDetailView>(f.detail(f.equipment.equipment().at(2)), f.opener);
                   view->confirmDeletion();
                   return alertOf(std::move(view));
               }),
         scene(u"alert-delete-record"_s, items(),
-              [](test::ScreenFixture& f) {
+              [](test::RegisterFixture& f) {
                   const Equipment item = f.equipment.equipment().at(2);
                   auto view = std::make_unique<EquipmentDetailView>(f.detail(item), f.opener);
                   view->confirmDeleteMaintenance(item.maintenanceHistory.last().id);
                   return alertOf(std::move(view));
               }),
         scene(u"alert-delete-from-list"_s, {longTexts()},
-              [](test::ScreenFixture& f) {
+              [](test::RegisterFixture& f) {
                   auto view = std::make_unique<EquipmentListView>(f.equipment, f.types, f.almanac, f.console, f.ids);
                   view->confirmDeletion(f.equipment.equipment().first());
                   return alertOf(std::move(view));
               }),
         scene(u"alert-document-not-opened"_s, items(),
-              [](test::ScreenFixture& f) {
+              [](test::RegisterFixture& f) {
                   Equipment item = f.equipment.equipment().at(2);
                   item.maintenanceHistory.last().receiptFileName = f.storedDocument(u"a.pdf"_s);
                   f.opener.succeed(false);
@@ -146,7 +146,7 @@ QList<Scene> alertScenes()
                   return alertOf(std::move(view));
               }),
         scene(u"alert-validation"_s, items(),
-              [](test::ScreenFixture& f) {
+              [](test::RegisterFixture& f) {
                   auto view = std::make_unique<EquipmentFormView>(f.equipment, f.types, f.almanac, f.ids);
                   view->primaryButton()->click();
                   return alertOf(std::move(view));
@@ -169,7 +169,7 @@ QList<Scene> detailScenes()
                detail(u"detail-long-history"_s, items().at(2), 1700, longHistory),
                detail(u"detail-long-texts"_s, longTexts(), 1500),
                scene(u"maintenance-form-edit"_s, items(),
-                     [](test::ScreenFixture& f) {
+                     [](test::RegisterFixture& f) {
                          Equipment item = f.equipment.equipment().at(2);
                          Maintenance& record = item.maintenanceHistory.last();
                          record.receiptFileName = f.storedDocument(u"scontrino.pdf"_s);
@@ -178,7 +178,7 @@ QList<Scene> detailScenes()
                          return std::make_unique<MaintenanceFormView>(f.draft(item.id, record), f.opener);
                      }),
                scene(u"maintenance-form-invalid"_s, items(),
-                     [](test::ScreenFixture& f) {
+                     [](test::RegisterFixture& f) {
                          auto form = std::make_unique<MaintenanceFormView>(f.draft(f.equipment.equipment().first().id),
                                                                            f.opener);
                          form->findChild<QLineEdit*>(u"date"_s)->setText(u"31/02/2026"_s);
@@ -190,7 +190,7 @@ QList<Scene> detailScenes()
                      }),
                window(
                    u"list-filtered-smallest"_s,
-                   [](test::ScreenFixture& f, MainWindow& w) {
+                   [](test::RegisterFixture& f, MainWindow& w) {
                        selectInSidebar(w, u"type_Computer Subacqueo"_s);
                        w.content().setSelectedEquipment(f.equipment.equipment().at(2));
                    },

@@ -31,12 +31,12 @@ QList<Equipment> noneDue()
     return equipment;
 }
 
-void showOverview(test::ScreenFixture&, MainWindow& window)
+void showOverview(test::RegisterFixture&, MainWindow& window)
 {
     selectInSidebar(window, u"maintenance"_s);
 }
 
-void showStatistics(test::ScreenFixture&, MainWindow& window)
+void showStatistics(test::RegisterFixture&, MainWindow& window)
 {
     window.content().setSelectedTab(ContentView::StatisticsTab);
 }

@@ -33,7 +33,7 @@ struct Holder
 class Window final : private Holder, public MainWindow
 {
 public:
-    using Setup = std::function<void(test::ScreenFixture&, MainWindow&)>;
+    using Setup = std::function<void(test::RegisterFixture&, MainWindow&)>;
 
     Window(const QList<Equipment>& stored, const Setup& setup, QSize size)
         : Holder(stored)

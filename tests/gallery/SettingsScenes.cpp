@@ -26,7 +26,7 @@ QList<Scene> settingsScenes()
 {
     return {
         window(u"settings"_s,
-               [](test::ScreenFixture& f, MainWindow& w) {
+               [](test::RegisterFixture& f, MainWindow& w) {
                    showSettings(w);
                    w.show();
                    check(w);
@@ -34,7 +34,7 @@ QList<Scene> settingsScenes()
                }),
         window(
             u"settings-whole"_s,
-            [](test::ScreenFixture& f, MainWindow& w) {
+            [](test::RegisterFixture& f, MainWindow& w) {
                 f.settings.setDefaultServiceInterval(200);
                 f.settings.setCurrencySymbol({});
                 showSettings(w);
@@ -45,7 +45,7 @@ QList<Scene> settingsScenes()
             items(), wholeSize),
         window(
             u"settings-checking"_s,
-            [](test::ScreenFixture&, MainWindow& w) {
+            [](test::RegisterFixture&, MainWindow& w) {
                 showSettings(w);
                 w.show();
                 check(w);

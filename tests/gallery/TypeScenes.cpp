@@ -24,7 +24,7 @@ std::unique_ptr<Sheet> searched(std::unique_ptr<Sheet> sheet, const QString& tex
     return sheet;
 }
 
-std::unique_ptr<Management> many(test::ScreenFixture& f)
+std::unique_ptr<Management> many(test::RegisterFixture& f)
 {
     QList<EquipmentTypeModel> types = f.types.getDefaultTypes();
     for (int i = 0; i < 400; ++i) {
@@ -38,12 +38,12 @@ std::unique_ptr<Management> many(test::ScreenFixture& f)
     return std::make_unique<Management>(f.types, f.ids);
 }
 
-std::unique_ptr<EquipmentTypeFormView> newType(test::ScreenFixture& f)
+std::unique_ptr<EquipmentTypeFormView> newType(test::RegisterFixture& f)
 {
     return std::make_unique<EquipmentTypeFormView>(f.types, f.ids, std::nullopt);
 }
 
-std::unique_ptr<EquipmentTypeFormView> editedType(test::ScreenFixture& f)
+std::unique_ptr<EquipmentTypeFormView> editedType(test::RegisterFixture& f)
 {
     return std::make_unique<EquipmentTypeFormView>(
         f.types, f.ids, EquipmentTypeModel{{}, u"Boa segnasub"_s, u"dive.compass"_s, u"orange"_s, 365, true});
@@ -59,7 +59,7 @@ std::unique_ptr<QWidget> deletion()
 
 QList<Scene> typeScenes()
 {
-    using Fixture = test::ScreenFixture;
+    using Fixture = test::RegisterFixture;
     return {
         form(u"types"_s, [](Fixture& f) { return std::make_unique<Management>(f.types, f.ids); }),
         form(u"types-nothing-found"_s,

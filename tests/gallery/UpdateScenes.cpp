@@ -15,7 +15,7 @@ const QString someNotes = u"• Le statistiche mostrano la distribuzione per tip
 
 Scene offer(const QString& name, const QString& version, const std::optional<QString>& notes)
 {
-    return form(name, [=](test::ScreenFixture& fixture) {
+    return form(name, [=](test::RegisterFixture& fixture) {
         const UpdateInfo update{version, 57, QUrl(u"https://abissora.example/scarica"_s), notes};
         return std::make_unique<UpdateView>(update, fixture.product.websiteURL, fixture.opener);
     });
@@ -28,7 +28,7 @@ QList<Scene> updateScenes()
     const QString line = u"Una riga di novità abbastanza lunga da andare a capo nella finestra. "_s;
     return {
         form(u"about"_s,
-             [](test::ScreenFixture& fixture) {
+             [](test::RegisterFixture& fixture) {
                  return std::make_unique<AboutView>(ProgramFacts{fixture.info, fixture.product});
              }),
         offer(u"update"_s, u"1.3.0"_s, someNotes),

@@ -102,7 +102,7 @@ private Q_SLOTS:
         f.equipment.updateEquipment(fins);
         settle();
         QCOMPARE(cardTexts(s.window), cards(4, 2, 2, 1));
-        f.equipment.addMaintenance(f.equipment.equipment().at(1).id, serviceNow(f));
+        f.equipment.addMaintenance(f.equipment.equipment().at(1).id, makeRecord(1, 0, u"Revisione"_s));
         settle();
         QCOMPARE(cardTexts(s.window), cards(4, 1, 1, 2));
         QCOMPARE(rowTexts(s.dueList()), QStringList(u"Computer Suunto EON Core, Scaduto da 15 giorni"_s));

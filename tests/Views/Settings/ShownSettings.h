@@ -4,7 +4,7 @@
 #include "Gui.h"
 #include "IconViews.h"
 #include "Literals.h"
-#include "ScreenFixture.h"
+#include "RegisterFixture.h"
 #include "SettingsGroupBox.h"
 #include "SettingsView.h"
 
@@ -15,7 +15,7 @@ namespace abissora::test {
 /// The settings in a window of their own, shown and active.
 struct ShownSettings
 {
-    explicit ShownSettings(ScreenFixture& f, QSize size = {900, 1400})
+    explicit ShownSettings(RegisterFixture& f, QSize size = {900, 1400})
         : view(new SettingsView(f.settings, f.types, f.updates, {f.info, f.product}, f.ids, f.opener))
     {
         auto* layout = new QVBoxLayout(&window);

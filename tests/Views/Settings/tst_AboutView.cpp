@@ -4,8 +4,8 @@
 #include "Gui.h"
 #include "Literals.h"
 #include "ProgramFacts.h"
+#include "RegisterFixture.h"
 #include "ScaledText.h"
-#include "ScreenFixture.h"
 #include "SettingsGroupBox.h"
 #include "TestRunner.h"
 #include "Theme.h"
@@ -25,7 +25,7 @@ private Q_SLOTS:
 
     void saysWhatTheProgramIs()
     {
-        test::ScreenFixture f;
+        test::RegisterFixture f;
         const ProgramFacts program{f.info, f.product};
         const AboutView view(program);
         QStringList texts;
@@ -43,7 +43,7 @@ private Q_SLOTS:
 
     void valuesCanBeSelectedByKeyboardAndAreNamed()
     {
-        test::ScreenFixture f;
+        test::RegisterFixture f;
         AboutView view({f.info, f.product});
         test::activate(view);
         const QList<SettingsInfoRow*> rows = view.findChildren<SettingsInfoRow*>();
@@ -66,7 +66,7 @@ private Q_SLOTS:
     {
         for (const double factor : {1.0, 1.25}) {
             const test::ScaledText scaled(factor);
-            test::ScreenFixture f;
+            test::RegisterFixture f;
             AboutView view({f.info, f.product});
             view.show();
             QVERIFY(QTest::qWaitForWindowExposed(&view));

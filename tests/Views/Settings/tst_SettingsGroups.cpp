@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Gui.h"
 #include "Literals.h"
-#include "ScreenFixture.h"
+#include "RegisterFixture.h"
 #include "SegmentedControl.h"
 #include "SettingsGroupBox.h"
 #include "SettingsGroups.h"
@@ -26,7 +26,7 @@ namespace {
 /// The groups of preferences below one another, shown and active.
 struct Shown
 {
-    explicit Shown(ScreenFixture& f)
+    explicit Shown(RegisterFixture& f)
     {
         auto* layout = new QVBoxLayout(&page);
         layout->addWidget(makeNotificationsGroup(f.settings));
@@ -50,7 +50,7 @@ struct Shown
     QWidget page;
 };
 
-QByteArray stored(const ScreenFixture& f, const char* key)
+QByteArray stored(const RegisterFixture& f, const char* key)
 {
     QFile file(f.preferences.path(QLatin1String(key)));
     return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
@@ -65,7 +65,7 @@ class tst_SettingsGroups : public TestCase
 private Q_SLOTS:
     void anEmptyStoreShowsTheDefaults()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Shown s(f);
         QVERIFY(s.toggle("notificationsEnabled").isChecked());
         QCOMPARE(s.days().text(), u"30 giorni"_s);
@@ -77,7 +77,7 @@ private Q_SLOTS:
 
     void showingThemStoresNothing()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Shown s(f);
         f.settings.setReminderDays(44);
         for (const char* key : {"notificationsEnabled", "defaultServiceInterval", "currencySymbol", "darkMode"})
@@ -100,7 +100,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, name);
         QFETCH(const QByteArray, first);
         QFETCH(const QByteArray, second);
-        ScreenFixture f;
+        RegisterFixture f;
         Shown s(f);
         const QSignalSpy changed(&f.settings, &SettingsViewModel::changed);
         QTest::mouseClick(&s.toggle(name.constData()), Qt::LeftButton);
@@ -114,7 +114,7 @@ private Q_SLOTS:
 
     void whatAScreenReaderDoesIsStoredToo()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Shown s(f);
         QAccessibleInterface* dark = QAccessible::queryAccessibleInterface(&s.toggle("darkMode"));
         dark->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
@@ -145,7 +145,7 @@ private Q_SLOTS:
         QFETCH(const qint64, from);
         QFETCH(const int, key);
         QFETCH(const qint64, to);
-        ScreenFixture f;
+        RegisterFixture f;
         f.settings.setReminderDays(from);
         Shown s(f);
         s.days().setFocus();
@@ -156,7 +156,7 @@ private Q_SLOTS:
 
     void everySegmentStoresItsDays()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Shown s(f);
         const QSignalSpy changed(&f.settings, &SettingsViewModel::changed);
         const QList<QAbstractButton*> segments = s.interval().findChildren<QAbstractButton*>();
@@ -171,7 +171,7 @@ private Q_SLOTS:
 
     void anIntervalOfItsOwnLeavesNoSegmentChosen()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         f.settings.setDefaultServiceInterval(200);
         Shown s(f);
         QCOMPARE(s.interval().currentIndex(), -1);
@@ -181,7 +181,7 @@ private Q_SLOTS:
 
     void everyLetterOfTheCurrencyIsStored()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Shown s(f);
         const QSignalSpy changed(&f.settings, &SettingsViewModel::currencySymbolChanged);
         s.currency().setFocus();
@@ -200,7 +200,7 @@ private Q_SLOTS:
 
     void aChangeFromElsewhereIsShown()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Shown s(f);
         f.settings.setNotificationsEnabled(false);
         f.settings.setReminderDays(14);
@@ -216,7 +216,7 @@ private Q_SLOTS:
 
     void whatCannotBeStoredIsNotShownAsStored()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Shown s(f);
         // A folder in the file's place: the write fails whoever runs the test.
         QVERIFY(QDir().mkpath(f.preferences.path(u"darkMode"_s)));
@@ -227,7 +227,7 @@ private Q_SLOTS:
 
     void everyControlIsNamedByItsCaption()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         Shown s(f);
         const auto name = [](QWidget& widget) {
             return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);

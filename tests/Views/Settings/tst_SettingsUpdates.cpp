@@ -36,7 +36,7 @@ class tst_SettingsUpdates : public TestCase
 private Q_SLOTS:
     void aNewerReleaseIsOfferedAndTold()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         s.click("checkForUpdates");
         QCOMPARE(f.http.requested().size(), 1);
@@ -54,7 +54,7 @@ private Q_SLOTS:
 
     void theFeedbackStandsUnderTheButton()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         s.click("checkForUpdates");
         f.http.answer(200, current);
@@ -65,7 +65,7 @@ private Q_SLOTS:
 
     void theCurrentReleaseIsTold()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         s.click("checkForUpdates");
         f.http.answer(200, current);
@@ -87,7 +87,7 @@ private Q_SLOTS:
     {
         QFETCH(const int, status);
         QFETCH(const QString, text);
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         s.click("checkForUpdates");
         if (status == 0)
@@ -100,7 +100,7 @@ private Q_SLOTS:
 
     void whileACheckIsUnderWay()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         QAbstractButton& check = s.button("checkForUpdates");
         const int width = check.width();
@@ -121,7 +121,7 @@ private Q_SLOTS:
 
     void theViewMayGoWhileACheckIsUnderWay()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         {
             ShownSettings s(f);
             s.click("checkForUpdates");
@@ -132,7 +132,7 @@ private Q_SLOTS:
 
     void leavingForgetsTheFeedback()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         s.click("checkForUpdates");
         f.http.answer(500, {});
@@ -144,7 +144,7 @@ private Q_SLOTS:
 
     void aCheckThatEndsAfterLeavingIsNotTold()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         s.click("checkForUpdates");
         s.view->hide();
@@ -159,7 +159,7 @@ private Q_SLOTS:
 
     void anOfferFoundBeforeIsShownOnComing()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         s.view->hide();
         f.updates.checkForUpdates();
@@ -173,7 +173,7 @@ private Q_SLOTS:
 
     void anOfferWaitsForAnotherSheet()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         s.click("manageTypes");
         auto* types = s.sheet<EquipmentTypeManagementView>();

@@ -21,7 +21,7 @@ class tst_SettingsView : public TestCase
 private Q_SLOTS:
     void everyTextIsThere()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         const QStringList texts = s.texts();
         for (const char* text :
@@ -67,7 +67,7 @@ private Q_SLOTS:
 
     void groupsStandInTheirOrder()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         QStringList titles;
         QList<SettingsGroupBox*> groups = s.view->findChildren<SettingsGroupBox*>();
@@ -81,7 +81,7 @@ private Q_SLOTS:
 
     void itSaysWhatIsRunning()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         f.product.author = u"Sub Mare"_s;
         ShownSettings s(f);
         QCOMPARE(s.information(), QStringList({u"Versione: 1.2.0 (build 42)"_s, u"Data Build: "_s + f.info.buildDate(),
@@ -95,7 +95,7 @@ private Q_SLOTS:
 
     void theCountsFollowTheTypes()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         f.types.deleteType(f.types.types().first());
         settle();
@@ -105,7 +105,7 @@ private Q_SLOTS:
 
     void theWebsiteOpensOutside()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         s.click("website");
         QCOMPARE(f.opener.opened(), QList<QUrl>({QUrl(u"https://abissora.example/"_s)}));
@@ -113,7 +113,7 @@ private Q_SLOTS:
 
     void saysWhenNothingOpensTheWebsite()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         f.opener.succeed(false);
         ShownSettings s(f);
         s.click("website");
@@ -124,7 +124,7 @@ private Q_SLOTS:
 
     void sheetsOpenAndGiveTheFocusBack()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f);
         s.button("manageTypes").setFocus();
         s.click("manageTypes");
@@ -145,7 +145,7 @@ private Q_SLOTS:
 
     void resetAsksNothing()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         f.settings.setReminderDays(44);
         f.settings.setDarkMode(true);
         f.settings.setCurrencySymbol(u"$"_s);
@@ -169,7 +169,7 @@ private Q_SLOTS:
 
     void tabOrderIsReadingOrder()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f, {900, 1600});
         s.button("manageTypes").setFocus();
         QStringList order;
@@ -192,7 +192,7 @@ private Q_SLOTS:
 
     void theFocusIsAlwaysInView()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f, {772, 500});
         s.button("manageTypes").setFocus();
         for (int i = 0; i < 15; ++i)
@@ -213,7 +213,7 @@ private Q_SLOTS:
     {
         QFETCH(const double, textSize);
         const ScaledText scaled(textSize);
-        ScreenFixture f;
+        RegisterFixture f;
         ShownSettings s(f, {772, 700});
         s.click("checkForUpdates");
         f.http.answer(tl::unexpected(HttpError{}));

@@ -5,8 +5,8 @@
 #include "ClippedTexts.h"
 #include "Gui.h"
 #include "Literals.h"
+#include "RegisterFixture.h"
 #include "ScaledText.h"
-#include "ScreenFixture.h"
 #include "TestRunner.h"
 #include "Theme.h"
 #include "UpdateView.h"
@@ -41,7 +41,7 @@ struct Offer
     [[nodiscard]] QString versionLine() const { return test::textOf(view, "newVersion"); }
     [[nodiscard]] QAbstractButton& button(const char* name) const { return test::usable<QAbstractButton>(view, name); }
 
-    test::ScreenFixture f;
+    test::RegisterFixture f;
     UpdateView view;
     QSignalSpy closed;
 };
@@ -138,7 +138,7 @@ private Q_SLOTS:
 
     void theOfferMayBeGoneBeforeTheBrowserComes()
     {
-        test::ScreenFixture f;
+        test::RegisterFixture f;
         f.opener.beSlow();
         auto view = std::make_unique<UpdateView>(release(), f.product.websiteURL, f.opener);
         view->show();

@@ -135,7 +135,7 @@ private Q_SLOTS:
         const QFontMetrics text(font(TextStyle::Body));
         for (int month = 1; month <= 12; ++month) {
             const Instant day = f.calendar.instant(QDate(2026, month, 28), QTime(12, 0)).value();
-            QVERIFY(text.horizontalAdvance(f.context.dates.abbreviatedDate(day)) + metrics::spaceS + metrics::spaceXS <=
+            QVERIFY(text.horizontalAdvance(f.almanac.dates.abbreviatedDate(day)) + metrics::spaceS + metrics::spaceXS <=
                     s.table().columnWidth(EquipmentTableModel::NextServiceColumn));
         }
         QCOMPARE(clippedTexts(s.window.content().list()), QStringList());

@@ -168,7 +168,7 @@ private Q_SLOTS:
         Shown s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
         settle();
-        f.equipment.addMaintenance(f.equipment.equipment().first().id, serviceNow(f));
+        f.equipment.addMaintenance(f.equipment.equipment().first().id, makeRecord(1, 0, u"Revisione"_s));
         settle();
         QVERIFY(s.isSheetOpen());
         QVERIFY(isShown(s.window, u"allInOrder"_s));

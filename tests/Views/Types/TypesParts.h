@@ -7,8 +7,8 @@
 #include "Gui.h"
 #include "IconPicker.h"
 #include "Literals.h"
+#include "RegisterFixture.h"
 #include "ScaledText.h"
-#include "ScreenFixture.h"
 #include "TypeList.h"
 
 #include <QLineEdit>
@@ -44,7 +44,7 @@ void withLargerText(Check check)
 /// The management screen.
 struct OpenManagement : OpenSheet<EquipmentTypeManagementView>
 {
-    explicit OpenManagement(ScreenFixture& f)
+    explicit OpenManagement(RegisterFixture& f)
         : OpenSheet(f.types, f.ids)
     {}
 
@@ -111,7 +111,7 @@ inline const std::optional<EquipmentTypeModel> newType;
 
 struct TypeForm : OpenSheet<EquipmentTypeFormView>
 {
-    TypeForm(ScreenFixture& f, const std::optional<EquipmentTypeModel>& type)
+    TypeForm(RegisterFixture& f, const std::optional<EquipmentTypeModel>& type)
         : OpenSheet(f.types, f.ids, type)
     {}
 };

@@ -28,7 +28,7 @@ private Q_SLOTS:
 
     void textsOfANewType()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, newType);
         QCOMPARE(o.sheet.windowTitle(), u"Nuova Tipologia"_s);
         QCOMPARE(o.sheet.windowModality(), Qt::WindowModal);
@@ -48,7 +48,7 @@ private Q_SLOTS:
 
     void textsOfAnEditedType()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, std::optional(boa()));
         QCOMPARE(o.sheet.windowTitle(), u"Modifica Tipologia"_s);
         QCOMPARE(usable<QLineEdit>(o.sheet, "name").text(), u"Boa segnasub"_s);
@@ -60,7 +60,7 @@ private Q_SLOTS:
 
     void nothingJumpsWhileANameIsTyped()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, newType);
         const QPoint before = usable<Stepper>(o.sheet, "interval").mapTo(&o.sheet, QPoint());
         type(o.sheet, "name", u"Boa"_s);
@@ -70,7 +70,7 @@ private Q_SLOTS:
 
     void thePreviewIsLive()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, newType);
         const auto picture = [&o] { return usable(o.sheet, "previewTile").grab().toImage(); };
         QImage last = picture();
@@ -93,7 +93,7 @@ private Q_SLOTS:
 
     void thePreviewStaysInSight()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, newType);
         o.sheet.scrollArea()->verticalScrollBar()->setValue(o.sheet.scrollArea()->verticalScrollBar()->maximum());
         settle();
@@ -105,7 +105,7 @@ private Q_SLOTS:
 
     void escapeClearsTheSearchFirst()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, newType);
         type(o.sheet, "iconSearch", u"bomb"_s);
         QTest::keyClick(&usable<SearchField>(o.sheet, "iconSearch"), Qt::Key_Escape);
@@ -116,14 +116,14 @@ private Q_SLOTS:
 
     void tabFollowsTheReadingOrder()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, std::optional(boa()));
         QCOMPARE(tabOrder(o.sheet).join(u' '), u"name interval orange iconSearch dive.compass cancel primary"_s);
     }
 
     void theKeyboardBringsIconsIntoSight()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, newType);
         cell(o, DivingIcons::regulator).setFocus(Qt::TabFocusReason);
         for (const auto& [key, icon] :
@@ -137,7 +137,7 @@ private Q_SLOTS:
 
     void fieldsAreNamedByTheirLabels()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, newType);
         type(o.sheet, "name", u"Boa"_s);
         const QList<QPair<const char*, QString>> names{
@@ -153,7 +153,7 @@ private Q_SLOTS:
 
     void theLabelsAreAsWideAsDrawn()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, newType);
         const auto left = [&o](const char* part) { return usable(o.sheet, part).mapTo(&o.sheet, QPoint()).x(); };
         QCOMPARE(left("name"), left("interval"));
@@ -174,7 +174,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, larger);
         const auto check = [] {
-            ScreenFixture f;
+            RegisterFixture f;
             EquipmentTypeModel type = boa();
             type.name = u"Dispositivo di segnalazione di superficie"_s;
             type.serviceIntervalDays = 1234567;

@@ -26,7 +26,7 @@ private Q_SLOTS:
 
     void texts()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         QCOMPARE(o.sheet.windowTitle(), u"Gestione Tipologie"_s);
         QCOMPARE(o.sheet.windowModality(), Qt::WindowModal);
@@ -41,7 +41,7 @@ private Q_SLOTS:
 
     void rowsByName()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         QCOMPARE(o.names(), defaultNames());
         const TypeRow& computer = o.row(u"Computer Subacqueo"_s);
@@ -56,7 +56,7 @@ private Q_SLOTS:
 
     void whatAScreenReaderPutsInFilters()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         QAccessible::queryAccessibleInterface(&usable<SearchField>(o.sheet, "typeSearch"))
             ->setText(QAccessible::Value, u"erog"_s);
@@ -65,7 +65,7 @@ private Q_SLOTS:
 
     void screenReadersKnowWhatAnActionIsAbout()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         TypeRow& row = o.row(u"GAV"_s);
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&row);
@@ -81,7 +81,7 @@ private Q_SLOTS:
 
     void inactiveTypesAreNeverListed()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         EquipmentTypeModel inactive = own(901, u"Boa"_s);
         inactive.isActive = false;
         f.types.addType(inactive);
@@ -104,7 +104,7 @@ private Q_SLOTS:
     void searching()
     {
         QFETCH(QString, text);
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         o.search(text);
         QTEST(o.names(), "found");
@@ -114,7 +114,7 @@ private Q_SLOTS:
 
     void theCatalogueSearchNarrowsToo()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         f.types.setSearchText(u"muta"_s);
         settle();
@@ -126,7 +126,7 @@ private Q_SLOTS:
 
     void nothingFound()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         o.search(u"xyz"_s);
         QVERIFY(visibleLabels(o.sheet).contains(u"Nessuna tipologia trovata"_s));
@@ -139,7 +139,7 @@ private Q_SLOTS:
 
     void clearingTheSearch()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         o.search(u"xyz"_s);
         auto& search = usable<SearchField>(o.sheet, "typeSearch");
@@ -154,7 +154,7 @@ private Q_SLOTS:
 
     void theListLives()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         f.types.addType(own(901, u"Boa"_s));
         settle();
@@ -174,7 +174,7 @@ private Q_SLOTS:
 
     void tabFollowsTheReadingOrder()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         const QString expected = u"typeSearch addType editType deleteType resetTypes cancel"_s;
         QCOMPARE(tabOrder(o.sheet).join(u' '), expected);
@@ -189,7 +189,7 @@ private Q_SLOTS:
 
     void arrowKeysReachEveryRow()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         o.rows().first()->buttons().last()->setFocus(Qt::TabFocusReason);
         for (const TypeRow* row : o.rows()) {
@@ -204,7 +204,7 @@ private Q_SLOTS:
 
     void unusualRecords()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         EquipmentTypeModel type = own(1, u"Boa"_s);
         type.icon.clear();
         type.color = u"Verde Acqua"_s;
@@ -216,7 +216,7 @@ private Q_SLOTS:
 
     void hundredsOfTypes()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         QList<EquipmentTypeModel> types;
         for (int i = 0; i < 600; ++i)
             types.append(own(i + 1, u"Tipo %1"_s.arg(i, 3, 10, '0'_L1)));
@@ -253,7 +253,7 @@ private Q_SLOTS:
 
     void rowsAreAsHighAsTheirNames()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         f.types.setTypes({own(1, u"A"_s), own(2, u"B"_s.repeated(300)), own(3, u"C\nC"_s), own(4, u"D"_s)});
         OpenManagement o(f);
         QCOMPARE(o.rows().size(), 4);
@@ -275,7 +275,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, larger);
         const auto check = [] {
-            ScreenFixture f;
+            RegisterFixture f;
             f.types.addType(own(901, u"Dispositivo di segnalazione "_s.repeated(6)));
             OpenManagement o(f);
             QCOMPARE(clippedTexts(o.sheet).join(u'|'), QString());

@@ -17,7 +17,7 @@ private Q_SLOTS:
 
     void anEmptyCatalogue()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         f.types.setTypes({});
         OpenManagement o(f);
         QVERIFY(visibleLabels(o.sheet).contains(u"Nessuna tipologia trovata"_s));
@@ -30,7 +30,7 @@ private Q_SLOTS:
 
     void addingAType()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         usable<QAbstractButton>(o.sheet, "addType").setFocus();
         click(o.sheet, "addType");
@@ -51,7 +51,7 @@ private Q_SLOTS:
 
     void editingKeepsTheFocusOnTheType()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         o.press(u"Bussola"_s, "editType");
         EquipmentTypeFormView* form = o.form();
@@ -70,7 +70,7 @@ private Q_SLOTS:
 
     void deletingAsksFirst()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         OpenManagement o(f);
         const QList<EquipmentTypeModel> before = f.types.types();
         o.press(u"Pinne"_s, "deleteType");
@@ -97,7 +97,7 @@ private Q_SLOTS:
 
     void theFocusSurvivesTheLastRow()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         f.types.setTypes({own(1, u"A"_s), own(2, u"B"_s)});
         OpenManagement o(f);
         o.press(u"B"_s, "deleteType");
@@ -112,7 +112,7 @@ private Q_SLOTS:
 
     void deletingOneOfTwins()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         f.types.setTypes({own(1, u"Boa"_s), own(2, u"Boa"_s)});
         OpenManagement o(f);
         QTest::mouseClick(o.rows().last()->buttons().last(), Qt::LeftButton);
@@ -122,7 +122,7 @@ private Q_SLOTS:
 
     void resettingAsksNothing()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         f.types.setTypes({own(1, u"Boa"_s)});
         f.types.saveTypes();
         QVERIFY(f.preferences.setInteger(EquipmentTypeViewModel::iconVersionKey, 3));
@@ -151,7 +151,7 @@ private Q_SLOTS:
     void hostileNames()
     {
         QFETCH(QString, name);
-        ScreenFixture f;
+        RegisterFixture f;
         f.types.setTypes({own(1, name)});
         OpenManagement o(f);
         const auto* label = o.rows().first()->findChild<QLabel*>(u"typeName"_s);

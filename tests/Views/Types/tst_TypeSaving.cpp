@@ -16,7 +16,8 @@ using namespace abissora::test;
 namespace {
 
 /// The type as it stands in the catalogue after its form was saved.
-EquipmentTypeModel savedAs(ScreenFixture& f, const EquipmentTypeModel& type, const std::function<void(TypeForm&)>& edit)
+EquipmentTypeModel savedAs(RegisterFixture& f, const EquipmentTypeModel& type,
+                           const std::function<void(TypeForm&)>& edit)
 {
     f.types.setTypes(f.types.getDefaultTypes() + QList<EquipmentTypeModel>{type});
     TypeForm form(f, std::optional(type));
@@ -38,7 +39,7 @@ private Q_SLOTS:
 
     void addingAType()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         const QList<EquipmentTypeModel> before = f.types.types();
         const int ids = f.ids.count();
         TypeForm o(f, newType);
@@ -61,7 +62,7 @@ private Q_SLOTS:
 
     void editingReplacesTheType()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         const EquipmentTypeModel saved = savedAs(f, boa(), [](TypeForm& form) {
             type(form.sheet, "name", u"Pallone"_s);
             QTest::mouseClick(&usable<QAbstractButton>(form.sheet, "mint"), Qt::LeftButton);
@@ -75,13 +76,13 @@ private Q_SLOTS:
 
     void editingNothingKeepsTheType()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         QCOMPARE(savedAs(f, boa(), [](TypeForm&) {}), boa());
     }
 
     void theNameIsStoredAsTyped()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         QCOMPARE(savedAs(f, boa(), [](TypeForm& form) { type(form.sheet, "name", u"  Boa  "_s); }).name, u"  Boa  "_s);
     }
 
@@ -98,7 +99,7 @@ private Q_SLOTS:
     void longAndHostileNamesSurvive()
     {
         QFETCH(QString, name);
-        ScreenFixture f;
+        RegisterFixture f;
         EquipmentTypeModel type = boa();
         type.name = name;
         const EquipmentTypeModel saved = savedAs(f, type, [&name](TypeForm& form) {
@@ -112,7 +113,7 @@ private Q_SLOTS:
 
     void anInactiveTypeIsActiveAfterwards()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         EquipmentTypeModel inactive = boa();
         inactive.isActive = false;
         QCOMPARE(savedAs(f, inactive, [](TypeForm&) {}), boa());
@@ -120,7 +121,7 @@ private Q_SLOTS:
 
     void anUnknownIconIsReplaced()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         EquipmentTypeModel type = boa();
         type.icon = u"compass.drawing"_s;
         const EquipmentTypeModel saved =
@@ -130,7 +131,7 @@ private Q_SLOTS:
 
     void twoTypesMayCarryOneName()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, newType);
         type(o.sheet, "name", u"GAV"_s);
         click(o.sheet, "primary");
@@ -140,7 +141,7 @@ private Q_SLOTS:
 
     void aTypeThatIsGoneIsNotSaved()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         const QList<EquipmentTypeModel> before = f.types.types();
         TypeForm o(f, std::optional(boa()));
         click(o.sheet, "primary");
@@ -160,7 +161,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, name);
         QFETCH(bool, valid);
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, newType);
         type(o.sheet, "name", u"x"_s);
         type(o.sheet, "name", name);
@@ -190,7 +191,7 @@ private Q_SLOTS:
         QFETCH(qint64, stored);
         QFETCH(qint64, up);
         QFETCH(qint64, down);
-        ScreenFixture f;
+        RegisterFixture f;
         EquipmentTypeModel type = boa();
         type.serviceIntervalDays = stored;
         const auto stepped = [&](std::optional<Qt::Key> key) {
@@ -210,7 +211,7 @@ private Q_SLOTS:
 
     void leavingSavesNothing()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         const QList<EquipmentTypeModel> before = f.types.types();
         for (const bool byKey : {true, false}) {
             TypeForm o(f, newType);
@@ -226,7 +227,7 @@ private Q_SLOTS:
 
     void returnInAFieldSavesNothing()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         TypeForm o(f, newType);
         type(o.sheet, "name", u"Boa"_s);
         QTest::keyClick(&usable<QLineEdit>(o.sheet, "name"), Qt::Key_Return);
@@ -237,7 +238,7 @@ private Q_SLOTS:
 
     void searchingChangesNothing()
     {
-        ScreenFixture f;
+        RegisterFixture f;
         const EquipmentTypeModel saved = savedAs(f, boa(), [](TypeForm& form) {
             type(form.sheet, "iconSearch", u"xyz"_s);
             QVERIFY(isShown(form.sheet, "noIcon"));
