@@ -9,10 +9,9 @@
 #include "Sheet.h"
 #include "Stepper.h"
 #include "SymbolIcon.h"
+#include "ToggleSwitch.h"
 
-#include <QCheckBox>
 #include <QComboBox>
-#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -27,15 +26,6 @@ QLineEdit* field(const QString& placeholder)
     auto* edit = new QLineEdit;
     edit->setPlaceholderText(placeholder);
     return edit;
-}
-
-QDateEdit* dateField()
-{
-    auto* date = new QDateEdit(QDate(2026, 11, 21));
-    date->setDisplayFormat(u"dd/MM/yyyy"_s);
-    date->setCalendarPopup(true);
-    date->setFixedWidth(170);
-    return date;
 }
 
 std::unique_ptr<QWidget> form()
@@ -61,9 +51,8 @@ std::unique_ptr<QWidget> form()
     }());
     interval->setHint(u"* Campo obbligatorio"_s);
     details->content()->addWidget(interval);
-    details->content()->addWidget(new FormRow(u"Data Acquisto"_s, dateField()));
     details->content()->addWidget(new FormRow(u"Prossimo Tagliando"_s, new QLabel(u"21 nov 2027"_s)));
-    details->content()->addWidget(new FormRow(QString(), new QCheckBox(u"Attivo"_s)));
+    details->content()->addWidget(new FormRow(QString(), new ToggleSwitch(u"Attivo"_s)));
     sheet->body()->addWidget(details);
 
     auto* notes = new GroupBox(u"Note"_s);
