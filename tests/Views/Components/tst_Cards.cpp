@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Cards.h"
 #include "ComponentTest.h"
-#include "IconViews.h"
 #include "Literals.h"
-#include "SymbolIcon.h"
-
-#include <QLabel>
-#include <QVBoxLayout>
 
 using namespace abissora;
 
@@ -18,8 +13,7 @@ private Q_SLOTS:
     void aCardPaintsItsSurface();
     void aCardFollowsTheScheme();
     void aGroupBoxIsNamedAfterItsTitle();
-    void anIconLabelLeavesRoomForItsIcon();
-    void picturesAreReadAsPictures();
+    void aSeparatorIsReadAsOne();
 };
 
 void tst_Cards::aCardPaintsItsSurface()
@@ -54,25 +48,8 @@ void tst_Cards::aGroupBoxIsNamedAfterItsTitle()
     QCOMPARE(box.title(), u"Aspetto"_s);
 }
 
-void tst_Cards::anIconLabelLeavesRoomForItsIcon()
+void tst_Cards::aSeparatorIsReadAsOne()
 {
-    IconLabel label({}, u"Attivo"_s);
-    const int plain = label.sizeHint().width();
-    label.setIcon(symbolIcon(u"checkmark.circle"_s));
-    QVERIFY(label.sizeHint().width() >= plain + 16);
-    QVERIFY(label.sizeHint().height() >= 16);
-    QCOMPARE(roleOf(label), QAccessible::StaticText);
-    QCOMPARE(nameOf(label), u"Attivo"_s);
-}
-
-void tst_Cards::picturesAreReadAsPictures()
-{
-    IconView view(symbolIcon(u"tray"_s), 44);
-    QCOMPARE(view.sizeHint(), QSize(44, 44));
-    QCOMPARE(roleOf(view), QAccessible::Graphic);
-    IconTile tile(56);
-    QCOMPARE(tile.sizeHint(), QSize(56, 56));
-    QCOMPARE(roleOf(tile), QAccessible::Graphic);
     Separator separator;
     QCOMPARE(roleOf(separator), QAccessible::Separator);
 }

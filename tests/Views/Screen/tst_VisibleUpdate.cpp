@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "VisibleUpdate.h"
 
+#include "Gui.h"
 #include "TestRunner.h"
 
 #include <QWidget>
@@ -17,11 +18,11 @@ private Q_SLOTS:
         QWidget widget;
         int runs = 0;
         VisibleUpdate update(widget, [&runs] { ++runs; });
-        QCoreApplication::processEvents();
+        test::settle();
         QCOMPARE(runs, 0);
         widget.show();
         QCOMPARE(runs, 1);
-        QCoreApplication::processEvents();
+        test::settle();
         QCOMPARE(runs, 1);
     }
 
@@ -34,7 +35,7 @@ private Q_SLOTS:
         update.schedule();
         update.schedule();
         QCOMPARE(runs, 1);
-        QCoreApplication::processEvents();
+        test::settle();
         QCOMPARE(runs, 2);
     }
 
@@ -47,7 +48,7 @@ private Q_SLOTS:
         widget.hide();
         update.schedule();
         update.schedule();
-        QCoreApplication::processEvents();
+        test::settle();
         QCOMPARE(runs, 1);
         widget.show();
         QCOMPARE(runs, 2);
@@ -64,7 +65,7 @@ private Q_SLOTS:
         widget.show();
         update.schedule();
         widget.hide();
-        QCoreApplication::processEvents();
+        test::settle();
         QCOMPARE(runs, 1);
         widget.show();
         QCOMPARE(runs, 2);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AbissoraStyle.h"
 #include "ControlLook.h"
+#include "Gui.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "TestRunner.h"
@@ -109,7 +110,7 @@ void tst_AbissoraStyle::widgetsAreRepaintedInTheOtherScheme()
     button.resize(button.sizeHint());
     QVERIFY(shows(picture(button), Tokens::of(Scheme::Light).surface));
     applyTheme(*qApp, Scheme::Dark);
-    QCoreApplication::processEvents(); // widgets hear of it by an event
+    test::settle(); // widgets hear of it by an event
     const QImage dark = picture(button);
     QVERIFY(shows(dark, Tokens::of(Scheme::Dark).surface));
     QVERIFY(!shows(dark, Tokens::of(Scheme::Light).surface));
