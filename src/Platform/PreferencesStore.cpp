@@ -41,12 +41,6 @@ json parsed(const QByteArray& bytes)
     return json::parse(bytes.begin(), bytes.end(), nullptr, false);
 }
 
-json scalar(const PreferencesStore& store, const QString& key)
-{
-    const auto bytes = store.data(key);
-    return bytes && *bytes ? parsed(**bytes) : json(json::value_t::discarded);
-}
-
 QByteArray encoded(const json& value)
 {
     return QByteArray::fromStdString(value.dump(-1, ' ', false, json::error_handler_t::replace));
@@ -103,18 +97,36 @@ IoResult<void> PreferencesStore::setData(const QString& key, const QByteArray& b
         if (auto kept = preserveUnreadable(key); !kept)
             return kept;
     }
+    m_scalars.remove(key);
     return AtomicFile::makeFolder(m_folder).and_then([&] { return AtomicFile::replace(path(key), bytes); });
+}
+
+QByteArray PreferencesStore::scalar(const QString& key) const
+{
+    const auto kept = m_scalars.constFind(key);
+    if (kept != m_scalars.constEnd())
+        return *kept;
+    const auto stored = data(key);
+    return *m_scalars.insert(key, stored && *stored ? **stored : QByteArray());
+}
+
+IoResult<void> PreferencesStore::setScalar(const QString& key, const QByteArray& json)
+{
+    const QByteArray before = scalar(key);
+    auto stored = setData(key, json);
+    m_scalars.insert(key, stored ? json : before);
+    return stored;
 }
 
 std::optional<bool> PreferencesStore::boolean(const QString& key) const
 {
-    const json value = scalar(*this, key);
+    const json value = parsed(scalar(key));
     return value.is_boolean() ? std::optional(value.get<bool>()) : std::nullopt;
 }
 
 std::optional<std::int64_t> PreferencesStore::integer(const QString& key) const
 {
-    const json value = scalar(*this, key);
+    const json value = parsed(scalar(key));
     if (value.is_number_unsigned()) {
         const auto number = value.get<std::uint64_t>();
         return std::in_range<std::int64_t>(number) ? std::optional(static_cast<std::int64_t>(number)) : std::nullopt;
@@ -132,24 +144,24 @@ std::optional<std::int64_t> PreferencesStore::integer(const QString& key) const
 
 std::optional<QString> PreferencesStore::text(const QString& key) const
 {
-    const json value = scalar(*this, key);
+    const json value = parsed(scalar(key));
     return value.is_string() ? std::optional(QString::fromStdString(value.get_ref<const std::string&>()))
                              : std::nullopt;
 }
 
 IoResult<void> PreferencesStore::setBoolean(const QString& key, bool value)
 {
-    return setData(key, encoded(value));
+    return setScalar(key, encoded(value));
 }
 
 IoResult<void> PreferencesStore::setInteger(const QString& key, std::int64_t value)
 {
-    return setData(key, encoded(value));
+    return setScalar(key, encoded(value));
 }
 
 IoResult<void> PreferencesStore::setText(const QString& key, const QString& value)
 {
-    return setData(key, encoded(value.toStdString()));
+    return setScalar(key, encoded(value.toStdString()));
 }
 
 IoResult<void> PreferencesStore::preserveUnreadable(const QString& key)

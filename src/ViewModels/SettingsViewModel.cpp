@@ -14,72 +14,93 @@ const QString currencySymbolKey = u"currencySymbol"_s;
 const QString darkModeKey = u"darkMode"_s;
 const QString checkForUpdatesOnLaunchKey = u"checkForUpdatesOnLaunch"_s;
 
+/// What counts while a key is absent.
+constexpr bool standardNotificationsEnabled = true;
+constexpr std::int64_t standardReminderDays = 30;
+constexpr std::int64_t standardServiceInterval = 365;
+const QString standardCurrencySymbol = u"€"_s;
+constexpr bool standardDarkMode = false;
+constexpr bool standardCheckForUpdatesOnLaunch = false;
+
 } // namespace
 
 SettingsViewModel::SettingsViewModel(PreferencesStore& preferences, Console& console, QObject* parent)
     : StateObject(parent)
     , m_preferences(preferences)
     , m_console(console)
+{}
+
+bool SettingsViewModel::notificationsEnabled() const
 {
-    m_values.notificationsEnabled =
-        preferences.boolean(notificationsEnabledKey).value_or(m_values.notificationsEnabled);
-    m_values.reminderDays = preferences.integer(reminderDaysKey).value_or(m_values.reminderDays);
-    m_values.defaultServiceInterval =
-        preferences.integer(defaultServiceIntervalKey).value_or(m_values.defaultServiceInterval);
-    m_values.currencySymbol = preferences.text(currencySymbolKey).value_or(m_values.currencySymbol);
-    m_values.darkMode = preferences.boolean(darkModeKey).value_or(m_values.darkMode);
-    m_values.checkForUpdatesOnLaunch =
-        preferences.boolean(checkForUpdatesOnLaunchKey).value_or(m_values.checkForUpdatesOnLaunch);
+    return m_preferences.boolean(notificationsEnabledKey).value_or(standardNotificationsEnabled);
 }
 
 void SettingsViewModel::setNotificationsEnabled(bool enabled)
 {
-    m_values.notificationsEnabled = enabled;
     publish(m_preferences.setBoolean(notificationsEnabledKey, enabled),
             &SettingsViewModel::notificationsEnabledChanged);
 }
 
+std::int64_t SettingsViewModel::reminderDays() const
+{
+    return m_preferences.integer(reminderDaysKey).value_or(standardReminderDays);
+}
+
 void SettingsViewModel::setReminderDays(std::int64_t days)
 {
-    m_values.reminderDays = days;
     publish(m_preferences.setInteger(reminderDaysKey, days), &SettingsViewModel::reminderDaysChanged);
+}
+
+std::int64_t SettingsViewModel::defaultServiceInterval() const
+{
+    return m_preferences.integer(defaultServiceIntervalKey).value_or(standardServiceInterval);
 }
 
 void SettingsViewModel::setDefaultServiceInterval(std::int64_t days)
 {
-    m_values.defaultServiceInterval = days;
     publish(m_preferences.setInteger(defaultServiceIntervalKey, days),
             &SettingsViewModel::defaultServiceIntervalChanged);
 }
 
+QString SettingsViewModel::currencySymbol() const
+{
+    return m_preferences.text(currencySymbolKey).value_or(standardCurrencySymbol);
+}
+
 void SettingsViewModel::setCurrencySymbol(const QString& symbol)
 {
-    m_values.currencySymbol = symbol;
     publish(m_preferences.setText(currencySymbolKey, symbol), &SettingsViewModel::currencySymbolChanged);
+}
+
+bool SettingsViewModel::darkMode() const
+{
+    return m_preferences.boolean(darkModeKey).value_or(standardDarkMode);
 }
 
 void SettingsViewModel::setDarkMode(bool dark)
 {
-    m_values.darkMode = dark;
     publish(m_preferences.setBoolean(darkModeKey, dark), &SettingsViewModel::darkModeChanged);
+}
+
+bool SettingsViewModel::checkForUpdatesOnLaunch() const
+{
+    return m_preferences.boolean(checkForUpdatesOnLaunchKey).value_or(standardCheckForUpdatesOnLaunch);
 }
 
 void SettingsViewModel::setCheckForUpdatesOnLaunch(bool check)
 {
-    m_values.checkForUpdatesOnLaunch = check;
     publish(m_preferences.setBoolean(checkForUpdatesOnLaunchKey, check),
             &SettingsViewModel::checkForUpdatesOnLaunchChanged);
 }
 
 void SettingsViewModel::resetToDefaults()
 {
-    const Values standard;
-    setNotificationsEnabled(standard.notificationsEnabled);
-    setReminderDays(standard.reminderDays);
-    setDefaultServiceInterval(standard.defaultServiceInterval);
-    setCurrencySymbol(standard.currencySymbol);
-    setDarkMode(standard.darkMode);
-    setCheckForUpdatesOnLaunch(standard.checkForUpdatesOnLaunch);
+    setNotificationsEnabled(standardNotificationsEnabled);
+    setReminderDays(standardReminderDays);
+    setDefaultServiceInterval(standardServiceInterval);
+    setCurrencySymbol(standardCurrencySymbol);
+    setDarkMode(standardDarkMode);
+    setCheckForUpdatesOnLaunch(standardCheckForUpdatesOnLaunch);
 }
 
 void SettingsViewModel::publish(const IoResult<void>& stored, void (SettingsViewModel::*signal)())

@@ -51,13 +51,29 @@ private Q_SLOTS:
         VERIFY_FAILED(m_store->setBoolean(key, true), EEXIST);
     }
 
-    void everyReadGoesToTheDisk()
+    void dataIsReadAnewAndScalarsAreKept()
     {
         VERIFY_OK(m_store->setBoolean(key, true));
         write(m_store->path(key), "false");
-        QCOMPARE(m_store->boolean(key), std::optional(false));
+        QCOMPARE(m_store->data(key).value(), std::optional<QByteArray>("false"));
+        QCOMPARE(m_store->boolean(key), std::optional(true));
         QVERIFY(QFile::remove(m_store->path(key)));
-        QVERIFY(!m_store->boolean(key));
+        QCOMPARE(m_store->boolean(key), std::optional(true));
+
+        QVERIFY(!m_store->integer(u"number"_s));
+        write(m_store->path(u"number"_s), "5");
+        QVERIFY(!m_store->integer(u"number"_s));
+        VERIFY_OK(m_store->setData(u"number"_s, "6")); // the owner of data writes past what was kept
+        QCOMPARE(m_store->integer(u"number"_s), std::optional(std::int64_t(6)));
+    }
+
+    void aScalarThatCannotBeWrittenStaysAsItWas()
+    {
+        VERIFY_OK(m_store->setBoolean(key, true));
+        QVERIFY(QFile::remove(m_store->path(key)));
+        QVERIFY(QDir().mkpath(m_store->path(key)));
+        VERIFY_FAILED(m_store->setBoolean(key, false), EISDIR);
+        QCOMPARE(m_store->boolean(key), std::optional(true));
     }
 
     void scalarsComeBack()

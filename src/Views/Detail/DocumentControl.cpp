@@ -45,8 +45,8 @@ void DocumentControl::lookLikeAForm(DocumentSlot slot)
     m_open->setAccessibleDescription(label);
     m_takeAway = named(new DestructiveButton(u"Rimuovi"_s), u"remove"_s + label);
     m_takeAway->setAccessibleDescription(label);
-    m_takeIn =
-        named(new PlainButton(u"Carica %1 (PDF)"_s.arg(label.toLower()), u"doc.badge.plus"_s), u"attach"_s + label);
+    const QString attach = slot == DocumentSlot::Receipt ? u"Carica scontrino (PDF)"_s : u"Carica certificato (PDF)"_s;
+    m_takeIn = named(new PlainButton(attach, u"doc.badge.plus"_s), u"attach"_s + label);
 }
 
 void DocumentControl::lookLikeLinks(DocumentSlot slot)
