@@ -6,7 +6,7 @@
 
 using namespace abissora;
 
-class tst_ServiceIntervals : public test::TestCase
+class tst_ServiceInterval : public test::TestCase
 {
     Q_OBJECT
 
@@ -28,5 +28,5 @@ private Q_SLOTS:
     }
 };
 
-ABISSORA_TEST(tst_ServiceIntervals);
-#include "tst_ServiceIntervals.moc"
+ABISSORA_TEST(tst_ServiceInterval);
+#include "tst_ServiceInterval.moc"
