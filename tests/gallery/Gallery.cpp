@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Gallery.h"
 
+#include "Gui.h"
 #include "Literals.h"
+#include "Scenes.h"
 #include "Theme.h"
 
-#include <QApplication>
 #include <QPixmap>
-#include <QWidget>
 
 namespace abissora::gallery {
 
@@ -16,9 +16,7 @@ bool renderScene(const Scene& scene, const QString& schemeName, const QDir& fold
 {
     const auto widget = scene.make();
     widget->show();
-    // A changed text travels upward one layout at a time, each by an event of its own.
-    for (int level = 0; level < 5; ++level)
-        QApplication::processEvents();
+    test::settle();
     const QString name = u"%1-%2@%3.png"_s.arg(scene.name, schemeName).arg(qApp->devicePixelRatio());
     return widget->grab().save(folder.filePath(name));
 }
@@ -35,6 +33,21 @@ bool render(const QList<Scene>& scenes, const QDir& folder)
             written = renderScene(scene, name, folder) && written;
     }
     return written;
+}
+
+QList<Scene> allScenes()
+{
+    return controlScenes() + componentScenes() + sheetScenes() + screenScenes() + detailScenes() + typeScenes() +
+           helpScenes() + overviewScenes() + settingsScenes() + updateScenes();
+}
+
+Scene sceneNamed(const QString& name)
+{
+    const QList<Scene> scenes = allScenes();
+    const auto found = std::ranges::find(scenes, name, &Scene::name);
+    if (found == scenes.end())
+        qFatal("no scene called %s", qPrintable(name));
+    return *found;
 }
 
 } // namespace abissora::gallery

@@ -16,4 +16,8 @@ namespace abissora::gallery {
 [[nodiscard]] QList<Scene> overviewScenes();
 [[nodiscard]] QList<Scene> updateScenes();
 
+[[nodiscard]] QList<Scene> allScenes();
+/// Ends the program when there is no scene of that name.
+[[nodiscard]] Scene sceneNamed(const QString& name);
+
 } // namespace abissora::gallery

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include "KeptPictures.h"
+#include "Literals.h"
 #include "Scenes.h"
 
 #include <QApplication>
-#include <QFont>
 #include <QProcess>
 #include <cstdio>
 
 namespace {
 
-constexpr double fixedPointSize = 10;
 constexpr const char* scaleVariable = "QT_SCALE_FACTOR";
 
 /// The scale belongs to the whole process, so each has one of its own.
@@ -26,21 +26,23 @@ int renderAtEveryScale(const char* program, const QString& folder)
 
 int main(int argc, char** argv)
 {
-    if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) {
-        std::fputs("usage: abissora-gallery DIR\n", stderr);
+    using namespace abissora;
+    using namespace abissora::gallery;
+    const QString argument = argc == 2 ? QString::fromLocal8Bit(argv[1]) : QString();
+    const bool refreshes = argument == "--refresh"_L1;
+    if (argument.isEmpty() || (!refreshes && !QDir().mkpath(argument))) {
+        std::fputs("usage: abissora-gallery DIR | --refresh\n", stderr);
         return 2;
     }
-    const QString folder = QString::fromLocal8Bit(argv[1]);
-    if (!qEnvironmentVariableIsSet(scaleVariable))
-        return renderAtEveryScale(argv[0], folder);
+    if (refreshes)
+        qunsetenv(scaleVariable);
+    else if (!qEnvironmentVariableIsSet(scaleVariable))
+        return renderAtEveryScale(argv[0], argument);
 
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    QFont font = QApplication::font();
-    font.setPointSizeF(fixedPointSize);
-    QApplication::setFont(font);
-    using namespace abissora::gallery;
-    const QList<Scene> scenes = controlScenes() + componentScenes() + sheetScenes() + screenScenes() + detailScenes() +
-                                typeScenes() + helpScenes() + overviewScenes() + settingsScenes() + updateScenes();
-    return render(scenes, QDir(folder)) ? 0 : 1;
+    pinAppearance();
+    const bool written =
+        refreshes ? refresh(QDir(QString::fromUtf8(KEPT_PICTURES))) : render(allScenes(), QDir(argument));
+    return written ? 0 : 1;
 }
