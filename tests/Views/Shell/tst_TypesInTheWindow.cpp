@@ -4,6 +4,8 @@
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
 #include "EquipmentTableView.h"
+#include "EquipmentTypeFormView.h"
+#include "EquipmentTypeManagementView.h"
 #include "FilterMenu.h"
 #include "IconViews.h"
 #include "Literals.h"
@@ -14,14 +16,19 @@
 #include "TestRunner.h"
 #include "Theme.h"
 #include "TypeAppearance.h"
-#include "TypesParts.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 
 using namespace abissora;
 using namespace abissora::test;
 
 namespace {
+
+EquipmentTypeModel ownType(const QString& name = u"Boa"_s)
+{
+    return {SequentialIds::at(900), name, u"dive.reel"_s, u"teal"_s, 90, true};
+}
 
 Equipment buoy()
 {
@@ -44,16 +51,13 @@ struct Shown
     Shown()
         : fixture(QList<Equipment>{buoy()})
     {
-        fixture.types.addType(own(900, u"Boa"_s));
+        fixture.types.addType(ownType());
         window = std::make_unique<MainWindow>(fixture, fixture.equipment, fixture.directories.windowStateFile());
         window->resize(1280, 800);
-        window->show();
-        window->activateWindow();
+        activate(*window);
         window->content().setSelectedEquipment(fixture.equipment.equipment().first());
         settle();
     }
-
-    static void settle() { QCoreApplication::processEvents(); }
 
     QStringList sidebar() const
     {
@@ -121,10 +125,10 @@ private Q_SLOTS:
     {
         using Change = std::function<void(EquipmentTypeViewModel&)>;
         QTest::addColumn<Change>("change");
-        QTest::newRow("deleted") << Change([](auto& types) { types.deleteType(own(900, {})); });
-        QTest::newRow("renamed") << Change([](auto& types) { types.updateType(own(900, u"Pallone"_s)); });
+        QTest::newRow("deleted") << Change([](auto& types) { types.deleteType(ownType()); });
+        QTest::newRow("renamed") << Change([](auto& types) { types.updateType(ownType(u"Pallone"_s)); });
         QTest::newRow("deactivated") << Change([](auto& types) {
-            EquipmentTypeModel inactive = own(900, u"Boa"_s);
+            EquipmentTypeModel inactive = ownType();
             inactive.isActive = false;
             types.updateType(inactive);
         });
@@ -137,7 +141,7 @@ private Q_SLOTS:
         const QList<Equipment> before = s.fixture.equipment.equipment();
         const auto stored = s.fixture.preferences.data(StorageManager::equipmentKey);
         change(s.fixture.types);
-        Shown::settle();
+        settle();
         QVERIFY(!s.sidebar().contains(u"Boa"_s));
         QVERIFY(!s.filterMenu().contains(u"Boa"_s));
         QCOMPARE(s.row().appearance, fallback);
@@ -160,8 +164,8 @@ private Q_SLOTS:
                                s.fixture.equipment.equipment().first(), s.window.get());
         form.open();
         QVERIFY(isShown(form, "interval"));
-        s.fixture.types.deleteType(own(900, {}));
-        Shown::settle();
+        s.fixture.types.deleteType(ownType());
+        settle();
         QCOMPARE(usable<QComboBox>(form, "type").currentText(), u"Boa"_s);
         QVERIFY(!isShown(form, "interval"));
         click(form, "primary");
@@ -171,11 +175,11 @@ private Q_SLOTS:
     void aNewLookIsShownAtOnce()
     {
         Shown s;
-        EquipmentTypeModel changed = own(900, u"Boa"_s);
+        EquipmentTypeModel changed = ownType();
         changed.icon = u"wrench.fill"_s;
         changed.color = u"pink"_s;
         s.fixture.types.updateType(changed);
-        Shown::settle();
+        settle();
         QCOMPARE(s.row().appearance, appearanceOf(changed));
         QCOMPARE(s.detailPicture(), pictureOf(s, appearanceOf(changed)));
     }
