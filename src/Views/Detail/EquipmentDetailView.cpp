@@ -36,9 +36,10 @@ EquipmentDetailView::EquipmentDetailView(std::unique_ptr<EquipmentDetail> detail
     , m_technical(new TechnicalDetails)
     , m_notes(named(new SelectableText, "notes"))
     , m_actions(new DetailActions)
-    , m_history(new MaintenanceHistory)
-    , m_body(makeBody())
+    , m_body(new ScrollPane)
+    , m_history(new MaintenanceHistory(*m_body))
 {
+    fillBody();
     setObjectName(u"equipmentDetail"_s);
     setMinimumWidth(leastWidth);
     setLayout(inColumn(0, {makeTitleBar(), {m_body, 1}}));
@@ -72,25 +73,23 @@ QWidget* EquipmentDetailView::makeTitleBar()
     return bar;
 }
 
-ScrollPane* EquipmentDetailView::makeBody()
+void EquipmentDetailView::fillBody()
 {
     m_notes->setAccessibleName(u"Note"_s);
     auto* notes = new GroupBox(u"Note"_s, u"note.text"_s);
     notes->content()->addWidget(m_notes);
 
-    auto* area = new ScrollPane;
     auto* layout = inColumn(metrics::spaceM, {m_header, m_technical, notes, m_actions, m_history},
                             {sideMargin, metrics::spaceXS, sideMargin, metrics::spaceL});
     layout->addStretch(1); // takes all the spare height: no card grows
-    area->widget()->setLayout(layout);
+    m_body->widget()->setLayout(layout);
     // The scroll bar stands in the margin: the cards keep their width when it comes and goes.
-    const QScrollBar* const bar = area->verticalScrollBar();
+    const QScrollBar* const bar = m_body->verticalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, layout, [bar, layout](int, int maximum) {
         QMargins margins = layout->contentsMargins();
         margins.setRight(maximum > 0 ? std::max(0, sideMargin - bar->sizeHint().width()) : sideMargin);
         layout->setContentsMargins(margins);
     });
-    return area;
 }
 
 void EquipmentDetailView::connectParts()

@@ -47,7 +47,7 @@ protected:
 
 private:
     [[nodiscard]] QWidget* makeTitleBar();
-    [[nodiscard]] ScrollPane* makeBody();
+    void fillBody();
     void connectParts();
     void redraw();
     void openForm(std::unique_ptr<MaintenanceDraft> draft);
@@ -60,8 +60,8 @@ private:
     TechnicalDetails* m_technical;
     SelectableText* m_notes;
     DetailActions* m_actions;
-    MaintenanceHistory* m_history;
     ScrollPane* m_body;
+    MaintenanceHistory* m_history;
 };
 
 } // namespace abissora

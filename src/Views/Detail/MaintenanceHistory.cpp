@@ -5,61 +5,73 @@
 #include "EmptyState.h"
 #include "Literals.h"
 #include "MaintenanceRow.h"
+#include "Metrics.h"
+#include "RowList.h"
 
 #include <QVBoxLayout>
 
 namespace abissora {
 
-MaintenanceHistory::MaintenanceHistory(QWidget* parent)
+class MaintenanceHistory::Rows final : public RowList
+{
+public:
+    Rows(QScrollArea& area, MaintenanceHistory& history)
+        : RowList(area, {.gap = 2 * metrics::spaceS + 1})
+        , m_history(history)
+    {}
+
+    void setRows(const QList<MaintenanceRowContent>& rows)
+    {
+        if (rows == m_content)
+            return; // the register changed elsewhere
+        const bool focusGoes = !rows.isEmpty() && focusedIndex() >= rows.size();
+        m_content = rows;
+        QList<QUuid> ids;
+        for (const MaintenanceRowContent& row : rows)
+            ids.append(row.id);
+        showItems(ids);
+        if (focusGoes)
+            rowsAs<MaintenanceRow>().last()->takeFocus();
+    }
+
+private:
+    QWidget* makeRow() override
+    {
+        auto* row = new MaintenanceRow(this);
+        connect(row, &MaintenanceRow::editRequested, &m_history, &MaintenanceHistory::editRequested);
+        connect(row, &MaintenanceRow::deleteRequested, &m_history, &MaintenanceHistory::deleteRequested);
+        connect(row, &MaintenanceRow::openRequested, &m_history, &MaintenanceHistory::openRequested);
+        connect(row, &MaintenanceRow::replaceRequested, &m_history, &MaintenanceHistory::replaceRequested);
+        connect(row, &MaintenanceRow::uploadRequested, &m_history, &MaintenanceHistory::uploadRequested);
+        return row;
+    }
+    void fillRow(QWidget& row, qsizetype index) override
+    {
+        row.setObjectName(u"maintenance%1"_s.arg(index));
+        static_cast<MaintenanceRow&>(row).setRow(m_content.at(index));
+    }
+    [[nodiscard]] bool isOfUsualHeight(const QWidget& /*ruler*/, qsizetype /*index*/) const override { return false; }
+
+    MaintenanceHistory& m_history;
+    QList<MaintenanceRowContent> m_content;
+};
+
+MaintenanceHistory::MaintenanceHistory(QScrollArea& area, QWidget* parent)
     : GroupBox(u"Cronologia Manutenzione"_s, u"clock.arrow.circlepath"_s, parent)
+    , m_rows(new Rows(area, *this))
     , m_empty(new EmptyState(u"checkmark.circle"_s, u"Nessuna manutenzione registrata"_s))
 {
     m_empty->setObjectName(u"emptyHistory"_s);
+    m_rows->setAccessibleName(title());
     content()->addWidget(m_empty);
+    content()->addWidget(m_rows);
 }
 
 void MaintenanceHistory::setRows(const QList<MaintenanceRowContent>& rows)
 {
-    while (m_entries.size() < rows.size())
-        addRow();
-    if (!rows.isEmpty())
-        keepFocusAbove(rows.size());
-    while (m_entries.size() > rows.size()) {
-        // Later, not now: the change may come from a button of the very row.
-        const Entry entry = m_entries.takeLast();
-        for (QWidget* part : {entry.divider, static_cast<QWidget*>(entry.row)}) {
-            part->hide();
-            part->deleteLater();
-        }
-    }
-    for (qsizetype i = 0; i < rows.size(); ++i)
-        m_entries.at(i).row->setRow(rows.at(i));
     m_empty->setVisible(rows.isEmpty());
-}
-
-void MaintenanceHistory::keepFocusAbove(qsizetype staying)
-{
-    const QWidget* const focused = window()->focusWidget();
-    const bool focusGoes = std::any_of(m_entries.cbegin() + staying, m_entries.cend(),
-                                       [focused](const Entry& entry) { return entry.row->isAncestorOf(focused); });
-    if (focusGoes)
-        m_entries.at(staying - 1).row->takeFocus();
-}
-
-void MaintenanceHistory::addRow()
-{
-    const Entry entry{new Separator(Separator::Weight::Divider), new MaintenanceRow};
-    MaintenanceRow* const row = entry.row;
-    row->setObjectName(u"maintenance%1"_s.arg(m_entries.size()));
-    connect(row, &MaintenanceRow::editRequested, this, &MaintenanceHistory::editRequested);
-    connect(row, &MaintenanceRow::deleteRequested, this, &MaintenanceHistory::deleteRequested);
-    connect(row, &MaintenanceRow::openRequested, this, &MaintenanceHistory::openRequested);
-    connect(row, &MaintenanceRow::replaceRequested, this, &MaintenanceHistory::replaceRequested);
-    connect(row, &MaintenanceRow::uploadRequested, this, &MaintenanceHistory::uploadRequested);
-    content()->addWidget(entry.divider);
-    content()->addWidget(row);
-    entry.divider->setVisible(!m_entries.isEmpty());
-    m_entries.append(entry);
+    m_rows->setVisible(!rows.isEmpty());
+    m_rows->setRows(rows);
 }
 
 } // namespace abissora

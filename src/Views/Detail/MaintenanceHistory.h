@@ -5,10 +5,11 @@
 #include "DetailContent.h"
 #include "MaintenanceRecords.h"
 
+class QScrollArea;
+
 namespace abissora {
 
 class EmptyState;
-class MaintenanceRow;
 
 /// The records of an item, each in its row.
 class MaintenanceHistory : public GroupBox
@@ -16,9 +17,10 @@ class MaintenanceHistory : public GroupBox
     Q_OBJECT
 
 public:
-    explicit MaintenanceHistory(QWidget* parent = nullptr);
+    /// Lies somewhere inside the area's widget.
+    explicit MaintenanceHistory(QScrollArea& area, QWidget* parent = nullptr);
 
-    /// A row that goes leaves the focus to the last one that stays; the last of all leaves it to whoever takes it.
+    /// The last row leaves the focus to the one before it when it goes; the last of all to whoever takes it.
     void setRows(const QList<MaintenanceRowContent>& rows);
 
 Q_SIGNALS:
@@ -30,16 +32,9 @@ Q_SIGNALS:
     void uploadRequested(QUuid id, abissora::DocumentSlot slot);
 
 private:
-    void addRow();
-    void keepFocusAbove(qsizetype staying);
+    class Rows;
 
-    struct Entry
-    {
-        QWidget* divider;
-        MaintenanceRow* row;
-    };
-
-    QList<Entry> m_entries;
+    Rows* m_rows;
     EmptyState* m_empty;
 };
 

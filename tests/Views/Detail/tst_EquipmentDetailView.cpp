@@ -17,6 +17,8 @@
 #include <QAccessible>
 #include <QLineEdit>
 #include <QMenu>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 using namespace abissora;
@@ -50,13 +52,14 @@ struct Shown
     [[nodiscard]] QStringList descriptions() const
     {
         QStringList texts;
-        for (const MaintenanceRow* row : view->findChildren<MaintenanceRow*>()) {
-            if (row->isVisible())
-                texts.append(textOf(*row, u"maintenanceDescription"_s));
-        }
+        for (int i = 0; isShown(*view, u"maintenance%1"_s.arg(i)); ++i)
+            texts.append(textOf(row(i), u"maintenanceDescription"_s));
         return texts;
     }
-    MaintenanceRow& row(int index) { return part<MaintenanceRow>(*view, u"maintenance%1"_s.arg(index)); }
+    [[nodiscard]] MaintenanceRow& row(int index) const
+    {
+        return part<MaintenanceRow>(*view, u"maintenance%1"_s.arg(index));
+    }
 
     RegisterFixture f;
     Equipment item;
@@ -192,6 +195,37 @@ private Q_SLOTS:
             QWidget& next = left > 0 ? part(s.row(left - 1), u"editMaintenance"_s) : part(*s.view, u"addMaintenance"_s);
             QCOMPARE(s.view->focusWidget(), &next);
         }
+    }
+
+    void aLongHistoryMakesFewRows()
+    {
+        QList<Maintenance> records;
+        for (int i = 0; i < 500; ++i)
+            records.append(makeRecord(i, i, u"Intervento %1"_s.arg(i) + u" e prova"_s.repeated(i % 20)));
+        Shown s(records);
+        s.view->resize(385, 700);
+        settle();
+        const auto check = [&s](int index) {
+            const MaintenanceRow& row = s.row(index);
+            QVERIFY(textOf(row, u"maintenanceDescription"_s).startsWith(u"Intervento %1"_s.arg(index)));
+            QCOMPARE(row.height(), row.heightForWidth(row.width()));
+            QVERIFY(s.view->findChildren<MaintenanceRow*>().size() < 20);
+        };
+        check(0);
+        check(1);
+        QScrollBar& bar = *s.view->findChild<QScrollArea*>()->verticalScrollBar();
+        bar.setValue(bar.maximum());
+        check(499);
+        check(498);
+        QVERIFY(!s.row(499).visibleRegion().isEmpty());
+        part(s.row(499), u"editMaintenance"_s).setFocus();
+        QTest::keyClick(s.view->focusWidget(), Qt::Key_Backtab);
+        QVERIFY(s.row(498).isAncestorOf(s.view->focusWidget()));
+        QTest::keyClick(s.view->focusWidget(), Qt::Key_Tab);
+        click(s.row(499), u"deleteMaintenance"_s);
+        QCOMPARE(openDialog<Alert>(*s.view).message().section(u'\n', 0, 0),
+                 u"Eliminare la manutenzione del %1?"_s.arg(
+                     textOf(s.row(499), u"maintenanceDate"_s).section(u" · "_s, 0, 0)));
     }
 
     void unknownRecord()
