@@ -6,7 +6,7 @@ import os
 
 from gi.repository import Atspi
 
-from program import until
+from program import local_day, on_local_day, until
 
 SAMPLES = ["Computer Suunto EON Core", "GAV Scubapro Hydros", "Erogatore Apeks XTX50"]
 
@@ -68,7 +68,7 @@ def journey(run, data):
     item = stored_item(data, "Faro di riserva")
     assert item["type"] == "Altro" and item["customTypeName"] == "Torcia", item
     assert (item["brand"], item["model"], item["serialNumber"]) == ("Scubapro", "Nova 850", ""), item
-    assert [item[key][:10] for key in ("purchaseDate", "lastServiceDate", "nextServiceDate")] == [
+    assert [local_day(item[key]) for key in ("purchaseDate", "lastServiceDate", "nextServiceDate")] == [
         "2024-02-29", "2025-12-31", "2026-12-31"], item
     assert item["notes"] == "con custodia" and item["isActive"] is True and item["maintenanceHistory"] == [], item
     program.close()
@@ -94,11 +94,10 @@ def journey(run, data):
     program.close()
 
     edited = stored_item(data, "Faro principale")
-    time_of_day = item["lastServiceDate"][10:]
     assert edited == item | {
         "name": "Faro principale",
         "serialNumber": "SN 7",
-        "lastServiceDate": "2026-03-01" + time_of_day,
-        "nextServiceDate": "2027-03-01" + time_of_day,
+        "lastServiceDate": on_local_day(item["lastServiceDate"], "2026-03-01"),
+        "nextServiceDate": on_local_day(item["lastServiceDate"], "2027-03-01"),
         "isActive": False,
     }, edited

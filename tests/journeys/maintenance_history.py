@@ -8,6 +8,8 @@ import re
 
 from gi.repository import Atspi
 
+from program import local_day
+
 NAME = "Erogatore Apeks XTX50"
 
 
@@ -70,9 +72,9 @@ def journey(run, data):
     history = item(data)["maintenanceHistory"]
     assert [entry["description"] for entry in history] == ["Revisione", "Pulizia degli stadi", "Prova"]
     assert [entry["cost"] for entry in history] == [1234.5, 12.5, 0]
-    assert [entry["date"][:10] for entry in history] == ["2026-05-10", "2025-02-03", "2026-03-20"]
+    assert [local_day(entry["date"]) for entry in history] == ["2026-05-10", "2025-02-03", "2026-03-20"]
     assert all(entry["isCompleted"] is True and entry["type"] == "Manutenzione Annuale" for entry in history)
-    assert [entry["nextServiceDate"][:10] for entry in history] == ["2027-05-10", "2026-02-03", "2027-03-20"]
+    assert [local_day(entry["nextServiceDate"]) for entry in history] == ["2027-05-10", "2026-02-03", "2027-03-20"]
     # The time of day is the moment of the entry; whole seconds are stored.
     assert all(re.fullmatch(r"T\d\d:\d\d:\d\dZ", entry[key][10:])
                for entry in history for key in ("date", "nextServiceDate")), history

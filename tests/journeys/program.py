@@ -6,12 +6,15 @@ import os
 import subprocess
 import threading
 import time
+from datetime import datetime, timezone
+from zoneinfo import ZoneInfo
 
 import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
+ZONE = "Europe/Rome"
 PATIENCE = 30.0
 POLL_INTERVAL = 0.02
 
@@ -31,6 +34,21 @@ def until(what, condition):
         threading.Event().wait(POLL_INTERVAL)  # poll
 
 
+def local(instant):
+    return datetime.fromisoformat(instant.replace("Z", "+00:00")).astimezone(ZoneInfo(ZONE))
+
+
+def local_day(instant):
+    """The day of a stored instant where the program runs, which late in the evening is not the one in UTC."""
+    return local(instant).strftime("%Y-%m-%d")
+
+
+def on_local_day(instant, day):
+    """The same time of day on another day."""
+    moved = datetime.fromisoformat(day + local(instant).strftime("T%H:%M:%S")).replace(tzinfo=ZoneInfo(ZONE))
+    return moved.astimezone(timezone.utc).strftime("%Y-%m-%dT%H:%M:%SZ")
+
+
 def children(node):
     return [child for child in (node.get_child_at_index(i) for i in range(node.get_child_count())) if child]
 
@@ -45,7 +63,7 @@ def descendants(node, deep_tables=False):
 class Program:
     def __init__(self, path, data_dir, arguments=()):
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb",
-                           LC_ALL="C.UTF-8", LANGUAGE="", TZ="Europe/Rome")
+                           LC_ALL="C.UTF-8", LANGUAGE="", TZ=ZONE)
         environment.pop("ABISSORA_DATA_DIR", None)
         self.lines = []
         self.process = subprocess.Popen([path, "--data-dir", data_dir, *arguments], env=environment,
