@@ -4,6 +4,7 @@
 // compared. Build it with the preset "release".
 #include "DayWatch.h"
 #include "EquipmentViewModel.h"
+#include "Generations.h"
 #include "Literals.h"
 #include "RecordJson.h"
 #include "Register.h"
@@ -43,8 +44,11 @@ class Catalogue
 {
 public:
     Catalogue(const QList<Equipment>& equipment, const Clock& clock, const Calendar& calendar)
-        : m_preferences(m_folder.filePath(u"preferences"_s), m_folder.path(), clock)
-        , m_documents(m_folder.filePath(u"documents"_s), m_panel, m_ids, m_console)
+        : m_directories(m_folder.path(), true)
+        , m_generations(m_directories, clock, calendar, m_console, m_permission)
+        , m_preferences(m_directories.preferences(), m_generations)
+        , m_archive(m_directories, clock, m_permission)
+        , m_documents(m_directories.maintenanceDocuments(), m_archive, m_panel, m_ids, m_console)
     {
         m_preferences.setData(StorageManager::equipmentKey, encode(equipment).value());
         m_viewModel.emplace(StorageManager(m_preferences, m_console, clock, calendar, m_ids), m_documents, m_console,
@@ -59,7 +63,11 @@ private:
     SilentConsole m_console;
     NoPanel m_panel;
     RandomIdGenerator m_ids;
+    ApplicationDirectories m_directories;
+    AlwaysPermitted m_permission;
+    Generations m_generations;
     PreferencesStore m_preferences;
+    DocumentArchive m_archive;
     MaintenanceDocumentStore m_documents;
     std::optional<EquipmentViewModel> m_viewModel;
 };

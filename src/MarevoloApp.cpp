@@ -24,8 +24,10 @@ MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories
     , m_directories(directories)
     , m_product(product)
     , m_almanac{m_clock, m_calendar, DateFormat(DateFormat::userLocale(), m_calendar)}
-    , m_preferences(directories.preferences(), directories.backups(), m_clock)
-    , m_documents(directories.maintenanceDocuments(), m_filePanel, m_ids, m_console)
+    , m_generations(directories, m_clock, m_calendar, m_console, m_permission)
+    , m_preferences(directories.preferences(), m_generations)
+    , m_archive(directories, m_clock, m_permission)
+    , m_documents(directories.maintenanceDocuments(), m_archive, m_filePanel, m_ids, m_console)
     , m_equipment(StorageManager(m_preferences, m_console, m_clock, m_calendar, m_ids), m_documents, m_console, m_clock,
                   m_calendar)
     , m_settings(m_preferences, m_console)

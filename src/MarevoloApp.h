@@ -8,6 +8,7 @@
 #include "DesktopOpener.h"
 #include "EquipmentTypeViewModel.h"
 #include "EquipmentViewModel.h"
+#include "Generations.h"
 #include "MaintenanceDocumentStore.h"
 #include "ScreenFactory.h"
 #include "SettingsViewModel.h"
@@ -70,7 +71,10 @@ private:
     ResourceSymbolLibrary m_symbols;
     DesktopFilePanel m_filePanel;
     DesktopOpener m_opener;
+    AlwaysPermitted m_permission;
+    Generations m_generations;
     PreferencesStore m_preferences;
+    DocumentArchive m_archive;
     MaintenanceDocumentStore m_documents;
     EquipmentViewModel m_equipment;
     SettingsViewModel m_settings;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ApplicationDirectories.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QStandardPaths>
 
@@ -14,6 +15,20 @@ QString perUserFolder(QStandardPaths::StandardLocation location)
     return QStandardPaths::writableLocation(location) + "/abissora"_L1;
 }
 
+/// What survives a restart but is worth no backup; the XDG base directory specification gives the place.
+QString stateFolder()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    const QString chosen = qEnvironmentVariable("XDG_STATE_HOME");
+    const QString base = QDir::isAbsolutePath(chosen) ? chosen : QDir::homePath() + "/.local/state"_L1;
+    return base + "/abissora"_L1;
+#else
+    return perUserFolder(QStandardPaths::GenericDataLocation) + "-state"_L1;
+#endif
+}
+
+constexpr qsizetype hashLength = 24;
+
 } // namespace
 
 ApplicationDirectories::ApplicationDirectories(const QString& root, bool own)
@@ -24,6 +39,12 @@ ApplicationDirectories::ApplicationDirectories(const QString& root, bool own)
 ApplicationDirectories ApplicationDirectories::standard()
 {
     return ApplicationDirectories(perUserFolder(QStandardPaths::GenericDataLocation));
+}
+
+QString ApplicationDirectories::emergency() const
+{
+    const QByteArray hash = QCryptographicHash::hash(m_root.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return stateFolder() + u'/' + QString::fromLatin1(hash.left(hashLength));
 }
 
 QString ApplicationDirectories::windowStateFile() const

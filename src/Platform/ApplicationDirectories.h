@@ -19,6 +19,10 @@ public:
     [[nodiscard]] QString preferences() const { return m_root + "/preferences"_L1; }
     [[nodiscard]] QString maintenanceDocuments() const { return m_root + "/MaintenanceDocuments"_L1; }
     [[nodiscard]] QString backups() const { return m_root + "/backups"_L1; }
+    [[nodiscard]] QString archivedDocuments() const { return backups() + "/documents"_L1; }
+    /// Where this register's data goes that cannot be written below root(): in the platform's state folder, under a
+    /// name made from the root.
+    [[nodiscard]] QString emergency() const;
     /// The file that keeps window sizes: in the platform's configuration folder, or in root() when the user chose it.
     [[nodiscard]] QString windowStateFile() const;
 

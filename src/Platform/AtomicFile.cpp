@@ -17,10 +17,14 @@ QString temporaryName()
 void removeLeftovers(const QString& folder)
 {
     QDir dir(folder);
-    const QStringList leftovers =
-        dir.entryList({u".abissora-????????????????.tmp"_s}, QDir::Files | QDir::Hidden | QDir::System);
-    for (const QString& name : leftovers)
-        dir.remove(name);
+    const QFileInfoList leftovers = dir.entryInfoList({u".abissora-????????????????.tmp"_s},
+                                                      QDir::Files | QDir::Dirs | QDir::Hidden | QDir::System);
+    for (const QFileInfo& leftover : leftovers) {
+        if (leftover.isDir() && !leftover.isSymLink())
+            QDir(leftover.filePath()).removeRecursively();
+        else
+            dir.remove(leftover.fileName());
+    }
 }
 
 } // namespace abissora::AtomicFile

@@ -23,6 +23,16 @@ namespace AtomicFile {
 /// Gives a file a second name, which must not exist. Needs neither space nor a readable file, but one file system.
 [[nodiscard]] IoResult<void> link(const QString& source, const QString& target);
 
+/// Renames a file or a folder within one file system; `target` must not exist ("File exists" otherwise). Both folders
+/// are synced.
+[[nodiscard]] IoResult<void> move(const QString& source, const QString& target);
+
+/// Removes a file and syncs its folder.
+[[nodiscard]] IoResult<void> remove(const QString& path);
+
+/// Makes what was created in the folder outlive a power cut.
+[[nodiscard]] IoResult<void> syncFolder(const QString& path);
+
 /// The whole content of a regular file.
 [[nodiscard]] IoResult<QByteArray> read(const QString& path);
 
@@ -31,7 +41,7 @@ namespace AtomicFile {
 
 /// ".abissora-0123456789abcdef.tmp" with random digits.
 [[nodiscard]] QString temporaryName();
-/// Removes the temporary files that a killed process left in `folder`. Nobody may be writing there.
+/// Removes the temporary files and folders that a killed process left in `folder`. Nobody may be writing there.
 void removeLeftovers(const QString& folder);
 
 } // namespace AtomicFile

@@ -85,6 +85,30 @@ IoResult<void> link(const QString& source, const QString& target)
     return {};
 }
 
+IoResult<void> move(const QString& source, const QString& target)
+{
+    if (QFileInfo::exists(target))
+        return failure(EEXIST);
+    std::error_code error;
+    std::filesystem::rename(source.toStdU16String(), target.toStdU16String(), error);
+    if (error)
+        return tl::unexpected(IoError{QString::fromStdString(error.message())});
+    return {};
+}
+
+IoResult<void> remove(const QString& path)
+{
+    QFile file(path);
+    if (!file.remove())
+        return failure(file);
+    return {};
+}
+
+IoResult<void> syncFolder(const QString& /*path*/)
+{
+    return {}; // no call for it
+}
+
 IoResult<QByteArray> read(const QString& path)
 {
     if (auto regular = checkRegular(path); !regular)

@@ -108,6 +108,40 @@ IoResult<void> link(const QString& source, const QString& target)
     return posix::link(*from, *to).and_then([&] { return posix::syncFolder(folder->get()); });
 }
 
+IoResult<void> move(const QString& source, const QString& target)
+{
+    const auto from = posix::systemName(source);
+    const auto to = posix::systemName(target);
+    if (!from || !to)
+        return posix::failure(EINVAL);
+    const auto left = posix::openFolder(folderOf(source));
+    if (!left)
+        return tl::unexpected(left.error());
+    const auto entered = posix::openFolder(folderOf(target));
+    if (!entered)
+        return tl::unexpected(entered.error());
+    // The new name first: after a power cut between the two the file has both, never none.
+    return posix::renameNew(*from, *to).and_then([&] { return posix::syncFolder(entered->get()); }).and_then([&] {
+        return posix::syncFolder(left->get());
+    });
+}
+
+IoResult<void> remove(const QString& path)
+{
+    const auto name = posix::systemName(path);
+    if (!name)
+        return tl::unexpected(name.error());
+    return posix::unlink(*name).and_then([&] { return syncFolder(folderOf(path)); });
+}
+
+IoResult<void> syncFolder(const QString& path)
+{
+    const auto folder = posix::openFolder(path);
+    if (!folder)
+        return tl::unexpected(folder.error());
+    return posix::syncFolder(folder->get());
+}
+
 IoResult<QByteArray> read(const QString& path)
 {
     const auto file = posix::openRegular(path);

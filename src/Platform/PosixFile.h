@@ -161,6 +161,11 @@ auto uninterrupted(Call call)
     return result(::link(source.constData(), target.constData()));
 }
 
+[[nodiscard]] inline IoResult<void> unlink(const QByteArray& name)
+{
+    return result(::unlink(name.constData()));
+}
+
 /// Fails when `target` exists, without a moment in which another process could slip in.
 [[nodiscard]] inline IoResult<void> renameNew(const QByteArray& source, const QByteArray& target)
 {
@@ -173,6 +178,8 @@ auto uninterrupted(Call call)
     auto linked = link(source, target);
     if (linked)
         ::unlink(source.constData());
+    else if (linked.error() == IoError::fromErrno(EPERM) && ::access(target.constData(), F_OK) != 0)
+        return rename(source, target); // a folder has no second name
     return linked;
 }
 

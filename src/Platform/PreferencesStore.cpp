@@ -4,13 +4,9 @@
 #include "AtomicFile.h"
 #include "Literals.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QFileInfo>
 #include <algorithm>
 #include <cerrno>
 #include <cmath>
-#include <filesystem>
 #include <limits>
 #include <nlohmann/json.hpp>
 #include <utility>
@@ -46,30 +42,11 @@ QByteArray encoded(const json& value)
     return QByteArray::fromStdString(value.dump(-1, ' ', false, json::error_handler_t::replace));
 }
 
-bool areOneFile(const QString& a, const QString& b)
-{
-    std::error_code error;
-    return std::filesystem::equivalent(a.toStdU16String(), b.toStdU16String(), error);
-}
-
-/// Whether `folder` holds a copy of the file among those named `pattern`. `bytes` is nothing when it cannot be read.
-bool hasCopy(const QString& folder, const QString& pattern, const QString& file, const std::optional<QByteArray>& bytes)
-{
-    const QFileInfoList candidates = QDir(folder).entryInfoList({pattern}, QDir::Files);
-    return std::ranges::any_of(candidates, [&](const QFileInfo& candidate) {
-        const QString path = candidate.absoluteFilePath();
-        if (areOneFile(path, file))
-            return true;
-        return bytes && candidate.size() == bytes->size() && AtomicFile::read(path) == *bytes;
-    });
-}
-
 } // namespace
 
-PreferencesStore::PreferencesStore(QString folder, QString backupsFolder, const Clock& clock)
+PreferencesStore::PreferencesStore(QString folder, StateKeeper& keeper)
     : m_folder(std::move(folder))
-    , m_backupsFolder(std::move(backupsFolder))
-    , m_clock(clock)
+    , m_keeper(keeper)
 {}
 
 QString PreferencesStore::path(const QString& key) const
@@ -81,6 +58,8 @@ IoResult<std::optional<QByteArray>> PreferencesStore::data(const QString& key) c
 {
     if (!isPlainName(key))
         return failure(EINVAL);
+    // Before the bytes: what changes while they are read then counts as changed.
+    m_known.insert(key, FileIdentity::of(path(key)));
     auto bytes = AtomicFile::read(path(key));
     if (bytes)
         return std::optional(*std::move(bytes));
@@ -89,16 +68,62 @@ IoResult<std::optional<QByteArray>> PreferencesStore::data(const QString& key) c
     return tl::unexpected(bytes.error());
 }
 
-IoResult<void> PreferencesStore::setData(const QString& key, const QByteArray& bytes)
+IoResult<void> PreferencesStore::setData(const QString& key, const QByteArray& bytes, Occasion occasion)
 {
     if (!isPlainName(key))
         return failure(EINVAL);
-    if (m_unpreserved.contains(key)) {
-        if (auto kept = preserveUnreadable(key); !kept)
-            return kept;
-    }
     m_scalars.remove(key);
-    return AtomicFile::makeFolder(m_folder).and_then([&] { return AtomicFile::replace(path(key), bytes); });
+    const auto before = m_pending.constFind(key);
+    const Pending value{bytes, before == m_pending.cend() ? occasion : std::max(occasion, before->occasion)};
+    auto stored = write(key, value);
+    if (stored) {
+        m_pending.remove(key);
+    } else {
+        m_pending.insert(key, value);
+        if (m_whenPending)
+            m_whenPending();
+    }
+    return stored;
+}
+
+IoResult<void> PreferencesStore::write(const QString& key, const Pending& value)
+{
+    if (auto allowed = m_keeper.beforeWriting(key, weightiest(key, value.occasion)); !allowed)
+        return allowed;
+    auto stored =
+        AtomicFile::makeFolder(m_folder).and_then([&] { return AtomicFile::replace(path(key), value.bytes); });
+    // After a failure of the very last step the new file stands there too.
+    m_known.insert(key, FileIdentity::of(path(key)));
+    if (stored)
+        m_toKeep.remove(key);
+    return stored;
+}
+
+Occasion PreferencesStore::weightiest(const QString& key, Occasion occasion) const
+{
+    occasion = std::max(occasion, m_toKeep.value(key, Occasion::change));
+    const std::optional<FileIdentity> present = FileIdentity::of(path(key));
+    return present && present != m_known.value(key) ? std::max(occasion, Occasion::foreignBytes) : occasion;
+}
+
+QHash<QString, QByteArray> PreferencesStore::pending() const
+{
+    QHash<QString, QByteArray> bytes;
+    for (auto it = m_pending.cbegin(); it != m_pending.cend(); ++it)
+        bytes.insert(it.key(), it->bytes);
+    return bytes;
+}
+
+QStringList PreferencesStore::retry()
+{
+    QStringList written;
+    for (const QString& key : m_pending.keys()) {
+        if (write(key, m_pending.value(key)))
+            written.append(key);
+    }
+    for (const QString& key : std::as_const(written))
+        m_pending.remove(key);
+    return written;
 }
 
 QByteArray PreferencesStore::scalar(const QString& key) const
@@ -112,9 +137,11 @@ QByteArray PreferencesStore::scalar(const QString& key) const
 
 IoResult<void> PreferencesStore::setScalar(const QString& key, const QByteArray& json)
 {
-    const QByteArray before = scalar(key);
+    if (!isPlainName(key))
+        return failure(EINVAL);
+    static_cast<void>(scalar(key)); // what it replaces was seen
     auto stored = setData(key, json);
-    m_scalars.insert(key, stored ? json : before);
+    m_scalars.insert(key, json);
     return stored;
 }
 
@@ -168,38 +195,17 @@ IoResult<void> PreferencesStore::preserveUnreadable(const QString& key)
 {
     if (!isPlainName(key))
         return failure(EINVAL);
-    auto kept = keepCopy(key);
+    auto kept = m_keeper.keepUnreadable(key);
     if (kept)
-        m_unpreserved.remove(key);
+        m_toKeep.remove(key);
     else
-        m_unpreserved.insert(key);
+        m_toKeep.insert(key, Occasion::unreadable);
     return kept;
 }
 
-IoResult<void> PreferencesStore::keepCopy(const QString& key) const
+void PreferencesStore::keepUnknownMembers(const QString& key)
 {
-    const QString source = path(key);
-    const auto bytes = data(key);
-    if (bytes && !*bytes)
-        return {}; // nothing there
-    if (hasCopy(m_backupsFolder, key + "-*.json"_L1, source, bytes.value_or(std::nullopt)))
-        return {};
-    if (auto made = AtomicFile::makeFolder(m_backupsFolder); !made)
-        return made;
-
-    const QDateTime now = QDateTime::fromMSecsSinceEpoch(m_clock.now().time_since_epoch().count(), Qt::UTC);
-    const QString stem = m_backupsFolder + u'/' + key + u'-' + now.toString(u"yyyyMMddTHHmmssZ"_s);
-    const IoError taken = IoError::fromErrno(EEXIST);
-    QString target = stem + ".json"_L1;
-    auto copied = AtomicFile::copy(source, target);
-    for (int n = 2; !copied && copied.error() == taken; ++n) {
-        target = stem + u"-%1.json"_s.arg(n);
-        copied = AtomicFile::copy(source, target);
-    }
-    // A second name needs no space and no readable bytes; replacing the file later leaves it alone.
-    if (!copied && AtomicFile::link(source, target))
-        return {};
-    return copied;
+    m_toKeep.insert(key, Occasion::unknownMembers);
 }
 
 } // namespace abissora

@@ -5,7 +5,6 @@
 #include "Literals.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace abissora {
@@ -51,8 +50,10 @@ private:
 
 } // namespace
 
-MaintenanceDocumentStore::MaintenanceDocumentStore(QString folder, FilePanel& panel, IdGenerator& ids, Console& console)
+MaintenanceDocumentStore::MaintenanceDocumentStore(QString folder, const DocumentArchive& archive, FilePanel& panel,
+                                                   IdGenerator& ids, Console& console)
     : m_folder(std::move(folder))
+    , m_archive(archive)
     , m_panel(panel)
     , m_ids(ids)
     , m_console(console)
@@ -110,8 +111,8 @@ std::optional<QString> MaintenanceDocumentStore::url(const QString& name) const
 
 void MaintenanceDocumentStore::deleteDocument(const QString& name) const
 {
-    if (const auto path = url(name))
-        QFile::remove(*path);
+    if (url(name))
+        m_archive.archive(name);
 }
 
 } // namespace abissora

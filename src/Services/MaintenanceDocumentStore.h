@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Console.h"
+#include "DocumentArchive.h"
 #include "FilePanel.h"
 #include "IdGenerator.h"
 #include "IoError.h"
@@ -16,7 +17,8 @@ class MaintenanceDocumentStore
 {
 public:
     /// `folder` need not exist. Everything passed by reference must outlive the store.
-    MaintenanceDocumentStore(QString folder, FilePanel& panel, IdGenerator& ids, Console& console);
+    MaintenanceDocumentStore(QString folder, const DocumentArchive& archive, FilePanel& panel, IdGenerator& ids,
+                             Console& console);
 
     /// The documents folder, created when missing.
     [[nodiscard]] IoResult<QString> documentsDirectory() const;
@@ -32,13 +34,17 @@ public:
     /// a regular file inside the folder, links leading out of it included.
     [[nodiscard]] std::optional<QString> url(const QString& name) const;
 
-    /// Does nothing when url finds no such file; a failure is ignored.
+    /// Moves the file to the archive, from where it can come back. Does nothing when url finds no such file; a failure
+    /// is ignored.
     void deleteDocument(const QString& name) const;
+    /// Makes the folder agree with a register that was read, whose records name these files.
+    void settle(const QSet<QString>& named) const { m_archive.settle(named); }
 
 private:
     IoResult<void> copyInto(const QString& name, const QString& source);
 
     QString m_folder;
+    const DocumentArchive& m_archive;
     FilePanel& m_panel;
     IdGenerator& m_ids;
     Console& m_console;

@@ -65,27 +65,31 @@ StorageManager::StorageManager(PreferencesStore& userDefaults, Console& console,
     , m_ids(ids)
 {}
 
-void StorageManager::saveEquipment(const QList<Equipment>& equipment)
+void StorageManager::saveEquipment(const QList<Equipment>& equipment, Occasion occasion)
 {
     const auto fail = [this](const QString& reason) { m_console.print(u"Error saving equipment: "_s + reason); };
     const auto json = encode(equipment);
     if (!json)
         fail(json.error().description());
-    else if (const auto stored = m_userDefaults.setData(equipmentKey, *json); !stored)
+    else if (const auto stored = m_userDefaults.setData(equipmentKey, *json, occasion); !stored)
         fail(stored.error().reason);
 }
 
 QList<Equipment> StorageManager::loadEquipment()
 {
+    m_hasLoadedStored = false;
     const auto stored = m_userDefaults.data(equipmentKey);
     if (!stored)
         return giveUpLoading(stored.error().reason);
     if (!*stored)
         return sampleEquipment(m_clock.now(), m_calendar, m_ids);
-    auto decoded = decodeEquipment(**stored);
+    auto decoded = readEquipment(**stored);
     if (!decoded)
         return giveUpLoading(decoded.error().description());
-    return std::move(*decoded);
+    if (decoded->hasUnknownMembers)
+        m_userDefaults.keepUnknownMembers(equipmentKey);
+    m_hasLoadedStored = true;
+    return std::move(decoded->records);
 }
 
 QList<Equipment> StorageManager::giveUpLoading(const QString& reason)

@@ -8,6 +8,7 @@
 #include "IdGenerator.h"
 #include "Literals.h"
 #include "PreferencesStore.h"
+#include "StateFiles.h"
 
 namespace abissora {
 
@@ -15,18 +16,21 @@ namespace abissora {
 class StorageManager
 {
 public:
-    static inline const QString equipmentKey = u"savedEquipment"_s;
+    static inline const QString equipmentKey = registerKey;
 
     /// Everything passed by reference must outlive it.
     StorageManager(PreferencesStore& userDefaults, Console& console, const Clock& clock, Calendar calendar,
                    IdGenerator& ids);
 
-    /// Replaces the stored list. After a failure the stored list is what it was.
-    void saveEquipment(const QList<Equipment>& equipment);
+    /// Replaces the stored list. After a failure the stored list is what it was, and the new one is pending in the
+    /// preferences store. `occasion` tells what the new list lacks.
+    void saveEquipment(const QList<Equipment>& equipment, Occasion occasion = Occasion::change);
 
     /// The stored list; the sample list, which is not written back, when nothing is stored or it cannot be read. A copy
     /// of stored bytes that cannot be decoded is kept before anything overwrites them.
     [[nodiscard]] QList<Equipment> loadEquipment();
+    /// Whether the list that was loaded is the stored one.
+    [[nodiscard]] bool hasLoadedStored() const { return m_hasLoadedStored; }
 
 private:
     [[nodiscard]] QList<Equipment> giveUpLoading(const QString& reason);
@@ -36,6 +40,7 @@ private:
     const Clock& m_clock;
     Calendar m_calendar;
     IdGenerator& m_ids;
+    bool m_hasLoadedStored = false;
 };
 
 } // namespace abissora

@@ -76,19 +76,21 @@ bool EquipmentTypeViewModel::loadStoredTypes()
         return giveUp(stored.error().reason);
     if (!*stored)
         return false;
-    const auto decoded = decodeTypes(**stored);
+    const auto decoded = readTypes(**stored);
     if (!decoded)
         return giveUp(decoded.error().description());
-    setTypes(*decoded);
+    if (decoded->hasUnknownMembers)
+        m_preferences.keepUnknownMembers(typesKey);
+    setTypes(decoded->records);
     return true;
 }
 
-void EquipmentTypeViewModel::saveTypes()
+void EquipmentTypeViewModel::saveTypes(Occasion occasion)
 {
     const auto json = encode(m_types);
     if (!json)
         report(savingFailed, json.error().description());
-    else if (const auto stored = m_preferences.setData(typesKey, *json); !stored)
+    else if (const auto stored = m_preferences.setData(typesKey, *json, occasion); !stored)
         report(savingFailed, stored.error().reason);
 }
 
@@ -163,7 +165,7 @@ void EquipmentTypeViewModel::deleteType(const EquipmentTypeModel& type)
     if (index < 0)
         return;
     m_types.removeAt(index);
-    saveTypes();
+    saveTypes(Occasion::deletedType);
     announce(&EquipmentTypeViewModel::typesChanged);
 }
 
@@ -179,7 +181,7 @@ QList<EquipmentTypeModel> EquipmentTypeViewModel::getDefaultTypes() const
 void EquipmentTypeViewModel::resetToDefaults()
 {
     m_types = getDefaultTypes();
-    saveTypes();
+    saveTypes(Occasion::typesReset);
     storeIconVersion();
     announce(&EquipmentTypeViewModel::typesChanged);
 }
@@ -189,7 +191,7 @@ void EquipmentTypeViewModel::migrateIconsIfNeeded()
     if (m_preferences.integer(iconVersionKey).value_or(0) >= currentIconVersion)
         return;
     if (migrateIcons(m_types, getDefaultTypes(), m_symbols)) {
-        saveTypes();
+        saveTypes(Occasion::iconsMigrated);
         announce(&EquipmentTypeViewModel::typesChanged);
     }
     storeIconVersion();

@@ -7,6 +7,7 @@
 #include "IdGenerator.h"
 #include "Literals.h"
 #include "PreferencesStore.h"
+#include "StateFiles.h"
 #include "StateObject.h"
 #include "SymbolLibrary.h"
 
@@ -21,7 +22,7 @@ class EquipmentTypeViewModel : public StateObject
     Q_OBJECT
 
 public:
-    static inline const QString typesKey = u"equipmentTypes"_s;
+    static inline const QString typesKey = abissora::typesKey;
     static inline const QString iconVersionKey = u"iconSetVersion"_s;
     static constexpr std::int64_t currentIconVersion = 4;
 
@@ -32,7 +33,8 @@ public:
     /// The stored types with their icons migrated; the defaults, stored at once, when there are none or they cannot be
     /// read (a copy of the unreadable bytes is kept).
     void loadTypes();
-    void saveTypes();
+    /// `occasion` tells what the list lacks.
+    void saveTypes(Occasion occasion = Occasion::change);
 
     [[nodiscard]] const QList<EquipmentTypeModel>& types() const { return m_types; }
     /// Publishes without saving.

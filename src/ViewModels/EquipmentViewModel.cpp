@@ -5,6 +5,22 @@
 
 namespace abissora {
 
+namespace {
+
+/// What replacing an item takes away.
+Occasion lossBetween(const Equipment& before, const Equipment& after)
+{
+    QSet<QUuid> ids;
+    for (const Maintenance& record : after.maintenanceHistory)
+        ids.insert(record.id);
+    const auto isLost = [&ids](const Maintenance& record) { return !ids.contains(record.id); };
+    if (std::ranges::any_of(before.maintenanceHistory, isLost))
+        return Occasion::deletedRecord;
+    return documentNames({after}).contains(documentNames({before})) ? Occasion::change : Occasion::deletedDocument;
+}
+
+} // namespace
+
 EquipmentViewModel::EquipmentViewModel(StorageManager storageManager, MaintenanceDocumentStore& documents,
                                        Console& console, const Clock& clock, Calendar calendar, QObject* parent)
     : StateObject(parent)
@@ -20,6 +36,9 @@ EquipmentViewModel::EquipmentViewModel(StorageManager storageManager, Maintenanc
 void EquipmentViewModel::loadEquipment()
 {
     m_equipment = m_storageManager.loadEquipment();
+    // Samples say nothing about the documents of a register that could not be read.
+    if (m_storageManager.hasLoadedStored())
+        m_documents.settle(documentNames(m_equipment));
     QString log = u"📦 Caricati %1 equipaggiamenti"_s.arg(m_equipment.size());
     for (const Equipment& item : std::as_const(m_equipment)) {
         log += u"\n   📌 "_s + item.name + u": type='"_s + rawValue(item.type) + u"', customType='"_s +
@@ -55,8 +74,8 @@ void EquipmentViewModel::updateEquipment(const Equipment& equipment)
     if (!item)
         return;
     const QString name = equipment.name;
-    *item = equipment;
-    saveAndNotify();
+    const Equipment before = std::exchange(*item, equipment);
+    saveAndNotify(lossBetween(before, *item));
     m_console.print(u"✏️ Aggiornato equipaggiamento: "_s + name);
 }
 
@@ -65,11 +84,13 @@ void EquipmentViewModel::deleteEquipment(const Equipment& equipment)
     const Equipment* item = find(equipment.id);
     if (!item)
         return;
-    const QString name = item->name;
-    for (const Maintenance& maintenance : item->maintenanceHistory)
-        deleteDocuments(maintenance);
+    const Equipment deleted = *item;
+    const QString name = deleted.name;
     m_equipment.removeAt(item - m_equipment.constData());
-    saveAndNotify();
+    m_storageManager.saveEquipment(m_equipment, Occasion::deletedItem);
+    for (const Maintenance& maintenance : deleted.maintenanceHistory)
+        deleteDocuments(maintenance);
+    announce(&EquipmentViewModel::equipmentChanged);
     m_console.print(u"🗑️ Eliminato equipaggiamento: "_s + name);
 }
 
@@ -93,9 +114,10 @@ void EquipmentViewModel::updateMaintenance(const QUuid& to, const Maintenance& m
     const auto record = std::ranges::find(history, maintenance.id, &Maintenance::id);
     if (record == history.end())
         return;
+    const Equipment before = *item;
     *record = maintenance;
     recomputeServiceDates(*item);
-    saveAndNotify();
+    saveAndNotify(lossBetween(before, *item));
 }
 
 void EquipmentViewModel::deleteMaintenance(const QUuid& from, const QUuid& maintenanceId)
@@ -106,11 +128,15 @@ void EquipmentViewModel::deleteMaintenance(const QUuid& from, const QUuid& maint
     auto& history = item->maintenanceHistory;
     // By value: the argument may be the id of the very record that is moved over.
     const auto hasId = [maintenanceId](const Maintenance& m) { return m.id == maintenanceId; };
-    if (const auto record = std::ranges::find_if(std::as_const(history), hasId); record != history.cend())
-        deleteDocuments(*record);
+    const auto record = std::ranges::find_if(std::as_const(history), hasId);
+    const std::optional<Maintenance> deleted = record == history.cend() ? std::nullopt : std::optional(*record);
     history.removeIf(hasId);
     recomputeServiceDates(*item);
-    saveAndNotify();
+    m_storageManager.saveEquipment(m_equipment, deleted ? Occasion::deletedRecord : Occasion::change);
+    // The stored register names them no more.
+    if (deleted)
+        deleteDocuments(*deleted);
+    announce(&EquipmentViewModel::equipmentChanged);
 }
 
 void EquipmentViewModel::setSearchText(const QString& text)
@@ -201,9 +227,9 @@ void EquipmentViewModel::deleteDocuments(const Maintenance& maintenance) const
     }
 }
 
-void EquipmentViewModel::saveAndNotify()
+void EquipmentViewModel::saveAndNotify(Occasion occasion)
 {
-    m_storageManager.saveEquipment(m_equipment);
+    m_storageManager.saveEquipment(m_equipment, occasion);
     announce(&EquipmentViewModel::equipmentChanged);
 }
 

@@ -74,7 +74,7 @@ private:
     [[nodiscard]] Equipment* find(const QUuid& id);
     static void recomputeServiceDates(Equipment& item);
     void deleteDocuments(const Maintenance& maintenance) const;
-    void saveAndNotify();
+    void saveAndNotify(Occasion occasion = Occasion::change);
 
     StorageManager m_storageManager;
     MaintenanceDocumentStore& m_documents;

@@ -161,9 +161,8 @@ private:
 
     void wantCheckAtStart(bool want) const
     {
-        const SystemClock clock;
-        const ApplicationDirectories folders = directories();
-        PreferencesStore preferences(folders.preferences(), folders.backups(), clock);
+        KeepNothing keeper;
+        PreferencesStore preferences(directories().preferences(), keeper);
         StandardOutput console;
         SettingsViewModel(preferences, console).setCheckForUpdatesOnLaunch(want);
     }

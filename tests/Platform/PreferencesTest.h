@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Fakes.h"
 #include "IoChecks.h"
 #include "Literals.h"
 #include "PreferencesStore.h"
@@ -12,6 +11,30 @@
 #include <QTemporaryDir>
 
 namespace abissora::test {
+
+class RecordingKeeper final : public StateKeeper
+{
+public:
+    struct Told
+    {
+        QString key;
+        Occasion occasion;
+        friend bool operator==(const Told&, const Told&) = default;
+    };
+
+    IoResult<void> beforeWriting(const QString& key, Occasion occasion) override
+    {
+        told.append({key, occasion});
+        if (forbids)
+            return tl::unexpected(IoError::fromErrno(EROFS));
+        return {};
+    }
+
+    IoResult<void> keepUnreadable(const QString& key) override { return beforeWriting(key, Occasion::unreadable); }
+
+    QList<Told> told;
+    bool forbids = false;
+};
 
 /// A store over an empty folder for each test function.
 class PreferencesTest : public TestCase
@@ -24,15 +47,15 @@ protected Q_SLOTS:
     {
         TestCase::init();
         m_folder.emplace();
+        m_keeper = {};
         QVERIFY(m_folder->isValid());
-        m_store.emplace(preferences(), backups(), m_clock);
+        m_store.emplace(preferences(), m_keeper);
     }
 
 protected:
     const QString key = u"savedEquipment"_s;
 
     [[nodiscard]] QString preferences() const { return m_folder->filePath(u"preferences"_s); }
-    [[nodiscard]] QString backups() const { return m_folder->filePath(u"backups"_s); }
 
     static QByteArray content(const QString& path)
     {
@@ -53,7 +76,7 @@ protected:
     }
 
     std::optional<QTemporaryDir> m_folder;
-    FixedClock m_clock;
+    RecordingKeeper m_keeper;
     std::optional<PreferencesStore> m_store;
 };
 

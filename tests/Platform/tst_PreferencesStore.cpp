@@ -67,15 +67,6 @@ private Q_SLOTS:
         QCOMPARE(m_store->integer(u"number"_s), std::optional(std::int64_t(6)));
     }
 
-    void aScalarThatCannotBeWrittenStaysAsItWas()
-    {
-        VERIFY_OK(m_store->setBoolean(key, true));
-        QVERIFY(QFile::remove(m_store->path(key)));
-        QVERIFY(QDir().mkpath(m_store->path(key)));
-        VERIFY_FAILED(m_store->setBoolean(key, false), EISDIR);
-        QCOMPARE(m_store->boolean(key), std::optional(true));
-    }
-
     void scalarsComeBack()
     {
         VERIFY_OK(m_store->setBoolean(u"darkMode"_s, true));
@@ -221,6 +212,107 @@ private Q_SLOTS:
         QCOMPARE(m_store->data(key).value(), std::optional(QByteArray("old")));
         QCOMPARE(namesIn(preferences()).size(), 1);
     }
+
+    void aFailedWriteIsPendingUntilARetrySucceeds()
+    {
+        int told = 0;
+        m_store->whenPending([&told] { ++told; });
+        VERIFY_OK(m_store->setData(key, "old"));
+        const QByteArray large(100'000, 'x');
+        QStringList written;
+        {
+            const test::FileSizeLimit limit(50'000);
+            static_cast<void>(m_store->setData(key, large));
+            static_cast<void>(m_store->setBoolean(u"darkMode"_s, true));
+            written = m_store->retry();
+        }
+        QCOMPARE(told, 1);
+        QCOMPARE(written, QStringList());
+        QCOMPARE(m_store->pending().keys(), QStringList{key});
+        QCOMPARE(m_store->retry(), QStringList{key});
+        QVERIFY(m_store->pending().isEmpty());
+        QCOMPARE(m_store->data(key).value(), std::optional(large));
+    }
+
+    void aLaterWriteTakesThePlaceOfAPendingOne()
+    {
+        write(preferences(), "in the way");
+        VERIFY_FAILED(m_store->setData(key, "first"), EEXIST);
+        VERIFY_FAILED(m_store->setData(key, "second"), EEXIST);
+        QVERIFY(QFile::remove(preferences()));
+        VERIFY_OK(m_store->setData(key, "third"));
+        QCOMPARE(m_store->retry(), QStringList());
+        QCOMPARE(m_store->data(key).value(), std::optional(QByteArray("third")));
+    }
+
+    void aPendingScalarStands()
+    {
+        write(preferences(), "in the way");
+        VERIFY_FAILED(m_store->setInteger(u"reminderDays"_s, 7), EEXIST);
+        QCOMPARE(m_store->integer(u"reminderDays"_s), std::optional(std::int64_t(7)));
+    }
+
+    void theKeeperIsTold()
+    {
+        const QString other = u"equipmentTypes"_s;
+        VERIFY_OK(m_store->setData(key, "1"));
+        VERIFY_OK(m_store->setData(key, "2", Occasion::deletedItem));
+        write(m_store->path(key), "of another program");
+        VERIFY_OK(m_store->setData(key, "3"));
+        write(m_store->path(other), "was never read");
+        VERIFY_OK(m_store->setData(other, "4"));
+        write(m_store->path(u"darkMode"_s), "false");
+        VERIFY_OK(m_store->setBoolean(u"darkMode"_s, true)); // was read first
+        m_store->keepUnknownMembers(key);
+        VERIFY_OK(m_store->setData(key, "5"));
+        VERIFY_OK(m_store->setData(key, "6"));
+        QCOMPARE(m_keeper.told, (QList<Told>{{key, Occasion::change},
+                                             {key, Occasion::deletedItem},
+                                             {key, Occasion::foreignBytes},
+                                             {other, Occasion::foreignBytes},
+                                             {u"darkMode"_s, Occasion::change},
+                                             {key, Occasion::unknownMembers},
+                                             {key, Occasion::change}}));
+    }
+
+    void theSameBytesInAnotherFileAreForeignToo()
+    {
+        VERIFY_OK(m_store->setData(key, "1"));
+        QVERIFY(QFile::remove(m_store->path(key)));
+        write(m_store->path(key) + u"2"_s, "in between");
+        write(m_store->path(key), "1");
+        VERIFY_OK(m_store->setData(key, "2"));
+        QCOMPARE(m_keeper.told.last().occasion, Occasion::foreignBytes);
+    }
+
+    void whatTheKeeperForbidsIsPendingWithItsOccasion()
+    {
+        VERIFY_OK(m_store->setData(key, "1"));
+        m_keeper.forbids = true;
+        VERIFY_FAILED(m_store->setData(key, "2", Occasion::deletedItem), EROFS);
+        VERIFY_FAILED(m_store->setData(key, "3"), EROFS);
+        QCOMPARE(m_store->data(key).value(), std::optional(QByteArray("1")));
+        m_keeper.forbids = false;
+        m_keeper.told.clear();
+        QCOMPARE(m_store->retry(), QStringList{key});
+        QCOMPARE(m_keeper.told, (QList<Told>{{key, Occasion::deletedItem}}));
+        QCOMPARE(m_store->data(key).value(), std::optional(QByteArray("3")));
+    }
+
+    void unreadableDataIsKeptBeforeTheFirstWrite()
+    {
+        write(m_folder->filePath(u"x"_s), "");
+        m_keeper.forbids = true;
+        VERIFY_FAILED(m_store->preserveUnreadable(key), EROFS);
+        m_keeper.forbids = false;
+        VERIFY_OK(m_store->setData(key, "1"));
+        VERIFY_OK(m_store->setData(key, "2"));
+        QCOMPARE(m_keeper.told,
+                 (QList<Told>{{key, Occasion::unreadable}, {key, Occasion::unreadable}, {key, Occasion::change}}));
+    }
+
+private:
+    using Told = test::RecordingKeeper::Told;
 };
 
 ABISSORA_TEST(tst_PreferencesStore);

@@ -64,7 +64,7 @@ private Q_SLOTS:
         };
         test::TemporaryRegister files;
         OneId ids;
-        MaintenanceDocumentStore store(files.path(u"documents"_s), files.panel, ids, files.console);
+        MaintenanceDocumentStore store(files.path(u"documents"_s), files.archive, files.panel, ids, files.console);
         QCOMPARE(store.store(files.write(u"a.pdf"_s, "")),
                  std::optional(u"E621E1F8-C36C-495A-93FC-0C247A3E6E5F.pdf"_s));
     }

@@ -35,7 +35,8 @@ private Q_SLOTS:
     void theFolderIsMadeWhenAskedFor()
     {
         test::TemporaryRegister files;
-        const MaintenanceDocumentStore store(files.path(u"a/b/c"_s), files.panel, files.ids, files.console);
+        const MaintenanceDocumentStore store(files.path(u"a/b/c"_s), files.archive, files.panel, files.ids,
+                                             files.console);
         QVERIFY(!QFileInfo::exists(files.path(u"a"_s)));
         for (int time = 0; time < 2; ++time) {
             QCOMPARE(store.documentsDirectory().value(), files.path(u"a/b/c"_s));

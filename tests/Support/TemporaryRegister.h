@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Builders.h"
+#include "Generations.h"
 #include "Literals.h"
 #include "MaintenanceDocumentStore.h"
 #include "RecordJson.h"
@@ -25,8 +26,12 @@ struct TemporaryRegister
     SequentialIds ids;
     RecordingConsole console;
     ScriptedFilePanel panel;
-    PreferencesStore preferences{folder.filePath(u"preferences"_s), folder.filePath(u"backups"_s), clock};
-    MaintenanceDocumentStore documents{folder.filePath(u"MaintenanceDocuments"_s), panel, ids, console};
+    ApplicationDirectories directories{folder.path(), true};
+    AlwaysPermitted permission;
+    Generations generations{directories, clock, calendar, console, permission};
+    PreferencesStore preferences{directories.preferences(), generations};
+    DocumentArchive archive{directories, clock, permission};
+    MaintenanceDocumentStore documents{directories.maintenanceDocuments(), archive, panel, ids, console};
 
     /// Over what is stored, or over `stored`, which takes its place.
     [[nodiscard]] StorageManager storageManager(const std::optional<QList<Equipment>>& stored = std::nullopt)

@@ -128,8 +128,8 @@ private Q_SLOTS:
         QVERIFY2(m_files->console.text().startsWith(error), qPrintable(m_files->console.text()));
         QCOMPARE(decodeTypes(m_files->content(test::typesFile)).value(), standardTypes(1));
         QCOMPARE(m_files->content(versionFile), QByteArray("4"));
-        QCOMPARE(m_files->names(backups), QStringList{u"equipmentTypes-20260615T100000Z.json"_s});
-        QCOMPARE(m_files->content(u"backups/equipmentTypes-20260615T100000Z.json"_s), bytes);
+        QCOMPARE(m_files->names(backups), QStringList{u"20260615T100000.000Z-unreadable"_s});
+        QCOMPARE(m_files->content(u"backups/20260615T100000.000Z-unreadable/equipmentTypes.json"_s), bytes);
     }
 
     void withoutACopyNothingIsOverwritten()

@@ -129,22 +129,22 @@ private Q_SLOTS:
         QCOMPARE(m_files->content(u"preferences/iconSetVersion.json"_s), QByteArray("3"));
     }
 
-    void aFailedWriteIsLoggedAndChangesNothing()
+    void aFailedWriteIsLoggedAndIsMadeUpFor()
     {
         {
             const test::FileSizeLimit limit(1);
             m_settings->setDarkMode(true);
         }
         QCOMPARE(m_timeline->take().first(), QString(u"Error saving settings: "_s + IoError::fromErrno(EFBIG).reason));
-        QCOMPARE(m_settings->darkMode(), false);
+        QCOMPARE(m_settings->darkMode(), true);
+        QCOMPARE(m_files->names(u"preferences"_s), QStringList());
+        QCOMPARE(m_files->preferences.retry(), QStringList{u"darkMode"_s});
+        QCOMPARE(m_files->content(u"preferences/darkMode.json"_s), QByteArray("true"));
     }
 
 private:
     /// As a restart of the program makes it.
-    [[nodiscard]] PreferencesStore newStore() const
-    {
-        return {m_files->path(u"preferences"_s), m_files->path(u"backups"_s), m_files->clock};
-    }
+    [[nodiscard]] PreferencesStore newStore() { return {m_files->directories.preferences(), m_files->generations}; }
 
     void compareDefaults() const
     {

@@ -18,10 +18,12 @@ def journey(run, data):
     assert any(line.startswith("Error loading types: ") for line in program.lines)
     program.close()
 
+    states = os.listdir(os.path.join(data, "backups"))
+    assert len(states) == 1 and states[0].endswith("-unreadable"), states
     kept = {}
-    for name in os.listdir(os.path.join(data, "backups")):
-        with open(os.path.join(data, "backups", name), "rb") as file:
-            kept[name.split("-")[0]] = file.read()
+    for name in os.listdir(os.path.join(data, "backups", states[0])):
+        with open(os.path.join(data, "backups", states[0], name), "rb") as file:
+            kept[name.split(".")[0]] = file.read()
     assert kept == broken, kept
 
     # A second start finds the same bytes kept already, and the types readable.
@@ -29,4 +31,4 @@ def journey(run, data):
     program.wait_for_lines(["📦 Caricati 3 equipaggiamenti"])
     assert not any(line.startswith("Error loading types: ") for line in program.lines)
     program.close()
-    assert len(os.listdir(os.path.join(data, "backups"))) == 2
+    assert len([name for name in os.listdir(os.path.join(data, "backups")) if name.endswith("-unreadable")]) == 1

@@ -30,6 +30,25 @@ tl::expected<Value, JsonError> decode(const QByteArray& text)
     return value;
 }
 
+template <typename Record>
+tl::expected<Decoded<Record>, JsonError> read(const QByteArray& text)
+{
+    Decoded<Record> decoded;
+    json::ReadNotes notes;
+    if (auto error = json::readInto(&decoded.records, json::SlotOf<QList<Record>>::slot, text, &notes))
+        return tl::unexpected(std::move(*error));
+    decoded.hasUnknownMembers = notes.unknownMembers;
+    return decoded;
+}
+
+template <typename Record>
+Salvaged<Record> salvage(const QByteArray& text)
+{
+    Salvaged<Record> salvaged;
+    salvaged.total = json::salvageInto(&salvaged.records, json::SlotOf<QList<Record>>::slot, text, salvaged.errors);
+    return salvaged;
+}
+
 } // namespace
 
 QString JsonError::description() const
@@ -55,6 +74,26 @@ tl::expected<QList<Equipment>, JsonError> decodeEquipment(const QByteArray& json
 tl::expected<QList<EquipmentTypeModel>, JsonError> decodeTypes(const QByteArray& json)
 {
     return decode<QList<EquipmentTypeModel>>(json);
+}
+
+tl::expected<Decoded<Equipment>, JsonError> readEquipment(const QByteArray& json)
+{
+    return read<Equipment>(json);
+}
+
+tl::expected<Decoded<EquipmentTypeModel>, JsonError> readTypes(const QByteArray& json)
+{
+    return read<EquipmentTypeModel>(json);
+}
+
+Salvaged<Equipment> salvageEquipment(const QByteArray& json)
+{
+    return salvage<Equipment>(json);
+}
+
+Salvaged<EquipmentTypeModel> salvageTypes(const QByteArray& json)
+{
+    return salvage<EquipmentTypeModel>(json);
 }
 
 tl::expected<UpdateManifest, JsonError> decodeManifest(const QByteArray& json)

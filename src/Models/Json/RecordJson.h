@@ -33,6 +33,30 @@ struct JsonError
 [[nodiscard]] tl::expected<QList<Equipment>, JsonError> decodeEquipment(const QByteArray& json);
 [[nodiscard]] tl::expected<QList<EquipmentTypeModel>, JsonError> decodeTypes(const QByteArray& json);
 
+/// The records, and whether the document says more than they can hold: writing them would lose it.
+template <typename Record>
+struct Decoded
+{
+    QList<Record> records;
+    bool hasUnknownMembers = false;
+};
+
+[[nodiscard]] tl::expected<Decoded<Equipment>, JsonError> readEquipment(const QByteArray& json);
+[[nodiscard]] tl::expected<Decoded<EquipmentTypeModel>, JsonError> readTypes(const QByteArray& json);
+
+/// What can be read of a damaged document: the records that are whole and valid, in order, the number of all that
+/// were begun, and every value that cannot be read. A byte order mark is passed over, the text ends at a NUL byte.
+template <typename Record>
+struct Salvaged
+{
+    QList<Record> records;
+    qsizetype total = 0;
+    QList<JsonError> errors; ///< bounded: beyond a thousand they say nothing new
+};
+
+[[nodiscard]] Salvaged<Equipment> salvageEquipment(const QByteArray& json);
+[[nodiscard]] Salvaged<EquipmentTypeModel> salvageTypes(const QByteArray& json);
+
 /// One JSON object, read as strictly: the build is a whole number of 64 bits, only the release notes may be missing or
 /// null.
 [[nodiscard]] tl::expected<UpdateManifest, JsonError> decodeManifest(const QByteArray& json);

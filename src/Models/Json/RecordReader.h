@@ -29,6 +29,7 @@ struct Slot
     const Slot* element = nullptr;     ///< of a list
     void (*clear)(void*) = nullptr;    ///< of a list
     void* (*append)(void*) = nullptr;  ///< of a list
+    void (*dropLast)(void*) = nullptr; ///< of a list
 };
 
 struct Member
@@ -185,10 +186,22 @@ struct SlotOf<QList<Value>>
     static constexpr Slot slot{.expected = "an array",
                                .element = &SlotOf<Value>::slot,
                                .clear = [](void* target) { as<QList<Value>>(target).clear(); },
-                               .append = [](void* target) -> void* { return &as<QList<Value>>(target).emplaceBack(); }};
+                               .append = [](void* target) -> void* { return &as<QList<Value>>(target).emplaceBack(); },
+                               .dropLast = [](void* target) { as<QList<Value>>(target).removeLast(); }};
+};
+
+/// What a document held beside the records.
+struct ReadNotes
+{
+    bool unknownMembers = false;
 };
 
 /// Parses `json` into `target`, whose type `slot` describes. Nothing on success. The parser does not recurse.
-[[nodiscard]] std::optional<JsonError> readInto(void* target, const Slot& slot, const QByteArray& json);
+[[nodiscard]] std::optional<JsonError> readInto(void* target, const Slot& slot, const QByteArray& json,
+                                                ReadNotes* notes = nullptr);
+
+/// Parses a list as far as it goes and leaves out the elements that cannot be read. Gives the number of all elements
+/// begun; `errors` takes up to a thousand of what was wrong.
+[[nodiscard]] qsizetype salvageInto(void* target, const Slot& slot, const QByteArray& json, QList<JsonError>& errors);
 
 } // namespace abissora::json

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "VisibleUpdate.h"
 #include "TestRunner.h"
+#include "VisibleUpdate.h"
 
 #include <QTest>
 

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "Generations.h"
+
+#include "AtomicFile.h"
+#include "Literals.h"
+#include "Retention.h"
+#include "StateFiles.h"
+
+#include <QDir>
+
+namespace abissora {
+
+Generations::Generations(ApplicationDirectories directories, const Clock& clock, Calendar calendar, Console& console,
+                         WritePermission& permission)
+    : m_directories(std::move(directories))
+    , m_clock(clock)
+    , m_calendar(std::move(calendar))
+    , m_console(console)
+    , m_permission(permission)
+{}
+
+IoResult<void> Generations::beforeWriting(const QString& key, Occasion occasion)
+{
+    if (auto permitted = m_permission.mayWrite(); !permitted)
+        return permitted;
+    if (occasion == Occasion::change && isFirstOfDay())
+        occasion = Occasion::firstOfDay;
+    if (occasion == Occasion::change || (occasion == Occasion::unreadable && isUnreadableKept(key)))
+        return {};
+    auto kept = keep(occasion, QStringList{key});
+    if (occasion >= Occasion::unknownMembers)
+        return kept;
+    report(kept);
+    return {};
+}
+
+IoResult<void> Generations::keep(Occasion occasion)
+{
+    return keep(occasion, storedFiles(m_directories.preferences()).keys());
+}
+
+IoResult<void> Generations::keepUnreadable(const QString& key)
+{
+    if (auto permitted = m_permission.mayWrite(); !permitted)
+        return permitted;
+    return isUnreadableKept(key) ? IoResult<void>() : keep(Occasion::unreadable, QStringList());
+}
+
+QList<EarlierState> Generations::list() const
+{
+    QList<EarlierState> states = statesIn(m_directories.backups()) + statesIn(m_directories.emergency());
+    std::ranges::sort(states, [](const EarlierState& a, const EarlierState& b) {
+        const bool emergencyFirst = (a.occasion == Occasion::emergency) > (b.occasion == Occasion::emergency);
+        const bool same = (a.occasion == Occasion::emergency) == (b.occasion == Occasion::emergency);
+        return same ? std::tie(a.kept, a.name) > std::tie(b.kept, b.name) : emergencyFirst;
+    });
+    return states;
+}
+
+std::optional<EarlierState> Generations::find(const QString& name) const
+{
+    const QList<EarlierState> states = list();
+    const auto found = std::ranges::find(states, name, &EarlierState::name);
+    return found == states.end() ? std::nullopt : std::optional(*found);
+}
+
+IoResult<void> Generations::keep(Occasion occasion, const QStringList& replaced)
+{
+    const QHash<QString, QString> files = storedFiles(m_directories.preferences());
+    // Before the register is first stored there is nothing that one would go back to.
+    const bool isWorth = files.contains(registerKey) || occasion >= Occasion::unknownMembers;
+    if (files.isEmpty() || !isWorth || isKept(files))
+        return {};
+    return keepFiles(files, replaced, occasion).map([this] { prune(); });
+}
+
+IoResult<void> Generations::keepFiles(const QHash<QString, QString>& files, const QStringList& replaced,
+                                      Occasion occasion)
+{
+    const QString temporary = m_directories.backups() + u'/' + AtomicFile::temporaryName();
+    IoResult<void> kept =
+        AtomicFile::makeFolder(m_directories.backups()).and_then([&] { return AtomicFile::makeFolder(temporary); });
+    for (auto file = files.cbegin(); kept && file != files.cend(); ++file)
+        kept = keepFile(file.key(), *file, temporary, replaced.contains(file.key()));
+
+    // Names never go back in time, whatever the clock does.
+    Instant now = m_clock.now();
+    if (newest())
+        now = std::max(now, newest()->kept + std::chrono::milliseconds(1));
+    const QString name = stateName(now, occasion);
+    const QString target = m_directories.backups() + u'/' + name;
+    kept = kept.and_then([&] { return AtomicFile::syncFolder(temporary); }).and_then([&] {
+        return AtomicFile::move(temporary, target);
+    });
+    if (kept)
+        m_newest = readState(target);
+    else
+        QDir(temporary).removeRecursively();
+    return kept;
+}
+
+IoResult<void> Generations::keepFile(const QString& key, const QString& source, const QString& folder,
+                                     bool isReplaced) const
+{
+    const QString target = folder + u'/' + key + ".json"_L1;
+    if (isReplaced) {
+        if (AtomicFile::link(source, target))
+            return {};
+        return AtomicFile::copy(source, target);
+    }
+    // The stored file stays, and another program might write into it: no second name for that one.
+    const QString before = newest() ? newest()->files.value(key) : QString();
+    if (!before.isEmpty() && haveSameBytes(before, source) && AtomicFile::link(before, target))
+        return {};
+    auto copied = AtomicFile::copy(source, target);
+    // A second name needs neither space nor readable bytes.
+    if (!copied && AtomicFile::link(source, target))
+        return {};
+    return copied;
+}
+
+bool Generations::isKept(const QHash<QString, QString>& files) const
+{
+    if (!newest() || newest()->files.size() != files.size())
+        return false;
+    return std::ranges::all_of(files.keys(), [&](const QString& key) {
+        return newest()->files.contains(key) && haveSameBytes(newest()->files.value(key), files.value(key));
+    });
+}
+
+bool Generations::isUnreadableKept(const QString& key) const
+{
+    const QString source = storedFiles(m_directories.preferences()).value(key);
+    return source.isEmpty() || std::ranges::any_of(list(), [&](const EarlierState& state) {
+               return state.occasion == Occasion::unreadable && state.files.contains(key) &&
+                      haveSameBytes(state.files.value(key), source);
+           });
+}
+
+bool Generations::isFirstOfDay() const
+{
+    return !newest() || m_calendar.local(newest()->kept).date() != m_calendar.local(m_clock.now()).date();
+}
+
+const std::optional<EarlierState>& Generations::newest() const
+{
+    if (!std::exchange(m_hasLooked, true)) {
+        for (EarlierState& state : statesIn(m_directories.backups())) {
+            if (!m_newest || state.kept > m_newest->kept)
+                m_newest = std::move(state);
+        }
+    }
+    return m_newest;
+}
+
+void Generations::prune()
+{
+    const QStringList expired = expiredStates(sized(list()), m_calendar);
+    for (const QString& name : expired) {
+        // It goes at once under a name that the next start would clear away, then piece by piece.
+        const QString temporary = m_directories.backups() + u'/' + AtomicFile::temporaryName();
+        if (AtomicFile::move(m_directories.backups() + u'/' + name, temporary))
+            QDir(temporary).removeRecursively();
+    }
+}
+
+void Generations::report(const IoResult<void>& kept)
+{
+    if (!kept && !m_hasFailed)
+        m_console.print(u"Error keeping the present state: "_s + kept.error().reason);
+    m_hasFailed = !kept;
+}
+
+} // namespace abissora

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ApplicationDirectories.h"
+#include "Calendar.h"
+#include "Console.h"
+#include "EarlierState.h"
+#include "StateKeeper.h"
+#include "WritePermission.h"
+
+namespace abissora {
+
+/// Keeps earlier states of a register in its backups folder, each a folder that appears whole or not at all, made of
+/// second names of stored files wherever possible: stored files are only ever replaced by renaming.
+class Generations final : public StateKeeper
+{
+public:
+    /// Everything passed by reference must outlive it.
+    Generations(ApplicationDirectories directories, const Clock& clock, Calendar calendar, Console& console,
+                WritePermission& permission);
+
+    /// Keeps the present files when the occasion is more than a change, or the first change of a local day; then drops
+    /// states that need not be kept any more. Forbids the write when this process may not write, or when bytes that it
+    /// did not write or does not understand cannot be kept; another state that cannot be kept is only logged, once
+    /// until one could be kept again.
+    [[nodiscard]] IoResult<void> beforeWriting(const QString& key, Occasion occasion) override;
+
+    /// Keeps the present files, all of which are about to be replaced. Nothing happens when nothing is stored, or when
+    /// the newest state is just this one.
+    IoResult<void> keep(Occasion occasion);
+    /// Not twice the same bytes.
+    [[nodiscard]] IoResult<void> keepUnreadable(const QString& key) override;
+
+    /// Newest first, those of Occasion::emergency before all others.
+    [[nodiscard]] QList<EarlierState> list() const;
+    [[nodiscard]] std::optional<EarlierState> find(const QString& name) const;
+
+private:
+    /// `replaced` are the keys whose files are about to be replaced.
+    IoResult<void> keep(Occasion occasion, const QStringList& replaced);
+    IoResult<void> keepFiles(const QHash<QString, QString>& files, const QStringList& replaced, Occasion occasion);
+    IoResult<void> keepFile(const QString& key, const QString& source, const QString& folder, bool isReplaced) const;
+    [[nodiscard]] bool isKept(const QHash<QString, QString>& files) const;
+    [[nodiscard]] bool isUnreadableKept(const QString& key) const;
+    [[nodiscard]] bool isFirstOfDay() const;
+    [[nodiscard]] const std::optional<EarlierState>& newest() const;
+    void prune();
+    void report(const IoResult<void>& kept);
+
+    ApplicationDirectories m_directories;
+    const Clock& m_clock;
+    Calendar m_calendar;
+    Console& m_console;
+    WritePermission& m_permission;
+    mutable bool m_hasLooked = false;
+    mutable std::optional<EarlierState> m_newest; ///< once looked for
+    bool m_hasFailed = false;
+};
+
+} // namespace abissora

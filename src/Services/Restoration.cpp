@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "Restoration.h"
+
+#include "AtomicFile.h"
+#include "RecordJson.h"
+#include "StateFiles.h"
+
+#include <QFileInfo>
+
+namespace abissora {
+
+namespace {
+
+template <typename Decode, typename Salvage>
+IoResult<QByteArray> readableList(const QByteArray& bytes, Decode decode, Salvage salvage)
+{
+    if (decode(bytes))
+        return bytes; // with the members that this version does not know
+    const auto salvaged = salvage(bytes);
+    const auto json = encode(salvaged.records);
+    if (salvaged.records.isEmpty() || !json)
+        return tl::unexpected(IoError{u"Nothing in it can be read"_s});
+    return *json;
+}
+
+/// What is to be written for a key: for damaged lists what is left of them.
+IoResult<QByteArray> readable(const QString& key, const QString& path)
+{
+    return AtomicFile::read(path).and_then([&key](const QByteArray& bytes) -> IoResult<QByteArray> {
+        if (key == registerKey)
+            return readableList(bytes, decodeEquipment, salvageEquipment);
+        if (key == typesKey)
+            return readableList(bytes, decodeTypes, salvageTypes);
+        return bytes;
+    });
+}
+
+} // namespace
+
+Restoration::Restoration(ApplicationDirectories directories, Generations& generations)
+    : m_directories(std::move(directories))
+    , m_generations(generations)
+{}
+
+IoResult<void> Restoration::restore(const EarlierState& state)
+{
+    // Known before anything changes. Types that cannot be read are no reason to leave the register.
+    const QString main = state.files.contains(registerKey) ? registerKey : typesKey;
+    if (auto read = readable(main, state.files.value(main)); !read)
+        return tl::unexpected(read.error());
+    return m_generations.keep(Occasion::restoration)
+        .and_then([this] { return AtomicFile::makeFolder(m_directories.backups()); })
+        .and_then([&] { return AtomicFile::replace(journal(), state.name.toUtf8()); })
+        .and_then([&] { return apply(state); })
+        .and_then([this] { return AtomicFile::remove(journal()); });
+}
+
+void Restoration::complete()
+{
+    const auto name = AtomicFile::read(journal());
+    if (!name)
+        return;
+    const auto state = m_generations.find(QString::fromUtf8(*name));
+    if (!state || apply(*state))
+        static_cast<void>(AtomicFile::remove(journal()));
+}
+
+IoResult<void> Restoration::apply(const EarlierState& state) const
+{
+    auto applied = AtomicFile::makeFolder(m_directories.preferences());
+    for (auto file = state.files.cbegin(); applied && file != state.files.cend(); ++file) {
+        const auto bytes = readable(file.key(), *file);
+        if (bytes)
+            applied = AtomicFile::replace(m_directories.preferences() + u'/' + file.key() + u".json", *bytes);
+    }
+    if (!state.files.contains(registerKey))
+        return applied;
+    const QHash<QString, QString> present = storedFiles(m_directories.preferences());
+    for (auto file = present.cbegin(); applied && file != present.cend(); ++file) {
+        if (!state.files.contains(file.key()) && file.key() != typesKey)
+            applied = AtomicFile::remove(*file);
+    }
+    return applied;
+}
+
+} // namespace abissora

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "TemporaryRegister.h"
+#include "TestRunner.h"
+
+#include <QTest>
+
+using namespace abissora;
+using namespace std::chrono_literals;
+
+namespace {
+
+const QString folder = u"MaintenanceDocuments"_s;
+const QString archive = u"backups/documents"_s;
+const QString name = u"00000000-0000-4000-8000-000000000001.pdf"_s;
+const QString other = u"00000000-0000-4000-8000-000000000002.PDF"_s;
+
+QString in(const QString& where, const QString& what)
+{
+    return where + u'/' + what;
+}
+
+} // namespace
+
+class tst_DocumentArchive : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aDeletedDocumentComesBack()
+    {
+        test::TemporaryRegister files;
+        files.write(in(folder, name), "one");
+        files.archive.archive(name);
+        QCOMPARE(files.names(folder), QStringList());
+        QCOMPARE(files.names(archive), QStringList{u"20260615T100000.000Z-"_s + name});
+        QCOMPARE(files.archive.archived(), QSet{name});
+
+        files.archive.settle({name});
+        QCOMPARE(files.names(archive), QStringList());
+        QCOMPARE(files.content(in(folder, name)), QByteArray("one"));
+    }
+
+    void whatNoRecordNamesGoes()
+    {
+        test::TemporaryRegister files;
+        files.write(in(folder, name), "one");
+        files.write(in(folder, other), "two");
+        files.write(in(folder, u"libretto.pdf"_s), "put there by hand");
+        files.archive.settle({other});
+        QCOMPARE(files.names(folder), QStringList({other, u"libretto.pdf"_s}));
+        QCOMPARE(files.archive.archived(), QSet{name});
+    }
+
+    void aFileThatIsThereIsNotReplaced()
+    {
+        test::TemporaryRegister files;
+        files.write(in(folder, name), "old");
+        files.archive.archive(name);
+        files.write(in(folder, name), "new");
+        files.archive.settle({name});
+        QCOMPARE(files.content(in(folder, name)), QByteArray("new"));
+        QCOMPARE(files.archive.archived(), QSet{name});
+    }
+
+    void namesOfOtherProgramsComeBackToo()
+    {
+        test::TemporaryRegister files;
+        files.write(in(folder, u"libretto.pdf"_s), "x");
+        files.archive.archive(u"libretto.pdf"_s);
+        QCOMPARE(files.names(folder), QStringList());
+        files.archive.settle({u"libretto.pdf"_s});
+        QCOMPARE(files.names(folder), QStringList{u"libretto.pdf"_s});
+    }
+
+    void nothingToArchive()
+    {
+        test::TemporaryRegister files;
+        files.archive.archive(name);
+        QVERIFY(!QFileInfo::exists(files.path(archive)));
+    }
+
+    void afterThirtyDaysWhatNothingNamesIsDeleted()
+    {
+        test::TemporaryRegister files;
+        files.write(in(folder, name), "one");
+        files.write(in(folder, other), "two");
+        files.archive.archive(name);
+        files.archive.archive(other);
+        files.write(u"backups/20260615T100000.000Z-deleted-record/savedEquipment.json"_s,
+                    "[\"" + other.toUtf8() + "\"]");
+        files.clock.advance(24h * 30 - 1ms);
+        files.archive.purge();
+        QCOMPARE(files.archive.archived(), QSet({name, other}));
+        files.clock.advance(1ms);
+        files.archive.purge();
+        QCOMPARE(files.archive.archived(), QSet{other});
+    }
+
+    void theRegisterItselfKeepsItsDocuments()
+    {
+        test::TemporaryRegister files;
+        files.write(in(folder, name), "one");
+        files.archive.archive(name);
+        files.write(test::registerFile, "\"" + name.toUtf8().toLower() + "\" \"" + name.toUtf8() + "\"");
+        files.clock.advance(24h * 100);
+        files.archive.purge();
+        QCOMPARE(files.archive.archived(), QSet{name});
+    }
+
+    void withoutPermissionNothingMoves()
+    {
+        class Refusal final : public WritePermission
+        {
+            IoResult<void> mayWrite() override { return tl::unexpected(IoError::fromErrno(ENOLCK)); }
+        };
+        test::TemporaryRegister files;
+        Refusal refusal;
+        const DocumentArchive refused(files.directories, files.clock, refusal);
+        files.write(in(folder, name), "one");
+        refused.archive(name);
+        refused.settle({});
+        QCOMPARE(files.names(folder), QStringList{name});
+    }
+
+    void documentNamesAreRecognised()
+    {
+        QVERIFY(isDocumentName(name));
+        QVERIFY(isDocumentName(u"E621E1F8-C36C-495A-93FC-0C247A3E6E5F.p d f"_s));
+        for (const char* no :
+             {"", "a.pdf", "00000000-0000-4000-8000-000000000001", "00000000-0000-4000-8000-000000000001.",
+              "x00000000-0000-4000-8000-000000000001.pdf", "00000000-0000-4000-8000-000000000001.a/b"})
+            QVERIFY2(!isDocumentName(QLatin1String(no)), no);
+    }
+};
+
+ABISSORA_TEST(tst_DocumentArchive);
+#include "tst_DocumentArchive.moc"
