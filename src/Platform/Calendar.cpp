@@ -21,9 +21,7 @@ using std::chrono::years;
 using LocalTime = std::chrono::local_time<milliseconds>;
 using LocalDays = std::chrono::local_days;
 
-constexpr LocalTime firstLocalTime = LocalDays{year{1} / 1 / 1};
-constexpr LocalTime endOfLocalTimes = LocalDays{year{10000} / 1 / 1};
-constexpr std::int64_t mostDays = (floor<days>(endOfLocalTimes) - floor<days>(firstLocalTime)).count();
+constexpr std::int64_t mostDays = floor<days>(lastInstant - firstInstant).count();
 constexpr int mostYears = 9999;
 
 constexpr Instant tableBegin = sys_days{year{1900} / 1 / 1};
@@ -108,28 +106,32 @@ seconds ZoneOffsets::at(Instant instant) const
 
 namespace {
 
-std::optional<LocalTime> inRange(LocalTime local)
+bool isOfTheCalendar(QDate day)
 {
-    if (local < firstLocalTime || local >= endOfLocalTimes)
-        return std::nullopt;
-    return local;
+    return day.isValid() && day.year() >= 1 && day.year() <= mostYears;
+}
+
+/// An instant by its UTC time, a local time by itself.
+template <typename Scale>
+bool isOfTheCalendar(std::chrono::time_point<Scale, milliseconds> time)
+{
+    return time.time_since_epoch() >= firstInstant.time_since_epoch() &&
+           time.time_since_epoch() <= lastInstant.time_since_epoch();
 }
 
 std::optional<LocalTime> toLocal(Instant instant, const ZoneOffsets& offsets)
 {
-    // Checked before any arithmetic that could overflow; no offset reaches a day.
-    const LocalTime asIfUtc{std::clamp(instant.time_since_epoch(), firstLocalTime.time_since_epoch() - days{2},
-                                       endOfLocalTimes.time_since_epoch() + days{2})};
-    if (asIfUtc < firstLocalTime - days{1} || asIfUtc > endOfLocalTimes + days{1})
+    if (!isOfTheCalendar(instant))
         return std::nullopt;
-    return inRange(asIfUtc + offsets.at(instant));
+    const LocalTime asIfUtc{instant.time_since_epoch()};
+    const LocalTime local = asIfUtc + offsets.at(instant);
+    return isOfTheCalendar(local) ? local : asIfUtc;
 }
 
-std::optional<Instant> toInstant(std::optional<LocalTime> local, const ZoneOffsets& offsets)
+/// Outside the calendar by up to the zone's offset.
+Instant toInstant(LocalTime local, const ZoneOffsets& offsets)
 {
-    if (!local || !inRange(*local))
-        return std::nullopt;
-    const Instant asIfUtc{local->time_since_epoch()};
+    const Instant asIfUtc{local.time_since_epoch()};
     // The offsets well before and well after: where they agree there is nothing to decide.
     const auto before = offsets.at(asIfUtc - days{1});
     const auto after = offsets.at(asIfUtc + days{1});
@@ -142,6 +144,14 @@ std::optional<Instant> toInstant(std::optional<LocalTime> local, const ZoneOffse
     return early; // skipped: the old offset leads past the gap, by the gap's length
 }
 
+std::optional<Instant> toInstantWithin(LocalTime local, const ZoneOffsets& offsets)
+{
+    if (!isOfTheCalendar(local))
+        return std::nullopt;
+    const Instant instant = toInstant(local, offsets);
+    return isOfTheCalendar(instant) ? std::optional(instant) : std::nullopt;
+}
+
 std::optional<Instant> addDaysWithin(Instant instant, std::int64_t count, const ZoneOffsets& offsets)
 {
     const auto local = toLocal(instant, offsets);
@@ -149,7 +159,7 @@ std::optional<Instant> addDaysWithin(Instant instant, std::int64_t count, const 
         return std::nullopt;
     if (count == 0)
         return instant; // also when it is the second of two occurrences
-    return toInstant(*local + days{count}, offsets);
+    return toInstantWithin(*local + days{count}, offsets);
 }
 
 std::optional<Instant> addMonthsWithin(Instant instant, months count, const ZoneOffsets& offsets)
@@ -163,7 +173,7 @@ std::optional<Instant> addMonthsWithin(Instant instant, months count, const Zone
     year_month_day date = year_month_day{day} + count;
     if (!date.ok())
         date = date.year() / date.month() / std::chrono::last;
-    return toInstant(LocalDays{date} + (*local - day), offsets);
+    return toInstantWithin(LocalDays{date} + (*local - day), offsets);
 }
 
 } // namespace
@@ -184,15 +194,21 @@ QTimeZone Calendar::zone() const
 
 QDateTime Calendar::local(Instant instant) const
 {
-    return QDateTime::fromMSecsSinceEpoch(instant.time_since_epoch().count(), zone());
+    const QDateTime local = QDateTime::fromMSecsSinceEpoch(instant.time_since_epoch().count(), zone());
+    return isOfTheCalendar(local.date()) ? local : utc(instant);
 }
 
 std::optional<Instant> Calendar::instant(QDate day, QTime time) const
 {
-    if (!day.isValid() || !time.isValid() || day.year() < 1 || day.year() > mostYears)
+    if (!isOfTheCalendar(day) || !time.isValid())
         return std::nullopt;
-    const days sinceEpoch{QDate(1970, 1, 1).daysTo(day)};
-    return toInstant(LocalDays{sinceEpoch} + milliseconds{time.msecsSinceStartOfDay()}, *offsets());
+    const auto zone = offsets();
+    const LocalDays midnight{days{QDate(1970, 1, 1).daysTo(day)}};
+    const Instant exact = toInstant(midnight + milliseconds{time.msecsSinceStartOfDay()}, *zone);
+    const Instant nearest = std::clamp(exact, firstInstant, lastInstant);
+    if (nearest != exact && floor<days>(toLocal(nearest, *zone).value()) != midnight)
+        return std::nullopt;
+    return nearest;
 }
 
 std::optional<Instant> Calendar::addDays(Instant instant, std::int64_t days) const

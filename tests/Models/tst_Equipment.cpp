@@ -63,8 +63,9 @@ private Q_SLOTS:
         row("23 hours in UTC", "UTC", "2026-03-28T11:00:00Z", "2026-03-29T10:00:00Z", 0);
         row("24 hours in autumn", rome, "2026-10-24T10:00:00Z", "2026-10-25T10:00:00Z", 0);
         row("25 hours in autumn", rome, "2026-10-24T10:00:00Z", "2026-10-25T11:00:00Z", 1);
-        row("beyond the calendar", rome, now, "9999-12-31T23:30:00Z", 0);
         row("last day of the calendar", "UTC", now, "9999-12-31T23:30:00Z", 2'912'277);
+        row("the year 10000 in Rome", rome, now, "9999-12-31T23:30:00Z", 2'912'277);
+        row("the year 0 in New York", "America/New_York", now, "0001-01-01T00:30:00Z", -739'781);
     }
 
     void daysUntilNextService()
@@ -76,6 +77,13 @@ private Q_SLOTS:
         Equipment item = test::equipment(1);
         item.nextServiceDate = at(next.constData());
         QCOMPARE(qint64(item.daysUntilNextService(at(now.constData()), Calendar(QTimeZone(zone)))), days);
+    }
+
+    void noDaysBeyondTheCalendar()
+    {
+        Equipment item = test::equipment(1);
+        item.nextServiceDate = lastInstant + std::chrono::milliseconds(1);
+        QCOMPARE(qint64(item.daysUntilNextService(at("2026-06-15T10:00:00Z"), Calendar(QTimeZone::utc()))), 0);
     }
 
     void recordsAreValues()

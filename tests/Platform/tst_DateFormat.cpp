@@ -95,6 +95,38 @@ private Q_SLOTS:
         QCOMPARE(inTokyo.dayAndTime(lateEvening), u"01/01/2027 07:59"_s);
     }
 
+    void theCalendarsEndsAreDaysOfItsYears_data()
+    {
+        QTest::addColumn<QByteArray>("zone");
+        QTest::addColumn<QString>("firstTime");
+        QTest::addColumn<QString>("lastTime");
+        const auto row = [](const char* zone, const char* firstTime, const char* lastTime) {
+            QTest::newRow(zone) << QByteArray(zone) << QString::fromLatin1(firstTime) << QString::fromLatin1(lastTime);
+        };
+        row("Europe/Rome", "00:49", "23:59");
+        row("America/New_York", "00:00", "18:59");
+        row("Asia/Tokyo", "09:18", "23:59");
+        row("Pacific/Kiritimati", "00:00", "23:59");
+        row("Pacific/Pago_Pago", "12:37", "12:59");
+        row("UTC", "00:00", "23:59");
+    }
+
+    void theCalendarsEndsAreDaysOfItsYears()
+    {
+        QFETCH(QByteArray, zone);
+        QFETCH(QString, firstTime);
+        QFETCH(QString, lastTime);
+        const DateFormat format(QLocale(u"it_IT"_s), Calendar(QTimeZone(zone)));
+        QCOMPARE(format.longDate(firstInstant), u"1 gennaio 0001"_s);
+        QCOMPARE(format.abbreviatedDate(firstInstant), u"1 gen 0001"_s);
+        QCOMPARE(format.year(firstInstant), u"0001"_s);
+        QCOMPARE(format.dayAndTime(firstInstant), u"01/01/0001 "_s + firstTime);
+        QCOMPARE(format.longDate(lastInstant), u"31 dicembre 9999"_s);
+        QCOMPARE(format.abbreviatedDate(lastInstant), u"31 dic 9999"_s);
+        QCOMPARE(format.year(lastInstant), u"9999"_s);
+        QCOMPARE(format.dayAndTime(lastInstant), u"31/12/9999 "_s + lastTime);
+    }
+
     void fixedPatternsIgnoreTheLocale()
     {
         for (const char* locale : {"it_IT", "en_US", "ar_EG", "fa_IR", "ja_JP"}) {
