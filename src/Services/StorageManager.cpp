@@ -3,6 +3,7 @@
 
 #include "Literals.h"
 #include "RecordJson.h"
+#include "Storable.h"
 
 namespace abissora {
 
@@ -51,7 +52,7 @@ QList<Equipment> sampleEquipment(Instant now, const Calendar& calendar, IdGenera
     computer.nextServiceDate = now + fifteenDays;
     computer.notes = u"Computer subacqueo con display a colori."_s;
 
-    return {regulator, bcd, computer};
+    return {storable(regulator), storable(bcd), storable(computer)};
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "EquipmentViewModel.h"
 
 #include "Literals.h"
+#include "Storable.h"
 
 namespace abissora {
 
@@ -63,7 +64,7 @@ void EquipmentViewModel::setAddingEquipment(bool adding)
 void EquipmentViewModel::addEquipment(const Equipment& equipment)
 {
     const QString name = equipment.name; // the argument may be an element of the list
-    m_equipment.append(equipment);
+    m_equipment.append(storable(equipment));
     saveAndNotify();
     m_console.print(u"➕ Aggiunto equipaggiamento: "_s + name);
 }
@@ -74,7 +75,7 @@ void EquipmentViewModel::updateEquipment(const Equipment& equipment)
     if (!item)
         return;
     const QString name = equipment.name;
-    const Equipment before = std::exchange(*item, equipment);
+    const Equipment before = std::exchange(*item, storable(equipment));
     saveAndNotify(lossBetween(before, *item));
     m_console.print(u"✏️ Aggiornato equipaggiamento: "_s + name);
 }
@@ -99,7 +100,7 @@ void EquipmentViewModel::addMaintenance(const QUuid& to, const Maintenance& main
     Equipment* item = find(to);
     if (!item)
         return;
-    const Maintenance& added = item->maintenanceHistory.emplaceBack(maintenance);
+    const Maintenance& added = item->maintenanceHistory.emplaceBack(storable(maintenance));
     item->lastServiceDate = added.date;
     item->nextServiceDate = added.nextServiceDate;
     saveAndNotify();
@@ -115,7 +116,7 @@ void EquipmentViewModel::updateMaintenance(const QUuid& to, const Maintenance& m
     if (record == history.end())
         return;
     const Equipment before = *item;
-    *record = maintenance;
+    *record = storable(maintenance);
     recomputeServiceDates(*item);
     saveAndNotify(lossBetween(before, *item));
 }

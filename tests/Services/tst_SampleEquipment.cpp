@@ -11,12 +11,17 @@ using test::at;
 
 namespace {
 
-QList<Equipment> samplesOf(const char* now, const char* zone = "Europe/Rome")
+QList<Equipment> samplesOf(Instant now, const char* zone = "Europe/Rome")
 {
     test::TemporaryRegister files;
-    files.clock.set(at(now));
+    files.clock.set(now);
     files.calendar = Calendar(QTimeZone(zone));
     return files.storageManager().loadEquipment();
+}
+
+QList<Equipment> samplesOf(const char* now, const char* zone = "Europe/Rome")
+{
+    return samplesOf(at(now), zone);
 }
 
 } // namespace
@@ -88,6 +93,25 @@ private Q_SLOTS:
         const auto first = samplesOf("0001-03-20T10:00:00Z", "UTC");
         QCOMPARE(first.at(0).purchaseDate, at("0001-03-20T10:00:00Z"));
         QCOMPARE(first.at(2).lastServiceDate, at("0001-02-20T10:00:00Z"));
+    }
+
+    void whateverTheClockSaysTheyCanBeStored_data()
+    {
+        QTest::addColumn<Instant>("now");
+        QTest::newRow("first") << firstInstant;
+        QTest::newRow("before the first") << firstInstant - std::chrono::days(3);
+        QTest::newRow("a week before the last") << lastInstant - std::chrono::days(7);
+        QTest::newRow("last") << lastInstant;
+        QTest::newRow("after the last") << lastInstant + std::chrono::days(3);
+    }
+
+    void whateverTheClockSaysTheyCanBeStored()
+    {
+        QFETCH(Instant, now);
+        for (const char* zone : {"Europe/Rome", "America/New_York", "Asia/Tokyo", "UTC"}) {
+            const auto json = encode(samplesOf(now, zone));
+            QVERIFY2(json, qPrintable(json ? QString() : json.error().description()));
+        }
     }
 };
 
