@@ -19,8 +19,6 @@ namespace abissora {
 namespace {
 
 constexpr int fieldWidth = 170;
-const QDate firstDay(1, 1, 1);
-const QDate lastDay(9999, 12, 31);
 
 QString textOf(QDate day)
 {
@@ -39,7 +37,7 @@ std::optional<QDate> dayOf(const QString& text, const QRegularExpression& form)
 {
     const QRegularExpressionMatch match = form.match(text.trimmed());
     const QDate day(fullYear(match.captured(3)), match.captured(2).toInt(), match.captured(1).toInt());
-    return match.hasMatch() && day.isValid() && day >= firstDay ? std::optional(day) : std::nullopt;
+    return match.hasMatch() && day.isValid() ? std::optional(day) : std::nullopt;
 }
 
 /// A day written in full, so that none is taken for meant which is only passed while typing another.
@@ -88,45 +86,53 @@ DateField::DateField(const Calendar& calendar, QWidget* parent)
 void DateField::setInstant(Instant instant)
 {
     const QDateTime local = m_calendar.local(instant);
-    m_original = instant;
+    m_original = {local.date(), instant};
     m_timeOfDay = local.time();
-    m_originalDay = local.date();
-    m_day = m_originalDay;
-    setText(textOf(m_day));
+    m_last = m_original;
+    setText(textOf(m_last.day));
     setError({});
 }
 
 Instant DateField::instant() const
 {
-    const QDate day = typedDay().value_or(m_day);
-    if (day == m_originalDay)
-        return m_original;
-    return m_calendar.instant(day, m_timeOfDay).value_or(m_original);
+    return typed().value_or(m_last).instant;
 }
 
-std::optional<QDate> DateField::typedDay() const
+std::optional<DateField::Value> DateField::valueOn(QDate day) const
 {
-    const auto day = completeDay(text());
-    return day ? day : shortDay(text());
+    if (day == m_original.day)
+        return m_original;
+    const auto instant = m_calendar.instant(day, m_timeOfDay);
+    return instant ? std::optional(Value{day, *instant}) : std::nullopt;
+}
+
+std::optional<DateField::Value> DateField::typed() const
+{
+    if (text() == textOf(m_last.day))
+        return m_last;
+    auto day = completeDay(text());
+    if (!day)
+        day = shortDay(text());
+    return day ? valueOn(*day) : std::nullopt;
 }
 
 bool DateField::commit()
 {
-    if (const auto day = typedDay()) {
-        takeDay(*day);
+    if (const auto value = typed()) {
+        take(*value);
         return true;
     }
     setError((text().trimmed().isEmpty() ? u"Manca la data"_s : u"Data non valida"_s) +
-             u": scrivi giorno, mese e anno, per esempio "_s + textOf(m_day));
+             u": scrivi giorno, mese e anno, per esempio "_s + textOf(m_last.day));
     return false;
 }
 
-void DateField::takeDay(QDate day)
+void DateField::take(const Value& value)
 {
-    const bool isAnother = day != m_day;
-    m_day = day;
-    if (text() != textOf(day))
-        setText(textOf(day));
+    const bool isAnother = value.day != m_last.day;
+    m_last = value;
+    if (text() != textOf(value.day))
+        setText(textOf(value.day));
     setError({});
     if (isAnother)
         Q_EMIT edited();
@@ -134,13 +140,14 @@ void DateField::takeDay(QDate day)
 
 void DateField::takeCompleteDay()
 {
-    if (const auto day = completeDay(text()))
-        takeDay(*day);
+    const auto value = typed();
+    if (value && completeDay(text()))
+        take(*value);
 }
 
 bool DateField::step(int key)
 {
-    const QDate day = typedDay().value_or(m_day);
+    const QDate day = typed().value_or(m_last).day;
     QDate other;
     switch (key) {
     case Qt::Key_Up:
@@ -158,8 +165,8 @@ bool DateField::step(int key)
     default:
         return false;
     }
-    if (other >= firstDay && other <= lastDay)
-        takeDay(other);
+    if (const auto value = valueOn(other))
+        take(*value);
     return true;
 }
 
@@ -178,7 +185,7 @@ void DateField::openCalendar()
 {
     if (m_popup == nullptr)
         makeCalendar();
-    m_days->setSelectedDate(typedDay().value_or(m_day));
+    m_days->setSelectedDate(typed().value_or(m_last).day);
     m_days->showSelectedDate();
     m_popup->popup(mapToGlobal(QPoint(0, height())));
     m_days->setFocus(Qt::PopupFocusReason);
@@ -190,7 +197,7 @@ void DateField::makeCalendar()
     m_days->setLocale(QLocale(QLocale::Italian, QLocale::Italy));
     m_days->setFirstDayOfWeek(Qt::Monday);
     m_days->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    m_days->setDateRange(firstDay, lastDay);
+    m_days->setDateRange(QDate(1, 1, 1), QDate(9999, 12, 31));
     m_days->setDateEditEnabled(false);
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
         m_days->setWeekdayTextFormat(day, {});
@@ -204,7 +211,8 @@ void DateField::makeCalendar()
     for (const auto picked : {&QCalendarWidget::clicked, &QCalendarWidget::activated}) {
         connect(m_days, picked, this, [this](QDate day) {
             m_popup->close();
-            takeDay(day);
+            setText(textOf(day));
+            commit();
         });
     }
 }

@@ -13,8 +13,7 @@ namespace abissora {
 
 /// The day of an instant as dd/MM/yyyy: typed, stepped (Up and Down a day, Page Up and Page Down a month) or picked
 /// from a calendar (the mark at the end, Alt+Down, F4). Only the day is edited: another day keeps the time of day, the
-/// original day gives the original instant back to the millisecond. A text that is no day of the years 1 to 9999 is no
-/// value.
+/// original day gives the original instant back to the millisecond. A text that is no day of the calendar is no value.
 class DateField : public CheckedField
 {
     Q_OBJECT
@@ -40,18 +39,24 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    [[nodiscard]] std::optional<QDate> typedDay() const;
-    void takeDay(QDate day);
+    struct Value
+    {
+        QDate day;
+        Instant instant{};
+    };
+
+    [[nodiscard]] std::optional<Value> valueOn(QDate day) const;
+    [[nodiscard]] std::optional<Value> typed() const;
+    void take(const Value& value);
     void takeCompleteDay();
     bool step(int key);
     void openCalendar();
     void makeCalendar();
 
     Calendar m_calendar;
-    Instant m_original{};
+    Value m_original;
     QTime m_timeOfDay;
-    QDate m_originalDay;
-    QDate m_day;
+    Value m_last;
     QMenu* m_popup = nullptr; // made when it is first opened
     QCalendarWidget* m_days = nullptr;
 };

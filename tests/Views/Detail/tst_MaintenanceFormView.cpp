@@ -218,6 +218,58 @@ private Q_SLOTS:
         QCOMPARE(s.f.almanac.dates.dayAndTime(s.history().value(0).date), u"01/06/2026 12:00"_s);
     }
 
+    void theEndsOfTheCalendarCanBeTyped_data()
+    {
+        QTest::addColumn<QByteArray>("zone");
+        QTest::addColumn<QTime>("timeOfDay");
+        for (const char* zone :
+             {"Europe/Rome", "America/New_York", "Asia/Tokyo", "Pacific/Kiritimati", "Pacific/Pago_Pago", "UTC"}) {
+            QTest::addRow("%s early", zone) << QByteArray(zone) << QTime(0, 10);
+            QTest::addRow("%s late", zone) << QByteArray(zone) << QTime(23, 50);
+        }
+    }
+
+    void theEndsOfTheCalendarCanBeTyped()
+    {
+        QFETCH(QByteArray, zone);
+        QFETCH(QTime, timeOfDay);
+        const Calendar calendar{QTimeZone(zone)};
+        Shown s;
+        s.f.clock.set(calendar.instant(QDate(2026, 6, 15), timeOfDay).value());
+        const Almanac almanac{s.f.clock, calendar, s.f.almanac.dates};
+        const auto onDisk = [&s] { return decodeEquipment(s.f.content(registerFile)).value().last(); };
+        const auto open = [&](const std::optional<Maintenance>& editing) {
+            s.form = std::make_unique<MaintenanceFormView>(std::make_unique<MaintenanceDraft>(s.f.equipment, s.f.types,
+                                                                                              s.f.documents, s.f.ids,
+                                                                                              almanac, s.id, editing),
+                                                           s.f.opener, &s.below);
+            s.form->open();
+            settle();
+        };
+        open(std::nullopt);
+        QTest::keyClicks(&s.field<QLineEdit>("description"), u"x"_s);
+        s.typeDate("date", u"31/12/9999"_s);
+        QCOMPARE(s.field<DateField>("nextServiceDate").text(), u"31/12/9999"_s); // the calendar reaches no further
+        s.typeDate("nextServiceDate", u"01/01/0001"_s);
+        s.save();
+        QVERIFY(!s.form->isVisible());
+        const Maintenance stored = onDisk().maintenanceHistory.value(0);
+        QCOMPARE(calendar.local(stored.date).date(), QDate(9999, 12, 31));
+        QCOMPARE(calendar.local(stored.nextServiceDate).date(), QDate(1, 1, 1));
+        QCOMPARE(onDisk().lastServiceDate, stored.date);
+
+        // As read back, another field is changed.
+        open(stored);
+        QCOMPARE(s.field<DateField>("date").text(), u"31/12/9999"_s);
+        QCOMPARE(s.field<DateField>("nextServiceDate").text(), u"01/01/0001"_s);
+        QTest::keyClicks(&s.field<QLineEdit>("performedBy"), u"Blu"_s);
+        s.save();
+        QVERIFY(!s.form->isVisible());
+        Maintenance expected = stored;
+        expected.performedBy = u"Blu"_s;
+        QCOMPARE(onDisk().maintenanceHistory, QList{expected});
+    }
+
     void descriptionIsRequiredAsItStands()
     {
         Shown s;
