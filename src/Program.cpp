@@ -3,12 +3,15 @@
 
 #include "AtomicFile.h"
 #include "CommandLine.h"
+#include "FolderLock.h"
 #include "Literals.h"
 #include "MainWindow.h"
 #include "MarevoloApp.h"
 #include "NetworkHttpClient.h"
+#include "NoAnswerAlert.h"
 #include "SingleInstance.h"
 #include "Snapshot.h"
+#include "Theme.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -108,21 +111,56 @@ ApplicationDirectories directoriesFor(const CommandLine& commandLine)
     return chosen.isEmpty() ? ApplicationDirectories::standard() : ApplicationDirectories(chosen, true);
 }
 
+/// As the person chose it in the settings.
+Scheme storedScheme(const ApplicationDirectories& directories)
+{
+    const SystemClock clock;
+    StandardOutput console;
+    PreferencesStore preferences(directories.preferences(), directories.backups(), clock);
+    return SettingsViewModel(preferences, console).darkMode() ? Scheme::Dark : Scheme::Light;
+}
+
+/// False when the person gives up.
+bool wantsToTryAgain(QApplication& application, const ApplicationDirectories& directories)
+{
+    applyTheme(application, storedScheme(directories));
+    NoAnswerAlert alert;
+    QObject::connect(&alert, &QDialog::finished, &application, &QApplication::quit);
+    alert.show();
+    QApplication::exec();
+    // What follows may wait for a while and paints nothing.
+    QGuiApplication::sync();
+    return alert.result() == QDialog::Accepted;
+}
+
 int run(QApplication& application, const CommandLine& commandLine, const Product& product, HttpClient& http)
 {
     const ApplicationDirectories directories = directoriesFor(commandLine);
-    SingleInstance instance(directories.root());
-    if (!instance.acquire()) {
+    const bool drawsToFile = !commandLine.snapshot.isEmpty();
+    FolderLock lock(directories.root());
+    SingleInstance instance(lock);
+    auto outcome = instance.acquire();
+    while (outcome == SingleInstance::Outcome::NoAnswer) {
+        if (drawsToFile)
+            return fail(NoAnswerAlert::sentence());
+        if (!wantsToTryAgain(application, directories))
+            return EXIT_FAILURE;
+        outcome = instance.acquire();
+    }
+    if (outcome == SingleInstance::Outcome::CameForward) {
         say(stderr, u"Abissora è già aperta su questo registro: la sua finestra passa in primo piano.\n"_s);
-        return commandLine.snapshot.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
+        return drawsToFile ? EXIT_FAILURE : EXIT_SUCCESS;
     }
 
-    for (const QString& folder : {directories.preferences(), directories.maintenanceDocuments(), directories.backups()})
-        AtomicFile::removeLeftovers(folder);
+    if (lock.mayWrite()) {
+        for (const QString& folder :
+             {directories.preferences(), directories.maintenanceDocuments(), directories.backups()})
+            AtomicFile::removeLeftovers(folder);
+    }
 
     MarevoloApp app(application, directories, product, http);
     QObject::connect(&instance, &SingleInstance::activationRequested, &app, &MarevoloApp::showMainWindow);
-    if (commandLine.snapshot.isEmpty()) {
+    if (!drawsToFile) {
         app.showMainWindow();
         return QApplication::exec();
     }

@@ -6,6 +6,7 @@
 #include "Buttons.h"
 #include "Cards.h"
 #include "FormRow.h"
+#include "NoAnswerAlert.h"
 #include "Sheet.h"
 #include "Stepper.h"
 #include "SymbolIcon.h"
@@ -81,7 +82,10 @@ std::unique_ptr<QWidget> notice()
 
 QList<Scene> sheetScenes()
 {
-    return {{u"component-sheet"_s, form}, {u"component-alert"_s, destructive}, {u"component-notice"_s, notice}};
+    return {{u"component-sheet"_s, form},
+            {u"component-alert"_s, destructive},
+            {u"component-notice"_s, notice},
+            {u"no-answer"_s, [] { return std::make_unique<NoAnswerAlert>(); }}};
 }
 
 } // namespace abissora::gallery

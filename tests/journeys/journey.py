@@ -22,8 +22,8 @@ def travel(program_path, name):
     os.mkdir(data)
     started = []
 
-    def run(*arguments):
-        started.append(Program(program_path, data, arguments))
+    def run(*arguments, **expected):
+        started.append(Program(program_path, data, arguments, **expected))
         return started[-1]
 
     try:

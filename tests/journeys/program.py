@@ -61,7 +61,8 @@ def descendants(node, deep_tables=False):
 
 
 class Program:
-    def __init__(self, path, data_dir, arguments=()):
+    def __init__(self, path, data_dir, arguments=(), role=Atspi.Role.FRAME):
+        """Comes back once a window of that role is there: the main window, or an alert in its place."""
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb",
                            LC_ALL="C.UTF-8", LANGUAGE="", TZ=ZONE)
         environment.pop("ABISSORA_DATA_DIR", None)
@@ -70,18 +71,21 @@ class Program:
                                         stdout=subprocess.PIPE, text=True, encoding="utf-8")
         self.reader = threading.Thread(target=self._read, daemon=True)
         self.reader.start()
-        self.window = until("the main window", self._find_window)
+        self.wait_for_window(role)
 
     def _read(self):
         for line in self.process.stdout:
             self.lines.append(line.rstrip("\n"))
 
-    def _find_window(self):
+    def wait_for_window(self, role):
+        self.window = until(f"the {role.value_nick}", lambda: self._find_window(role))
+
+    def _find_window(self, role):
         for application in children(Atspi.get_desktop(0)):
             if application.get_process_id() != self.process.pid:
                 continue
             for window in children(application):
-                if window.get_role() == Atspi.Role.FRAME and window.get_state_set().contains(Atspi.StateType.SHOWING):
+                if window.get_role() == role and window.get_state_set().contains(Atspi.StateType.SHOWING):
                     return window
         return None
 
@@ -169,9 +173,12 @@ class Program:
 
     def close(self):
         self.key("ctrl+q")
+        self.wait_for_end(0)
+
+    def wait_for_end(self, expected):
         status = self.process.wait(timeout=PATIENCE)
         self.reader.join()
-        assert status == 0, f"the program ended with {status}"
+        assert status == expected, f"the program ended with {status}"
 
     def kill(self):
         if self.process.poll() is None:

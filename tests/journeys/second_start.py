@@ -1,16 +1,61 @@
 # SPDX-License-Identifier: MIT
-"""A second start on the same register ends at once and leaves the first one running."""
+"""A second start on the same register: it ends at once and leaves the first one running. Where the first does not answer
+a window says so; from there the person tries again or leaves."""
 
+import os
+import signal
 import subprocess
 
+from gi.repository import Atspi
+
 from program import PATIENCE
+
+NO_ANSWER = "Abissora è già aperta su questo registro, ma non risponde."
 
 
 def journey(run, data):
     first = run()
-    path = first.process.args[0]
-    second = subprocess.run([path, "--data-dir", data], capture_output=True, text=True, timeout=PATIENCE, check=True)
+    command = [first.process.args[0], "--data-dir", data]
+
+    second = subprocess.run(command, capture_output=True, text=True, timeout=PATIENCE, check=True)
     assert "è già aperta" in second.stderr, second.stderr
     assert second.stdout == "", second.stdout
     assert first.process.poll() is None
-    first.close()
+
+    # The first does nothing any more.
+    first.process.send_signal(signal.SIGSTOP)
+    picture = os.path.join(data, "finestra.png")
+    drawing = subprocess.run([*command, "--snapshot", picture], capture_output=True, text=True, timeout=PATIENCE,
+                             check=False)
+    assert (drawing.returncode, drawing.stdout, drawing.stderr) == (1, "", NO_ANSWER + "\n"), drawing
+    assert not os.path.exists(picture)
+
+    def start_in_vain():
+        started = run(role=Atspi.Role.ALERT)
+        started.find(Atspi.Role.LABEL, NO_ANSWER)
+        return started
+
+    second = start_in_vain()
+    second.key("Escape")
+    second.wait_for_end(1)
+
+    second = start_in_vain()
+    second.press(second.find(Atspi.Role.PUSH_BUTTON, "Esci"))
+    second.wait_for_end(1)
+
+    # It goes on: tried again, the first comes forward.
+    second = start_in_vain()
+    first.process.send_signal(signal.SIGCONT)
+    second.press(second.find(Atspi.Role.PUSH_BUTTON, "Riprova"))
+    second.wait_for_end(0)
+    assert first.process.poll() is None
+
+    # It ends: tried again, the second takes its place.
+    first.process.send_signal(signal.SIGSTOP)
+    second = start_in_vain()
+    first.kill()
+    second.press(second.find(Atspi.Role.PUSH_BUTTON, "Riprova"))
+    second.wait_for_window(Atspi.Role.FRAME)
+    second.wait_for_rows(["Computer Suunto EON Core", "GAV Scubapro Hydros", "Erogatore Apeks XTX50"])
+    second.close()
+    assert "abissora.lock" not in os.listdir(data)

@@ -1,59 +1,115 @@
 // SPDX-License-Identifier: MIT
 #include "SingleInstance.h"
 
+#include "FolderLock.h"
 #include "Literals.h"
 
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QLocalSocket>
+#include <QThread>
+#ifdef Q_OS_LINUX
+#include <sys/socket.h>
+#include <unistd.h>
+#endif
 
 namespace abissora {
 
 namespace {
 
-constexpr int connectionTimeout = 1000; // ms
+constexpr unsigned long pause = 20; ///< ms before a process that does not listen yet, or no more, is asked again
+constexpr char answer = '\1';
 
-QString prepared(const QString& folder)
+#ifdef Q_OS_LINUX
+
+// Makes nothing on the disk, leaves nothing behind and works where the temporary folder is full or missing.
+constexpr QLocalServer::SocketOption serverOption = QLocalServer::AbstractNamespaceOption;
+constexpr QLocalSocket::SocketOption socketOption = QLocalSocket::AbstractNamespaceOption;
+
+/// Names without a file have no permissions: anybody on this computer may call.
+bool mayCall(const QLocalSocket& caller)
 {
-    QDir().mkpath(folder);
-    return QDir(folder).canonicalPath();
+    ucred theirs{};
+    socklen_t size = sizeof theirs;
+    const auto descriptor = static_cast<int>(caller.socketDescriptor());
+    return ::getsockopt(descriptor, SOL_SOCKET, SO_PEERCRED, &theirs, &size) == 0 && theirs.uid == ::geteuid();
 }
 
-} // namespace
+#else
 
-SingleInstance::SingleInstance(const QString& folder, QObject* parent)
-    : QObject(parent)
-    , m_lock(prepared(folder) + u"/abissora.lock"_s)
-{
-    // Socket names are short; the register's folder need not be.
-    const QByteArray hash = QCryptographicHash::hash(prepared(folder).toUtf8(), QCryptographicHash::Sha256);
-    m_serverName = u"abissora-"_s + QString::fromLatin1(hash.toHex().left(24));
-    m_lock.setStaleLockTime(0);
-    m_server.setSocketOptions(QLocalServer::UserAccessOption);
-    connect(&m_server, &QLocalServer::newConnection, this, [this] {
-        while (QLocalSocket* caller = m_server.nextPendingConnection()) {
-            caller->deleteLater();
-            Q_EMIT activationRequested();
-        }
-    });
-}
+constexpr QLocalServer::SocketOption serverOption = QLocalServer::UserAccessOption;
+constexpr QLocalSocket::SocketOption socketOption = QLocalSocket::NoOptions;
 
-bool SingleInstance::acquire()
+bool mayCall(const QLocalSocket& /*caller*/)
 {
-    if (!m_lock.tryLock(0) && m_lock.error() == QLockFile::LockFailedError) {
-        askToComeForward();
-        return false;
-    }
-    QLocalServer::removeServer(m_serverName);
-    m_server.listen(m_serverName);
     return true;
 }
 
-void SingleInstance::askToComeForward() const
+#endif
+
+} // namespace
+
+SingleInstance::SingleInstance(FolderLock& lock, std::chrono::milliseconds patience, QObject* parent)
+    : QObject(parent)
+    , m_lock(lock)
+    , m_patience(patience)
 {
+    m_server.setSocketOptions(serverOption);
+    connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answerCallers);
+}
+
+SingleInstance::Outcome SingleInstance::acquire()
+{
+    const QDeadlineTimer deadline(m_patience);
+    while (m_lock.acquire() == FolderLock::Outcome::HeldByAnother) {
+        if (anotherComesForward(deadline))
+            return Outcome::CameForward;
+        if (deadline.hasExpired())
+            return Outcome::NoAnswer;
+        QThread::msleep(pause);
+    }
+    listen();
+    return Outcome::Ours;
+}
+
+void SingleInstance::listen()
+{
+    if (m_server.isListening())
+        return;
+    QLocalServer::removeServer(serverName());
+    m_server.listen(serverName());
+}
+
+void SingleInstance::answerCallers()
+{
+    while (QLocalSocket* caller = m_server.nextPendingConnection()) {
+        caller->deleteLater();
+        if (!mayCall(*caller))
+            continue;
+        caller->putChar(answer);
+        caller->flush();
+        Q_EMIT activationRequested();
+    }
+}
+
+bool SingleInstance::anotherComesForward(const QDeadlineTimer& deadline) const
+{
+    const auto left = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
     QLocalSocket socket;
-    socket.connectToServer(m_serverName);
-    socket.waitForConnected(connectionTimeout);
+    socket.setSocketOptions(socketOption);
+    socket.connectToServer(serverName());
+    char answered = 0;
+    return socket.waitForConnected(left()) && socket.waitForReadyRead(left()) && socket.getChar(&answered) &&
+           answered == answer;
+}
+
+QString SingleInstance::serverName() const
+{
+    // Socket names are short; the register's folder need not be.
+    const QString folder = QFileInfo(m_lock.folder()).canonicalFilePath();
+    const QByteArray hash = QCryptographicHash::hash(folder.toUtf8(), QCryptographicHash::Sha256);
+    return u"abissora-"_s + QString::fromLatin1(hash.toHex().left(24));
 }
 
 } // namespace abissora

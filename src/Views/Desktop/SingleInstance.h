@@ -2,10 +2,14 @@
 #pragma once
 
 #include <QLocalServer>
-#include <QLockFile>
 #include <QObject>
+#include <chrono>
+
+class QDeadlineTimer;
 
 namespace abissora {
+
+class FolderLock;
 
 /// Lets one process at a time work on a register. A second one asks the first to come forward.
 class SingleInstance : public QObject
@@ -13,23 +17,38 @@ class SingleInstance : public QObject
     Q_OBJECT
 
 public:
-    /// `folder` is the register's; it is created when missing.
-    explicit SingleInstance(const QString& folder, QObject* parent = nullptr);
+    enum class Outcome {
+        /// This process works on the register. One that cannot be locked is never refused; the lock knows whether it
+        /// may be written.
+        Ours,
+        /// Another process works on it, and its window comes forward.
+        CameForward,
+        /// Another process works on it, but does not answer.
+        NoAnswer,
+    };
+    /// How long another process has to answer.
+    static constexpr std::chrono::milliseconds usualPatience{3000};
 
-    /// True for the process that may work on the register. False when another one does: it was then asked to come
-    /// forward. A register whose folder cannot be locked, on a read-only disk for instance, is never refused.
-    [[nodiscard]] bool acquire();
+    /// `lock` is the one of the register's folder and must outlive this.
+    explicit SingleInstance(FolderLock& lock, std::chrono::milliseconds patience = usualPatience,
+                            QObject* parent = nullptr);
+
+    /// Waits for another process's answer, or for its end, without an event loop. May be called again.
+    [[nodiscard]] Outcome acquire();
 
 Q_SIGNALS:
     /// Another process was started on the same register.
     void activationRequested();
 
 private:
-    void askToComeForward() const;
+    void listen();
+    void answerCallers();
+    [[nodiscard]] bool anotherComesForward(const QDeadlineTimer& deadline) const;
+    [[nodiscard]] QString serverName() const;
 
-    QLockFile m_lock;
+    FolderLock& m_lock;
+    std::chrono::milliseconds m_patience;
     QLocalServer m_server;
-    QString m_serverName;
 };
 
 } // namespace abissora

@@ -1,45 +1,210 @@
 // SPDX-License-Identifier: MIT
+#include "FolderLock.h"
 #include "Literals.h"
 #include "SingleInstance.h"
 #include "TestRunner.h"
 
+#include <QDir>
+#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
+#include <atomic>
+#include <sys/file.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 using namespace abissora;
+using namespace std::chrono_literals;
+using Outcome = SingleInstance::Outcome;
+
+namespace {
+
+constexpr auto longPatience = 20s; ///< never used up
+constexpr auto noPatience = 0ms;
+
+/// How often a second start has tried to take the lock.
+std::atomic<int> attempts;
+
+int countAndLock(int descriptor, int operation)
+{
+    ++attempts;
+    return ::flock(descriptor, operation);
+}
+
+/// A second start on a thread of its own, so that the first can go on meanwhile.
+class SecondStart
+{
+public:
+    /// `prepare` runs on that thread beforehand.
+    SecondStart(
+        const QString& folder, std::chrono::milliseconds patience, const std::function<void()>& prepare = [] {})
+        : m_thread(QThread::create([this, folder, patience, prepare] {
+            prepare();
+            FolderLock lock(folder, countAndLock);
+            m_outcome = SingleInstance(lock, patience).acquire();
+        }))
+    {
+        m_thread->start();
+    }
+    ~SecondStart() { m_thread->wait(); }
+    Q_DISABLE_COPY_MOVE(SecondStart)
+
+    [[nodiscard]] bool isOver() const { return m_thread->isFinished(); }
+    /// Once it is over.
+    [[nodiscard]] Outcome outcome() const { return m_outcome; }
+
+private:
+    std::atomic<Outcome> m_outcome{Outcome::Ours};
+    std::unique_ptr<QThread> m_thread;
+};
+
+} // namespace
 
 class tst_SingleInstance : public test::TestCase
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void secondInstanceAsksTheFirst()
+    void init()
     {
-        QTemporaryDir folder;
-        SingleInstance first(folder.path());
-        QVERIFY(first.acquire());
-        QSignalSpy asked(&first, &SingleInstance::activationRequested);
-        {
-            SingleInstance second(folder.path() + u"/."_s);
-            QVERIFY(!second.acquire());
-        }
-        QTRY_COMPARE(asked.size(), 1);
-        QTemporaryDir elsewhere;
-        SingleInstance other(elsewhere.path());
-        QVERIFY(other.acquire());
+        test::TestCase::init();
+        attempts = 0;
+        m_folder.emplace();
+        m_lock.emplace(m_folder->path());
     }
 
-    void lockIsGivenBack()
+    void cleanup()
     {
-        QTemporaryDir folder;
-        {
-            SingleInstance first(folder.path());
-            QVERIFY(first.acquire());
-        }
-        SingleInstance next(folder.path());
-        QVERIFY(next.acquire());
+        m_lock.reset();
+        m_folder.reset();
     }
+
+    void theFirstComesForward()
+    {
+        SingleInstance first(*m_lock);
+        QCOMPARE(first.acquire(), Outcome::Ours);
+        const QSignalSpy asked(&first, &SingleInstance::activationRequested);
+        QVERIFY(QFile::link(m_folder->path(), m_folder->path() + "/link"_L1));
+        for (int times : {1, 2}) { // whatever the folder is called
+            const SecondStart second(m_folder->path() + (times == 1 ? "/."_L1 : "/link"_L1), longPatience);
+            QTRY_VERIFY(second.isOver());
+            QCOMPARE(second.outcome(), Outcome::CameForward);
+            QCOMPARE(asked.size(), times);
+        }
+    }
+
+    void aFirstThatDoesNothingDoesNotAnswer()
+    {
+        SingleInstance first(*m_lock);
+        QCOMPARE(first.acquire(), Outcome::Ours);
+        const QSignalSpy asked(&first, &SingleInstance::activationRequested);
+        FolderLock lock(m_folder->path());
+        SingleInstance second(lock, noPatience);
+        QCOMPARE(second.acquire(), Outcome::NoAnswer);
+        QCOMPARE(asked.size(), 0);
+    }
+
+    void aFirstThatCannotBeAskedDoesNotAnswer()
+    {
+        QCOMPARE(m_lock->acquire(), FolderLock::Outcome::Held);
+        FolderLock lock(m_folder->path());
+        SingleInstance second(lock, noPatience);
+        QCOMPARE(second.acquire(), Outcome::NoAnswer);
+    }
+
+    void aFirstThatIsStillStartingIsWaitedFor()
+    {
+        QCOMPARE(m_lock->acquire(), FolderLock::Outcome::Held);
+        const SecondStart second(m_folder->path(), longPatience);
+        QTRY_VERIFY(attempts > 1); // asked once in vain
+        SingleInstance first(*m_lock);
+        QCOMPARE(first.acquire(), Outcome::Ours);
+        QTRY_VERIFY(second.isOver());
+        QCOMPARE(second.outcome(), Outcome::CameForward);
+    }
+
+    void aFirstThatGoesAwayIsSucceeded()
+    {
+        std::optional<SingleInstance> first(std::in_place, *m_lock);
+        QCOMPARE(first->acquire(), Outcome::Ours);
+        const SecondStart second(m_folder->path(), longPatience);
+        while (attempts == 0) // without an answer
+            QThread::yieldCurrentThread();
+        first.reset();
+        m_lock.reset();
+        QTRY_VERIFY(second.isOver());
+        QCOMPARE(second.outcome(), Outcome::Ours);
+    }
+
+    void oneThatDidNotAnswerMayBeTriedAgain()
+    {
+        QCOMPARE(m_lock->acquire(), FolderLock::Outcome::Held);
+        FolderLock lock(m_folder->path());
+        SingleInstance second(lock, noPatience);
+        QCOMPARE(second.acquire(), Outcome::NoAnswer);
+        m_lock.reset();
+        QCOMPARE(second.acquire(), Outcome::Ours);
+        QCOMPARE(second.acquire(), Outcome::Ours);
+        const SecondStart third(m_folder->path(), longPatience);
+        QTRY_VERIFY(third.isOver());
+        QCOMPARE(third.outcome(), Outcome::CameForward);
+    }
+
+    void otherRegistersAreFree()
+    {
+        SingleInstance first(*m_lock);
+        QCOMPARE(first.acquire(), Outcome::Ours);
+        const QTemporaryDir elsewhere;
+        FolderLock lock(elsewhere.path());
+        SingleInstance other(lock, noPatience);
+        QCOMPARE(other.acquire(), Outcome::Ours);
+    }
+
+    void aRegisterThatCannotBeLockedIsNotRefused()
+    {
+        QFile file(m_folder->filePath(u"file"_s));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        FolderLock lock(file.fileName() + "/register"_L1);
+        SingleInstance first(lock, noPatience);
+        QCOMPARE(first.acquire(), Outcome::Ours);
+        QVERIFY(!lock.mayWrite());
+    }
+
+    void nothingIsMadeOnTheDisk()
+    {
+        const auto files = [](const QString& folder) {
+            return QDir(folder).entryList({u"abissora-*"_s}, QDir::AllEntries | QDir::System);
+        };
+        const QStringList before = files(QDir::tempPath());
+        SingleInstance first(*m_lock);
+        QCOMPARE(first.acquire(), Outcome::Ours);
+        QCOMPARE(files(QDir::tempPath()), before);
+        QCOMPARE(files(m_folder->path()), QStringList());
+    }
+
+    void peopleAreNotDisturbedByOthers()
+    {
+        QVERIFY(QFile::setPermissions(m_folder->path(), QFile::Permissions(0x7755)));
+        SingleInstance first(*m_lock);
+        QCOMPARE(first.acquire(), Outcome::Ours);
+        const QSignalSpy asked(&first, &SingleInstance::activationRequested);
+        // Only the system's administrator can be somebody else for a while; then for that thread alone.
+        std::atomic<bool> isSomebodyElse = false;
+        const auto patience = ::geteuid() == 0 ? 1s : longPatience;
+        const SecondStart second(m_folder->path(), patience, [&isSomebodyElse] {
+            constexpr uid_t nobody = 65534;
+            isSomebodyElse = ::syscall(SYS_setresuid, -1, nobody, -1) == 0;
+        });
+        QTRY_VERIFY(second.isOver());
+        QCOMPARE(second.outcome(), isSomebodyElse ? Outcome::NoAnswer : Outcome::CameForward);
+        QCOMPARE(asked.isEmpty(), isSomebodyElse.load());
+    }
+
+private:
+    std::optional<QTemporaryDir> m_folder;
+    std::optional<FolderLock> m_lock;
 };
 
 ABISSORA_TEST(tst_SingleInstance);
