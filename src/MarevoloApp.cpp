@@ -2,11 +2,13 @@
 #include "MarevoloApp.h"
 
 #include "AppWindows.h"
+#include "EmergencyCopy.h"
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
 #include "MainWindow.h"
 #include "MaintenanceOverviewView.h"
+#include "Restoration.h"
 #include "SettingsView.h"
 #include "SidebarView.h"
 #include "StatisticsView.h"
@@ -19,14 +21,14 @@
 namespace abissora {
 
 MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories& directories, const Product& product,
-                         HttpClient& http)
+                         HttpClient& http, WritePermission& permission)
     : m_application(application)
     , m_directories(directories)
     , m_product(product)
     , m_almanac{m_clock, m_calendar, DateFormat(DateFormat::userLocale(), m_calendar)}
-    , m_generations(directories, m_clock, m_calendar, m_console, m_permission)
+    , m_generations(directories, m_clock, m_calendar, m_console, permission)
     , m_preferences(directories.preferences(), m_generations)
-    , m_archive(directories, m_clock, m_permission)
+    , m_archive(directories, m_clock, permission)
     , m_documents(directories.maintenanceDocuments(), m_archive, m_filePanel, m_ids, m_console)
     , m_equipment(StorageManager(m_preferences, m_console, m_clock, m_calendar, m_ids), m_documents, m_console, m_clock,
                   m_calendar)
@@ -36,12 +38,14 @@ MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories
     , m_checker(http, m_info, m_product)
     , m_updates(m_checker, m_clock)
     , m_dayWatch(m_equipment, m_clock, m_calendar)
+    , m_saveRetry(m_preferences, m_console)
 {
     QApplication::setWindowIcon(applicationIcon());
     applyScheme();
     connect(&m_settings, &SettingsViewModel::darkModeChanged, this, &MarevoloApp::applyScheme);
     connect(&m_dayWatch, &DayWatch::dayChanged, &m_equipment, &EquipmentViewModel::refreshDates);
-    connect(&application, &QApplication::applicationStateChanged, &m_dayWatch, &DayWatch::check);
+    connect(&application, &QApplication::applicationStateChanged, this, &MarevoloApp::comeForward);
+    connect(&application, &QApplication::aboutToQuit, this, &MarevoloApp::settleSaves);
 }
 
 MarevoloApp::~MarevoloApp() = default;
@@ -54,9 +58,36 @@ void MarevoloApp::showMainWindow()
         // After the first paint: connecting takes its time.
         if (!std::exchange(m_hasStarted, true))
             QMetaObject::invokeMethod(this, &MarevoloApp::checkForUpdatesAtStart, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { m_archive.purge(); }, Qt::QueuedConnection);
         return;
     }
     bringForward(window);
+}
+
+void MarevoloApp::comeForward()
+{
+    m_dayWatch.check();
+    m_saveRetry.retry();
+}
+
+IoResult<void> MarevoloApp::restore(const EarlierState& state)
+{
+    settleSaves();
+    return Restoration(m_directories, m_generations).restore(state).map([this] {
+        m_isOver = true;
+        Q_EMIT restored();
+    });
+}
+
+void MarevoloApp::settleSaves()
+{
+    if (m_isOver || m_saveRetry.retry())
+        return;
+    if (const auto kept = keepEmergencyCopy(m_preferences, m_directories, m_clock); kept)
+        m_console.print(u"💾 Conservato altrove ciò che non si poteva salvare: "_s + *kept);
+    else
+        m_console.print(u"Error saving equipment: "_s + kept.error().reason);
 }
 
 QCoro::Task<> MarevoloApp::checkForUpdatesAtStart()

@@ -10,6 +10,7 @@
 #include "EquipmentViewModel.h"
 #include "Generations.h"
 #include "MaintenanceDocumentStore.h"
+#include "SaveRetry.h"
 #include "ScreenFactory.h"
 #include "SettingsViewModel.h"
 #include "SymbolIcon.h"
@@ -33,7 +34,7 @@ public:
     /// Everything passed by reference must outlive it, except the directories and the product. Loads the register and
     /// the types.
     MarevoloApp(QApplication& application, const ApplicationDirectories& directories, const Product& product,
-                HttpClient& http);
+                HttpClient& http, WritePermission& permission);
     ~MarevoloApp() override;
 
     /// Shows the main window at the first call, which begins the check for updates if the person wants one at start,
@@ -42,12 +43,21 @@ public:
     /// Created at the first call.
     [[nodiscard]] MainWindow& mainWindow();
 
+    /// Puts an earlier state in the place of the present one. What this object holds is then of no more use: see
+    /// restored().
+    [[nodiscard]] IoResult<void> restore(const EarlierState& state);
+    /// Stores what could not be stored so far, or else keeps it outside the register's folder.
+    void settleSaves();
+
 Q_SIGNALS:
     /// The check at start found a newer release.
     void updateOffered(const abissora::UpdateInfo& update);
+    /// The files are those of an earlier state: this object must be created anew before anything is stored.
+    void restored();
 
 private:
     QCoro::Task<> checkForUpdatesAtStart();
+    void comeForward();
     [[nodiscard]] std::unique_ptr<EquipmentDetail> detail(const Equipment& equipment);
     void applyScheme();
 
@@ -71,7 +81,6 @@ private:
     ResourceSymbolLibrary m_symbols;
     DesktopFilePanel m_filePanel;
     DesktopOpener m_opener;
-    AlwaysPermitted m_permission;
     Generations m_generations;
     PreferencesStore m_preferences;
     DocumentArchive m_archive;
@@ -84,9 +93,11 @@ private:
     UpdateChecker m_checker;
     UpdateCheckerViewModel m_updates;
     DayWatch m_dayWatch;
+    SaveRetry m_saveRetry;
     std::unique_ptr<MainWindow> m_mainWindow;
     std::unique_ptr<AppWindows> m_windows;
     bool m_hasStarted = false;
+    bool m_isOver = false; ///< another state was restored
 };
 
 } // namespace abissora

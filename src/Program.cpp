@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "Program.h"
 
-#include "AtomicFile.h"
 #include "CommandLine.h"
+#include "Commands.h"
 #include "FolderLock.h"
 #include "Literals.h"
 #include "MainWindow.h"
-#include "MarevoloApp.h"
 #include "NetworkHttpClient.h"
 #include "NoAnswerAlert.h"
+#include "Session.h"
+#include "SettingsViewModel.h"
 #include "SingleInstance.h"
 #include "Snapshot.h"
 #include "Theme.h"
@@ -111,12 +112,32 @@ ApplicationDirectories directoriesFor(const CommandLine& commandLine)
     return chosen.isEmpty() ? ApplicationDirectories::standard() : ApplicationDirectories(chosen, true);
 }
 
+bool asksForCommand(const QStringList& arguments)
+{
+    return std::ranges::any_of(arguments, [](const QString& argument) {
+        return argument == "--check"_L1 || argument == "--list-states"_L1 || argument.startsWith("--restore"_L1);
+    });
+}
+
+int failToParse(const QString& sentence)
+{
+    return fail(sentence + u" Con «--help» l'elenco delle opzioni."_s);
+}
+
+int runWithoutScreen(const QStringList& arguments)
+{
+    const auto commandLine = CommandLine::parse(arguments);
+    if (!commandLine)
+        return failToParse(commandLine.error());
+    return runCommand(*commandLine, directoriesFor(*commandLine));
+}
+
 /// As the person chose it in the settings.
 Scheme storedScheme(const ApplicationDirectories& directories)
 {
-    const SystemClock clock;
     StandardOutput console;
-    PreferencesStore preferences(directories.preferences(), directories.backups(), clock);
+    KeepNothing keeper;
+    PreferencesStore preferences(directories.preferences(), keeper);
     return SettingsViewModel(preferences, console).darkMode() ? Scheme::Dark : Scheme::Light;
 }
 
@@ -152,25 +173,19 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
         return drawsToFile ? EXIT_FAILURE : EXIT_SUCCESS;
     }
 
-    if (lock.mayWrite()) {
-        for (const QString& folder :
-             {directories.preferences(), directories.maintenanceDocuments(), directories.backups()})
-            AtomicFile::removeLeftovers(folder);
-    }
-
-    MarevoloApp app(application, directories, product, http);
-    QObject::connect(&instance, &SingleInstance::activationRequested, &app, &MarevoloApp::showMainWindow);
+    Session session(application, directories, product, http, lock);
+    QObject::connect(&instance, &SingleInstance::activationRequested, &session, &Session::showMainWindow);
     if (!drawsToFile) {
-        app.showMainWindow();
+        session.showMainWindow();
         return QApplication::exec();
     }
-    Snapshot snapshot(app.mainWindow(), commandLine.snapshot);
+    Snapshot snapshot(session.mainWindow(), commandLine.snapshot);
     QObject::connect(&snapshot, &Snapshot::taken, &application, &QApplication::quit);
     QObject::connect(&snapshot, &Snapshot::failed, &application, [&](const QString& reason) {
         QApplication::exit(fail(u"Impossibile scrivere «%1»: %2"_s.arg(commandLine.snapshot, reason)));
     });
     // Only drawn: no check for updates begins.
-    app.mainWindow().show();
+    session.mainWindow().show();
     return QApplication::exec();
 }
 
@@ -185,6 +200,8 @@ int runProgram(int argc, char** argv, const Product& product)
     const QStringList arguments = rawArguments(argc, argv);
     if (answered(arguments))
         return EXIT_SUCCESS;
+    if (asksForCommand(arguments))
+        return runWithoutScreen(arguments);
     if (!hasDisplay(arguments)) {
         const bool drawsToFile = std::ranges::any_of(
             arguments, [](const QString& argument) { return argument.startsWith("--snapshot"_L1); });
@@ -206,7 +223,7 @@ int runProgram(int argc, char** argv, const Product& product)
 
     const auto commandLine = CommandLine::parse(QCoreApplication::arguments().mid(1));
     if (!commandLine)
-        return fail(commandLine.error() + u" Con «--help» l'elenco delle opzioni."_s);
+        return failToParse(commandLine.error());
     if (answered(commandLine->help, commandLine->version)) // "-hv"
         return EXIT_SUCCESS;
 

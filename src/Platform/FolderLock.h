@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "IoError.h"
+#include "WritePermission.h"
 
 #include <memory>
 
@@ -11,7 +11,7 @@ namespace abissora {
 /// the kernel takes it back with its process: it needs no file, no space and no permission to write, and a copy of the
 /// folder comes without it. Only where the file system refuses such locks does a file in the folder, "abissora.lock",
 /// which is judged by process, computer and boot, stand in for it.
-class FolderLock
+class FolderLock final : public WritePermission
 {
 public:
     enum class Outcome {
@@ -24,14 +24,14 @@ public:
 
     explicit FolderLock(QString folder);
     FolderLock(QString folder, Call call);
-    ~FolderLock();
+    ~FolderLock() override;
     Q_DISABLE_COPY_MOVE(FolderLock)
 
     /// Creates the folder when it is missing, for its owner only. May be called again at any time: a lock that is held
     /// stays held, unless another folder has come to stand in the place of the locked one.
     [[nodiscard]] Outcome acquire();
     /// Acquires what is not held yet, and tells why nothing may be written.
-    [[nodiscard]] IoResult<void> mayWrite();
+    [[nodiscard]] IoResult<void> mayWrite() override;
 
     [[nodiscard]] const QString& folder() const { return m_folder; }
     /// Why the last attempt was impossible.

@@ -93,7 +93,8 @@ IoResult<void> PreferencesStore::write(const QString& key, const Pending& value)
     auto stored =
         AtomicFile::makeFolder(m_folder).and_then([&] { return AtomicFile::replace(path(key), value.bytes); });
     // After a failure of the very last step the new file stands there too.
-    m_known.insert(key, FileIdentity::of(path(key)));
+    if (const auto present = FileIdentity::of(path(key)))
+        m_known.insert(key, present);
     if (stored)
         m_toKeep.remove(key);
     return stored;

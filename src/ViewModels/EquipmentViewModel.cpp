@@ -111,11 +111,11 @@ void EquipmentViewModel::updateMaintenance(const QUuid& to, const Maintenance& m
     Equipment* item = find(to);
     if (!item)
         return;
+    const Equipment before = *item;
     auto& history = item->maintenanceHistory;
     const auto record = std::ranges::find(history, maintenance.id, &Maintenance::id);
     if (record == history.end())
         return;
-    const Equipment before = *item;
     *record = storable(maintenance);
     recomputeServiceDates(*item);
     saveAndNotify(lossBetween(before, *item));

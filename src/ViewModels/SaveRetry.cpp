@@ -9,6 +9,7 @@ SaveRetry::SaveRetry(PreferencesStore& preferences, Console& console, QObject* p
     : QObject(parent)
     , m_preferences(preferences)
     , m_console(console)
+    , m_timer(this)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, [this] {

@@ -149,7 +149,7 @@ private Q_SLOTS:
         server.next(test::LocalServer::hangsAfter("HTTP/1.1 200 OK\r\nContent-Length: 500\r\n\r\n{"));
         wantCheckAtStart(true);
         NetworkHttpClient http;
-        MarevoloApp app(*qApp, directories(), productAt(server.url()), http);
+        MarevoloApp app(*qApp, directories(), productAt(server.url()), http, m_permission);
         app.showMainWindow();
         QTRY_COMPARE(server.requests().size(), 1);
     }
@@ -157,7 +157,7 @@ private Q_SLOTS:
 private:
     [[nodiscard]] ApplicationDirectories directories() const { return ApplicationDirectories(m_folder->path(), true); }
 
-    void start() { m_app.emplace(*qApp, directories(), product, *m_http); }
+    void start() { m_app.emplace(*qApp, directories(), product, *m_http, m_permission); }
 
     void wantCheckAtStart(bool want) const
     {
@@ -167,6 +167,7 @@ private:
         SettingsViewModel(preferences, console).setCheckForUpdatesOnLaunch(want);
     }
 
+    AlwaysPermitted m_permission;
     std::optional<QTemporaryDir> m_folder;
     std::optional<test::ScriptedHttpClient> m_http;
     std::optional<MarevoloApp> m_app;

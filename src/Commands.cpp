@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: MIT
+#include "Commands.h"
+
+#include "CommandLine.h"
+#include "FolderLock.h"
+#include "Literals.h"
+#include "RegisterCheck.h"
+#include "RegisterStart.h"
+#include "StateContent.h"
+
+#include <cstdlib>
+
+namespace abissora {
+
+namespace {
+
+void say(std::FILE* stream, const QString& line)
+{
+    std::fputs(qUtf8Printable(line + u'\n'), stream);
+}
+
+/// What goes wrong beside the command itself.
+class StreamConsole final : public Console
+{
+public:
+    explicit StreamConsole(std::FILE* stream)
+        : m_stream(stream)
+    {}
+    void print(const QString& text) override { say(m_stream, text); }
+
+private:
+    std::FILE* m_stream;
+};
+
+QString counts(const StateContent& content)
+{
+    const auto& [isStored, records, total, error] = content.equipment;
+    if (error)
+        return u"leggibili %1 articoli su %2"_s.arg(QString::number(records.size()), QString::number(total));
+    if (isStored)
+        return u"articoli: %1, manutenzioni: %2"_s.arg(QString::number(records.size()),
+                                                       QString::number(content.maintenanceCount()));
+    return u"tipologie: %1 su %2"_s.arg(QString::number(content.types.records.size()),
+                                        QString::number(content.types.total));
+}
+
+class Commands
+{
+public:
+    Commands(const ApplicationDirectories& directories, const CommandStreams& streams)
+        : m_directories(directories)
+        , m_streams(streams)
+        , m_lock(directories.root())
+        , m_console(streams.error)
+        , m_generations(directories, m_clock, m_calendar, m_console, m_lock)
+    {}
+
+    int listStates() const
+    {
+        for (const EarlierState& state : m_generations.list()) {
+            const QString time = m_calendar.local(state.kept).toString(u"yyyy-MM-dd HH:mm"_s);
+            say(m_streams.out, state.name + u'\t' + time + u'\t' + counts(readContent(state)));
+        }
+        return EXIT_SUCCESS;
+    }
+
+    int restore(const QString& name)
+    {
+        if (const auto permitted = m_lock.mayWrite(); !permitted) {
+            const bool isOpen = m_lock.acquire() == FolderLock::Outcome::HeldByAnother;
+            return fail(isOpen ? u"Abissora è aperta su questo registro: va chiusa prima di ripristinare."_s
+                               : u"Il registro non si può modificare: %1"_s.arg(permitted.error().reason));
+        }
+        clearUp(m_directories, m_generations);
+        const auto state = m_generations.find(name);
+        if (!state)
+            return fail(u"Nessuno stato si chiama «%1». Con «--list-states» l'elenco."_s.arg(name));
+        if (const auto restored = Restoration(m_directories, m_generations).restore(*state); !restored)
+            return fail(u"Non è stato possibile ripristinare «%1»: %2"_s.arg(name, restored.error().reason));
+        settleDocuments();
+        say(m_streams.out, u"Ripristinato lo stato «%1»."_s.arg(name));
+        return EXIT_SUCCESS;
+    }
+
+    int check() const
+    {
+        const CheckReport report = checkRegister(m_directories);
+        for (const QString& problem : report.problems)
+            say(m_streams.out, problem);
+        say(m_streams.out, (report.problems.isEmpty() ? u"Tutto in ordine: "_s : u"Letti: "_s) + report.summary);
+        return report.problems.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
+    }
+
+private:
+    int fail(const QString& sentence) const
+    {
+        say(m_streams.error, sentence);
+        return EXIT_FAILURE;
+    }
+
+    void settleDocuments()
+    {
+        const StateContent content = readPresentContent(m_directories);
+        if (content.equipment.isStored && !content.equipment.error)
+            DocumentArchive(m_directories, m_clock, m_lock).settle(documentNames(content.equipment.records));
+    }
+
+    ApplicationDirectories m_directories;
+    CommandStreams m_streams;
+    SystemClock m_clock;
+    Calendar m_calendar;
+    FolderLock m_lock;
+    StreamConsole m_console;
+    Generations m_generations;
+};
+
+} // namespace
+
+int runCommand(const CommandLine& commandLine, const ApplicationDirectories& directories, const CommandStreams& streams)
+{
+    Commands commands(directories, streams);
+    if (commandLine.check)
+        return commands.check();
+    if (commandLine.listStates)
+        return commands.listStates();
+    return commands.restore(commandLine.restore);
+}
+
+} // namespace abissora

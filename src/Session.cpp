@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "Session.h"
+
+#include "MainWindow.h"
+#include "MarevoloApp.h"
+#include "RegisterStart.h"
+
+#include <QApplication>
+
+namespace abissora {
+
+Session::Session(QApplication& application, ApplicationDirectories directories, Product product, HttpClient& http,
+                 FolderLock& lock)
+    : m_application(application)
+    , m_directories(std::move(directories))
+    , m_product(std::move(product))
+    , m_http(http)
+    , m_lock(lock)
+{
+    clearUpAfterOthers();
+    create();
+}
+
+Session::~Session() = default;
+
+void Session::showMainWindow()
+{
+    m_app->showMainWindow();
+}
+
+MainWindow& Session::mainWindow()
+{
+    return m_app->mainWindow();
+}
+
+void Session::clearUpAfterOthers()
+{
+    if (!m_lock.mayWrite())
+        return;
+    const SystemClock clock;
+    StandardOutput console;
+    Generations generations(m_directories, clock, Calendar(), console, m_lock);
+    clearUp(m_directories, generations);
+}
+
+void Session::create()
+{
+    m_app = std::make_unique<MarevoloApp>(m_application, m_directories, m_product, m_http, m_lock);
+    // Later: what asked for it is still at work.
+    connect(m_app.get(), &MarevoloApp::restored, this, &Session::renew, Qt::QueuedConnection);
+}
+
+void Session::renew()
+{
+    // Between two windows there is none, which is no reason to end.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    m_app->mainWindow().close(); // keeps its size for the next one
+    m_app.reset();
+    create();
+    // No second look for a newer release.
+    mainWindow().show();
+    QGuiApplication::setQuitOnLastWindowClosed(true);
+}
+
+} // namespace abissora

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ApplicationDirectories.h"
+#include "FolderLock.h"
+#include "HttpClient.h"
+#include "Product.h"
+
+#include <QObject>
+#include <memory>
+
+class QApplication;
+
+namespace abissora {
+
+class MainWindow;
+class MarevoloApp;
+
+/// The program's work on one register, from its first look at the files to the end. State objects never load anew:
+/// after a restoration the whole entry object is created again.
+class Session : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Everything passed by reference must outlive it. Clears up after a process that was killed, if it may write.
+    Session(QApplication& application, ApplicationDirectories directories, Product product, HttpClient& http,
+            FolderLock& lock);
+    ~Session() override;
+
+    /// As MarevoloApp's.
+    void showMainWindow();
+    [[nodiscard]] MainWindow& mainWindow();
+    [[nodiscard]] MarevoloApp& app() { return *m_app; }
+
+private:
+    void clearUpAfterOthers();
+    void create();
+    void renew();
+
+    QApplication& m_application;
+    ApplicationDirectories m_directories;
+    Product m_product;
+    HttpClient& m_http;
+    FolderLock& m_lock;
+    std::unique_ptr<MarevoloApp> m_app;
+};
+
+} // namespace abissora

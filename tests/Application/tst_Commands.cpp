@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "CommandLine.h"
+#include "Commands.h"
+#include "FolderLock.h"
+#include "TemporaryRegister.h"
+#include "TestRunner.h"
+
+#include <QTest>
+
+using namespace abissora;
+
+namespace {
+
+struct Outcome
+{
+    int status = -1;
+    QString out;
+    QString error;
+};
+
+Outcome run(const test::TemporaryRegister& files, const QStringList& arguments)
+{
+    const auto content = [](std::FILE* file) {
+        std::rewind(file);
+        QByteArray text(100'000, '\0');
+        text.truncate(qsizetype(std::fread(text.data(), 1, std::size_t(text.size()), file)));
+        std::fclose(file);
+        return QString::fromUtf8(text);
+    };
+    const CommandStreams streams{std::tmpfile(), std::tmpfile()};
+    const int status = runCommand(CommandLine::parse(arguments).value(), files.directories, streams);
+    return {status, content(streams.out), content(streams.error)};
+}
+
+} // namespace
+
+class tst_Commands : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void statesAreListedALineEach()
+    {
+        test::TemporaryRegister files;
+        const QString name = keepOne(files);
+        const Outcome answer = run(files, {u"--list-states"_s});
+        QCOMPARE(answer.status, EXIT_SUCCESS);
+        QVERIFY(answer.out.startsWith(name + u'\t'));
+        QVERIFY(answer.out.endsWith(u"articoli: 1, manutenzioni: 1\n"_s));
+        QCOMPARE(answer.error, QString());
+        QCOMPARE(run(test::TemporaryRegister(), {u"--list-states"_s}).out, QString());
+    }
+
+    void aStateIsRestoredWithItsDocuments()
+    {
+        test::TemporaryRegister files;
+        const QString name = keepOne(files);
+        files.documents.deleteDocument(document);
+        const Outcome answer = run(files, {u"--restore"_s, name});
+        QCOMPARE(answer.status, EXIT_SUCCESS);
+        QCOMPARE(answer.out, u"Ripristinato lo stato «%1».\n"_s.arg(name));
+        QCOMPARE(decodeEquipment(files.content(test::registerFile)).value().size(), 1);
+        QCOMPARE(files.names(u"MaintenanceDocuments"_s), QStringList{document});
+        QCOMPARE(files.generations.list().first().occasion, Occasion::restoration);
+    }
+
+    void anUnknownStateIsRefused()
+    {
+        test::TemporaryRegister files;
+        keepOne(files);
+        const Outcome answer = run(files, {u"--restore"_s, u"../x"_s});
+        QCOMPARE(answer.status, EXIT_FAILURE);
+        QVERIFY(answer.error.startsWith(u"Nessuno stato si chiama «../x»."_s));
+        QCOMPARE(files.content(test::registerFile), QByteArray("[]"));
+    }
+
+    void whileTheProgramIsOpenNothingIsRestored()
+    {
+        test::TemporaryRegister files;
+        const QString name = keepOne(files);
+        FolderLock lock(files.directories.root());
+        QCOMPARE(lock.acquire(), FolderLock::Outcome::Held);
+        const Outcome answer = run(files, {u"--restore"_s, name});
+        QCOMPARE(answer.status, EXIT_FAILURE);
+        QVERIFY(answer.error.contains(u"è aperta su questo registro"_s));
+        QCOMPARE(files.content(test::registerFile), QByteArray("[]"));
+        QCOMPARE(run(files, {u"--check"_s}).status, EXIT_FAILURE); // reads all the same
+    }
+
+    void aCheckEndsWithWhatItFound()
+    {
+        test::TemporaryRegister files;
+        files.write(test::registerFile, "[]");
+        const Outcome well = run(files, {u"--check"_s});
+        QCOMPARE(well.status, EXIT_SUCCESS);
+        QVERIFY(well.out.startsWith(u"Tutto in ordine: 0 articoli"_s));
+        files.write(test::registerFile, "[5]");
+        const Outcome ill = run(files, {u"--check"_s});
+        QCOMPARE(ill.status, EXIT_FAILURE);
+        QVERIFY(ill.out.startsWith(u"savedEquipment.json: valore danneggiato: [0]: expected an object"_s));
+    }
+
+    void twoCommandsAtOnceAreRefused()
+    {
+        QVERIFY(!CommandLine::parse({u"--check"_s, u"--list-states"_s}));
+        QVERIFY(!CommandLine::parse({u"--restore"_s, QString()}));
+        QVERIFY(CommandLine::parse({u"--restore"_s, u"x"_s})->isCommand());
+        QVERIFY(!CommandLine::parse({u"--snapshot"_s, u"x"_s})->isCommand());
+    }
+
+private:
+    static inline const QString document = u"00000000-0000-4000-8000-000000000001.pdf"_s;
+
+    /// A state with one item, whose record has a document; now the register is empty.
+    static QString keepOne(test::TemporaryRegister& files)
+    {
+        Maintenance record = test::maintenance(11);
+        record.receiptFileName = document;
+        files.write(u"MaintenanceDocuments/"_s + document, "%PDF-");
+        StorageManager storage = files.storageManager(QList{test::equipmentWith(1, {record})});
+        storage.saveEquipment({}, Occasion::deletedItem);
+        return files.generations.list().first().name;
+    }
+};
+
+ABISSORA_TEST(tst_Commands);
+#include "tst_Commands.moc"

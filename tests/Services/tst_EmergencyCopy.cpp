@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "EmergencyCopy.h"
+#include "IoChecks.h"
+#include "StateContent.h"
+#include "TemporaryRegister.h"
+#include "TestRunner.h"
+
+#include <QTest>
+
+using namespace abissora;
+
+class tst_EmergencyCopy : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        test::TestCase::init();
+        m_state.emplace();
+        qputenv("XDG_STATE_HOME", m_state->path().toUtf8());
+    }
+
+    void cleanup() { qunsetenv("XDG_STATE_HOME"); }
+
+    void whatIsPendingIsKeptWithTheRest()
+    {
+        test::TemporaryRegister files;
+        const QList<Equipment> now{test::equipment(1), test::equipment(2)};
+        VERIFY_OK(files.preferences.setData(typesKey, "[]"));
+        VERIFY_OK(files.preferences.setData(registerKey, "[]"));
+        files.write(u"backups"_s, "in the way");
+        files.write(test::registerFile, "of another program");
+        VERIFY_FAILED(files.preferences.setData(registerKey, encode(now).value()), EEXIST);
+
+        const auto kept = keepEmergencyCopy(files.preferences, files.directories, files.clock);
+        VERIFY_OK(kept);
+        QVERIFY(kept->startsWith(m_state->path() + u"/abissora/"_s));
+        QVERIFY(QFile::remove(files.path(u"backups"_s)));
+        const QList<EarlierState> states = files.generations.list();
+        QCOMPARE(states.size(), 1);
+        QCOMPARE(states.first().occasion, Occasion::emergency);
+        QCOMPARE(readContent(states.first()).equipment.records, now);
+        QVERIFY(readContent(states.first()).types.isStored);
+    }
+
+    void itStandsFirst()
+    {
+        test::TemporaryRegister files;
+        files.write(u"preferences"_s, "in the way");
+        VERIFY_FAILED(files.preferences.setData(registerKey, "[]"), EEXIST);
+        VERIFY_OK(keepEmergencyCopy(files.preferences, files.directories, files.clock));
+        QVERIFY(QFile::remove(files.path(u"preferences"_s)));
+        files.clock.advance(std::chrono::hours(24));
+        for (const char* bytes : {"[]", "[ ]", "[  ]"})
+            VERIFY_OK(files.preferences.setData(registerKey, bytes, Occasion::deletedItem));
+        QCOMPARE(files.generations.list().size(), 3);
+        QCOMPARE(files.generations.list().first().occasion, Occasion::emergency);
+    }
+
+    void otherRegistersHaveTheirOwn()
+    {
+        const ApplicationDirectories one(u"/tmp/one"_s);
+        const ApplicationDirectories two(u"/tmp/two"_s);
+        QVERIFY(one.emergency() != two.emergency());
+        QCOMPARE(one.emergency(), ApplicationDirectories(u"/tmp/one/"_s, true).emergency());
+    }
+
+private:
+    std::optional<QTemporaryDir> m_state;
+};
+
+ABISSORA_TEST(tst_EmergencyCopy);
+#include "tst_EmergencyCopy.moc"

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "RegisterCheck.h"
+#include "TemporaryRegister.h"
+#include "TestRunner.h"
+
+#include <QTest>
+
+using namespace abissora;
+
+namespace {
+
+const QString document = u"MaintenanceDocuments/00000000-0000-4000-8000-000000000001.pdf"_s;
+
+QList<Equipment> oneItem()
+{
+    Maintenance record = test::maintenance(11);
+    record.receiptFileName = u"00000000-0000-4000-8000-000000000001.pdf"_s;
+    return {test::equipmentWith(1, {record})};
+}
+
+} // namespace
+
+class tst_RegisterCheck : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void allIsWell()
+    {
+        test::TemporaryRegister files;
+        files.write(test::registerFile, encode(oneItem()).value());
+        files.write(test::typesFile, "[]");
+        files.write(u"preferences/darkMode.json"_s, "true");
+        files.write(document, "%PDF-");
+        const CheckReport report = checkRegister(files.directories);
+        QCOMPARE(report.problems, QStringList());
+        QCOMPARE(report.summary, u"1 articolo, 1 manutenzione, 0 tipologie, 1 documento, 0 stati precedenti"_s);
+    }
+
+    void nothingIsStored()
+    {
+        test::TemporaryRegister files;
+        QCOMPARE(checkRegister(files.directories).problems, QStringList());
+        QCOMPARE(files.names(u"."_s), QStringList());
+    }
+
+    void everyDamagedValueIsNamed()
+    {
+        test::TemporaryRegister files;
+        QList<Equipment> items = oneItem();
+        items.append(test::equipment(2));
+        QByteArray json = encode(items).value();
+        json.replace("\"cost\":120.5", "\"cost\":\"x\"").replace("\"model\":\"Modello\"", "\"model\":5");
+        files.write(test::registerFile, json);
+        files.write(test::typesFile, "[{\"id\":1}");
+        files.write(u"preferences/reminderDays.json"_s, "{");
+        const QStringList problems = checkRegister(files.directories).problems;
+        QCOMPARE(
+            problems.filter(u"savedEquipment.json: valore danneggiato: "_s),
+            QStringList({u"savedEquipment.json: valore danneggiato: [0].model: expected a string, found a number"_s,
+                         u"savedEquipment.json: valore danneggiato: [0].maintenanceHistory[0].cost: expected a "
+                         "number, found a string"_s,
+                         u"savedEquipment.json: valore danneggiato: [1].model: expected a string, found a number"_s}));
+        QVERIFY(problems.filter(u"equipmentTypes.json: "_s).size() >= 7);
+        QVERIFY(problems.contains(u"reminderDays.json: impostazione danneggiata"_s));
+    }
+
+    void documentsAndRecordsDisagree()
+    {
+        test::TemporaryRegister files;
+        files.write(test::registerFile, encode(oneItem()).value());
+        files.write(u"MaintenanceDocuments/libretto.pdf"_s, "%PDF-");
+        QCOMPARE(checkRegister(files.directories).problems,
+                 QStringList({u"documento mancante: 00000000-0000-4000-8000-000000000001.pdf («Erogatore di prova», "
+                              "«Revisione primo stadio»)"_s,
+                              u"documento in più, di nessuna manutenzione: libretto.pdf"_s}));
+    }
+
+    void statesThatCannotBeRead()
+    {
+        test::TemporaryRegister files;
+        files.write(test::registerFile, "[]");
+        const QByteArray damaged = encode(QList{test::equipment(1), test::equipment(2)}).value().chopped(20);
+        files.write(u"backups/20260101T000000.000Z-unreadable/savedEquipment.json"_s, damaged);
+        files.write(u"backups/20260102T000000.000Z-deleted-item/savedEquipment.json"_s, "[]");
+        const CheckReport report = checkRegister(files.directories);
+        QCOMPARE(report.problems, QStringList{u"stato 20260101T000000.000Z-unreadable: leggibili 1 articoli su 2"_s});
+        QVERIFY(report.summary.endsWith(u"2 stati precedenti"_s));
+    }
+};
+
+ABISSORA_TEST(tst_RegisterCheck);
+#include "tst_RegisterCheck.moc"
