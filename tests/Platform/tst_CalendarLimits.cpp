@@ -132,12 +132,12 @@ private Q_SLOTS:
         row("UTC", "0001-01-01 00:00:00.000", first);
         row("UTC", "9999-12-31 23:59:59.999", last);
         // A whole day away from UTC nothing of the day is left.
-        row("XXX24", "9999-12-30 23:59:59.999", last);
-        row("XXX24", "9999-12-31 00:00:00.000", "nothing");
-        row("XXX24:30", "9999-12-30 23:59:59.999", last);
-        row("XXX24:30", "9999-12-31 23:59:59.999", "nothing");
-        row("XXX-24", "0001-01-02 00:00:00.000", first);
-        row("XXX-24", "0001-01-01 23:59:59.999", "nothing");
+        row("FAR24", "9999-12-30 23:59:59.999", last);
+        row("FAR24", "9999-12-31 00:00:00.000", "nothing");
+        row("FAR24:30", "9999-12-30 23:59:59.999", last);
+        row("FAR24:30", "9999-12-31 23:59:59.999", "nothing");
+        row("FAR-24", "0001-01-02 00:00:00.000", first);
+        row("FAR-24", "0001-01-01 23:59:59.999", "nothing");
     }
 
     void daysAtTheEnds()

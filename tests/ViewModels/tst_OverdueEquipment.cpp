@@ -84,12 +84,19 @@ private Q_SLOTS:
         QCOMPARE(viewModel->overdueEquipment().size(), 1);
     }
 
-    void itemsThatTheCalendarCannotCount()
+    void theLastEvening()
     {
         // Already the year 10000 in Rome.
         const QList<Equipment> all = dueAt({at("9999-12-31T22:59:59Z"), at("9999-12-31T23:00:00Z")});
-        QCOMPARE(overdue(all, m_files->calendar), all.mid(1));
+        QCOMPARE(overdue(all, m_files->calendar), QList<Equipment>());
         m_files->clock.set(at("9999-12-20T10:00:00Z"));
+        QCOMPARE(overdue(all, m_files->calendar), all);
+    }
+
+    void allWhenTheCalendarCannotCount()
+    {
+        const QList<Equipment> all = dueAt({at("2020-01-01T00:00:00Z"), at("9999-12-31T23:00:00Z")});
+        m_files->clock.set(firstInstant - std::chrono::milliseconds(1));
         QCOMPARE(overdue(all, m_files->calendar), all);
     }
 

@@ -98,10 +98,12 @@ private Q_SLOTS:
 
     void nothing() { QCOMPARE(figures({}), Figures()); }
 
-    void anItemThatTheCalendarCannotCount()
+    void whereTheCalendarEnds()
     {
         Equipment item = equipment(1);
         item.nextServiceDate = at("9999-12-31T23:30:00Z"); // already the year 10000 in Rome
+        QCOMPARE(figures({item}), (Figures{1, 1, 0, 0, 1}));
+        item.nextServiceDate = lastInstant + std::chrono::milliseconds(1);
         QCOMPARE(figures({item}), (Figures{1, 1, 1, 0, 0}));
     }
 

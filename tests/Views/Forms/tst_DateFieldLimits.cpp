@@ -56,7 +56,7 @@ bool isStorable(Instant instant)
 /// So far away from UTC that nothing of the last day of the year 9999 lies in that year there.
 Calendar aDayBehind()
 {
-    return Calendar(QTimeZone("XXX24"));
+    return Calendar(QTimeZone("FAR24"));
 }
 
 } // namespace
