@@ -8,6 +8,7 @@
 #include "MainWindow.h"
 #include "NetworkHttpClient.h"
 #include "NoAnswerAlert.h"
+#include "ProcessSetup.h"
 #include "Session.h"
 #include "SettingsViewModel.h"
 #include "SingleInstance.h"
@@ -17,7 +18,6 @@
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QTranslator>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -193,10 +193,9 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
 
 int runProgram(int argc, char** argv, const Product& product)
 {
-#ifdef SIGPIPE
-    // The log goes to standard output; whoever reads it may leave at any time. Processes started from here get it back.
-    std::signal(SIGPIPE, SIG_IGN);
-#endif
+    ProcessSetup::openStandardStreams();
+    // Whoever reads the log may leave at any time.
+    ProcessSetup::outliveFailedWrites();
     const QStringList arguments = rawArguments(argc, argv);
     if (answered(arguments))
         return EXIT_SUCCESS;

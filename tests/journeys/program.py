@@ -61,13 +61,17 @@ def descendants(node, deep_tables=False):
 
 
 class Program:
-    def __init__(self, path, data_dir, arguments=(), role=Atspi.Role.FRAME):
-        """Comes back once a window of that role is there: the main window, or an alert in its place."""
+    def __init__(self, path, data_dir, arguments=(), role=Atspi.Role.FRAME, shell=None):
+        """Comes back once a window of that role is there: the main window, or an alert in its place. `shell` starts
+        the program as "$0" "$@" and may do something beforehand."""
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb",
                            LC_ALL="C.UTF-8", LANGUAGE="", TZ=ZONE)
         environment.pop("ABISSORA_DATA_DIR", None)
         self.lines = []
-        self.process = subprocess.Popen([path, "--data-dir", data_dir, *arguments], env=environment,
+        command = [path, "--data-dir", data_dir, *arguments]
+        if shell:
+            command = ["sh", "-c", shell, *command]
+        self.process = subprocess.Popen(command, env=environment,
                                         stdout=subprocess.PIPE, text=True, encoding="utf-8")
         self.reader = threading.Thread(target=self._read, daemon=True)
         self.reader.start()

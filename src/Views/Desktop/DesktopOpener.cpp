@@ -3,13 +3,13 @@
 
 #include "Answer.h"
 #include "Literals.h"
+#include "ProcessSetup.h"
 
 #include <QDesktopServices>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTimer>
 #ifdef Q_OS_UNIX
-#include <csignal>
 #include <unistd.h>
 #endif
 
@@ -33,7 +33,7 @@ void detach(QProcess& process)
 #ifdef Q_OS_UNIX
     process.setChildProcessModifier([] {
         ::setsid();
-        ::signal(SIGPIPE, SIG_DFL);
+        ProcessSetup::restoreSignals();
     });
 #endif
     process.setStandardInputFile(QProcess::nullDevice());

@@ -119,15 +119,25 @@ private Q_SLOTS:
         QCOMPARE(command.log(), "1\nhttps://abissora.example/\nwent on\n");
     }
 
-    void whatItStartsHearsBrokenPipes()
+    void whatItStartsHearsTheSignals_data()
     {
-        const auto handler = std::signal(SIGPIPE, SIG_IGN); // as the program does
-        const Command command("kill -s PIPE $$");
+        QTest::addColumn<int>("number");
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("broken pipe") << SIGPIPE << QByteArray("PIPE");
+        QTest::newRow("file too large") << SIGXFSZ << QByteArray("XFSZ");
+    }
+
+    void whatItStartsHearsTheSignals()
+    {
+        QFETCH(int, number);
+        QFETCH(QByteArray, name);
+        const auto handler = std::signal(number, SIG_IGN); // as the program does
+        const Command command("ulimit -c 0; kill -s " + name + " $$");
         std::optional<bool> opened;
         DesktopOpener opener(30s);
         openInto(opened, opener, QUrl(u"https://abissora.example/"_s));
         QTRY_COMPARE(opened, false);
-        std::signal(SIGPIPE, handler);
+        std::signal(number, handler);
     }
 
     void aCommandThatDoesNotStartOpensNothing()
