@@ -15,7 +15,7 @@ IoResult<QString> keepEmergencyCopy(const PreferencesStore& preferences, const A
     const QString folder = directories.emergency();
     const QString temporary = folder + u'/' + AtomicFile::temporaryName();
     const QHash<QString, QByteArray> pending = preferences.pending();
-    const auto target = [&temporary](const QString& key) { return temporary + u'/' + key + u".json"; };
+    const auto target = [&temporary](const QString& key) -> QString { return temporary + u'/' + key + u".json"; };
 
     auto kept = AtomicFile::makeFolder(temporary);
     for (auto value = pending.cbegin(); kept && value != pending.cend(); ++value)
