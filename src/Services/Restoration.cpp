@@ -75,9 +75,11 @@ IoResult<void> Restoration::apply(const EarlierState& state) const
     }
     if (!state.files.contains(registerKey))
         return applied;
+    const bool hasTypes = state.files.contains(typesKey);
     const QHash<QString, QString> present = storedFiles(m_directories.preferences());
     for (auto file = present.cbegin(); applied && file != present.cend(); ++file) {
-        if (!state.files.contains(file.key()) && file.key() != typesKey)
+        const bool isWanted = file.key() == typesKey || (file.key() == iconVersionKey && !hasTypes);
+        if (!state.files.contains(file.key()) && !isWanted)
             applied = AtomicFile::remove(*file);
     }
     return applied;

@@ -10,6 +10,8 @@ namespace abissora {
 /// The key under which the register itself is stored, and the one of the types.
 inline const QString registerKey = u"savedEquipment"_s;
 inline const QString typesKey = u"equipmentTypes"_s;
+/// Which icons the types were given; of no meaning without them.
+inline const QString iconVersionKey = u"iconSetVersion"_s;
 
 /// By key, the paths of the "<key>.json" in a folder. What is no regular file of a plain name counts as none, except
 /// that a file of a key that is stored but cannot be read counts.

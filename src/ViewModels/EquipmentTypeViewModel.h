@@ -23,7 +23,7 @@ class EquipmentTypeViewModel : public StateObject
 
 public:
     static inline const QString typesKey = abissora::typesKey;
-    static inline const QString iconVersionKey = u"iconSetVersion"_s;
+    static inline const QString iconVersionKey = abissora::iconVersionKey;
     static constexpr std::int64_t currentIconVersion = 4;
 
     /// Loads the types at once. Everything passed by reference must outlive it.

@@ -100,6 +100,18 @@ private Q_SLOTS:
         QCOMPARE(files.names(u"preferences"_s), QStringList{u"savedEquipment.json"_s});
     }
 
+    void typesThatTheStateLacksStayWithTheirIcons()
+    {
+        test::TemporaryRegister files;
+        VERIFY_OK(files.preferences.setData(registerKey, registerOf(1)));
+        VERIFY_OK(files.preferences.setData(registerKey, registerOf(2), Occasion::deletedItem));
+        VERIFY_OK(files.preferences.setData(typesKey, "[]"));
+        VERIFY_OK(files.preferences.setInteger(iconVersionKey, 4));
+        VERIFY_OK(restore(files, files.generations.list().first()));
+        QCOMPARE(files.content(test::registerFile), registerOf(1));
+        QCOMPARE(files.content(u"preferences/iconSetVersion.json"_s), QByteArray("4"));
+    }
+
     void whatWasInterruptedIsCompletedAtTheNextStart()
     {
         test::TemporaryRegister files;

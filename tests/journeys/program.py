@@ -67,6 +67,7 @@ class Program:
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb",
                            LC_ALL="C.UTF-8", LANGUAGE="", TZ=ZONE)
         environment.pop("ABISSORA_DATA_DIR", None)
+        self.path = path
         self.lines = []
         command = [path, "--data-dir", data_dir, *arguments]
         if shell:

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "EquipmentTableView.h"
+#include "Generations.h"
+#include "Gui.h"
+#include "MainWindow.h"
+#include "MarevoloApp.h"
+#include "ScriptedHttpClient.h"
+#include "Session.h"
+#include "StateContent.h"
+#include "TemporaryRegister.h"
+#include "TestRunner.h"
+
+#include <QApplication>
+#include <QTest>
+
+using namespace abissora;
+
+namespace {
+
+const Product product = Product::builtIn();
+
+} // namespace
+
+/// A register's work from the first look at its files to the end.
+class tst_Session : public test::TestCase
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        test::TestCase::init();
+        m_state.emplace();
+        qputenv("XDG_STATE_HOME", m_state->path().toUtf8());
+        m_files.emplace();
+        m_files->write(test::registerFile, encode(QList{test::equipment(1, u"Uno"_s), test::equipment(2)}).value());
+        m_lock.emplace(m_files->directories.root());
+    }
+
+    void cleanup()
+    {
+        m_session.reset();
+        m_lock.reset();
+        m_files.reset();
+        qunsetenv("XDG_STATE_HOME");
+    }
+
+    void aRestorationCreatesEverythingAnew()
+    {
+        m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s,
+                       encode(QList{test::equipment(7, u"Di prima"_s)}).value());
+        start();
+        QCOMPARE(rows(), 2);
+        const QPointer<MarevoloApp> before = &m_session->app();
+        const EarlierState state = m_files->generations.list().last();
+        QVERIFY(before->restore(state));
+        QTRY_VERIFY(before.isNull());
+        QCOMPARE(rows(), 1);
+        QVERIFY(m_session->mainWindow().isVisible());
+        QVERIFY(QGuiApplication::quitOnLastWindowClosed());
+        QCOMPARE(m_files->generations.list().first().occasion, Occasion::restoration);
+    }
+
+    void aStateThatCannotBeRestoredChangesNothing()
+    {
+        m_files->write(u"backups/20260101T000000.000Z-unreadable/savedEquipment.json"_s, "rubbish");
+        start();
+        const QPointer<MarevoloApp> before = &m_session->app();
+        QVERIFY(!before->restore(m_files->generations.list().last()));
+        QCoreApplication::processEvents();
+        QCOMPARE(&m_session->app(), before.data());
+        QCOMPARE(rows(), 2);
+    }
+
+    void whatCannotBeStoredAtTheEndIsKeptElsewhere()
+    {
+        start();
+        blockStoring();
+        deleteFirstItem();
+        QVERIFY(m_files->content(u"away/savedEquipment.json"_s).contains("Uno"));
+        m_session->app().settleSaves();
+        unblockStoring();
+        const EarlierState kept = m_files->generations.list().value(0);
+        QCOMPARE(kept.occasion, Occasion::emergency);
+        QCOMPARE(readContent(kept).equipment.records.size(), 1);
+    }
+
+    void whatCanBeStoredAgainIs()
+    {
+        start();
+        blockStoring();
+        deleteFirstItem();
+        unblockStoring();
+        m_session->app().settleSaves();
+        QCOMPARE(readPresentContent(m_files->directories).equipment.records.size(), 1);
+        QVERIFY(m_files->generations.list().value(0).occasion != Occasion::emergency);
+    }
+
+    void aKilledProcessIsClearedUpAfter()
+    {
+        m_files->write(u"preferences/.abissora-0123456789abcdef.tmp"_s, "half");
+        m_files->write(u"backups/.abissora-0123456789abcdef.tmp/savedEquipment.json"_s, "half");
+        start();
+        QVERIFY(!m_files->names(u"preferences"_s).contains(u".abissora-0123456789abcdef.tmp"_s));
+        QVERIFY(!m_files->names(u"backups"_s).contains(u".abissora-0123456789abcdef.tmp"_s));
+    }
+
+    void besideAnotherProcessNothingIsWritten()
+    {
+        FolderLock first(m_files->directories.root());
+        QCOMPARE(first.acquire(), FolderLock::Outcome::Held);
+        m_files->write(u"preferences/.abissora-0123456789abcdef.tmp"_s, "of the first");
+        m_session.emplace(*qApp, m_files->directories, product, m_http, *m_lock);
+        m_session->showMainWindow();
+        deleteFirstItem();
+        QVERIFY(m_files->content(test::registerFile).contains("Uno"));
+        QVERIFY(m_files->names(u"preferences"_s).contains(u".abissora-0123456789abcdef.tmp"_s));
+        QVERIFY(!QFileInfo::exists(m_files->path(u"backups"_s)));
+    }
+
+private:
+    void start()
+    {
+        QCOMPARE(m_lock->acquire(), FolderLock::Outcome::Held);
+        m_session.emplace(*qApp, m_files->directories, product, m_http, *m_lock);
+        m_session->showMainWindow();
+        QCoreApplication::processEvents();
+    }
+
+    [[nodiscard]] EquipmentTableView& table() { return *m_session->mainWindow().findChild<EquipmentTableView*>(); }
+    [[nodiscard]] int rows()
+    {
+        test::settle();
+        return table().model()->rowCount();
+    }
+
+    void deleteFirstItem()
+    {
+        test::settle();
+        table().setFocus();
+        table().selectRow(0);
+        QTest::keyClick(&table(), Qt::Key_Delete);
+        test::press(test::openDialog(m_session->mainWindow()), u"Elimina"_s);
+        test::settle();
+    }
+
+    void blockStoring()
+    {
+        QVERIFY(QDir().rename(m_files->directories.preferences(), m_files->path(u"away"_s)));
+        m_files->write(u"preferences"_s, "in the way");
+        m_blocked = m_files->path(u"away"_s);
+    }
+
+    void unblockStoring() const
+    {
+        QVERIFY(QFile::remove(m_files->directories.preferences()));
+        QVERIFY(QDir().rename(m_blocked, m_files->directories.preferences()));
+    }
+
+    std::optional<QTemporaryDir> m_state;
+    std::optional<test::TemporaryRegister> m_files;
+    std::optional<FolderLock> m_lock;
+    test::ScriptedHttpClient m_http;
+    std::optional<Session> m_session;
+    QString m_blocked;
+};
+
+ABISSORA_TEST(tst_Session);
+#include "tst_Session.moc"
