@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "Console.h"
 
-#include <QByteArray>
-#include <cerrno>
+#include "Literals.h"
 
-#ifdef Q_OS_UNIX
-#include <poll.h>
-#include <unistd.h>
-#else
-#include <io.h>
-#endif
+#include <QSocketNotifier>
+#include <QThread>
 
 namespace abissora {
 
@@ -17,48 +12,11 @@ namespace {
 
 constexpr int standardOutput = 1;
 
-#ifdef Q_OS_UNIX
-
-bool waitUntilWritable(int descriptor)
+QByteArray notice(qsizetype omitted)
 {
-    pollfd waiting{descriptor, POLLOUT, 0};
-    return poll(&waiting, 1, -1) >= 0 || errno == EINTR;
+    const QString lines = omitted == 1 ? u"1 riga omessa"_s : u"%1 righe omesse"_s.arg(omitted);
+    return (u"… "_s + lines + u": chi legge non tiene il passo\n"_s).toUtf8();
 }
-
-bool writeAll(int descriptor, const QByteArray& bytes)
-{
-    const char* next = bytes.constData();
-    auto left = static_cast<std::size_t>(bytes.size());
-    while (left > 0) {
-        const ssize_t written = ::write(descriptor, next, left);
-        if (written > 0) {
-            next += written;
-            left -= static_cast<std::size_t>(written);
-        } else if (written < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) {
-            if (!waitUntilWritable(descriptor))
-                return false;
-        } else if (written == 0 || errno != EINTR) {
-            return false;
-        }
-    }
-    return true;
-}
-
-#else
-
-bool writeAll(int descriptor, const QByteArray& bytes)
-{
-    qsizetype done = 0;
-    while (done < bytes.size()) {
-        const int written = _write(descriptor, bytes.constData() + done, static_cast<unsigned>(bytes.size() - done));
-        if (written <= 0)
-            return false;
-        done += written;
-    }
-    return true;
-}
-
-#endif
 
 } // namespace
 
@@ -66,17 +24,87 @@ StandardOutput::StandardOutput()
     : StandardOutput(standardOutput)
 {}
 
-StandardOutput::StandardOutput(int descriptor)
-    : m_descriptor(descriptor)
+StandardOutput::StandardOutput(int descriptor, ReaderAllowance allowance)
+    : m_output(descriptor)
+    , m_allowance(allowance)
 {}
+
+StandardOutput::~StandardOutput()
+{
+    const QDeadlineTimer deadline(m_allowance.patience);
+    writeKept();
+    while (!m_kept.isEmpty() && m_output.waitForRoom(deadline))
+        writeKept();
+}
 
 void StandardOutput::print(const QString& text)
 {
+    writeKept();
     if (m_broken)
         return;
-    QByteArray bytes = text.toUtf8();
-    bytes.append('\n');
-    m_broken = !writeAll(m_descriptor, bytes);
+    QByteArray lines = text.toUtf8();
+    lines.append('\n');
+    take(lines);
+}
+
+void StandardOutput::take(QByteArrayView lines)
+{
+    while (!lines.isEmpty() && !m_broken) {
+        const qsizetype size = fitting(lines);
+        if (size == 0) {
+            m_omitted += lines.count('\n');
+            return;
+        }
+        m_kept.append(lines.first(size));
+        lines = lines.sliced(size);
+        writeKept();
+    }
+}
+
+qsizetype StandardOutput::fitting(QByteArrayView lines) const
+{
+    if (m_omitted > 0)
+        return 0; // those before would be missing in between
+    const qsizetype room = m_allowance.kept - m_kept.size();
+    if (lines.size() <= room)
+        return lines.size();
+    const qsizetype size = room > 0 ? lines.first(room).lastIndexOf('\n') + 1 : 0;
+    return size == 0 && m_kept.isEmpty() ? lines.indexOf('\n') + 1 : size;
+}
+
+void StandardOutput::writeKept()
+{
+    qsizetype done = 0;
+    while (done < m_kept.size()) {
+        const auto written = m_output.write(QByteArrayView(m_kept).sliced(done));
+        if (!written)
+            return forget();
+        if (*written == 0)
+            break;
+        done += *written;
+        if (done == m_kept.size() && m_omitted > 0)
+            m_kept.append(notice(std::exchange(m_omitted, 0)));
+    }
+    m_kept.remove(0, done);
+    watchForRoom(!m_kept.isEmpty());
+}
+
+void StandardOutput::forget()
+{
+    m_broken = true;
+    m_kept.clear();
+    m_omitted = 0;
+    watchForRoom(false);
+}
+
+void StandardOutput::watchForRoom(bool watch)
+{
+    if (watch && !m_room && QThread::currentThread()->eventDispatcher() != nullptr) {
+        m_room = std::make_unique<QSocketNotifier>(m_output.descriptor(), QSocketNotifier::Write);
+        QObject::connect(m_room.get(), &QSocketNotifier::activated, m_room.get(), [this] { writeKept(); });
+    }
+    if (m_room)
+        m_room->setEnabled(watch);
 }
 
 } // namespace abissora

@@ -9,7 +9,12 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
+#include <future>
+#include <poll.h>
+#include <sys/socket.h>
+#include <termios.h>
 #include <thread>
 #include <unistd.h>
 
@@ -17,21 +22,48 @@ using namespace abissora;
 
 namespace {
 
-class Pipe
+using namespace std::chrono_literals;
+
+constexpr auto longPatience = 60s; ///< never used up
+
+/// Something that is written at one end and read at the other.
+class Channel
 {
 public:
-    Pipe() { m_open = pipe2(m_ends.data(), O_CLOEXEC) == 0; }
-    ~Pipe()
+    enum class Kind { Pipe, Socket, Terminal, ControlledTerminal };
+
+    explicit Channel(Kind kind = Kind::Pipe)
+    {
+        bool open = false;
+        switch (kind) {
+        case Kind::Pipe:
+            open = ::pipe2(m_ends.data(), O_CLOEXEC) == 0;
+            break;
+        case Kind::Socket:
+            open = ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, m_ends.data()) == 0;
+            break;
+        case Kind::Terminal:
+            open = openTerminal(m_ends[0], m_ends[1]);
+            break;
+        case Kind::ControlledTerminal:
+            open = openTerminal(m_ends[1], m_ends[0]);
+            break;
+        }
+        if (!open)
+            qFatal("no channel");
+    }
+    ~Channel()
     {
         closeReader();
         closeWriter();
     }
-    Q_DISABLE_COPY_MOVE(Pipe)
+    Q_DISABLE_COPY_MOVE(Channel)
 
-    [[nodiscard]] bool isOpen() const { return m_open; }
     [[nodiscard]] int writer() const { return m_ends[1]; }
     void closeReader() { close(m_ends[0]); }
     void closeWriter() { close(m_ends[1]); }
+    /// Of a pipe: the smallest there is.
+    [[nodiscard]] qsizetype shrink() const { return ::fcntl(m_ends[0], F_SETPIPE_SZ, 1); }
 
     /// One read; empty at the end.
     QByteArray read() const
@@ -41,7 +73,30 @@ public:
         return count > 0 ? QByteArray(block.data(), static_cast<qsizetype>(count)) : QByteArray();
     }
 
+    /// What can be read without waiting.
+    QByteArray readWhatIsThere() const
+    {
+        QByteArray bytes;
+        pollfd waiting{m_ends[0], POLLIN, 0};
+        while (::poll(&waiting, 1, 0) > 0 && (waiting.revents & POLLIN) != 0)
+            bytes += read();
+        return bytes;
+    }
+
 private:
+    /// Neither side changes what passes.
+    static bool openTerminal(int& controlling, int& terminal)
+    {
+        controlling = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+        if (controlling < 0 || ::grantpt(controlling) != 0 || ::unlockpt(controlling) != 0)
+            return false;
+        terminal = ::open(::ptsname(controlling), O_RDWR | O_NOCTTY | O_CLOEXEC);
+        termios raw{};
+        if (terminal < 0 || ::tcgetattr(terminal, &raw) != 0)
+            return false;
+        ::cfmakeraw(&raw);
+        return ::tcsetattr(terminal, TCSANOW, &raw) == 0;
+    }
     static void close(int& descriptor)
     {
         if (descriptor >= 0)
@@ -49,8 +104,15 @@ private:
     }
 
     std::array<int, 2> m_ends{-1, -1};
-    bool m_open = false;
 };
+
+QStringList manyLines(int count)
+{
+    QStringList lines;
+    for (int i = 0; i < count; ++i)
+        lines.append(u"riga %1 "_s.arg(i).leftJustified(99, u'.'));
+    return lines;
+}
 
 } // namespace
 
@@ -59,10 +121,17 @@ class tst_Console : public test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    void init()
+    {
+        test::TestCase::init();
+        // Whoever waits for a reader here waits for ever.
+        ::alarm(60);
+    }
+    void cleanup() { ::alarm(0); }
+
     void printsUtf8AndALineFeedAtOnce()
     {
-        const Pipe pipe;
-        QVERIFY(pipe.isOpen());
+        const Channel pipe;
         StandardOutput output(pipe.writer());
         output.print(u"➕ Aggiunto: è"_s);
         QCOMPARE(pipe.read(), QByteArray("➕ Aggiunto: è\n"));
@@ -74,7 +143,7 @@ private Q_SLOTS:
 
     void writesToStandardOutputByDefault()
     {
-        const Pipe pipe;
+        const Channel pipe;
         const int before = dup(STDOUT_FILENO);
         std::fflush(stdout);
         dup2(pipe.writer(), STDOUT_FILENO);
@@ -87,7 +156,7 @@ private Q_SLOTS:
     void aReaderThatWentAwayIsForgottenForGood()
     {
         const auto handler = std::signal(SIGPIPE, SIG_IGN); // as the program does
-        Pipe pipe;
+        Channel pipe;
         StandardOutput output(pipe.writer());
         pipe.closeReader();
         output.print(u"lost"_s);
@@ -97,7 +166,7 @@ private Q_SLOTS:
 
     void aBrokenOutputIsNotTriedAgain()
     {
-        const Pipe pipe;
+        const Channel pipe;
         const int descriptor = fcntl(pipe.writer(), F_DUPFD_CLOEXEC, 200);
         QVERIFY(descriptor >= 0);
         ::close(descriptor);
@@ -121,20 +190,162 @@ private Q_SLOTS:
         ::close(full);
     }
 
-    void aSlowReaderIsWaitedFor()
+    void aReaderThatStopsHoldsNobody_data()
     {
-        Pipe pipe;
-        QCOMPARE(fcntl(pipe.writer(), F_SETFL, O_NONBLOCK), 0);
+        QTest::addColumn<Channel::Kind>("kind");
+        QTest::newRow("pipe") << Channel::Kind::Pipe;
+        QTest::newRow("socket") << Channel::Kind::Socket;
+        QTest::newRow("terminal") << Channel::Kind::Terminal;
+        QTest::newRow("one that cannot be opened anew") << Channel::Kind::ControlledTerminal;
+    }
+
+    void aReaderThatStopsHoldsNobody()
+    {
+        QFETCH(Channel::Kind, kind);
+        const Channel channel(kind);
+        StandardOutput output(channel.writer());
+        const QStringList lines = manyLines(6000); // several times what any of them holds
+        for (const QString& line : lines)
+            output.print(line);
+        // Others may go on waiting.
+        QCOMPARE(::fcntl(channel.writer(), F_GETFL) & O_NONBLOCK, 0);
+        // What was kept follows by itself.
+        const QByteArray expected = lines.join(u'\n').toUtf8() + '\n';
+        QByteArray received;
+        QTRY_COMPARE((received += channel.readWhatIsThere()).size(), expected.size());
+        QVERIFY(received == expected);
+        output.print(u"fine"_s);
+        QCOMPARE(channel.read(), QByteArray("fine\n"));
+    }
+
+    void withoutAnEventLoopTheNextCallWritesTheRest()
+    {
+        const Channel pipe;
+        QByteArray received;
+        std::thread([&] {
+            StandardOutput output(pipe.writer());
+            output.print(manyLines(1000).join(u'\n')); // more than a pipe holds, less than twice
+            received += pipe.readWhatIsThere();
+            output.print(u"fine"_s);
+            received += pipe.readWhatIsThere();
+        }).join();
+        QCOMPARE(received, manyLines(1000).join(u'\n').toUtf8() + "\nfine\n");
+    }
+
+    void whatIsTooMuchIsOmittedAndTold_data()
+    {
+        QTest::addColumn<bool>("oneCall");
+        QTest::newRow("line by line") << false;
+        QTest::newRow("in one call") << true;
+    }
+
+    void whatIsTooMuchIsOmittedAndTold()
+    {
+        QFETCH(bool, oneCall);
+        const Channel pipe;
+        const qsizetype held = pipe.shrink();
+        const qsizetype kept = 2500;
+        StandardOutput output(pipe.writer(), {.kept = kept});
+        const QStringList lines = manyLines(1000);
+        for (const QString& text : oneCall ? QStringList{lines.join(u'\n')} : lines)
+            output.print(text);
+
+        QByteArray received;
+        QTRY_VERIFY((received += pipe.readWhatIsThere()).contains("passo\n"));
+        output.print(u"dopo"_s);
+        received += pipe.read();
+        QStringList passed = QString::fromUtf8(received).split(u'\n', Qt::SkipEmptyParts);
+        QCOMPARE(passed.takeLast(), u"dopo"_s);
+        const QString notice = passed.takeLast();
+        QVERIFY(passed == lines.first(passed.size()));
+        QCOMPARE(notice, u"… %1 righe omesse: chi legge non tiene il passo"_s.arg(lines.size() - passed.size()));
+        const auto bytes = passed.size() * 100;
+        QVERIFY2(bytes <= held + kept && bytes > kept, QByteArray::number(bytes).constData());
+    }
+
+    void oneOmittedLineIsOne()
+    {
+        const Channel pipe;
+        const QString line(pipe.shrink() * 2, u'x'); // begun, so it is kept to its end
+        StandardOutput output(pipe.writer(), {.kept = 10});
+        output.print(line);
+        output.print(u"omessa"_s);
+        const QByteArray expected = line.toUtf8() + "\n… 1 riga omessa: chi legge non tiene il passo\n";
+        QByteArray received;
+        QTRY_COMPARE((received += pipe.readWhatIsThere()).size(), expected.size());
+        QCOMPARE(received, expected);
+    }
+
+    void afterAnOmittedLineAllAreUntilItIsTold()
+    {
+        const Channel pipe;
+        const QString line(pipe.shrink() * 2 - 1, u'x');
+        QByteArray received;
+        std::thread([&] {
+            StandardOutput output(pipe.writer(), {.kept = line.size()});
+            output.print(line); // half of it stands in the pipe
+            output.print(line); // too much
+            output.print(u"breve"_s);
+            for (const QString& later : {u"dopo"_s, u"fine"_s}) {
+                received += pipe.readWhatIsThere();
+                output.print(later);
+            }
+            received += pipe.readWhatIsThere();
+        }).join();
+        QCOMPARE(received, line.toUtf8() + "\n… 2 righe omesse: chi legge non tiene il passo\ndopo\nfine\n");
+    }
+
+    void aFileGetsEverything()
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(u"log"_s));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        StandardOutput output(file.handle(), {.kept = 50});
+        const QString text = manyLines(5000).join(u'\n');
+        output.print(text);
+        output.print(u"breve"_s);
+        QVERIFY(file.seek(0));
+        QCOMPARE(file.readAll(), text.toUtf8() + "\nbreve\n");
+    }
+
+    void atItsEndASlowReaderIsWaitedFor()
+    {
+        Channel pipe;
         const QString text(1'000'000, u'x'); // many times what a pipe holds
+        std::promise<void> printed;
         std::thread writer([&] {
-            StandardOutput(pipe.writer()).print(text);
+            {
+                StandardOutput output(pipe.writer(), {.patience = longPatience});
+                output.print(text);
+                printed.set_value();
+            }
             pipe.closeWriter();
         });
+        printed.get_future().wait();
         QByteArray received;
         for (QByteArray block = pipe.read(); !block.isEmpty(); block = pipe.read())
             received += block;
         writer.join();
         QCOMPARE(received.size(), text.size() + 1);
+    }
+
+    void atItsEndAReaderThatStoppedIsGivenUp()
+    {
+        const Channel pipe;
+        StandardOutput(pipe.writer()).print(QString(200'000, u'x'));
+    }
+
+    void aReaderThatStopsAndLeavesIsForgotten()
+    {
+        const auto handler = std::signal(SIGPIPE, SIG_IGN); // as the program does
+        Channel pipe;
+        {
+            StandardOutput output(pipe.writer(), {.patience = longPatience});
+            output.print(QString(200'000, u'x'));
+            pipe.closeReader();
+            output.print(u"lost"_s);
+        }
+        std::signal(SIGPIPE, handler);
     }
 };
 

@@ -61,9 +61,10 @@ def descendants(node, deep_tables=False):
 
 
 class Program:
-    def __init__(self, path, data_dir, arguments=(), role=Atspi.Role.FRAME, shell=None):
+    def __init__(self, path, data_dir, arguments=(), role=Atspi.Role.FRAME, shell=None, reads=True):
         """Comes back once a window of that role is there: the main window, or an alert in its place. `shell` starts
-        the program as "$0" "$@" and may do something beforehand."""
+        the program as "$0" "$@" and may do something beforehand. Unless `reads`, nobody reads the program's output
+        before start_reading()."""
         environment = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb",
                            LC_ALL="C.UTF-8", LANGUAGE="", TZ=ZONE)
         environment.pop("ABISSORA_DATA_DIR", None)
@@ -75,8 +76,12 @@ class Program:
         self.process = subprocess.Popen(command, env=environment,
                                         stdout=subprocess.PIPE, text=True, encoding="utf-8")
         self.reader = threading.Thread(target=self._read, daemon=True)
-        self.reader.start()
+        if reads:
+            self.start_reading()
         self.wait_for_window(role)
+
+    def start_reading(self):
+        self.reader.start()
 
     def _read(self):
         for line in self.process.stdout:
@@ -182,7 +187,8 @@ class Program:
 
     def wait_for_end(self, expected):
         status = self.process.wait(timeout=PATIENCE)
-        self.reader.join()
+        if self.reader.ident:
+            self.reader.join()
         assert status == expected, f"the program ended with {status}"
 
     def kill(self):
