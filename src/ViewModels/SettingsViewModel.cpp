@@ -1,18 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsViewModel.h"
 
-#include "Literals.h"
-
 namespace abissora {
 
 namespace {
-
-const QString notificationsEnabledKey = u"notificationsEnabled"_s;
-const QString reminderDaysKey = u"reminderDays"_s;
-const QString defaultServiceIntervalKey = u"defaultServiceInterval"_s;
-const QString currencySymbolKey = u"currencySymbol"_s;
-const QString darkModeKey = u"darkMode"_s;
-const QString checkForUpdatesOnLaunchKey = u"checkForUpdatesOnLaunch"_s;
 
 /// What counts while a key is absent.
 constexpr bool standardNotificationsEnabled = true;
@@ -32,64 +23,64 @@ SettingsViewModel::SettingsViewModel(PreferencesStore& preferences, Console& con
 
 bool SettingsViewModel::notificationsEnabled() const
 {
-    return m_preferences.boolean(notificationsEnabledKey).value_or(standardNotificationsEnabled);
+    return m_preferences.boolean(Key::notificationsEnabled).value_or(standardNotificationsEnabled);
 }
 
 void SettingsViewModel::setNotificationsEnabled(bool enabled)
 {
-    publish(m_preferences.setBoolean(notificationsEnabledKey, enabled),
+    publish(m_preferences.setBoolean(Key::notificationsEnabled, enabled),
             &SettingsViewModel::notificationsEnabledChanged);
 }
 
 std::int64_t SettingsViewModel::reminderDays() const
 {
-    return m_preferences.integer(reminderDaysKey).value_or(standardReminderDays);
+    return m_preferences.integer(Key::reminderDays).value_or(standardReminderDays);
 }
 
 void SettingsViewModel::setReminderDays(std::int64_t days)
 {
-    publish(m_preferences.setInteger(reminderDaysKey, days), &SettingsViewModel::reminderDaysChanged);
+    publish(m_preferences.setInteger(Key::reminderDays, days), &SettingsViewModel::reminderDaysChanged);
 }
 
 std::int64_t SettingsViewModel::defaultServiceInterval() const
 {
-    return m_preferences.integer(defaultServiceIntervalKey).value_or(standardServiceInterval);
+    return m_preferences.integer(Key::defaultServiceInterval).value_or(standardServiceInterval);
 }
 
 void SettingsViewModel::setDefaultServiceInterval(std::int64_t days)
 {
-    publish(m_preferences.setInteger(defaultServiceIntervalKey, days),
+    publish(m_preferences.setInteger(Key::defaultServiceInterval, days),
             &SettingsViewModel::defaultServiceIntervalChanged);
 }
 
 QString SettingsViewModel::currencySymbol() const
 {
-    return m_preferences.text(currencySymbolKey).value_or(standardCurrencySymbol);
+    return m_preferences.text(Key::currencySymbol).value_or(standardCurrencySymbol);
 }
 
 void SettingsViewModel::setCurrencySymbol(const QString& symbol)
 {
-    publish(m_preferences.setText(currencySymbolKey, symbol), &SettingsViewModel::currencySymbolChanged);
+    publish(m_preferences.setText(Key::currencySymbol, symbol), &SettingsViewModel::currencySymbolChanged);
 }
 
 bool SettingsViewModel::darkMode() const
 {
-    return m_preferences.boolean(darkModeKey).value_or(standardDarkMode);
+    return m_preferences.boolean(Key::darkMode).value_or(standardDarkMode);
 }
 
 void SettingsViewModel::setDarkMode(bool dark)
 {
-    publish(m_preferences.setBoolean(darkModeKey, dark), &SettingsViewModel::darkModeChanged);
+    publish(m_preferences.setBoolean(Key::darkMode, dark), &SettingsViewModel::darkModeChanged);
 }
 
 bool SettingsViewModel::checkForUpdatesOnLaunch() const
 {
-    return m_preferences.boolean(checkForUpdatesOnLaunchKey).value_or(standardCheckForUpdatesOnLaunch);
+    return m_preferences.boolean(Key::checkForUpdatesOnLaunch).value_or(standardCheckForUpdatesOnLaunch);
 }
 
 void SettingsViewModel::setCheckForUpdatesOnLaunch(bool check)
 {
-    publish(m_preferences.setBoolean(checkForUpdatesOnLaunchKey, check),
+    publish(m_preferences.setBoolean(Key::checkForUpdatesOnLaunch, check),
             &SettingsViewModel::checkForUpdatesOnLaunchChanged);
 }
 
