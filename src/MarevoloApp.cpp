@@ -9,6 +9,7 @@
 #include "MainWindow.h"
 #include "MaintenanceOverviewView.h"
 #include "Restoration.h"
+#include "RestoreView.h"
 #include "SettingsView.h"
 #include "SidebarView.h"
 #include "StatisticsView.h"
@@ -39,6 +40,7 @@ MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories
     , m_updates(m_checker, m_clock)
     , m_dayWatch(m_equipment, m_clock, m_calendar)
     , m_saveRetry(m_preferences, m_console)
+    , m_lookedAt(directories.windowStateFile())
 {
     QApplication::setWindowIcon(applicationIcon());
     applyScheme();
@@ -160,6 +162,18 @@ EquipmentFormView* MarevoloApp::makeFormForNew(QWidget* over)
 EditEquipmentView* MarevoloApp::makeFormFor(const Equipment& equipment, QWidget* over)
 {
     return new EditEquipmentView(m_equipment, m_types, m_almanac, equipment, over);
+}
+
+ViewSheet* MarevoloApp::makeRestore(QWidget* over)
+{
+    return RestoreView::makeSheet(
+        {m_generations, m_archive, m_equipment, m_types, m_settings, m_almanac}, m_lookedAt,
+        [this](const EarlierState& state) { return restore(state); }, over);
+}
+
+bool MarevoloApp::hasStateToLookAt() const
+{
+    return abissora::hasStateToLookAt(m_generations.list(), m_lookedAt);
 }
 
 void MarevoloApp::applyScheme()

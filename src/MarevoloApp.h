@@ -9,6 +9,7 @@
 #include "EquipmentTypeViewModel.h"
 #include "EquipmentViewModel.h"
 #include "Generations.h"
+#include "LookedAtStates.h"
 #include "MaintenanceDocumentStore.h"
 #include "SaveRetry.h"
 #include "ScreenFactory.h"
@@ -69,6 +70,8 @@ private:
     QWidget* makeSettings() override;
     EquipmentFormView* makeFormForNew(QWidget* over) override;
     EditEquipmentView* makeFormFor(const Equipment& equipment, QWidget* over) override;
+    ViewSheet* makeRestore(QWidget* over) override;
+    bool hasStateToLookAt() const override;
 
     QApplication& m_application;
     ApplicationDirectories m_directories;
@@ -94,6 +97,7 @@ private:
     UpdateCheckerViewModel m_updates;
     DayWatch m_dayWatch;
     SaveRetry m_saveRetry;
+    LookedAtStates m_lookedAt;
     std::unique_ptr<MainWindow> m_mainWindow;
     std::unique_ptr<AppWindows> m_windows;
     bool m_hasStarted = false;

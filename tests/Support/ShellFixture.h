@@ -9,7 +9,9 @@
 #include "Gui.h"
 #include "MainWindow.h"
 #include "MaintenanceOverviewView.h"
+#include "LookedAtStates.h"
 #include "RegisterFixture.h"
+#include "RestoreView.h"
 #include "ScreenFactory.h"
 #include "SettingsView.h"
 #include "SidebarView.h"
@@ -49,6 +51,16 @@ public:
     {
         return new EditEquipmentView(equipment, types, almanac, item, over);
     }
+    ViewSheet* makeRestore(QWidget* over) override
+    {
+        return RestoreView::makeSheet({generations, archive, equipment, types, settings, almanac}, lookedAt,
+                                      [this](const EarlierState& state) { return restore(state); }, over);
+    }
+    bool hasStateToLookAt() const override { return abissora::hasStateToLookAt(generations.list(), lookedAt); }
+
+    /// What takes the place of a restoration.
+    RestoreView::Restore restore = [](const EarlierState&) { return IoResult<void>(); };
+    LookedAtStates lookedAt{directories.windowStateFile()};
 };
 
 /// The main window, shown and active.

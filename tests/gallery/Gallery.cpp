@@ -38,7 +38,7 @@ bool render(const QList<Scene>& scenes, const QDir& folder)
 QList<Scene> allScenes()
 {
     return controlScenes() + componentScenes() + sheetScenes() + screenScenes() + detailScenes() + typeScenes() +
-           helpScenes() + overviewScenes() + settingsScenes() + updateScenes();
+           helpScenes() + overviewScenes() + settingsScenes() + updateScenes() + restoreScenes();
 }
 
 Scene sceneNamed(const QString& name)

@@ -15,6 +15,7 @@ namespace abissora::gallery {
 [[nodiscard]] QList<Scene> helpScenes();
 [[nodiscard]] QList<Scene> overviewScenes();
 [[nodiscard]] QList<Scene> updateScenes();
+[[nodiscard]] QList<Scene> restoreScenes();
 
 [[nodiscard]] QList<Scene> allScenes();
 /// Ends the program when there is no scene of that name.

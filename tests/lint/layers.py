@@ -17,7 +17,7 @@ STOREYS = [
     ["Components"],
     ["Screen", "Desktop"],
     ["List", "Sidebar", "Forms", "Help", "Types"],
-    ["Detail", "Settings"],
+    ["Detail", "Settings", "Restore"],
     ["Overview"],
     ["Shell"],
     ["application"],

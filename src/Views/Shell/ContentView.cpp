@@ -9,6 +9,7 @@
 #include "Metrics.h"
 #include "SegmentedControl.h"
 #include "SidebarView.h"
+#include "ViewSheet.h"
 
 #include <QSplitter>
 #include <QStackedWidget>
@@ -125,12 +126,18 @@ void ContentView::editEquipment(const Equipment& equipment)
     openForm(form);
 }
 
+void ContentView::openRestore()
+{
+    if (!isFormOpen())
+        openForm(m_factory.makeRestore(window()));
+}
+
 bool ContentView::isFormOpen() const
 {
     return m_form && m_form->isVisible();
 }
 
-void ContentView::openForm(Sheet* form)
+void ContentView::openForm(SheetWindow* form)
 {
     m_form = form;
     form->setAttribute(Qt::WA_DeleteOnClose);

@@ -13,7 +13,7 @@ class QStackedWidget;
 namespace abissora {
 
 class SegmentedControl;
-class Sheet;
+class SheetWindow;
 
 /// The main window's content: the sidebar, and beside it the three tabs or the settings; the selected item stands in
 /// detail at the right of the list. Screens are created when they are first shown.
@@ -43,6 +43,8 @@ public:
     [[nodiscard]] bool showingAddSheet() const;
     /// Selects the item and opens the form for it.
     void editEquipment(const Equipment& equipment);
+    /// Opens the way back to an earlier state over the window; does nothing while a form is open.
+    void openRestore();
 
 Q_SIGNALS:
     void selectedTabChanged();
@@ -55,7 +57,7 @@ private:
     void showDetail();
     void forgetDeletedSelection();
     [[nodiscard]] bool isFormOpen() const;
-    void openForm(Sheet* form);
+    void openForm(SheetWindow* form);
 
     ScreenFactory& m_factory;
     EquipmentViewModel& m_equipment;
@@ -73,7 +75,7 @@ private:
     EquipmentDetailView* m_detail = nullptr;
     QWidget* m_tabArea;
     QWidget* m_settings = nullptr;
-    QPointer<Sheet> m_form;
+    QPointer<SheetWindow> m_form;
 };
 
 } // namespace abissora

@@ -5,6 +5,7 @@
 #include "ContentView.h"
 #include "EquipmentListView.h"
 #include "Literals.h"
+#include "ScreenFactory.h"
 #include "SymbolIcon.h"
 
 #include <QApplication>
@@ -107,7 +108,7 @@ MainWindow::MainWindow(ScreenFactory& screens, EquipmentViewModel& equipment, co
     setMinimumSize(minimumWindowSize);
     setCentralWidget(m_content);
     m_content->list().focusContent();
-    addFileMenu();
+    addFileMenu(screens);
     addEditMenu();
     addHelpMenu();
     m_state.restore(*this, m_content->splitters());
@@ -121,13 +122,21 @@ void MainWindow::closeEvent(QCloseEvent* event)
         Q_EMIT closed();
 }
 
-void MainWindow::addFileMenu()
+void MainWindow::addFileMenu(const ScreenFactory& screens)
 {
     QMenu& file = *menuBar()->addMenu(u"&File"_s);
     addCommand(file, u"&Aggiungi"_s, QKeySequence::New, m_content, &ContentView::addEquipment)
         ->setIcon(symbolIcon(u"plus"_s));
     addCommand(file, u"A&ggiorna"_s, QKeySequence::Refresh, &m_content->list(), &EquipmentListView::refresh)
         ->setIcon(symbolIcon(u"arrow.clockwise"_s));
+    QAction* restore = addCommand(file, u"&Ripristina…"_s, {}, m_content, &ContentView::openRestore);
+    const auto showWhetherToLook = [restore, &screens] {
+        restore->setIcon(screens.hasStateToLookAt()
+                             ? symbolIcon(u"exclamationmark.triangle.fill"_s, NamedColor::orange)
+                             : symbolIcon(u"clock.arrow.circlepath"_s));
+    };
+    connect(&file, &QMenu::aboutToShow, restore, showWhetherToLook);
+    showWhetherToLook();
     file.addSeparator();
     addCommand(file, u"&Chiudi"_s, closeKey(), this, &QWidget::close);
     QAction* quit = addCommand(file, u"&Esci"_s, QKeySequence::Quit, qApp, &QApplication::closeAllWindows);

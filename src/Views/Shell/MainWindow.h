@@ -32,7 +32,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void addFileMenu();
+    void addFileMenu(const ScreenFactory& screens);
     void addEditMenu();
     void addHelpMenu();
 

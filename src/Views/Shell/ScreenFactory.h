@@ -12,6 +12,7 @@ class EquipmentDetailView;
 class EquipmentFormView;
 class EquipmentListView;
 class SidebarView;
+class ViewSheet;
 
 /// Makes the parts of the main window with the state that each of them shows. What is made without a parent belongs to
 /// the caller; it must not outlive the factory.
@@ -30,6 +31,11 @@ public:
     /// The forms, over a window.
     [[nodiscard]] virtual EquipmentFormView* makeFormForNew(QWidget* over) = 0;
     [[nodiscard]] virtual EditEquipmentView* makeFormFor(const Equipment& equipment, QWidget* over) = 0;
+
+    /// The way back to an earlier state, over a window.
+    [[nodiscard]] virtual ViewSheet* makeRestore(QWidget* over) = 0;
+    /// Whether a person should look there: something could not be read or stored, and nobody has looked at it.
+    [[nodiscard]] virtual bool hasStateToLookAt() const = 0;
 };
 
 } // namespace abissora

@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+#include "RestoreView.h"
+
+#include "Accessibility.h"
+#include "Assembly.h"
+#include "Buttons.h"
+#include "Cards.h"
+#include "DifferenceCard.h"
+#include "EmptyState.h"
+#include "Labels.h"
+#include "Literals.h"
+#include "LookedAtStates.h"
+#include "Metrics.h"
+#include "Painting.h"
+#include "ScreenPage.h"
+#include "StateList.h"
+#include "ViewSheet.h"
+
+#include <QPainter>
+#include <QPointer>
+#include <QScrollBar>
+
+namespace abissora {
+
+namespace {
+
+constexpr QSize preferredSize(860, 600);
+constexpr int listWidth = 300;
+constexpr int sideMargin = 18;
+
+/// A hairline from top to bottom.
+class Border final : public QFrame
+{
+public:
+    Border()
+    {
+        setFixedWidth(1);
+        setAccessibleRole(*this, QAccessible::Separator, AccessibleParts::Hidden);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        drawVerticalHairline(painter, 0, height(), 0, Tokens::of(palette()).border);
+    }
+};
+
+} // namespace
+
+RestoreView::RestoreView(const RestoreContent::Sources& sources, LookedAtStates& lookedAt, Restore restore,
+                         QWidget* parent)
+    : QWidget(parent)
+    , m_content(sources)
+    , m_lookedAt(lookedAt)
+    , m_restore(std::move(restore))
+    , m_states(new StateList(m_content))
+    , m_page(new ScreenPage(u"Che cosa cambia rispetto ad adesso"_s))
+    , m_title(named(new ElidedLabel(TextStyle::Headline, &Tokens::text), u"stateTitle"))
+    , m_subtitle(named(new WrapLabel(TextStyle::Callout, &Tokens::secondaryText), u"stateSubtitle"))
+    , m_error(named(new WrapLabel(TextStyle::Callout, &Tokens::danger), u"restoreError"))
+    , m_cancel(named(new PlainButton(u"Annulla"_s), u"cancel"))
+    , m_restoreButton(named(new PrimaryButton(u"Ripristina"_s), u"restore"))
+{
+    setObjectName(u"restoreView"_s);
+    setLayout(inColumn(0, {makeHeader(), new Separator, {makeBody(), 1}, new Separator, makeFooter()}, {1, 1, 1, 1}));
+    m_restoreButton->setAutoDefault(true);
+    connect(m_cancel, &QAbstractButton::clicked, this, &RestoreView::closed);
+    connect(m_restoreButton, &QAbstractButton::clicked, this, &RestoreView::restoreChosen);
+    connect(m_states, &StateList::chosenChanged, this, &RestoreView::showState);
+    if (!m_content.states().isEmpty())
+        showState(0);
+}
+
+ViewSheet* RestoreView::makeSheet(const RestoreContent::Sources& sources, LookedAtStates& lookedAt, Restore restore,
+                                  QWidget* over)
+{
+    auto* view = new RestoreView(sources, lookedAt, std::move(restore));
+    const QFontMetrics metrics = view->fontMetrics();
+    auto* sheet = new ViewSheet({.view = view,
+                                 .title = u"Ripristina"_s,
+                                 .preferredSize = {withText(preferredSize.width(), metrics),
+                                                   withText(preferredSize.height(), metrics)},
+                                 .firstFocus = view->firstFocus()},
+                                over);
+    connect(view, &RestoreView::closed, sheet, &QDialog::reject);
+    return sheet;
+}
+
+QWidget* RestoreView::makeHeader()
+{
+    auto* title = new InkLabel(TextStyle::Headline, &Tokens::text, u"Ripristina"_s);
+    title->setAlignment(Qt::AlignCenter);
+    title->setContentsMargins(sideMargin, metrics::spaceL, sideMargin, metrics::spaceL);
+    return title;
+}
+
+QLayout* RestoreView::makeBody()
+{
+    QVBoxLayout* const column = m_page->column();
+    column->setContentsMargins(sideMargin, metrics::spaceL - 2, sideMargin, sideMargin);
+    column->addLayout(inColumn(2, {m_title, m_subtitle}));
+    column->addStretch();
+    m_states->area().setFixedWidth(withText(listWidth, fontMetrics()));
+
+    auto* nothing = named(new EmptyState(u"clock.arrow.circlepath"_s, u"Nessuno stato precedente"_s), u"noStates");
+    const bool any = !m_content.states().isEmpty();
+    nothing->setVisible(!any);
+    auto* border = new Border;
+    for (QWidget* part : std::initializer_list<QWidget*>{&m_states->area(), border, m_page})
+        part->setVisible(any);
+    return inRow(0, {&m_states->area(), border, {m_page, 1}, {nothing, 1}});
+}
+
+QLayout* RestoreView::makeFooter()
+{
+    auto* promise = named(new WrapLabel(TextStyle::Callout, &Tokens::secondaryText,
+                                        u"Lo stato di adesso viene conservato prima di ripristinare."_s),
+                          u"promise");
+    promise->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    promise->setVisible(!m_content.states().isEmpty());
+    m_restoreButton->setEnabled(false);
+    setAccessibleRole(*m_error, QAccessible::AlertMessage);
+    m_error->hide();
+    auto* buttons = inRow(metrics::spaceS + 2, {{promise, 1}, Gap{metrics::spaceS}, m_cancel, m_restoreButton});
+    if (m_content.states().isEmpty())
+        buttons->insertStretch(0, 1);
+    return inColumn(metrics::spaceS, {m_error, buttons},
+                    {sideMargin, metrics::spaceM + 2, sideMargin, metrics::spaceM + 2});
+}
+
+QWidget* RestoreView::firstFocus() const
+{
+    QWidget* const chosen = m_states->chosenButton();
+    return chosen != nullptr ? chosen : m_cancel;
+}
+
+void RestoreView::showState(qsizetype index)
+{
+    const EarlierState& state = m_content.states().at(index);
+    const RestorePreview preview = m_content.preview(index);
+    m_title->setText(preview.title);
+    m_subtitle->setText(preview.subtitle);
+    delete std::exchange(m_card, nullptr);
+    if (!preview.groups.isEmpty()) {
+        m_card = named(new DifferenceCard(preview.groups), u"differences");
+        m_page->column()->insertWidget(1, m_card);
+    }
+    m_page->verticalScrollBar()->setValue(0);
+    m_restoreButton->setEnabled(preview.canBeRestored);
+    showError({});
+    if (wantsAttention(state)) {
+        QStringList names;
+        for (const EarlierState& existing : m_content.states())
+            names.append(existing.name);
+        m_lookedAt.add(state.name, names);
+    }
+}
+
+void RestoreView::restoreChosen()
+{
+    const QPointer<RestoreView> alive(this);
+    const EarlierState state = m_content.states().at(m_states->chosen());
+    const IoResult<void> restored = m_restore(state);
+    if (!alive)
+        return;
+    if (restored)
+        Q_EMIT closed();
+    else
+        showError(u"Non è stato possibile ripristinare: "_s + restored.error().reason);
+}
+
+void RestoreView::showError(const QString& text)
+{
+    m_error->setText(text);
+    m_error->setVisible(!text.isEmpty());
+    if (text.isEmpty())
+        return;
+    QAccessibleEvent announcement(m_error, QAccessible::Alert);
+    QAccessible::updateAccessibility(&announcement);
+}
+
+bool hasStateToLookAt(const QList<EarlierState>& states, const LookedAtStates& lookedAt)
+{
+    return std::ranges::any_of(states, [&lookedAt](const EarlierState& state) {
+        return wantsAttention(state) && !lookedAt.contains(state.name);
+    });
+}
+
+} // namespace abissora

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "IoError.h"
+#include "RestoreContent.h"
+
+#include <QWidget>
+#include <functional>
+
+namespace abissora {
+
+class ElidedLabel;
+class LookedAtStates;
+class PlainButton;
+class PrimaryButton;
+class ScreenPage;
+class StateList;
+class ViewSheet;
+class WrapLabel;
+
+/// The way back to an earlier state: the states at the left, at the right what the chosen one would bring, take and
+/// change.
+class RestoreView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Puts the state in the place of the present one; a failure says why nothing came of it. May end the view.
+    using Restore = std::function<IoResult<void>(const EarlierState&)>;
+
+    /// What the sources refer to, and `lookedAt`, must outlive it.
+    RestoreView(const RestoreContent::Sources& sources, LookedAtStates& lookedAt, Restore restore,
+                QWidget* parent = nullptr);
+
+    /// In a sheet titled "Ripristina" over the window of `over`.
+    [[nodiscard]] static ViewSheet* makeSheet(const RestoreContent::Sources& sources, LookedAtStates& lookedAt,
+                                              Restore restore, QWidget* over);
+
+Q_SIGNALS:
+    /// The person wants no more of it, or has what she wanted.
+    void closed();
+
+private:
+    [[nodiscard]] QWidget* makeHeader();
+    [[nodiscard]] QLayout* makeBody();
+    [[nodiscard]] QLayout* makeFooter();
+    [[nodiscard]] QWidget* firstFocus() const;
+    void showState(qsizetype index);
+    void restoreChosen();
+    void showError(const QString& text);
+
+    RestoreContent m_content;
+    LookedAtStates& m_lookedAt;
+    Restore m_restore;
+    StateList* m_states;
+    ScreenPage* m_page;
+    ElidedLabel* m_title;
+    WrapLabel* m_subtitle;
+    QWidget* m_card = nullptr;
+    WrapLabel* m_error;
+    PlainButton* m_cancel;
+    PrimaryButton* m_restoreButton;
+};
+
+/// Whether there is a state that holds what could not be read or stored, and that nobody has looked at.
+[[nodiscard]] bool hasStateToLookAt(const QList<EarlierState>& states, const LookedAtStates& lookedAt);
+
+} // namespace abissora

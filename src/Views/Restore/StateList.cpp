@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "StateList.h"
+
+#include "Literals.h"
+#include "Metrics.h"
+#include "ScrollPane.h"
+#include "StateRow.h"
+
+namespace abissora {
+
+namespace {
+
+constexpr int border = metrics::spaceXS;
+
+} // namespace
+
+StateList::StateList(const RestoreContent& content)
+    : StateList(content, *new ScrollPane)
+{}
+
+StateList::StateList(const RestoreContent& content, ScrollPane& area)
+    : RowList(area, {.keys = Keys::WalkRows, .border = border, .reserve = 1})
+    , m_content(content)
+    , m_area(area)
+{
+    setObjectName(u"states"_s);
+    setAccessibleName(u"Stati precedenti"_s);
+    area.setWidget(this);
+    setAutoFillBackground(false); // setWidget() makes it fill
+    area.viewport()->setAutoFillBackground(true);
+    area.viewport()->setBackgroundRole(QPalette::Base);
+    QList<QUuid> ids;
+    for (qsizetype i = 0; i < content.states().size(); ++i)
+        ids.append(QUuid::createUuidV5(QUuid(), content.states().at(i).name));
+    showItems(ids);
+}
+
+QWidget& StateList::area() const
+{
+    return m_area;
+}
+
+void StateList::choose(qsizetype index)
+{
+    if (index == m_chosen)
+        return;
+    m_chosen = index;
+    for (StateRow* row : rowsAs<StateRow>())
+        row->button().setChosen(indexOf(*row) == index);
+    Q_EMIT chosenChanged(index);
+}
+
+QWidget* StateList::chosenButton() const
+{
+    for (const StateRow* row : rowsAs<StateRow>()) {
+        if (indexOf(*row) == m_chosen)
+            return &row->button();
+    }
+    return nullptr;
+}
+
+QWidget* StateList::makeRow()
+{
+    auto* row = new StateRow(this);
+    connect(&row->button(), &QAbstractButton::clicked, this, [this, row] {
+        StateButton& button = row->button();
+        // Pressed by a screen reader it does not have the focus yet; what has it stays, however far one scrolls.
+        if (!button.hasFocus())
+            button.setFocus(Qt::OtherFocusReason);
+        button.setChosen(true); // of a chosen one a click takes the mark away
+        choose(indexOf(*row));
+    });
+    return row;
+}
+
+void StateList::fillRow(QWidget& widget, qsizetype index)
+{
+    auto& row = static_cast<StateRow&>(widget);
+    row.setGroupTitle(m_content.groupTitleAbove(index));
+    if (&widget == m_measuring)
+        return; // every state is as high as the others, and its file need not be read to know
+    m_shown.insert(&widget, index);
+    row.button().setState(m_content.row(index));
+    row.button().setChosen(index == m_chosen);
+}
+
+bool StateList::isOfUsualHeight(const QWidget& ruler, qsizetype index) const
+{
+    m_measuring = &ruler;
+    return m_content.groupTitleAbove(index).isEmpty();
+}
+
+qsizetype StateList::indexOf(const StateRow& row) const
+{
+    return m_shown.value(&row, -1);
+}
+
+} // namespace abissora

@@ -1,0 +1,1 @@
+#include "TestRunner.h"
