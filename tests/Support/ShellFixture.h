@@ -7,9 +7,9 @@
 #include "EquipmentListView.h"
 #include "EquipmentTableView.h"
 #include "Gui.h"
+#include "LookedAtStates.h"
 #include "MainWindow.h"
 #include "MaintenanceOverviewView.h"
-#include "LookedAtStates.h"
 #include "RegisterFixture.h"
 #include "RestoreView.h"
 #include "ScreenFactory.h"
@@ -53,8 +53,9 @@ public:
     }
     ViewSheet* makeRestore(QWidget* over) override
     {
-        return RestoreView::makeSheet({generations, archive, equipment, types, settings, almanac}, lookedAt,
-                                      [this](const EarlierState& state) { return restore(state); }, over);
+        return RestoreView::makeSheet(
+            {generations, archive, equipment, types, settings, almanac}, lookedAt,
+            [this](const EarlierState& state) { return restore(state); }, over);
     }
     bool hasStateToLookAt() const override { return abissora::hasStateToLookAt(generations.list(), lookedAt); }
 

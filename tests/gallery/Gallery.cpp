@@ -37,8 +37,8 @@ bool render(const QList<Scene>& scenes, const QDir& folder)
 
 QList<Scene> allScenes()
 {
-    return controlScenes() + componentScenes() + sheetScenes() + screenScenes() + detailScenes() + typeScenes() +
-           helpScenes() + overviewScenes() + settingsScenes() + updateScenes() + restoreScenes();
+    return controlScenes() + componentScenes() + sheetScenes() + restoreScenes() + screenScenes() + detailScenes() +
+           typeScenes() + helpScenes() + overviewScenes() + settingsScenes() + updateScenes();
 }
 
 Scene sceneNamed(const QString& name)

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "ContentView.h"
 #include "Literals.h"
 #include "ScreenStage.h"
 
 namespace abissora::gallery {
 
 namespace {
-
-constexpr QSize smallestSize(1000, 700);
 
 void write(const test::RegisterFixture& f, const char* name, const QList<Equipment>& equipment)
 {
@@ -47,15 +44,6 @@ void keepStates(test::RegisterFixture& f)
     f.write(u"backups/20261114T165000.000Z-unreadable/savedEquipment.json"_s, damaged);
 }
 
-Window::Setup opened(const std::function<void(test::RegisterFixture&)>& keep)
-{
-    return [keep](test::RegisterFixture& f, MainWindow& window) {
-        keep(f);
-        window.show();
-        window.content().openRestore();
-    };
-}
-
 /// The sheet by itself.
 Scene sheet(const QString& name, const std::function<void(test::RegisterFixture&)>& keep)
 {
@@ -91,7 +79,6 @@ QList<Scene> restoreScenes()
         sheet(u"restore"_s, keepStates),
         sheet(u"restore-nothing"_s, keepNothing),
         sheet(u"restore-long-names"_s, keepLongNames),
-        window(u"restore-over-window"_s, opened(keepStates), items(), smallestSize),
     };
 }
 

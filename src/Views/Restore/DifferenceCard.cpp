@@ -85,11 +85,11 @@ QWidget* makeGroup(const DifferenceGroup& group)
 {
     const GroupLook look = lookOf(group.kind);
     auto* title = named(new InkLabel(TextStyle::BodyMedium, &Tokens::text, group.title), u"groupTitle");
-    auto* lines = inColumn(
-        metrics::spaceS,
-        {inRow(metrics::spaceS, {new IconView(symbolIcon(look.symbol, look.color), metrics::iconSize), title,
-                                 new CountBadge(group.total, look.ink), Stretch{1}})},
-        {sideMargin, metrics::spaceM - 1, sideMargin, metrics::spaceM - 1});
+    auto* lines =
+        inColumn(metrics::spaceS,
+                 {inRow(metrics::spaceS, {new IconView(symbolIcon(look.symbol, look.color), metrics::iconSize), title,
+                                          new CountBadge(group.total, look.ink), Stretch{1}})},
+                 {sideMargin, metrics::spaceM - 1, sideMargin, metrics::spaceM - 1});
     for (const DifferenceLine& line : group.lines)
         lines->addWidget(new DifferenceRow(line));
     if (const QString rest = group.rest(); !rest.isEmpty())
@@ -130,8 +130,9 @@ DifferenceRow::DifferenceRow(const DifferenceLine& line, QWidget* parent)
     m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_arrow->setVisible(!line.becomes.isEmpty());
     auto* icon = new IconView(typeIcon(line.look.icon, line.look.color), lineIcon);
-    setLayout(inRow(metrics::spaceXS + 2,
-                    {icon, Gap{metrics::spaceXS - 1}, {m_name, 1}, Gap{metrics::spaceS}, m_detail, m_arrow, m_becomes}));
+    setLayout(
+        inRow(metrics::spaceXS + 2,
+              {icon, Gap{metrics::spaceXS - 1}, {m_name, 1}, Gap{metrics::spaceS}, m_detail, m_arrow, m_becomes}));
 }
 
 void DifferenceRow::resizeEvent(QResizeEvent* event)

@@ -19,6 +19,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QScrollBar>
+#include <QShortcut>
 
 namespace abissora {
 
@@ -64,7 +65,12 @@ RestoreView::RestoreView(const RestoreContent::Sources& sources, LookedAtStates&
 {
     setObjectName(u"restoreView"_s);
     setLayout(inColumn(0, {makeHeader(), new Separator, {makeBody(), 1}, new Separator, makeFooter()}, {1, 1, 1, 1}));
-    m_restoreButton->setAutoDefault(true);
+    // No default button: Return on a state restores nothing.
+    for (LookButton* button : std::initializer_list<LookButton*>{m_cancel, m_restoreButton}) {
+        for (const int key : {Qt::Key_Return, Qt::Key_Enter})
+            connect(new QShortcut(key, button, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, button,
+                    &QAbstractButton::click);
+    }
     connect(m_cancel, &QAbstractButton::clicked, this, &RestoreView::closed);
     connect(m_restoreButton, &QAbstractButton::clicked, this, &RestoreView::restoreChosen);
     connect(m_states, &StateList::chosenChanged, this, &RestoreView::showState);
@@ -77,12 +83,12 @@ ViewSheet* RestoreView::makeSheet(const RestoreContent::Sources& sources, Looked
 {
     auto* view = new RestoreView(sources, lookedAt, std::move(restore));
     const QFontMetrics metrics = view->fontMetrics();
-    auto* sheet = new ViewSheet({.view = view,
-                                 .title = u"Ripristina"_s,
-                                 .preferredSize = {withText(preferredSize.width(), metrics),
-                                                   withText(preferredSize.height(), metrics)},
-                                 .firstFocus = view->firstFocus()},
-                                over);
+    auto* sheet = new ViewSheet(
+        {.view = view,
+         .title = u"Ripristina"_s,
+         .preferredSize = {withText(preferredSize.width(), metrics), withText(preferredSize.height(), metrics)},
+         .firstFocus = view->firstFocus()},
+        over);
     connect(view, &RestoreView::closed, sheet, &QDialog::reject);
     return sheet;
 }
@@ -161,7 +167,8 @@ void RestoreView::restoreChosen()
 {
     const QPointer<RestoreView> alive(this);
     const EarlierState state = m_content.states().at(m_states->chosen());
-    const IoResult<void> restored = m_restore(state);
+    const Restore restore = m_restore; // what runs shall not go away with the view
+    const IoResult<void> restored = restore(state);
     if (!alive)
         return;
     if (restored)
@@ -173,6 +180,7 @@ void RestoreView::restoreChosen()
 void RestoreView::showError(const QString& text)
 {
     m_error->setText(text);
+    m_error->setAccessibleName(text);
     m_error->setVisible(!text.isEmpty());
     if (text.isEmpty())
         return;

@@ -5,6 +5,9 @@
 #include "Metrics.h"
 #include "ScrollPane.h"
 #include "StateRow.h"
+#include "Tokens.h"
+
+#include <QPainter>
 
 namespace abissora {
 
@@ -12,10 +15,21 @@ namespace {
 
 constexpr int border = metrics::spaceXS;
 
+/// The ground of lists and tables.
+class Surface final : public ScrollPane
+{
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QPainter(viewport()).fillRect(viewport()->rect(), Tokens::of(palette()).surface);
+        ScrollPane::paintEvent(event);
+    }
+};
+
 } // namespace
 
 StateList::StateList(const RestoreContent& content)
-    : StateList(content, *new ScrollPane)
+    : StateList(content, *new Surface)
 {}
 
 StateList::StateList(const RestoreContent& content, ScrollPane& area)
@@ -27,8 +41,6 @@ StateList::StateList(const RestoreContent& content, ScrollPane& area)
     setAccessibleName(u"Stati precedenti"_s);
     area.setWidget(this);
     setAutoFillBackground(false); // setWidget() makes it fill
-    area.viewport()->setAutoFillBackground(true);
-    area.viewport()->setBackgroundRole(QPalette::Base);
     QList<QUuid> ids;
     for (qsizetype i = 0; i < content.states().size(); ++i)
         ids.append(QUuid::createUuidV5(QUuid(), content.states().at(i).name));
@@ -57,6 +69,11 @@ QWidget* StateList::chosenButton() const
             return &row->button();
     }
     return nullptr;
+}
+
+void StateList::paintEvent(QPaintEvent* event)
+{
+    QFrame::paintEvent(event); // no lines between the rows
 }
 
 QWidget* StateList::makeRow()

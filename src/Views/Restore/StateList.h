@@ -30,6 +30,9 @@ public:
 Q_SIGNALS:
     void chosenChanged(qsizetype index);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     StateList(const RestoreContent& content, ScrollPane& area);
 

@@ -131,9 +131,8 @@ void MainWindow::addFileMenu(const ScreenFactory& screens)
         ->setIcon(symbolIcon(u"arrow.clockwise"_s));
     QAction* restore = addCommand(file, u"&Ripristina…"_s, {}, m_content, &ContentView::openRestore);
     const auto showWhetherToLook = [restore, &screens] {
-        restore->setIcon(screens.hasStateToLookAt()
-                             ? symbolIcon(u"exclamationmark.triangle.fill"_s, NamedColor::orange)
-                             : symbolIcon(u"clock.arrow.circlepath"_s));
+        restore->setIcon(screens.hasStateToLookAt() ? symbolIcon(u"exclamationmark.triangle.fill"_s, NamedColor::orange)
+                                                    : symbolIcon(u"clock.arrow.circlepath"_s));
     };
     connect(&file, &QMenu::aboutToShow, restore, showWhetherToLook);
     showWhetherToLook();
