@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "Console.h"
+#include "FailingCalls.h"
 #include "Literals.h"
 #include "TestRunner.h"
 
@@ -190,19 +191,52 @@ private Q_SLOTS:
         ::close(full);
     }
 
+    void anOutputThatTakesNothingIsForgotten()
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(u"log"_s));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        StandardOutput output(file.handle());
+        {
+            const test::FailingCalls failing("write@1+=zero", folder.path());
+            output.print(u"lost"_s);
+            QCOMPARE(failing.changes(), 1U);
+        }
+        output.print(u"lost"_s);
+        QCOMPARE(file.size(), 0);
+    }
+
+    void signalsAndShortWritesLoseNothing()
+    {
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(u"log"_s));
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        const test::FailingCalls failing("write@1=EINTR write@2=short write@3=EAGAIN", folder.path());
+        StandardOutput output(file.handle());
+        output.print(u"una riga"_s);
+        output.print(u"due"_s);
+        QVERIFY(file.seek(0));
+        QCOMPARE(file.readAll(), QByteArray("una riga\ndue\n"));
+    }
+
     void aReaderThatStopsHoldsNobody_data()
     {
         QTest::addColumn<Channel::Kind>("kind");
-        QTest::newRow("pipe") << Channel::Kind::Pipe;
-        QTest::newRow("socket") << Channel::Kind::Socket;
-        QTest::newRow("terminal") << Channel::Kind::Terminal;
-        QTest::newRow("one that cannot be opened anew") << Channel::Kind::ControlledTerminal;
+        QTest::addColumn<QByteArray>("opening");
+        QTest::newRow("pipe") << Channel::Kind::Pipe << QByteArray();
+        QTest::newRow("pipe of somebody else") << Channel::Kind::Pipe << QByteArray("open@1=EACCES");
+        QTest::newRow("socket") << Channel::Kind::Socket << QByteArray();
+        QTest::newRow("terminal") << Channel::Kind::Terminal << QByteArray();
+        QTest::newRow("terminal of somebody else") << Channel::Kind::Terminal << QByteArray("open@1=EACCES");
+        QTest::newRow("a terminal's other side") << Channel::Kind::ControlledTerminal << QByteArray();
     }
 
     void aReaderThatStopsHoldsNobody()
     {
         QFETCH(Channel::Kind, kind);
+        QFETCH(QByteArray, opening);
         const Channel channel(kind);
+        const test::FailingCalls failing(opening.constData(), u"/proc/self/fd"_s);
         StandardOutput output(channel.writer());
         const QStringList lines = manyLines(6000); // several times what any of them holds
         for (const QString& line : lines)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "AtomicFile.h"
+#include "FailingCalls.h"
 #include "FolderLock.h"
 #include "IoChecks.h"
 #include "Literals.h"
@@ -170,6 +171,13 @@ private Q_SLOTS:
             QCOMPARE(::stat(QFile::encodeName(m_folder->filePath(QLatin1String(name))).constData(), &status), 0);
             QCOMPARE(status.st_mode & 07777, mode_t{0700});
         }
+    }
+
+    void aFolderThatIsMadeButNotSyncedIsLocked()
+    {
+        const test::FailingCalls failing("fsync@1+=EIO", path());
+        FolderLock lock(path() + "/register"_L1);
+        QCOMPARE(lock.acquire(), Outcome::Held);
     }
 
     void whereNoFolderCanBeNothingIsMade()
