@@ -60,7 +60,7 @@ IoResult<void> write(const QString& path, const Fill& fill, Place place)
         return place(temporary->name, *target);
     });
     if (!placed) {
-        ::unlink(temporary->name.constData());
+        static_cast<void>(posix::unlink(temporary->name));
         return placed;
     }
     return posix::syncFolder(folder->get());

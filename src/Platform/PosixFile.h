@@ -60,9 +60,12 @@ auto uninterrupted(Call call)
     return {};
 }
 
+// For the owner only, whatever the process's umask takes away from new files and folders.
+constexpr mode_t ownersFile = 0600;
+constexpr mode_t ownersFolder = 0700;
+
 [[nodiscard]] inline IoResult<Descriptor> open(const QByteArray& name, int flags)
 {
-    constexpr mode_t ownersFile = 0600;
     const int descriptor = uninterrupted([&] { return ::open(name.constData(), flags | O_CLOEXEC, ownersFile); });
     if (descriptor < 0)
         return failure(errno);
@@ -103,7 +106,13 @@ auto uninterrupted(Call call)
 /// A new file, for writing, readable by its owner only.
 [[nodiscard]] inline IoResult<Descriptor> createFile(const QByteArray& name)
 {
-    return open(name, O_WRONLY | O_CREAT | O_EXCL);
+    auto file = open(name, O_WRONLY | O_CREAT | O_EXCL);
+    struct stat status
+    {};
+    // Where the file system knows no modes there is nothing to mend.
+    if (file && ::fstat(file->get(), &status) == 0 && (status.st_mode & ownersFile) != ownersFile)
+        uninterrupted([&] { return ::fchmod(file->get(), ownersFile); });
+    return file;
 }
 
 [[nodiscard]] inline IoResult<void> writeAll(int descriptor, const char* bytes, std::size_t size)
@@ -112,6 +121,8 @@ auto uninterrupted(Call call)
         const ssize_t written = uninterrupted([&] { return ::write(descriptor, bytes, size); });
         if (written < 0)
             return failure(errno);
+        if (written == 0)
+            return failure(EIO);
         bytes += written;
         size -= static_cast<std::size_t>(written);
     }
@@ -147,37 +158,44 @@ auto uninterrupted(Call call)
 
 [[nodiscard]] inline IoResult<void> makeOneFolder(const QByteArray& name)
 {
-    constexpr mode_t ownersFolder = 0700;
-    return result(::mkdir(name.constData(), ownersFolder));
+    if (uninterrupted([&] { return ::mkdir(name.constData(), ownersFolder); }) != 0)
+        return failure(errno);
+    struct stat status
+    {};
+    if (::stat(name.constData(), &status) == 0 && (status.st_mode & ownersFolder) != ownersFolder)
+        uninterrupted([&] { return ::chmod(name.constData(), (status.st_mode & 07777) | ownersFolder); });
+    return {};
 }
 
 [[nodiscard]] inline IoResult<void> rename(const QByteArray& source, const QByteArray& target)
 {
-    return result(::rename(source.constData(), target.constData()));
+    return result(uninterrupted([&] { return ::rename(source.constData(), target.constData()); }));
 }
 
 [[nodiscard]] inline IoResult<void> link(const QByteArray& source, const QByteArray& target)
 {
-    return result(::link(source.constData(), target.constData()));
+    return result(uninterrupted([&] { return ::link(source.constData(), target.constData()); }));
 }
 
 [[nodiscard]] inline IoResult<void> unlink(const QByteArray& name)
 {
-    return result(::unlink(name.constData()));
+    return result(uninterrupted([&] { return ::unlink(name.constData()); }));
 }
 
 /// Fails when `target` exists, without a moment in which another process could slip in.
 [[nodiscard]] inline IoResult<void> renameNew(const QByteArray& source, const QByteArray& target)
 {
 #ifdef RENAME_NOREPLACE
-    if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+    if (uninterrupted([&] {
+            return ::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE);
+        }) == 0)
         return {};
     if (errno != EINVAL && errno != ENOSYS)
         return failure(errno);
 #endif
     auto linked = link(source, target);
     if (linked)
-        ::unlink(source.constData());
+        static_cast<void>(unlink(source));
     else if (linked.error() == IoError::fromErrno(EPERM) && ::access(target.constData(), F_OK) != 0)
         return rename(source, target); // a folder has no second name
     return linked;
