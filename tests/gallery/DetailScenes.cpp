@@ -142,7 +142,10 @@ QList<Scene> alertScenes()
                   item.maintenanceHistory.last().receiptFileName = f.storedDocument(u"a.pdf"_s);
                   f.opener.succeed(false);
                   auto view = std::make_unique<EquipmentDetailView>(f.detail(item), f.opener);
-                  view->findChild<QAbstractButton*>(u"openReceipt"_s)->click();
+                  view->resize(385, 900);
+                  view->show(); // only rows in sight exist
+                  test::settle();
+                  test::click(*view, u"openReceipt"_s);
                   return alertOf(std::move(view));
               }),
         scene(u"alert-validation"_s, items(),
