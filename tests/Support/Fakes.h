@@ -7,8 +7,10 @@
 #include "FilePanel.h"
 #include "IdGenerator.h"
 #include "Literals.h"
+#include "LongWork.h"
 #include "Opener.h"
 #include "PackageInformation.h"
+#include "ProgressPanel.h"
 #include "SymbolLibrary.h"
 
 #include <QHash>
@@ -109,6 +111,88 @@ private:
     QStringList m_ended;
     std::function<void()> m_meanwhile;
     bool m_grants = false;
+};
+
+/// Shows nobody anything.
+class FakeProgressPanel final : public ProgressPanel
+{
+public:
+    [[nodiscard]] std::unique_ptr<Showing> show(const QString& title, std::shared_ptr<WorkProgress> progress) override
+    {
+        m_titles.append(title);
+        m_shown->append(progress);
+        return std::make_unique<End>(m_shown, progress);
+    }
+
+    /// Of everything that was ever shown.
+    [[nodiscard]] const QStringList& titles() const { return m_titles; }
+    /// What is on show, the oldest first.
+    [[nodiscard]] const QList<std::shared_ptr<WorkProgress>>& shown() const { return *m_shown; }
+
+private:
+    using Shown = QList<std::shared_ptr<WorkProgress>>;
+
+    class End final : public Showing
+    {
+    public:
+        End(std::shared_ptr<Shown> shown, std::shared_ptr<WorkProgress> progress)
+            : m_shown(std::move(shown))
+            , m_progress(std::move(progress))
+        {}
+        ~End() override { m_shown->removeOne(m_progress); }
+        Q_DISABLE_COPY_MOVE(End)
+
+    private:
+        std::shared_ptr<Shown> m_shown;
+        std::shared_ptr<WorkProgress> m_progress;
+    };
+
+    QStringList m_titles;
+    std::shared_ptr<Shown> m_shown = std::make_shared<Shown>();
+};
+
+/// Does work on the spot, or once it is told to, or leaves it to another.
+class ScriptedWork final : public LongWork
+{
+public:
+    ScriptedWork() = default;
+    Q_DISABLE_COPY_MOVE(ScriptedWork)
+    ~ScriptedWork() override
+    {
+        while (held() > 0) {
+            progress().cancel();
+            finish();
+        }
+    }
+
+    [[nodiscard]] QCoro::Task<IoResult<void>> run(QString title, Function work,
+                                                  std::shared_ptr<WorkProgress> progress) override
+    {
+        m_titles.append(title);
+        if (m_other != nullptr)
+            co_return co_await m_other->run(title, work, progress);
+        if (m_isSlow) {
+            const auto pending = std::make_shared<Answer<bool>>();
+            m_held.append({progress, pending});
+            co_await pending->given();
+        }
+        co_return work(*progress);
+    }
+    /// From now on everything waits for finish().
+    void beSlow() { m_isSlow = true; }
+    void finish(qsizetype index = 0) { m_held.takeAt(index).second->give(true); }
+    /// Which must outlive whatever is under way.
+    void leaveTo(LongWork* other) { m_other = other; }
+
+    [[nodiscard]] qsizetype held() const { return m_held.size(); }
+    [[nodiscard]] WorkProgress& progress(qsizetype index = 0) const { return *m_held.at(index).first; }
+    [[nodiscard]] const QStringList& titles() const { return m_titles; }
+
+private:
+    QStringList m_titles;
+    QList<std::pair<std::shared_ptr<WorkProgress>, std::shared_ptr<Answer<bool>>>> m_held;
+    LongWork* m_other = nullptr;
+    bool m_isSlow = false;
 };
 
 class RecordingOpener final : public Opener
