@@ -7,6 +7,7 @@
 #include "Cards.h"
 #include "FormRow.h"
 #include "NoAnswerAlert.h"
+#include "ProgressSheet.h"
 #include "Sheet.h"
 #include "Stepper.h"
 #include "SymbolIcon.h"
@@ -78,6 +79,13 @@ std::unique_ptr<QWidget> notice()
                                    u"Per favore, compila tutti i campi obbligatori."_s);
 }
 
+std::unique_ptr<QWidget> progress()
+{
+    auto sheet = std::make_unique<ProgressSheet>(u"Copia del documento…"_s, nullptr);
+    sheet->setFraction(0.42);
+    return sheet;
+}
+
 } // namespace
 
 QList<Scene> sheetScenes()
@@ -85,7 +93,8 @@ QList<Scene> sheetScenes()
     return {{u"component-sheet"_s, form},
             {u"component-alert"_s, destructive},
             {u"component-notice"_s, notice},
-            {u"no-answer"_s, [] { return std::make_unique<NoAnswerAlert>(); }}};
+            {u"no-answer"_s, [] { return std::make_unique<NoAnswerAlert>(); }},
+            {u"progress-sheet"_s, progress}};
 }
 
 } // namespace abissora::gallery
