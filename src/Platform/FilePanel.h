@@ -14,6 +14,10 @@ struct FilePanelRequest
     QString confirmLabel;
     /// Media types the panel offers, e.g. "application/pdf".
     QStringList contentTypes;
+    /// Whether the file holds what is asked for; without it every file does.
+    bool (*accepts)(const QString& path) = nullptr;
+    /// What the person is told of a file that is not accepted, before they choose again.
+    QString refusal;
 
     friend bool operator==(const FilePanelRequest&, const FilePanelRequest&) = default;
 };
@@ -24,7 +28,7 @@ class FilePanel
 public:
     virtual ~FilePanel() = default;
 
-    /// Blocks until dismissed. Nothing when the person did not confirm.
+    /// Blocks until dismissed. Nothing when the person did not confirm; else a file that the request accepts.
     [[nodiscard]] virtual std::optional<QString> pickFile(const FilePanelRequest& request) = 0;
 
     /// The grant that a sandboxing platform attaches to a picked file: true when access was granted and endAccess must

@@ -3,6 +3,7 @@
 
 #include "AtomicFile.h"
 #include "Literals.h"
+#include "PdfDocument.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -71,6 +72,8 @@ std::optional<QString> MaintenanceDocumentStore::pickPDFAndStore(const std::opti
         .message = u"Scegli il PDF (scontrino o certificato) da allegare"_s,
         .confirmLabel = u"Allega"_s,
         .contentTypes = {u"application/pdf"_s},
+        .accepts = isPdf,
+        .refusal = u"Non è un documento PDF."_s,
     });
     if (!source)
         return std::nullopt;

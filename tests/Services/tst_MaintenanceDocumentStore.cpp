@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FileSizeLimit.h"
 #include "Literals.h"
+#include "PdfDocument.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
 
@@ -66,7 +67,9 @@ private Q_SLOTS:
         const FilePanelRequest expected{u"Seleziona il documento PDF"_s,
                                         u"Scegli il PDF (scontrino o certificato) da allegare"_s,
                                         u"Allega"_s,
-                                        {u"application/pdf"_s}};
+                                        {u"application/pdf"_s},
+                                        isPdf,
+                                        u"Non è un documento PDF."_s};
         QCOMPARE(files.panel.requests(), QList{expected});
     }
 

@@ -19,8 +19,9 @@ SOURCES = {
     "certificato.pdf": b"%PDF-1.7 certificate\n",
     "senza estensione": b"%PDF-1.4 no extension\n",
     "appunti.txt": b"no document at all\n",
+    "finto.pdf": b"no document either\n",
 }
-RECEIPT, CERTIFICATE, BARE, NOTES = SOURCES
+RECEIPT, CERTIFICATE, BARE, NOTES, FAKE = SOURCES
 
 
 class Journey:
@@ -139,16 +140,19 @@ class Journey:
         return sum(len(self.program.all(Atspi.Role.PUSH_BUTTON, name, window)) for window in self.program.windows())
 
     def check_panel(self):
-        """In Italian, for PDF documents only: a typed path of another file is refused."""
+        """In Italian, for PDF documents only: another file is refused whatever its name, and the panel stays."""
         panel = self.panel()
         for text in ("Allega", "Annulla"):
             self.program.find(Atspi.Role.PUSH_BUTTON, text, panel)
         self.program.find(Atspi.Role.COMBO_BOX, "Documenti PDF (*.pdf)", panel)
         self.program.find(Atspi.Role.COMBO_BOX, os.environ["HOME"], panel)  # never where the program started
-        self.enter_path(NOTES)
-        self.program.key("Return")
-        self.program.find_anywhere(Atspi.Role.LABEL, f"«{NOTES}» non è un documento PDF.")
-        self.program.press(self.program.find_anywhere(Atspi.Role.PUSH_BUTTON, "OK"))
+        for name in (NOTES, FAKE):
+            self.enter_path(name)
+            self.program.key("Return")
+            self.program.find_anywhere(Atspi.Role.LABEL, "Non è un documento PDF.")
+            self.program.press(self.program.find_anywhere(Atspi.Role.PUSH_BUTTON, "OK"))
+            until("the end of the notice", lambda: self.buttons("OK") == 0)
+            self.panel()
 
     def open_receipt(self, receipt):
         self.press("Scontrino")

@@ -23,13 +23,18 @@ QString filterFor(const QString& contentType)
     return u"%1 (%2)"_s.arg(name, type.globPatterns().join(u' '));
 }
 
-/// Takes no typed path of another content either; a file without an extension is judged by what it holds.
+bool accepts(const FilePanelRequest& request, const QString& path)
+{
+    return request.accepts == nullptr || request.accepts(path);
+}
+
+/// Stays open when what was chosen is refused.
 class OpenDialog final : public QFileDialog
 {
 public:
     OpenDialog(QWidget* parent, const FilePanelRequest& request)
         : QFileDialog(parent, request.title)
-        , m_contentTypes(request.contentTypes)
+        , m_request(request)
     {
         QStringList filters;
         for (const QString& type : request.contentTypes)
@@ -46,29 +51,30 @@ protected:
     void accept() override
     {
         const QStringList files = selectedFiles();
-        const bool chosen = !files.isEmpty() && QFileInfo(files.first()).isFile();
-        // A dialog of the platform's own keeps to the filter by itself, and has closed by now.
+        const bool chosen = !files.isEmpty() && QFileInfo(files.first()).exists() && !QFileInfo(files.first()).isDir();
+        // A dialog of the platform's own has closed by now.
         const bool isOwn = findChild<QWidget*>(u"fileNameEdit"_s) != nullptr;
-        if (!chosen || !isOwn || isWanted(files.first()))
-            QFileDialog::accept();
+        if (isOwn && chosen && !accepts(m_request, files.first()))
+            Alert::notice(this, windowTitle(), m_request.refusal);
         else
-            refuse(QFileInfo(files.first()).fileName());
+            QFileDialog::accept();
     }
 
 private:
-    [[nodiscard]] bool isWanted(const QString& path) const
-    {
-        const QMimeType type = QMimeDatabase().mimeTypeForFile(path);
-        return std::ranges::any_of(m_contentTypes, [&type](const QString& wanted) { return type.inherits(wanted); });
-    }
-
-    void refuse(const QString& name)
-    {
-        Alert::notice(this, windowTitle(), u"«%1» non è un documento PDF."_s.arg(name));
-    }
-
-    QStringList m_contentTypes;
+    const FilePanelRequest& m_request;
 };
+
+/// Nothing when the person gave up. A dialog of the platform's own opens again for as long as its choice is refused.
+std::optional<QString> choiceOf(OpenDialog& dialog, const FilePanelRequest& request)
+{
+    while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
+        const QString path = dialog.selectedFiles().first();
+        if (accepts(request, path))
+            return path;
+        Alert(Alert::Kind::Notice, request.title, request.refusal, QApplication::activeWindow()).exec();
+    }
+    return std::nullopt;
+}
 
 } // namespace
 
@@ -82,10 +88,10 @@ std::optional<QString> DesktopFilePanel::pickFile(const FilePanelRequest& reques
             break;
         }
     }
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return std::nullopt;
-    m_lastFolder = dialog.directory().path();
-    return dialog.selectedFiles().first();
+    auto chosen = choiceOf(dialog, request);
+    if (chosen)
+        m_lastFolder = dialog.directory().path();
+    return chosen;
 }
 
 } // namespace abissora

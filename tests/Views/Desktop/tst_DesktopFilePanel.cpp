@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+#include "DesktopFilePanel.h"
+
+#include "Alert.h"
+#include "ComponentTest.h"
+#include "Literals.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <sys/stat.h>
+
+using namespace abissora;
+using namespace abissora::test;
+
+namespace {
+
+bool beginsWithYes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.readAll().startsWith("yes");
+}
+
+/// A panel over a window, and what a person does in it.
+class Asked
+{
+public:
+    using Steps = std::function<void(QFileDialog&)>;
+
+    Asked()
+    {
+        m_window.resize(1000, 700);
+        activate(m_window);
+    }
+
+    std::optional<QString> pick(const Steps& steps)
+    {
+        QTimer::singleShot(0, &m_window, [&] {
+            QWidget* const modal = QApplication::activeModalWidget();
+            auto* const dialog = qobject_cast<QFileDialog*>(modal);
+            if (dialog == nullptr || !QTest::qWaitForWindowActive(dialog))
+                qFatal("no file dialog");
+            steps(*dialog);
+            if (dialog->isVisible())
+                dialog->reject();
+        });
+        return m_panel.pickFile(m_request);
+    }
+    QString write(const QString& name, const QByteArray& bytes) const
+    {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("the temporary folder cannot be written");
+        return file.fileName();
+    }
+    [[nodiscard]] QString path(const QString& name) const { return m_folder.filePath(name); }
+    FilePanelRequest& request() { return m_request; }
+
+private:
+    QTemporaryDir m_folder;
+    QWidget m_window;
+    DesktopFilePanel m_panel;
+    FilePanelRequest m_request{u"Scegli"_s,   u"Scegli un file"_s,         u"Allega"_s, {u"application/pdf"_s},
+                               beginsWithYes, u"Non è un documento PDF."_s};
+};
+
+void choose(QFileDialog& dialog, const QString& path)
+{
+    auto& field = existing<QLineEdit>(dialog, u"fileNameEdit"_s);
+    dialog.activateWindow();
+    field.setFocus();
+    // Else the dialog takes what was chosen before for chosen, too.
+    if (!QTest::qWaitFor([&field] { return field.hasFocus(); }))
+        qFatal("the file dialog's field has no focus");
+    field.setText(path);
+    QTest::keyClick(&field, Qt::Key_Return);
+}
+
+/// Gives the text of the notice and closes it.
+QString dismissNotice(QFileDialog& dialog)
+{
+    auto* const notice = findDialog<Alert>(dialog);
+    if (notice == nullptr)
+        return u"(no notice)"_s;
+    const QString message = notice->message();
+    notice->close();
+    settle();
+    return message;
+}
+
+} // namespace
+
+class tst_DesktopFilePanel : public ComponentTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void whatIsAcceptedIsTaken()
+    {
+        Asked a;
+        const QString path = a.write(u"senza estensione"_s, "yes");
+        bool isOpen = true;
+        const auto picked = a.pick([&](QFileDialog& dialog) {
+            choose(dialog, path);
+            isOpen = dialog.isVisible();
+        });
+        QCOMPARE(picked, std::optional(path));
+        QVERIFY(!isOpen);
+    }
+
+    void whatIsRefusedLeavesThePanelOpen()
+    {
+        Asked a;
+        const QString wrong = a.write(u"appunti.pdf"_s, "no");
+        const QString right = a.write(u"scontrino.pdf"_s, "yes");
+        QStringList notices;
+        QList<bool> isOpen;
+        const auto picked = a.pick([&](QFileDialog& dialog) {
+            for (int time = 0; time < 2; ++time) {
+                choose(dialog, wrong);
+                notices.append(dismissNotice(dialog));
+                isOpen.append(dialog.isVisible());
+            }
+            choose(dialog, right);
+        });
+        QCOMPARE(notices, QStringList({u"Non è un documento PDF."_s, u"Non è un documento PDF."_s}));
+        QCOMPARE(isOpen, QList<bool>({true, true}));
+        QCOMPARE(picked, std::optional(right));
+    }
+
+    void afterARefusalThePersonMayGiveUp()
+    {
+        Asked a;
+        const QString wrong = a.write(u"appunti.pdf"_s, "no");
+        QString notice;
+        const auto picked = a.pick([&](QFileDialog& dialog) {
+            choose(dialog, wrong);
+            notice = dismissNotice(dialog);
+            dialog.reject();
+        });
+        QCOMPARE(notice, u"Non è un documento PDF."_s);
+        QCOMPARE(picked, std::nullopt);
+    }
+
+    void aPipeIsRefused()
+    {
+        Asked a;
+        const QString pipe = a.path(u"pipe.pdf"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        a.request().accepts = [](const QString&) { return false; };
+        QString notice;
+        const auto picked = a.pick([&](QFileDialog& dialog) {
+            choose(dialog, pipe);
+            notice = dismissNotice(dialog);
+        });
+        QCOMPARE(notice, u"Non è un documento PDF."_s);
+        QCOMPARE(picked, std::nullopt);
+    }
+
+    void aFolderIsEnteredNotChosen()
+    {
+        Asked a;
+        QVERIFY(QDir().mkdir(a.path(u"cartella"_s)));
+        QString notice;
+        QString folder;
+        const auto picked = a.pick([&](QFileDialog& dialog) {
+            choose(dialog, a.path(u"cartella"_s));
+            notice = dismissNotice(dialog);
+            folder = dialog.directory().path();
+        });
+        QCOMPARE(notice, u"(no notice)"_s);
+        QCOMPARE(folder, a.path(u"cartella"_s));
+        QCOMPARE(picked, std::nullopt);
+    }
+
+    void withoutARuleEveryFileIsTaken()
+    {
+        Asked a;
+        a.request().accepts = nullptr;
+        const QString path = a.write(u"appunti.txt"_s, "no");
+        QCOMPARE(a.pick([&](QFileDialog& dialog) { choose(dialog, path); }), std::optional(path));
+    }
+
+    void opensWhereTheLastFileWas()
+    {
+        Asked a;
+        const QString path = a.write(u"a.pdf"_s, "yes");
+        QVERIFY(a.pick([&](QFileDialog& dialog) {
+            dialog.setDirectory(QFileInfo(path).path());
+            choose(dialog, u"a.pdf"_s);
+        }));
+        QString folder;
+        QVERIFY(!a.pick([&](QFileDialog& dialog) { folder = dialog.directory().path(); }));
+        QCOMPARE(folder, QFileInfo(path).path());
+    }
+};
+
+ABISSORA_TEST(tst_DesktopFilePanel);
+#include "tst_DesktopFilePanel.moc"
