@@ -31,6 +31,16 @@ public:
     [[nodiscard]] std::optional<QString> pickFile(const FilePanelRequest& /*request*/) override { return {}; }
 };
 
+class NoWork final : public LongWork
+{
+public:
+    [[nodiscard]] QCoro::Task<IoResult<void>> run(QString /*title*/, Function /*work*/,
+                                                  std::shared_ptr<WorkProgress> /*progress*/) override
+    {
+        co_return {};
+    }
+};
+
 void measureJson(const Report& report, const char* encoding, const char* decoding, const QList<Equipment>& equipment)
 {
     const QByteArray json = encode(equipment).value();
@@ -48,7 +58,7 @@ public:
         , m_generations(m_directories, clock, calendar, m_console, m_permission)
         , m_preferences(m_directories.preferences(), m_generations)
         , m_archive(m_directories, clock, m_permission)
-        , m_documents(m_directories.maintenanceDocuments(), m_archive, m_panel, m_ids, m_console)
+        , m_documents(m_directories.maintenanceDocuments(), m_archive, m_panel, m_work, m_ids, m_console)
     {
         m_preferences.setData(StorageManager::equipmentKey, encode(equipment).value());
         m_viewModel.emplace(StorageManager(m_preferences, m_console, clock, calendar, m_ids), m_documents, m_console,
@@ -62,6 +72,7 @@ private:
     QTemporaryDir m_folder;
     SilentConsole m_console;
     NoPanel m_panel;
+    NoWork m_work;
     RandomIdGenerator m_ids;
     ApplicationDirectories m_directories;
     AlwaysPermitted m_permission;

@@ -30,7 +30,7 @@ MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories
     , m_generations(directories, m_clock, m_calendar, m_console, permission)
     , m_preferences(directories.preferences(), m_generations)
     , m_archive(directories, m_clock, permission)
-    , m_documents(directories.maintenanceDocuments(), m_archive, m_filePanel, m_ids, m_console)
+    , m_documents(directories.maintenanceDocuments(), m_archive, m_filePanel, m_work, m_ids, m_console)
     , m_equipment(StorageManager(m_preferences, m_console, m_clock, m_calendar, m_ids), m_documents, m_console, m_clock,
                   m_calendar)
     , m_settings(m_preferences, m_console)

@@ -6,6 +6,7 @@
 #include "DayWatch.h"
 #include "DesktopFilePanel.h"
 #include "DesktopOpener.h"
+#include "DesktopProgressPanel.h"
 #include "EquipmentTypeViewModel.h"
 #include "EquipmentViewModel.h"
 #include "Generations.h"
@@ -15,6 +16,7 @@
 #include "ScreenFactory.h"
 #include "SettingsViewModel.h"
 #include "SymbolIcon.h"
+#include "ThreadedWork.h"
 #include "UpdateCheckerViewModel.h"
 
 class QApplication;
@@ -84,6 +86,8 @@ private:
     ResourceSymbolLibrary m_symbols;
     DesktopFilePanel m_filePanel;
     DesktopOpener m_opener;
+    DesktopProgressPanel m_progressPanel;
+    ThreadedWork m_work{m_progressPanel};
     Generations m_generations;
     PreferencesStore m_preferences;
     DocumentArchive m_archive;

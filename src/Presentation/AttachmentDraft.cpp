@@ -21,25 +21,44 @@ std::optional<QString> AttachmentDraft::path(DocumentSlot slot) const
     return m_documents.url(name(slot).value_or(QString()));
 }
 
-void AttachmentDraft::attach(DocumentSlot slot)
+QCoro::Task<bool> AttachmentDraft::attach(DocumentSlot slot)
 {
-    // The panel runs the event loop: the form may be gone when it closes.
-    MaintenanceDocumentStore& documents = m_documents;
+    if (isCopying(slot))
+        co_return false;
+    const auto copy = std::make_shared<WorkProgress>();
+    m_copies.insert(slot, copy);
+    // The form may be gone by then: the copy was cancelled and nothing is left of it.
     const QPointer<AttachmentDraft> alive(this);
-    const std::optional<QString> picked = documents.pickPDFAndStore(std::nullopt);
-    if (!picked)
-        return;
-    if (!alive) {
-        documents.deleteDocument(*picked);
-        return;
+    const std::optional<QString> picked = co_await m_documents.pickPDFAndStore(std::nullopt, copy);
+    // One that was cancelled may end after its successor.
+    if (!alive || m_copies.value(slot) != copy)
+        co_return false;
+    m_copies.remove(slot);
+    if (picked) {
+        m_attached.append(*picked);
+        documentName(m_names, slot) = picked;
     }
-    m_attached.append(*picked);
-    documentName(m_names, slot) = picked;
+    Q_EMIT changed();
+    co_return picked.has_value();
 }
 
 void AttachmentDraft::remove(DocumentSlot slot)
 {
+    if (const auto copy = m_copies.value(slot))
+        copy->cancel();
     documentName(m_names, slot).reset();
+    Q_EMIT changed();
+}
+
+bool AttachmentDraft::isCopying(DocumentSlot slot) const
+{
+    const auto copy = m_copies.value(slot);
+    return copy && !copy->isCancelled();
+}
+
+bool AttachmentDraft::isCopying() const
+{
+    return std::ranges::any_of(documentSlots, [this](DocumentSlot slot) { return isCopying(slot); });
 }
 
 Maintenance AttachmentDraft::appliedTo(Maintenance record) const
@@ -51,6 +70,7 @@ Maintenance AttachmentDraft::appliedTo(Maintenance record) const
 
 void AttachmentDraft::commit()
 {
+    cancelCopies();
     for (const auto& name : {m_stored.receiptFileName, m_stored.certificateFileName}) {
         if (name)
             m_attached.append(*name);
@@ -64,9 +84,16 @@ void AttachmentDraft::commit()
 
 void AttachmentDraft::discard()
 {
+    cancelCopies();
     for (const QString& name : std::exchange(m_attached, {}))
         m_documents.deleteDocument(name);
     m_names = m_stored;
+}
+
+void AttachmentDraft::cancelCopies()
+{
+    for (const auto& copy : std::as_const(m_copies))
+        copy->cancel();
 }
 
 } // namespace abissora

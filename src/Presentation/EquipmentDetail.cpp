@@ -21,6 +21,12 @@ EquipmentDetail::EquipmentDetail(EquipmentViewModel& equipment, const EquipmentT
     connect(&m_types, &EquipmentTypeViewModel::typesChanged, this, &EquipmentDetail::changed);
 }
 
+EquipmentDetail::~EquipmentDetail()
+{
+    for (const auto& copy : std::as_const(m_copies))
+        copy->cancel();
+}
+
 void EquipmentDetail::setEquipment(const Equipment& item)
 {
     m_item = item;
@@ -81,23 +87,42 @@ void EquipmentDetail::deleteMaintenance(const QUuid& recordId)
     store();
 }
 
-void EquipmentDetail::uploadDocument(const QUuid& recordId, DocumentSlot slot)
+QCoro::Task<> EquipmentDetail::uploadDocument(QUuid recordId, DocumentSlot slot)
 {
-    const auto before = record(recordId);
-    if (!before)
-        return;
-    // The panel runs the event loop: the screen and the record may be gone when it closes.
-    MaintenanceDocumentStore& documents = m_documents;
+    const std::pair place(recordId, slot);
+    if (const auto copy = m_copies.value(place); !record(recordId) || (copy && !copy->isCancelled()))
+        co_return;
+    const auto copy = std::make_shared<WorkProgress>();
+    m_copies.insert(place, copy);
+    const QUuid itemId = m_item.id;
+    // The screen may be gone by then: the copy was cancelled and nothing is left of it.
     const QPointer<EquipmentDetail> alive(this);
-    const auto picked = documents.pickPDFAndStore(documentName(*before, slot));
-    std::optional<Maintenance> changed = alive ? record(before->id) : std::nullopt;
-    if (changed) {
-        documentName(*changed, slot) = picked;
-        replaceRecord(m_item.maintenanceHistory, *changed);
-        store();
-    } else if (picked) {
-        documents.deleteDocument(*picked);
+    const std::optional<QString> picked = co_await m_documents.pickPDFAndStore(std::nullopt, copy);
+    // One that was cancelled may end after its successor.
+    if (!alive || m_copies.value(place) != copy)
+        co_return;
+    m_copies.remove(place);
+    putDocument(itemId, recordId, slot, picked);
+}
+
+void EquipmentDetail::putDocument(const QUuid& itemId, const QUuid& recordId, DocumentSlot slot,
+                                  const std::optional<QString>& name)
+{
+    const QList<Equipment>& items = m_equipment.equipment();
+    const auto found = std::ranges::find(items, itemId, &Equipment::id);
+    Equipment item = found != items.end() ? *found : Equipment();
+    std::optional<Maintenance> changed = recordOf(item.maintenanceHistory, recordId);
+    if (!changed) {
+        if (name)
+            m_documents.deleteDocument(*name);
+        return;
     }
+    const std::optional<QString> replaced = std::exchange(documentName(*changed, slot), name);
+    replaceRecord(item.maintenanceHistory, *changed);
+    m_equipment.updateEquipment(item);
+    const bool isNamed = changed->receiptFileName == replaced || changed->certificateFileName == replaced;
+    if (name && replaced && !isNamed)
+        m_documents.deleteDocument(*replaced);
 }
 
 void EquipmentDetail::replaceDocument(const QUuid& recordId, DocumentSlot slot)
@@ -106,10 +131,10 @@ void EquipmentDetail::replaceDocument(const QUuid& recordId, DocumentSlot slot)
     const std::optional<QString> name = changed ? documentName(*changed, slot) : std::nullopt;
     if (!name)
         return;
-    m_documents.deleteDocument(*name);
     forgetDocument(*changed, *name);
     replaceRecord(m_item.maintenanceHistory, *changed);
     store();
+    m_documents.deleteDocument(*name);
 }
 
 std::optional<QString> EquipmentDetail::documentPath(const QUuid& recordId, DocumentSlot slot) const

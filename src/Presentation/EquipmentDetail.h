@@ -4,11 +4,13 @@
 #include "DetailContent.h"
 #include "MaintenanceDraft.h"
 
+#include <QMap>
+
 namespace abissora {
 
 /// One item in full, with what can be done with it. Works on a copy of the item, writes every change through the
 /// register and takes over whatever the register makes of the item. An item that the register no longer has stays as
-/// it was.
+/// it was. The copies of documents that it waits for when it goes away are cancelled.
 class EquipmentDetail : public QObject
 {
     Q_OBJECT
@@ -18,6 +20,7 @@ public:
     EquipmentDetail(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types,
                     MaintenanceDocumentStore& documents, IdGenerator& ids, const Almanac& almanac,
                     const Equipment& item);
+    ~EquipmentDetail() override;
 
     [[nodiscard]] const Equipment& equipment() const { return m_item; }
     /// Of this item or another one.
@@ -35,9 +38,10 @@ public:
     [[nodiscard]] QString maintenanceDeleteAlertMessage(const QUuid& recordId) const;
     /// These three do nothing when the history has no such record.
     void deleteMaintenance(const QUuid& recordId);
-    /// Lets the person pick a PDF; whatever comes of it stands in the slot.
-    void uploadDocument(const QUuid& recordId, DocumentSlot slot);
-    /// Deletes the file, to make way for another.
+    /// Lets the person pick a PDF; whatever comes of it stands in the slot, be another item on show by then. Once the
+    /// register has that, the file that stood there is deleted. Does nothing while one is being copied for the slot.
+    QCoro::Task<> uploadDocument(QUuid recordId, DocumentSlot slot);
+    /// Empties the slot, then deletes its file, to make way for another.
     void replaceDocument(const QUuid& recordId, DocumentSlot slot);
     /// Where the file lies that the slot names.
     [[nodiscard]] std::optional<QString> documentPath(const QUuid& recordId, DocumentSlot slot) const;
@@ -53,6 +57,7 @@ Q_SIGNALS:
 private:
     void syncFromModel();
     void store();
+    void putDocument(const QUuid& itemId, const QUuid& recordId, DocumentSlot slot, const std::optional<QString>& name);
     [[nodiscard]] std::optional<Maintenance> record(const QUuid& id) const;
 
     EquipmentViewModel& m_equipment;
@@ -61,6 +66,7 @@ private:
     IdGenerator& m_ids;
     Almanac m_almanac;
     Equipment m_item;
+    QMap<std::pair<QUuid, DocumentSlot>, std::shared_ptr<WorkProgress>> m_copies; ///< those under way
 };
 
 } // namespace abissora

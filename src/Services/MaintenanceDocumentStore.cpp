@@ -4,8 +4,10 @@
 #include "AtomicFile.h"
 #include "Literals.h"
 #include "PdfDocument.h"
+#include "RegularFile.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace abissora {
@@ -52,10 +54,11 @@ private:
 } // namespace
 
 MaintenanceDocumentStore::MaintenanceDocumentStore(QString folder, const DocumentArchive& archive, FilePanel& panel,
-                                                   IdGenerator& ids, Console& console)
+                                                   LongWork& work, IdGenerator& ids, Console& console)
     : m_folder(std::move(folder))
     , m_archive(archive)
     , m_panel(panel)
+    , m_work(work)
     , m_ids(ids)
     , m_console(console)
 {}
@@ -65,40 +68,68 @@ IoResult<QString> MaintenanceDocumentStore::documentsDirectory() const
     return AtomicFile::makeFolder(m_folder).map([this] { return m_folder; });
 }
 
-std::optional<QString> MaintenanceDocumentStore::pickPDFAndStore(const std::optional<QString>& current)
+QCoro::Task<std::optional<QString>> MaintenanceDocumentStore::pickPDFAndStore(std::optional<QString> current,
+                                                                              std::shared_ptr<WorkProgress> progress)
 {
-    const auto source = m_panel.pickFile({
+    const FilePanelRequest request{
         .title = u"Seleziona il documento PDF"_s,
         .message = u"Scegli il PDF (scontrino o certificato) da allegare"_s,
         .confirmLabel = u"Allega"_s,
         .contentTypes = {u"application/pdf"_s},
         .accepts = isPdf,
         .refusal = u"Non è un documento PDF."_s,
-    });
-    if (!source)
-        return std::nullopt;
-    auto stored = store(*source);
+    };
+    const std::weak_ptr<const bool> alive = m_alive;
+    const std::optional<QString> source = m_panel.pickFile(request);
+    // The panel runs the event loop.
+    if (!source || alive.expired() || progress->isCancelled())
+        co_return std::nullopt;
+    const std::optional<QString> stored = co_await store(*source, progress);
+    // What was stored was stored just now, by a store that is still there.
     if (stored && current && *current != *stored)
         deleteDocument(*current);
-    return stored;
+    co_return stored;
 }
 
-std::optional<QString> MaintenanceDocumentStore::store(const QString& source)
+QCoro::Task<std::optional<QString>> MaintenanceDocumentStore::store(QString source,
+                                                                    std::shared_ptr<WorkProgress> progress)
 {
     const QString name = uuidText(m_ids.next()) + u'.' + extensionOf(source);
-    const auto copied = copyInto(name, source);
-    if (!copied) {
-        m_console.print(u"Errore salvataggio documento: "_s + copied.error().reason);
-        return std::nullopt;
+    const ScopedAccess access(m_panel, source);
+    const auto folder = documentsDirectory();
+    if (!folder) {
+        report(folder.error());
+        co_return std::nullopt;
     }
-    return name;
+    const QString target = *folder + u'/' + name;
+    const std::weak_ptr<const bool> alive = m_alive;
+    const auto copied = co_await m_work.run(u"Copia del documento…"_s, copying(source, target), progress);
+    if (alive.expired() || progress->isCancelled()) {
+        if (copied) // it was too late to stop it
+            QFile::remove(target);
+        co_return std::nullopt;
+    }
+    if (!copied) {
+        report(copied.error());
+        co_return std::nullopt;
+    }
+    co_return name;
 }
 
-IoResult<void> MaintenanceDocumentStore::copyInto(const QString& name, const QString& source)
+LongWork::Function MaintenanceDocumentStore::copying(const QString& source, const QString& target) const
 {
-    const ScopedAccess access(m_panel, source);
-    return documentsDirectory().and_then(
-        [&](const QString& folder) { return AtomicFile::copy(source, folder + u'/' + name); });
+    return [source, target, alive = std::weak_ptr<const bool>(m_alive)](WorkProgress& progress) {
+        const auto goesOn = [&](qint64 copied, qint64 whole) {
+            progress.setFraction(whole > 0 ? static_cast<double>(copied) / static_cast<double>(whole) : 0);
+            return !progress.isCancelled() && !alive.expired();
+        };
+        return checkPdf(source).and_then([&] { return RegularFile::copy(source, target, goesOn); });
+    };
+}
+
+void MaintenanceDocumentStore::report(const IoError& error)
+{
+    m_console.print(u"Errore salvataggio documento: "_s + error.reason);
 }
 
 std::optional<QString> MaintenanceDocumentStore::url(const QString& name) const

@@ -6,29 +6,35 @@
 #include "FilePanel.h"
 #include "IdGenerator.h"
 #include "IoError.h"
+#include "LongWork.h"
 
 #include <optional>
 
 namespace abissora {
 
 /// The PDF files attached to maintenance records, each under a fresh name in one folder. Records keep the bare name.
-/// Keeps no state: every operation works on the file system.
+/// Keeps no state: every operation works on the file system. Copies that are under way when it goes away are cancelled.
 class MaintenanceDocumentStore
 {
 public:
     /// `folder` need not exist. Everything passed by reference must outlive the store.
-    MaintenanceDocumentStore(QString folder, const DocumentArchive& archive, FilePanel& panel, IdGenerator& ids,
-                             Console& console);
+    MaintenanceDocumentStore(QString folder, const DocumentArchive& archive, FilePanel& panel, LongWork& work,
+                             IdGenerator& ids, Console& console);
+    Q_DISABLE_COPY_MOVE(MaintenanceDocumentStore)
 
     /// The documents folder, created when missing.
     [[nodiscard]] IoResult<QString> documentsDirectory() const;
 
     /// Lets the person pick a PDF and stores a copy. Nothing when the panel was cancelled or the copy failed; the file
     /// called `current` then stays, otherwise it is deleted.
-    [[nodiscard]] std::optional<QString> pickPDFAndStore(const std::optional<QString>& current);
+    [[nodiscard]] QCoro::Task<std::optional<QString>>
+    pickPDFAndStore(std::optional<QString> current,
+                    std::shared_ptr<WorkProgress> progress = std::make_shared<WorkProgress>());
 
-    /// Copies the file under a fresh name, keeping its extension ("pdf" when it has none), and gives that name.
-    [[nodiscard]] std::optional<QString> store(const QString& source);
+    /// Copies the PDF under a fresh name, keeping its extension ("pdf" when it has none), and gives that name. Nothing
+    /// when `progress` was cancelled before this answers: then there is no copy either.
+    [[nodiscard]] QCoro::Task<std::optional<QString>>
+    store(QString source, std::shared_ptr<WorkProgress> progress = std::make_shared<WorkProgress>());
 
     /// The path of a stored file. Nothing when there is none of that name, and for anything that is not a plain name of
     /// a regular file inside the folder, links leading out of it included.
@@ -41,13 +47,16 @@ public:
     void settle(const QSet<QString>& named) const { m_archive.settle(named); }
 
 private:
-    IoResult<void> copyInto(const QString& name, const QString& source);
+    void report(const IoError& error);
+    [[nodiscard]] LongWork::Function copying(const QString& source, const QString& target) const;
 
     QString m_folder;
     const DocumentArchive& m_archive;
     FilePanel& m_panel;
+    LongWork& m_work;
     IdGenerator& m_ids;
     Console& m_console;
+    std::shared_ptr<const bool> m_alive = std::make_shared<const bool>(true); ///< dies with the store
 };
 
 } // namespace abissora

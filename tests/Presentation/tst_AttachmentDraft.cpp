@@ -4,6 +4,8 @@
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
 
+#include <QSignalSpy>
+
 using namespace abissora;
 using namespace abissora::test;
 
@@ -18,16 +20,20 @@ struct Edited
     Edited()
         : stored(maintenance(1))
     {
-        stored.receiptFileName = r.documents.store(r.write(u"vecchio.pdf"_s, "%PDF old")).value();
+        stored.receiptFileName = r.stored(r.write(u"vecchio.pdf"_s, "%PDF-1.4 old")).value();
         draft = std::make_unique<AttachmentDraft>(r.documents, stored);
     }
 
     /// Gives the name of the new file.
     QString attach(DocumentSlot slot)
     {
-        r.panel.answer(r.write(u"nuovo.pdf"_s, "%PDF new"));
-        draft->attach(slot);
+        beginToAttach(slot);
         return draft->name(slot).value();
+    }
+    void beginToAttach(DocumentSlot slot)
+    {
+        r.panel.answer(r.write(u"nuovo.pdf"_s, "%PDF-1.4 new"));
+        draft->attach(slot);
     }
     [[nodiscard]] QString old() const { return stored.receiptFileName.value(); }
     [[nodiscard]] Maintenance result() const { return draft->appliedTo(stored); }
@@ -63,7 +69,7 @@ private Q_SLOTS:
         QCOMPARE(e.files(), QStringList({e.old(), attached}));
         e.draft->commit();
         QCOMPARE(e.result().certificateFileName, std::optional(attached));
-        QCOMPARE(e.r.content(u"MaintenanceDocuments/"_s + attached), "%PDF new");
+        QCOMPARE(e.r.content(u"MaintenanceDocuments/"_s + attached), "%PDF-1.4 new");
         e.draft.reset();
         QCOMPARE(e.files(), QStringList({e.old(), attached}));
     }
@@ -77,7 +83,7 @@ private Q_SLOTS:
         QCOMPARE(e.files(), QStringList(e.old()));
         e.draft->discard();
         QCOMPARE(e.result(), e.stored);
-        QCOMPARE(e.r.content(u"MaintenanceDocuments/"_s + e.old()), "%PDF old");
+        QCOMPARE(e.r.content(u"MaintenanceDocuments/"_s + e.old()), "%PDF-1.4 old");
     }
 
     void removedAttachedAndCancelled()
@@ -193,10 +199,118 @@ private Q_SLOTS:
     {
         Edited e;
         e.r.panel.meanwhile([&e] { e.draft.reset(); });
-        e.r.panel.answer(e.r.write(u"nuovo.pdf"_s, "%PDF new"));
+        e.r.panel.answer(e.r.write(u"nuovo.pdf"_s, "%PDF-1.4 new"));
         e.draft->attach(certificate);
         QVERIFY(!e.draft);
         QCOMPARE(e.files(), QStringList(e.old()));
+    }
+
+    void theSlotIsFilledOnceTheCopyIsThere()
+    {
+        Edited e;
+        e.r.work.beSlow();
+        const QSignalSpy changed(e.draft.get(), &AttachmentDraft::changed);
+        e.beginToAttach(certificate);
+        QVERIFY(e.draft->isCopying());
+        QVERIFY(e.draft->isCopying(certificate) && !e.draft->isCopying(receipt));
+        QVERIFY(!e.draft->name(certificate));
+        QCOMPARE(changed.size(), 0);
+        e.r.work.finish();
+        QCOMPARE(changed.size(), 1);
+        QVERIFY(!e.draft->isCopying());
+        QVERIFY(e.draft->path(certificate));
+        e.draft->commit();
+        QCOMPARE(e.files(), QStringList({e.old(), e.result().certificateFileName.value()}));
+    }
+
+    void attachTellsWhetherSomethingCameOfIt()
+    {
+        Edited e;
+        QVERIFY(!QCoro::waitFor(e.draft->attach(certificate)));
+        e.r.panel.answer(e.r.write(u"appunti.pdf"_s, "no document"));
+        QVERIFY(!QCoro::waitFor(e.draft->attach(certificate)));
+        e.r.panel.answer(e.r.write(u"nuovo.pdf"_s, "%PDF-1.4 new"));
+        QVERIFY(QCoro::waitFor(e.draft->attach(certificate)));
+    }
+
+    void oneCopyForASlotAtATime()
+    {
+        Edited e;
+        e.r.work.beSlow();
+        e.beginToAttach(certificate);
+        e.draft->attach(certificate);
+        QCOMPARE(e.r.panel.requests().size(), 1);
+        e.beginToAttach(receipt);
+        QCOMPARE(e.r.work.held(), 2);
+        e.r.work.finish(1);
+        QVERIFY(e.draft->isCopying());
+        e.r.work.finish();
+        QVERIFY(!e.draft->isCopying());
+        QCOMPARE(e.files().size(), 3);
+        e.draft->discard();
+        QCOMPARE(e.files(), QStringList(e.old()));
+    }
+
+    void oneSlotAtATimeWhileThePanelIsOpen()
+    {
+        Edited e;
+        e.r.panel.meanwhile([&e] { e.draft->attach(certificate); });
+        e.draft->attach(certificate);
+        QCOMPARE(e.r.panel.requests().size(), 1);
+    }
+
+    void whatEndsACopy_data()
+    {
+        QTest::addColumn<std::function<void(Edited&)>>("end");
+        using End = std::function<void(Edited&)>;
+        QTest::newRow("the draft ends") << End([](Edited& e) { e.draft.reset(); });
+        QTest::newRow("discarded") << End([](Edited& e) { e.draft->discard(); });
+        QTest::newRow("committed") << End([](Edited& e) { e.draft->commit(); });
+        QTest::newRow("removed") << End([](Edited& e) { e.draft->remove(certificate); });
+        QTest::newRow("the person") << End([](Edited& e) { e.r.work.progress().cancel(); });
+    }
+
+    void whatEndsACopy()
+    {
+        using End = std::function<void(Edited&)>;
+        QFETCH(End, end);
+        Edited e;
+        e.r.work.beSlow();
+        e.beginToAttach(certificate);
+        end(e);
+        QVERIFY(!e.draft || !e.draft->isCopying());
+        QVERIFY(e.r.work.progress().isCancelled());
+        e.r.work.finish();
+        QCOMPARE(e.files(), QStringList(e.old()));
+        QVERIFY(!e.draft || e.result() == e.stored);
+        QCOMPARE(e.r.console.calls(), QStringList());
+    }
+
+    void aCopyThatEndsAfterItsSuccessor()
+    {
+        Edited e;
+        e.r.work.beSlow();
+        e.beginToAttach(certificate);
+        e.r.work.progress().cancel();
+        e.beginToAttach(certificate);
+        e.r.work.finish(1);
+        const QString attached = e.draft->name(certificate).value();
+        e.r.work.finish();
+        QCOMPARE(e.draft->name(certificate), std::optional(attached));
+        QCOMPARE(e.files(), QStringList({e.old(), attached}));
+    }
+
+    void aCancelledCopyThatEndsDuringItsSuccessor()
+    {
+        Edited e;
+        e.r.work.beSlow();
+        e.beginToAttach(certificate);
+        e.r.work.progress().cancel();
+        e.beginToAttach(certificate);
+        e.r.work.finish();
+        QVERIFY(e.draft->isCopying(certificate));
+        e.r.work.finish();
+        QVERIFY(e.draft->name(certificate));
     }
 };
 

@@ -246,6 +246,49 @@ private Q_SLOTS:
         QCOMPARE(s.f.panel.requests().size(), 0);
     }
 
+    /// Should the program end in between, the register never names a file that is gone.
+    void theRegisterHasTheRecordBeforeAFileGoes_data()
+    {
+        QTest::addColumn<bool>("uploads");
+        QTest::newRow("uploading") << true;
+        QTest::newRow("replacing") << false;
+    }
+
+    void theRegisterHasTheRecordBeforeAFileGoes()
+    {
+        QFETCH(bool, uploads);
+        Stored s({onDay(1, "2026-03-01T10:00:00Z")});
+        const QString old = s.attach(receipt);
+        QList<bool> wasThere;
+        connect(&s.f.equipment, &EquipmentViewModel::equipmentChanged, this, [&] {
+            const QByteArray onDisk = s.f.content(registerFile);
+            wasThere.append(s.record().receiptFileName != old && !onDisk.contains(old.toUtf8()) &&
+                            s.f.documents.url(old).has_value());
+        });
+        s.f.panel.answer(s.f.writePdf(u"b.pdf"_s));
+        if (uploads)
+            s.detail->uploadDocument(s.record().id, receipt);
+        else
+            s.detail->replaceDocument(s.record().id, receipt);
+        QCOMPARE(wasThere, QList<bool>{true});
+        QVERIFY(!s.f.documents.url(old));
+    }
+
+    void aFileThatTheOtherSlotNamesStays()
+    {
+        Stored s({onDay(1, "2026-03-01T10:00:00Z")});
+        Equipment item = s.stored();
+        Maintenance& record = item.maintenanceHistory.first();
+        record.receiptFileName = s.attach(receipt);
+        record.certificateFileName = record.receiptFileName;
+        s.f.equipment.updateEquipment(item);
+        s.f.panel.answer(s.f.writePdf(u"b.pdf"_s));
+        s.detail->uploadDocument(record.id, receipt);
+        QVERIFY(s.record().receiptFileName != record.receiptFileName);
+        QVERIFY(s.f.documents.url(s.record().certificateFileName.value()));
+        QCOMPARE(s.f.documentFiles().size(), 2);
+    }
+
     void anEmptySlotIsNotReplaced()
     {
         Stored s({onDay(1, "2026-03-01T10:00:00Z")});

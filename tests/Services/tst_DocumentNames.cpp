@@ -49,7 +49,7 @@ private Q_SLOTS:
         QFETCH(QString, source);
         QFETCH(QString, extension);
         test::TemporaryRegister files;
-        const auto name = files.documents.store(files.write(source, "%PDF"));
+        const auto name = files.stored(files.write(source, "%PDF-1.4"));
         QCOMPARE(name, std::optional<QString>(u"00000000-0000-4000-8000-000000000001."_s + extension));
         QCOMPARE(files.documents.url(*name), std::optional(files.path(inFolder(*name))));
         files.documents.deleteDocument(*name);
@@ -64,8 +64,9 @@ private Q_SLOTS:
         };
         test::TemporaryRegister files;
         OneId ids;
-        MaintenanceDocumentStore store(files.path(u"documents"_s), files.archive, files.panel, ids, files.console);
-        QCOMPARE(store.store(files.write(u"a.pdf"_s, "")),
+        MaintenanceDocumentStore store(files.path(u"documents"_s), files.archive, files.panel, files.work, ids,
+                                       files.console);
+        QCOMPARE(QCoro::waitFor(store.store(files.write(u"a.pdf"_s, "%PDF-1.4"))),
                  std::optional(u"E621E1F8-C36C-495A-93FC-0C247A3E6E5F.pdf"_s));
     }
 
@@ -124,8 +125,8 @@ private Q_SLOTS:
 
         QCOMPARE(files.documents.url(name), std::optional<QString>());
         files.documents.deleteDocument(name);
-        files.panel.answer(files.write(u"new.pdf"_s, "new"));
-        const auto stored = files.documents.pickPDFAndStore(name); // would delete the one it replaces
+        files.panel.answer(files.write(u"new.pdf"_s, "%PDF-1.4"));
+        const auto stored = QCoro::waitFor(files.documents.pickPDFAndStore(name)); // would delete the one it replaces
         QVERIFY(stored);
         files.documents.deleteDocument(*stored);
 

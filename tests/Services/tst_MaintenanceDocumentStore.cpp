@@ -26,6 +26,11 @@ QString failure(int error)
     return u"Errore salvataggio documento: "_s + IoError::fromErrno(error).reason;
 }
 
+std::optional<QString> picked(test::TemporaryRegister& files, const std::optional<QString>& current)
+{
+    return QCoro::waitFor(files.documents.pickPDFAndStore(current));
+}
+
 } // namespace
 
 class tst_MaintenanceDocumentStore : public test::TestCase
@@ -36,7 +41,7 @@ private Q_SLOTS:
     void theFolderIsMadeWhenAskedFor()
     {
         test::TemporaryRegister files;
-        const MaintenanceDocumentStore store(files.path(u"a/b/c"_s), files.archive, files.panel, files.ids,
+        const MaintenanceDocumentStore store(files.path(u"a/b/c"_s), files.archive, files.panel, files.work, files.ids,
                                              files.console);
         QVERIFY(!QFileInfo::exists(files.path(u"a"_s)));
         for (int time = 0; time < 2; ++time) {
@@ -52,7 +57,7 @@ private Q_SLOTS:
         files.write(folder, "in the way");
         const QString source = files.write(u"scontrino.pdf"_s, pdf);
         QVERIFY(!files.documents.documentsDirectory());
-        QVERIFY(!files.documents.store(source));
+        QVERIFY(!files.stored(source));
         QVERIFY(!files.documents.url(first));
         files.documents.deleteDocument(first);
         QCOMPARE(files.console.calls(), QStringList{failure(EEXIST)});
@@ -63,7 +68,7 @@ private Q_SLOTS:
     void thePanelAsksForOnePdf()
     {
         test::TemporaryRegister files;
-        QVERIFY(!files.documents.pickPDFAndStore({}));
+        QVERIFY(!picked(files, {}));
         const FilePanelRequest expected{u"Seleziona il documento PDF"_s,
                                         u"Scegli il PDF (scontrino o certificato) da allegare"_s,
                                         u"Allega"_s,
@@ -78,7 +83,7 @@ private Q_SLOTS:
         test::TemporaryRegister files;
         const QString source = files.write(u"scontrino è.pdf"_s, pdf);
         files.panel.answer(source);
-        QCOMPARE(files.documents.pickPDFAndStore({}), std::optional(first));
+        QCOMPARE(picked(files, {}), std::optional(first));
         QCOMPARE(files.content(inFolder(first)), pdf);
         QCOMPARE(files.content(u"scontrino è.pdf"_s), pdf);
         QCOMPARE(files.documents.url(first), std::optional(files.path(inFolder(first))));
@@ -90,8 +95,8 @@ private Q_SLOTS:
     {
         test::TemporaryRegister files;
         const QString source = files.write(u"scontrino.pdf"_s, pdf);
-        QCOMPARE(files.documents.store(source), std::optional(first));
-        QCOMPARE(files.documents.store(source), std::optional(second));
+        QCOMPARE(files.stored(source), std::optional(first));
+        QCOMPARE(files.stored(source), std::optional(second));
         QCOMPARE(files.names(folder), QStringList({first, second}));
     }
 
@@ -100,7 +105,7 @@ private Q_SLOTS:
         test::TemporaryRegister files;
         files.write(inFolder(u"old.pdf"_s), "old");
         files.panel.answer(files.write(u"new.pdf"_s, pdf));
-        QCOMPARE(files.documents.pickPDFAndStore(u"old.pdf"_s), std::optional(first));
+        QCOMPARE(picked(files, u"old.pdf"_s), std::optional(first));
         QCOMPARE(files.names(folder), QStringList{first});
     }
 
@@ -108,7 +113,7 @@ private Q_SLOTS:
     {
         test::TemporaryRegister files;
         files.panel.answer(files.write(u"new.pdf"_s, pdf));
-        QCOMPARE(files.documents.pickPDFAndStore(u"gone.pdf"_s), std::optional(first));
+        QCOMPARE(picked(files, u"gone.pdf"_s), std::optional(first));
         QCOMPARE(files.console.calls(), QStringList());
     }
 
@@ -116,7 +121,7 @@ private Q_SLOTS:
     {
         test::TemporaryRegister files;
         files.panel.answer(files.write(inFolder(u"old.pdf"_s), pdf));
-        QCOMPARE(files.documents.pickPDFAndStore(u"old.pdf"_s), std::optional(first));
+        QCOMPARE(picked(files, u"old.pdf"_s), std::optional(first));
         QCOMPARE(files.names(folder), QStringList{first});
         QCOMPARE(files.content(inFolder(first)), pdf);
     }
@@ -126,7 +131,7 @@ private Q_SLOTS:
         test::TemporaryRegister files;
         files.panel.grantAccess(true);
         files.write(inFolder(u"old.pdf"_s), "old");
-        QVERIFY(!files.documents.pickPDFAndStore(u"old.pdf"_s));
+        QVERIFY(!picked(files, u"old.pdf"_s));
         QCOMPARE(files.content(inFolder(u"old.pdf"_s)), QByteArray("old"));
         QCOMPARE(files.names(folder).size(), 1);
         QCOMPARE(files.console.calls(), QStringList());
@@ -142,6 +147,7 @@ private Q_SLOTS:
         QTest::newRow("folder") << u"folder.pdf"_s << EISDIR;
         QTest::newRow("below a file") << u"file.pdf/inner.pdf"_s << ENOTDIR;
         QTest::newRow("no file at all") << u"zero.pdf"_s << EINVAL;
+        QTest::newRow("unreadable") << u"memory.pdf"_s << EIO;
     }
 
     void whatCannotBeCopied()
@@ -154,12 +160,23 @@ private Q_SLOTS:
         files.write(u"folder.pdf/inside"_s, "");
         files.write(u"file.pdf"_s, "");
         QVERIFY(QFile::link(u"/dev/zero"_s, files.path(u"zero.pdf"_s)));
+        QVERIFY(QFile::link(u"/proc/self/mem"_s, files.path(u"memory.pdf"_s)));
         files.panel.answer(files.path(source));
-        QVERIFY(!files.documents.pickPDFAndStore(u"old.pdf"_s));
+        QVERIFY(!picked(files, u"old.pdf"_s));
         QCOMPARE(files.console.calls(), QStringList{failure(error)});
         QCOMPARE(files.names(folder), QStringList{u"old.pdf"_s});
         QCOMPARE(files.panel.begun(), QStringList{files.path(source)});
         QCOMPARE(files.panel.ended(), QStringList{files.path(source)});
+    }
+
+    void whatIsNoPdfIsRefused()
+    {
+        test::TemporaryRegister files;
+        files.write(inFolder(u"old.pdf"_s), "old");
+        files.panel.answer(files.write(u"appunti.pdf"_s, "no document at all\n"));
+        QVERIFY(!picked(files, u"old.pdf"_s));
+        QCOMPARE(files.console.calls(), QStringList{u"Errore salvataggio documento: Not a PDF document"_s});
+        QCOMPARE(files.names(folder), QStringList{u"old.pdf"_s});
     }
 
     void aFullDiskLeavesNothingBehind()
@@ -169,7 +186,7 @@ private Q_SLOTS:
         std::optional<QString> stored;
         {
             const test::FileSizeLimit limit(100'000);
-            stored = files.documents.store(source);
+            stored = files.stored(source);
         }
         QVERIFY(!stored);
         QCOMPARE(files.console.calls(), QStringList{failure(EFBIG)});
@@ -180,7 +197,7 @@ private Q_SLOTS:
     {
         test::TemporaryRegister files;
         files.write(inFolder(first), "there before");
-        QVERIFY(!files.documents.store(files.write(u"scontrino.pdf"_s, pdf)));
+        QVERIFY(!files.stored(files.write(u"scontrino.pdf"_s, pdf)));
         QCOMPARE(files.console.calls(), QStringList{failure(EEXIST)});
         QCOMPARE(files.content(inFolder(first)), QByteArray("there before"));
         QCOMPARE(files.names(folder), QStringList{first});
@@ -190,11 +207,11 @@ private Q_SLOTS:
     {
         test::TemporaryRegister files;
         const QString source = files.write(u"scontrino.pdf"_s, pdf);
-        QVERIFY(files.documents.store(source));
+        QVERIFY(files.stored(source));
         QCOMPARE(files.panel.begun(), QStringList{source});
         QCOMPARE(files.panel.ended(), QStringList());
         files.panel.grantAccess(true);
-        QVERIFY(files.documents.store(source));
+        QVERIFY(files.stored(source));
         QCOMPARE(files.panel.begun(), QStringList({source, source}));
         QCOMPARE(files.panel.ended(), QStringList{source});
     }

@@ -48,7 +48,7 @@ public:
         return file.fileName();
     }
     /// A file among the documents; gives its name.
-    [[nodiscard]] QString storedDocument(const QString& name) { return documents.store(writePdf(name)).value(); }
+    [[nodiscard]] QString storedDocument(const QString& name) { return stored(writePdf(name)).value(); }
     [[nodiscard]] QStringList documentFiles() const
     {
         return QDir(directories.maintenanceDocuments()).entryList(QDir::Files, QDir::Name);

@@ -26,12 +26,16 @@ struct TemporaryRegister
     SequentialIds ids;
     RecordingConsole console;
     ScriptedFilePanel panel;
+    ScriptedWork work;
     ApplicationDirectories directories{folder.path(), true};
     AlwaysPermitted permission;
     Generations generations{directories, clock, calendar, console, permission};
     PreferencesStore preferences{directories.preferences(), generations};
     DocumentArchive archive{directories, clock, permission};
-    MaintenanceDocumentStore documents{directories.maintenanceDocuments(), archive, panel, ids, console};
+    MaintenanceDocumentStore documents{directories.maintenanceDocuments(), archive, panel, work, ids, console};
+
+    /// What comes of storing a document.
+    std::optional<QString> stored(const QString& source) { return QCoro::waitFor(documents.store(source)); }
 
     /// Over what is stored, or over `stored`, which takes its place.
     [[nodiscard]] StorageManager storageManager(const std::optional<QList<Equipment>>& stored = std::nullopt)

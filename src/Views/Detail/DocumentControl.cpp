@@ -65,7 +65,8 @@ void DocumentControl::lookLikeLinks(DocumentSlot slot)
 
 void DocumentControl::setPresent(bool present)
 {
-    const bool hadFocus = m_open->hasFocus() || m_takeAway->hasFocus() || m_takeIn->hasFocus();
+    // Also while another window is in front, as a sheet that is about to close.
+    const bool hadFocus = isAncestorOf(window()->focusWidget());
     const bool changes = m_takeIn->isHidden() != present;
     if (changes && hadFocus) {
         // Before the focused button is hidden, which would send the focus elsewhere.

@@ -104,18 +104,26 @@ QWidget* MaintenanceFormView::makeDocument(DocumentSlot slot)
         else
             refresh();
     });
-    connect(document, &DocumentControl::takeAwayClicked, this, [slot, &attachments, refresh] {
-        attachments.remove(slot);
-        refresh();
-    });
-    connect(document, &DocumentControl::takeInClicked, this, [document, slot, &attachments, refresh] {
-        const QPointer<DocumentControl> alive(document);
-        attachments.attach(slot);
-        if (alive)
-            refresh();
-    });
+    connect(document, &DocumentControl::takeAwayClicked, this, [slot, &attachments] { attachments.remove(slot); });
+    connect(document, &DocumentControl::takeInClicked, this, [this, slot] { attach(slot); });
+    connect(&attachments, &AttachmentDraft::changed, document, refresh);
     refresh();
     return new FormRow(documentLabel(slot), document);
+}
+
+QCoro::Task<> MaintenanceFormView::attach(DocumentSlot slot)
+{
+    AttachmentDraft& attachments = m_draft->attachments();
+    if (attachments.isCopying(slot))
+        co_return;
+    m_savesOnceCopied = false;
+    const QPointer<MaintenanceFormView> alive(this);
+    const bool attached = co_await attachments.attach(slot);
+    if (!alive)
+        co_return;
+    const bool saves = std::exchange(m_savesOnceCopied, false);
+    if (saves && attached)
+        save();
 }
 
 QWidget* MaintenanceFormView::makeNextService()
@@ -189,6 +197,10 @@ void MaintenanceFormView::save()
         return;
     if (CheckedField* const field = firstInvalidField()) {
         goTo(field);
+        return;
+    }
+    if (m_draft->attachments().isCopying()) {
+        m_savesOnceCopied = true;
         return;
     }
     m_draft->save(state());

@@ -26,7 +26,8 @@ public:
     /// `opener` must outlive it.
     MaintenanceFormView(std::unique_ptr<MaintenanceDraft> draft, Opener& opener, QWidget* parent = nullptr);
 
-    /// Does nothing while the record lacks its description; takes the person to a date or a cost that is none.
+    /// Does nothing while the record lacks its description; takes the person to a date or a cost that is none. A
+    /// document that is being copied is waited for: should none come of it, the form stays.
     void save();
 
     void reject() override;
@@ -35,6 +36,7 @@ private:
     void buildBody();
     [[nodiscard]] QWidget* makeDetails();
     [[nodiscard]] QWidget* makeDocument(DocumentSlot slot);
+    QCoro::Task<> attach(DocumentSlot slot);
     [[nodiscard]] QWidget* makeNextService();
     void connectFields();
     void showState();
@@ -45,6 +47,7 @@ private:
     Opener& m_opener;
     MaintenanceFormState m_initial;
     bool m_autoUpdateNextDate = true;
+    bool m_savesOnceCopied = false;
 
     DateField* m_date;
     QComboBox* m_type;
