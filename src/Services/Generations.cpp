@@ -2,6 +2,7 @@
 #include "Generations.h"
 
 #include "AtomicFile.h"
+#include "FileIdentity.h"
 #include "Literals.h"
 #include "Retention.h"
 #include "StateFiles.h"
@@ -27,23 +28,18 @@ IoResult<void> Generations::beforeWriting(const QString& key, Occasion occasion)
         occasion = Occasion::firstOfDay;
     if (occasion == Occasion::change || (occasion == Occasion::unreadable && isUnreadableKept(key)))
         return {};
-    auto kept = keep(occasion, QStringList{key});
+    auto kept = keep(occasion);
     if (occasion >= Occasion::unknownMembers)
         return kept;
     report(kept);
     return {};
 }
 
-IoResult<void> Generations::keep(Occasion occasion)
-{
-    return keep(occasion, storedFiles(m_directories.preferences()).keys());
-}
-
 IoResult<void> Generations::keepUnreadable(const QString& key)
 {
     if (auto permitted = m_permission.mayWrite(); !permitted)
         return permitted;
-    return isUnreadableKept(key) ? IoResult<void>() : keep(Occasion::unreadable, QStringList());
+    return isUnreadableKept(key) ? IoResult<void>() : keep(Occasion::unreadable);
 }
 
 QList<EarlierState> Generations::list() const
@@ -64,24 +60,23 @@ std::optional<EarlierState> Generations::find(const QString& name) const
     return found == states.end() ? std::nullopt : std::optional(*found);
 }
 
-IoResult<void> Generations::keep(Occasion occasion, const QStringList& replaced)
+IoResult<void> Generations::keep(Occasion occasion, const QString& spared)
 {
     const QHash<QString, QString> files = storedFiles(m_directories.preferences());
     // Before the register is first stored there is nothing that one would go back to.
     const bool isWorth = files.contains(registerKey) || occasion >= Occasion::unknownMembers;
     if (files.isEmpty() || !isWorth || isKept(files))
         return {};
-    return keepFiles(files, replaced, occasion).map([this] { prune(); });
+    return keepFiles(files, occasion).map([&] { prune(spared); });
 }
 
-IoResult<void> Generations::keepFiles(const QHash<QString, QString>& files, const QStringList& replaced,
-                                      Occasion occasion)
+IoResult<void> Generations::keepFiles(const QHash<QString, QString>& files, Occasion occasion)
 {
     const QString temporary = m_directories.backups() + u'/' + AtomicFile::temporaryName();
     IoResult<void> kept =
         AtomicFile::makeFolder(m_directories.backups()).and_then([&] { return AtomicFile::makeFolder(temporary); });
     for (auto file = files.cbegin(); kept && file != files.cend(); ++file)
-        kept = keepFile(file.key(), *file, temporary, replaced.contains(file.key()));
+        kept = keepFile(file.key(), *file, temporary);
 
     // Names never go back in time, whatever the clock does.
     Instant now = m_clock.now();
@@ -99,18 +94,14 @@ IoResult<void> Generations::keepFiles(const QHash<QString, QString>& files, cons
     return kept;
 }
 
-IoResult<void> Generations::keepFile(const QString& key, const QString& source, const QString& folder,
-                                     bool isReplaced) const
+IoResult<void> Generations::keepFile(const QString& key, const QString& source, const QString& folder) const
 {
     const QString target = folder + u'/' + key + ".json"_L1;
-    if (isReplaced) {
-        if (AtomicFile::link(source, target))
-            return {};
-        return AtomicFile::copy(source, target);
-    }
-    // The stored file stays, and another program might write into it: no second name for that one.
+    // The stored file may stay, if only because replacing it fails, and another program might write into it: no second
+    // name for that one.
     const QString before = newest() ? newest()->files.value(key) : QString();
-    if (!before.isEmpty() && haveSameBytes(before, source) && AtomicFile::link(before, target))
+    const bool isStored = !before.isEmpty() && FileIdentity::of(before) == FileIdentity::of(source);
+    if (!before.isEmpty() && !isStored && haveSameBytes(before, source) && AtomicFile::link(before, target))
         return {};
     auto copied = AtomicFile::copy(source, target);
     // A second name needs neither space nor readable bytes.
@@ -153,9 +144,10 @@ const std::optional<EarlierState>& Generations::newest() const
     return m_newest;
 }
 
-void Generations::prune()
+void Generations::prune(const QString& spared)
 {
-    const QStringList expired = expiredStates(sized(list()), m_calendar);
+    QStringList expired = expiredStates(sized(list()), m_calendar);
+    expired.removeAll(spared);
     for (const QString& name : expired) {
         // It goes at once under a name that the next start would clear away, then piece by piece.
         const QString temporary = m_directories.backups() + u'/' + AtomicFile::temporaryName();

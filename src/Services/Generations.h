@@ -10,8 +10,9 @@
 
 namespace abissora {
 
-/// Keeps earlier states of a register in its backups folder, each a folder that appears whole or not at all, made of
-/// second names of stored files wherever possible: stored files are only ever replaced by renaming.
+/// Keeps earlier states of a register in its backups folder, each a folder that appears whole or not at all. What is as
+/// in the state before is a second name of its file, the rest a copy; a second name of a stored file, into which
+/// another program might write, only where nothing can be copied.
 class Generations final : public StateKeeper
 {
 public:
@@ -25,9 +26,9 @@ public:
     /// until one could be kept again.
     [[nodiscard]] IoResult<void> beforeWriting(const QString& key, Occasion occasion) override;
 
-    /// Keeps the present files, all of which are about to be replaced. Nothing happens when nothing is stored, or when
-    /// the newest state is just this one.
-    IoResult<void> keep(Occasion occasion);
+    /// Keeps the present files. Nothing happens when nothing is stored, or when the newest state is just this one. The
+    /// state called `spared` is not dropped this time.
+    IoResult<void> keep(Occasion occasion, const QString& spared = {});
     /// Not twice the same bytes.
     [[nodiscard]] IoResult<void> keepUnreadable(const QString& key) override;
 
@@ -36,15 +37,13 @@ public:
     [[nodiscard]] std::optional<EarlierState> find(const QString& name) const;
 
 private:
-    /// `replaced` are the keys whose files are about to be replaced.
-    IoResult<void> keep(Occasion occasion, const QStringList& replaced);
-    IoResult<void> keepFiles(const QHash<QString, QString>& files, const QStringList& replaced, Occasion occasion);
-    IoResult<void> keepFile(const QString& key, const QString& source, const QString& folder, bool isReplaced) const;
+    IoResult<void> keepFiles(const QHash<QString, QString>& files, Occasion occasion);
+    IoResult<void> keepFile(const QString& key, const QString& source, const QString& folder) const;
     [[nodiscard]] bool isKept(const QHash<QString, QString>& files) const;
     [[nodiscard]] bool isUnreadableKept(const QString& key) const;
     [[nodiscard]] bool isFirstOfDay() const;
     [[nodiscard]] const std::optional<EarlierState>& newest() const;
-    void prune();
+    void prune(const QString& spared);
     void report(const IoResult<void>& kept);
 
     ApplicationDirectories m_directories;

@@ -48,7 +48,7 @@ IoResult<void> Restoration::restore(const EarlierState& state)
     const QString main = state.files.contains(registerKey) ? registerKey : typesKey;
     if (auto read = readable(main, state.files.value(main)); !read)
         return tl::unexpected(read.error());
-    return m_generations.keep(Occasion::restoration)
+    return m_generations.keep(Occasion::restoration, state.name)
         .and_then([this] { return AtomicFile::makeFolder(m_directories.backups()); })
         .and_then([&] { return AtomicFile::replace(journal(), state.name.toUtf8()); })
         .and_then([&] { return apply(state); })

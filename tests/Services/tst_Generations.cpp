@@ -132,6 +132,22 @@ private Q_SLOTS:
                  FileIdentity::of(states.at(1).files.value(typesKey)));
     }
 
+    void whatCannotBeReplacedIsNoSecondNameEither()
+    {
+        test::TemporaryRegister files;
+        VERIFY_OK(files.preferences.setData(key, QByteArray(100, '1')));
+        {
+            const test::FileSizeLimit limit(100);
+            static_cast<void>(files.preferences.setData(key, QByteArray(1000, 'x'), Occasion::deletedRecord));
+        }
+        files.write(test::registerFile, "foreign"); // in place
+        QCOMPARE(bytesOf(files.generations.list().at(0)), QByteArray(100, '1'));
+        QCOMPARE(files.preferences.retry(), QStringList{key});
+        QCOMPARE(occasions(files), (QList{Occasion::foreignBytes, Occasion::deletedRecord}));
+        QCOMPARE(bytesOf(files.generations.list().at(0)), QByteArray("foreign"));
+        QCOMPARE(bytesOf(files.generations.list().at(1)), QByteArray(100, '1'));
+    }
+
     void aRepeatedSaveKeepsItOnce()
     {
         test::TemporaryRegister files;

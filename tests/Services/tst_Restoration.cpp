@@ -48,6 +48,21 @@ private Q_SLOTS:
         QCOMPARE(files.content(darkMode), QByteArray("true"));
     }
 
+    void theOldestStateComesBackThoughItsTimeIsOver()
+    {
+        test::TemporaryRegister files;
+        for (int i = 1; i <= 21; ++i)
+            VERIFY_OK(files.preferences.setData(registerKey, registerOf(i), Occasion::deletedItem));
+        QCOMPARE(files.generations.list().size(), 20);
+        const EarlierState oldest = files.generations.list().last();
+        VERIFY_OK(restore(files, oldest));
+        QCOMPARE(files.content(test::registerFile), registerOf(1));
+        // It goes with the next one.
+        QVERIFY(files.generations.find(oldest.name));
+        VERIFY_OK(files.preferences.setData(registerKey, registerOf(22), Occasion::deletedItem));
+        QVERIFY(!files.generations.find(oldest.name));
+    }
+
     void unknownMembersComeBackToo()
     {
         test::TemporaryRegister files;
