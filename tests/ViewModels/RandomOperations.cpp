@@ -90,12 +90,12 @@ QString RandomOperations::attach()
     if (item.maintenanceHistory.isEmpty())
         return addRecord();
     const QString source = m_place.path(u"source.pdf"_s);
-    const QByteArray bytes = QByteArray::number(++m_number) + QByteArray(below(400), 'x');
+    const QByteArray bytes = "%PDF-" + QByteArray::number(++m_number) + QByteArray(below(400), 'x');
     if (!AtomicFile::replace(source, bytes))
         return u"no source"_s;
     m_place.console.clear();
     std::optional<QString> name;
-    hindered([&] { name = m_run->documents.store(source); });
+    hindered([&] { name = QCoro::waitFor(m_run->documents.store(source)); });
     const bool isTooLarge = m_hindrance == Hindrance::noSpace && bytes.size() > 250;
     if (name.has_value() == isTooLarge && m_hindrance != Hindrance::littleSpace)
         return u"the document was stored, or not, against expectation"_s;

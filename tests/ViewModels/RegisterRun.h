@@ -33,6 +33,7 @@ struct RegisterPlace
     SequentialIds ids;
     RecordingConsole console;
     ScriptedFilePanel panel;
+    ScriptedWork work;
     FakeSymbolLibrary symbols;
     AlwaysPermitted permission;
 };
@@ -45,7 +46,8 @@ struct RegisterRun
         : generations(place.directories, place.clock, place.calendar, place.console, place.permission)
         , preferences(place.directories.preferences(), generations)
         , archive(place.directories, place.clock, place.permission)
-        , documents(place.directories.maintenanceDocuments(), archive, place.panel, place.ids, place.console)
+        , documents(place.directories.maintenanceDocuments(), archive, place.panel, place.work, place.ids,
+                    place.console)
         , catalogue((clearUp(place.directories, generations),
                      StorageManager(preferences, place.console, place.clock, place.calendar, place.ids)),
                     documents, place.console, place.clock, place.calendar)

@@ -64,11 +64,12 @@ struct World
     SequentialIds ids;
     RecordingConsole console;
     ScriptedFilePanel panel;
+    ScriptedWork work;
     FakeSymbolLibrary symbols;
     Generations generations{directories, clock, calendar, console, lock};
     PreferencesStore preferences{directories.preferences(), generations};
     DocumentArchive archive{directories, clock, lock};
-    MaintenanceDocumentStore documents{directories.maintenanceDocuments(), archive, panel, ids, console};
+    MaintenanceDocumentStore documents{directories.maintenanceDocuments(), archive, panel, work, ids, console};
     std::optional<EquipmentViewModel> equipment;
     std::optional<EquipmentTypeViewModel> types;
     std::optional<SaveRetry> retry;
@@ -90,7 +91,7 @@ void run(World& world, Operation operation)
     }
     case Operation::attach: {
         Maintenance record = maintenance(99);
-        record.receiptFileName = world.documents.store(world.directories.root() + u".source.pdf"_s);
+        record.receiptFileName = QCoro::waitFor(world.documents.store(world.directories.root() + u".source.pdf"_s));
         if (record.receiptFileName)
             equipment.addMaintenance(first.id, record);
         break;
