@@ -15,7 +15,7 @@ QString perUserFolder(QStandardPaths::StandardLocation location)
     return QStandardPaths::writableLocation(location) + "/abissora"_L1;
 }
 
-/// What survives a restart but is worth no backup; the XDG base directory specification gives the place.
+/// What survives a restart but is worth no backup; where it belongs XDG_STATE_HOME says.
 QString stateFolder()
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)

@@ -60,10 +60,10 @@ private Q_SLOTS:
 
     void otherRegistersHaveTheirOwn()
     {
-        const ApplicationDirectories one(u"/tmp/one"_s);
-        const ApplicationDirectories two(u"/tmp/two"_s);
+        const ApplicationDirectories one(u"/one"_s);
+        const ApplicationDirectories two(u"/two"_s);
         QVERIFY(one.emergency() != two.emergency());
-        QCOMPARE(one.emergency(), ApplicationDirectories(u"/tmp/one/"_s, true).emergency());
+        QCOMPARE(one.emergency(), ApplicationDirectories(u"/one/"_s, true).emergency());
     }
 
 private:
