@@ -16,6 +16,10 @@
 ///            first
 ///
 /// Only calls on what lies under a folder count, when one is given.
+///
+/// A program that is preloaded with the library has plan and folder from ABISSORA_FAILING_CALLS and
+/// ABISSORA_FAILING_CALLS_UNDER; it appends each call that changes the disk, with its number, to the file
+/// ABISSORA_FAILING_CALLS_LOG. Every process counts for itself.
 namespace abissora::test::calls {
 
 enum class Action { None, Fail, Short, Zero, KillBefore, KillAfter };
