@@ -61,6 +61,9 @@ void Restoration::complete()
     if (!name)
         return;
     const auto state = m_generations.find(QString::fromUtf8(*name));
+    // One that failed, on a full disk for instance, left a program that went on and may have stored more since.
+    if (state && !m_generations.keep(Occasion::restoration, state->name))
+        return;
     if (!state || apply(*state))
         static_cast<void>(AtomicFile::remove(journal()));
 }

@@ -138,6 +138,19 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo::exists(files.path(journal)));
     }
 
+    void whatWasStoredAfterAFailureIsKeptFirst()
+    {
+        test::TemporaryRegister files;
+        const EarlierState before = keptAndChanged(files);
+        files.write(journal, before.name.toUtf8());
+        VERIFY_OK(files.preferences.setData(registerKey, registerOf(5))); // the program went on
+        clearUp(files.directories, files.generations);
+        QCOMPARE(files.content(test::registerFile), registerOf(1));
+        const EarlierState kept = files.generations.list().first();
+        QCOMPARE(kept.occasion, Occasion::restoration);
+        QCOMPARE(readContent(kept).equipment.records, QList{test::equipment(5)});
+    }
+
     void aJournalOfNoStateGoes()
     {
         test::TemporaryRegister files;
