@@ -105,7 +105,7 @@ private:
         program.setProcessEnvironment(environment);
         program.setWorkingDirectory(m_folder->path());
         program.start(u"python3"_s, {u"-B"_s, u"-c"_s, QString::fromUtf8(script), m_folder->path()});
-        QVERIFY(program.waitForFinished());
+        QVERIFY(program.waitForFinished(-1));
         m_complaints = program.readAllStandardError();
         m_status = program.exitCode();
     }

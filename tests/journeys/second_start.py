@@ -46,6 +46,7 @@ def journey(run, data):
     # It goes on: tried again, the first comes forward.
     second = start_in_vain()
     first.process.send_signal(signal.SIGCONT)
+    first.find(Atspi.Role.LABEL, "3 articoli")
     second.press(second.find(Atspi.Role.PUSH_BUTTON, "Riprova"))
     second.wait_for_end(0)
     assert first.process.poll() is None
