@@ -155,6 +155,7 @@ class Program:
     @staticmethod
     def press(node):
         actions = node.get_action_iface()
+        assert actions, "what should be pressed is gone, or takes no action"
         names = [actions.get_action_name(i) for i in range(actions.get_n_actions())]
         for wanted in ("Press", "press", "Toggle", "click", "ShowMenu", "showMenu"):
             if wanted in names:
