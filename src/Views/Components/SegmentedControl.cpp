@@ -137,9 +137,9 @@ void SegmentedControl::addSegment(const QString& symbol, const QString& text)
 {
     const auto role = m_purpose == Purpose::Tabs ? QAccessible::PageTab : QAccessible::RadioButton;
     auto* segment = new Segment(role, symbol, text, this);
-    segment->setFocusPolicy(Qt::StrongFocus);
     m_group->addButton(segment, count());
     layout()->addWidget(segment);
+    placeTabStop();
 }
 
 void SegmentedControl::addSegment(const QString& text)
@@ -167,6 +167,18 @@ void SegmentedControl::setCurrentIndex(int index)
         checked->setChecked(false);
         m_group->setExclusive(true);
     }
+    placeTabStop();
+}
+
+void SegmentedControl::placeTabStop()
+{
+    QAbstractButton* const stop = m_group->button(std::max(0, m_current));
+    const auto segments = m_group->buttons();
+    const bool moves = std::ranges::any_of(segments, [](const QWidget* segment) { return segment->hasFocus(); });
+    for (QAbstractButton* segment : segments)
+        segment->setFocusPolicy(segment == stop ? Qt::StrongFocus : Qt::ClickFocus);
+    if (moves && !stop->hasFocus())
+        stop->setFocus(Qt::OtherFocusReason);
 }
 
 void SegmentedControl::choose(int index)
@@ -174,6 +186,7 @@ void SegmentedControl::choose(int index)
     if (index == m_current)
         return;
     m_current = index;
+    placeTabStop();
     Q_EMIT activated(index);
 }
 

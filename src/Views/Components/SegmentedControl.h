@@ -7,7 +7,8 @@ class QButtonGroup;
 
 namespace abissora {
 
-/// One choice out of a few that stand side by side. The arrow keys move the choice.
+/// One choice out of a few that stand side by side. One stop of Tab, at what is chosen, else at the first; the arrow
+/// keys move the choice, and the focus goes with it.
 class SegmentedControl : public QWidget
 {
     Q_OBJECT
@@ -38,6 +39,8 @@ protected:
 
 private:
     void choose(int index);
+    /// The focus of one segment goes over to the stop.
+    void placeTabStop();
 
     Purpose m_purpose;
     QButtonGroup* m_group;

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void anIndexThatIsNotThereChoosesNothing();
     void theArrowKeysMoveTheChoice();
     void tabReachesTheChoiceOnly();
+    void isOneStopOfTab();
+    void theFocusFollowsTheProgramsChoice();
     void tabsAreReadAsTabs();
     void aChoiceIsReadAsRadioButtons();
     void aScreenReaderChoosesLikeAPerson();
@@ -117,6 +119,27 @@ void tst_SegmentedControl::tabReachesTheChoiceOnly()
     QTest::keyClick(segment(*control, 1), Qt::Key_Tab);
     QVERIFY(!before->hasFocus());
     QVERIFY(!segment(*control, 2)->hasFocus());
+}
+
+void tst_SegmentedControl::isOneStopOfTab()
+{
+    for (const int chosen : {-1, 0, 1, 2}) {
+        const auto control = intervals(SegmentedControl::Purpose::Choice);
+        control->setCurrentIndex(2);
+        control->setCurrentIndex(chosen);
+        for (int index = 0; index < control->count(); ++index)
+            QCOMPARE(segment(*control, index)->focusPolicy() == Qt::StrongFocus, index == std::max(0, chosen));
+    }
+}
+
+void tst_SegmentedControl::theFocusFollowsTheProgramsChoice()
+{
+    const auto control = intervals(SegmentedControl::Purpose::Tabs);
+    control->setCurrentIndex(0);
+    test::activate(*control);
+    segment(*control, 0)->setFocus();
+    control->setCurrentIndex(2);
+    QVERIFY(segment(*control, 2)->hasFocus());
 }
 
 void tst_SegmentedControl::tabsAreReadAsTabs()
