@@ -154,9 +154,9 @@ QWidget* MarevoloApp::makeSettings()
     return new SettingsView(m_settings, m_types, m_updates, {m_info, m_product}, m_ids, m_opener);
 }
 
-EquipmentFormView* MarevoloApp::makeFormForNew(QWidget* over)
+EquipmentFormView* MarevoloApp::makeFormForNew(const std::optional<Equipment>& like, QWidget* over)
 {
-    return new EquipmentFormView(m_equipment, m_types, m_almanac, m_ids, over);
+    return new EquipmentFormView(m_equipment, m_types, m_almanac, m_ids, like, over);
 }
 
 EditEquipmentView* MarevoloApp::makeFormFor(const Equipment& equipment, QWidget* over)

@@ -70,7 +70,7 @@ private:
     QWidget* makeOverview() override;
     QWidget* makeStatistics() override;
     QWidget* makeSettings() override;
-    EquipmentFormView* makeFormForNew(QWidget* over) override;
+    EquipmentFormView* makeFormForNew(const std::optional<Equipment>& like, QWidget* over) override;
     EditEquipmentView* makeFormFor(const Equipment& equipment, QWidget* over) override;
     ViewSheet* makeRestore(QWidget* over) override;
     bool hasStateToLookAt() const override;

@@ -28,6 +28,14 @@ EquipmentFormState EquipmentFormState::ofNewItem(Instant now)
     return state;
 }
 
+EquipmentFormState EquipmentFormState::ofAnotherLike(const Equipment& item)
+{
+    EquipmentFormState state = of(item);
+    state.serialNumber.clear();
+    state.isActive = true;
+    return state;
+}
+
 bool EquipmentFormState::isFormValid() const
 {
     return !name.trimmed().isEmpty() && !brand.trimmed().isEmpty();

@@ -25,6 +25,9 @@ struct EquipmentFormState
     /// Of an item that was bought and serviced now.
     [[nodiscard]] static EquipmentFormState ofNewItem(Instant now);
 
+    /// Of a new item like this one, which is another piece: without its serial number, and active.
+    [[nodiscard]] static EquipmentFormState ofAnotherLike(const Equipment& item);
+
     /// Name and brand hold more than white space.
     [[nodiscard]] bool isFormValid() const;
     /// The last service plus the type's interval; the present moment when the calendar cannot produce the date.

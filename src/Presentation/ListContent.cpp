@@ -30,9 +30,14 @@ ListContent ListContent::of(const EquipmentViewModel& equipment, const Equipment
     return content;
 }
 
+ListContent::Narrowing ListContent::narrowingOf(const EquipmentViewModel& equipment)
+{
+    return {equipment.searchText(), equipment.filterTypeName(), equipment.selectedType()};
+}
+
 bool ListContent::isNarrowed(const EquipmentViewModel& equipment)
 {
-    return !equipment.searchText().isEmpty() || equipment.filterTypeName() || equipment.selectedType();
+    return narrowingOf(equipment) != Narrowing();
 }
 
 } // namespace abissora

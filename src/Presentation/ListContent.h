@@ -19,6 +19,16 @@ struct ListContent
         friend bool operator==(const Filter&, const Filter&) = default;
     };
 
+    /// What hides items.
+    struct Narrowing
+    {
+        QString searchText;
+        std::optional<QString> filterTypeName;
+        std::optional<EquipmentType> selectedType;
+
+        friend bool operator==(const Narrowing&, const Narrowing&) = default;
+    };
+
     QList<Equipment> items;
     std::optional<Filter> filter;
     QString offer; ///< of the button in the place of the rows
@@ -28,6 +38,7 @@ struct ListContent
 
     /// Reads the filtered list once.
     [[nodiscard]] static ListContent of(const EquipmentViewModel& equipment, const EquipmentTypeViewModel& types);
+    [[nodiscard]] static Narrowing narrowingOf(const EquipmentViewModel& equipment);
     /// A search or a filter may hide items.
     [[nodiscard]] static bool isNarrowed(const EquipmentViewModel& equipment);
 };

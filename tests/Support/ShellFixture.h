@@ -43,9 +43,9 @@ public:
     {
         return new SettingsView(settings, types, updates, {info, product}, ids, opener);
     }
-    EquipmentFormView* makeFormForNew(QWidget* over) override
+    EquipmentFormView* makeFormForNew(const std::optional<Equipment>& like, QWidget* over) override
     {
-        return new EquipmentFormView(equipment, types, almanac, ids, over);
+        return new EquipmentFormView(equipment, types, almanac, ids, like, over);
     }
     EditEquipmentView* makeFormFor(const Equipment& item, QWidget* over) override
     {

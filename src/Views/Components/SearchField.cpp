@@ -38,6 +38,10 @@ void SearchField::keyPressEvent(QKeyEvent* event)
         event->accept();
         return;
     }
+    if (event->key() == Qt::Key_Down && event->modifiers() == Qt::NoModifier) {
+        Q_EMIT resultsRequested();
+        return;
+    }
     QLineEdit::keyPressEvent(event);
 }
 

@@ -13,6 +13,10 @@ class SearchField : public QLineEdit
 public:
     explicit SearchField(const QString& placeholder, QWidget* parent = nullptr);
 
+Q_SIGNALS:
+    /// The Down key: the person wants to go on to what was found.
+    void resultsRequested();
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
 

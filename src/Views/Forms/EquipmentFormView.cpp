@@ -191,8 +191,10 @@ Instant EquipmentForm::nextServiceDate(const EquipmentFormState& entered) const
 }
 
 EquipmentFormView::EquipmentFormView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types,
-                                     const Almanac& almanac, IdGenerator& ids, QWidget* parent)
-    : EquipmentForm(Purpose::Add, u"Nuova Attrezzatura"_s, types, almanac, EquipmentFormState::ofNewItem(almanac.now()),
+                                     const Almanac& almanac, IdGenerator& ids, const std::optional<Equipment>& like,
+                                     QWidget* parent)
+    : EquipmentForm(Purpose::Add, u"Nuova Attrezzatura"_s, types, almanac,
+                    like ? EquipmentFormState::ofAnotherLike(*like) : EquipmentFormState::ofNewItem(almanac.now()),
                     parent)
     , m_equipment(equipment)
     , m_ids(ids)
@@ -202,7 +204,9 @@ void EquipmentFormView::save(const EquipmentFormState& state, Instant nextServic
 {
     Equipment item;
     item.id = m_ids.next();
-    m_equipment.addEquipment(state.appliedTo(item, nextServiceDate));
+    item = state.appliedTo(item, nextServiceDate);
+    m_equipment.addEquipment(item);
+    Q_EMIT saved(item);
 }
 
 EditEquipmentView::EditEquipmentView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types,

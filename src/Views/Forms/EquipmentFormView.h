@@ -25,6 +25,10 @@ class EquipmentForm : public Sheet
 {
     Q_OBJECT
 
+Q_SIGNALS:
+    /// The register has taken the item over.
+    void saved(const abissora::Equipment& equipment);
+
 protected:
     enum class Purpose { Add, Edit };
 
@@ -74,9 +78,9 @@ class EquipmentFormView final : public EquipmentForm
     Q_OBJECT
 
 public:
-    /// Everything passed by reference must outlive it.
+    /// Filled from another item where that is given. The state objects and the generator must outlive it.
     EquipmentFormView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types, const Almanac& almanac,
-                      IdGenerator& ids, QWidget* parent = nullptr);
+                      IdGenerator& ids, const std::optional<Equipment>& like = std::nullopt, QWidget* parent = nullptr);
 
 protected:
     void save(const EquipmentFormState& state, Instant nextServiceDate) override;
@@ -95,10 +99,6 @@ public:
     /// The state objects must outlive it.
     EditEquipmentView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types, const Almanac& almanac,
                       const Equipment& item, QWidget* parent = nullptr);
-
-Q_SIGNALS:
-    /// The register has taken the item over.
-    void saved(const abissora::Equipment& equipment);
 
 protected:
     void save(const EquipmentFormState& state, Instant nextServiceDate) override;

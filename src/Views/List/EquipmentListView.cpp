@@ -110,6 +110,13 @@ void EquipmentListView::connectControls()
             m_equipment.setSearchText(text);
     });
 
+    connect(m_search, &SearchField::resultsRequested, this, [this] {
+        if (m_content->currentWidget() == m_table)
+            m_table->goToFirstRow();
+        else
+            focusContent();
+    });
+
     connect(m_filterMenu, &QMenu::aboutToShow, this,
             [this] { m_filterMenu->setEntries(m_types.filteredTypes(), ListContent::isNarrowed(m_equipment)); });
     connect(m_filterMenu, &FilterMenu::allChosen, this, showAllTypes);
@@ -138,12 +145,21 @@ void EquipmentListView::connectTable()
     });
     connect(m_table, &EquipmentTableView::deleteRequested, this,
             [this, itemOf](int row) { confirmDeletion(itemOf(row)); });
+    connect(m_table, &RowTable::placeChanged, this, &EquipmentListView::placeChanged);
 }
 
 void EquipmentListView::setSelectedEquipment(const std::optional<Equipment>& equipment)
 {
     m_selectedEquipment = equipment;
     m_table->showSelected(equipment ? std::optional(equipment->id) : std::nullopt);
+}
+
+std::optional<Equipment> EquipmentListView::equipmentAtKeyboard() const
+{
+    const QModelIndex place = m_table->currentIndex();
+    if (!m_table->hasKeyboard() || !place.isValid())
+        return std::nullopt;
+    return m_table->equipmentModel().equipment().at(place.row());
 }
 
 void EquipmentListView::confirmDeletion(const Equipment& equipment)
@@ -195,6 +211,17 @@ void EquipmentListView::redraw()
     m_dueCount->setText(content.dueCount);
     m_dueCount->setVisible(!content.dueCount.isEmpty());
     m_activeCount->setText(content.activeCount);
+    tellWhetherListed();
+}
+
+void EquipmentListView::tellWhetherListed()
+{
+    const auto before = std::exchange(m_narrowing, ListContent::narrowingOf(m_equipment));
+    if (!m_selectedEquipment)
+        return;
+    const bool listed = m_table->equipmentModel().rowOf(m_selectedEquipment->id) >= 0;
+    if (listed || before != m_narrowing)
+        Q_EMIT selectionListed(listed);
 }
 
 void EquipmentListView::select(const std::optional<Equipment>& equipment)

@@ -4,6 +4,7 @@
 #include "Almanac.h"
 #include "EquipmentTypeViewModel.h"
 #include "EquipmentViewModel.h"
+#include "ListContent.h"
 #include "VisibleUpdate.h"
 
 #include <QWidget>
@@ -32,8 +33,10 @@ public:
     EquipmentListView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types, Almanac almanac,
                       Console& console, IdGenerator& ids, QWidget* parent = nullptr);
 
-    /// The item that the parent shows in detail; a copy.
+    /// The item that the parent shows in detail; a copy. Its row comes into sight with the next redraw that has one.
     void setSelectedEquipment(const std::optional<Equipment>& equipment);
+    /// The item at whose row the keyboard stands, selected or not; nothing while the keyboard is elsewhere.
+    [[nodiscard]] std::optional<Equipment> equipmentAtKeyboard() const;
 
     /// Asks before it deletes.
     void confirmDeletion(const Equipment& equipment);
@@ -53,6 +56,10 @@ Q_SIGNALS:
     void equipmentSelected(const std::optional<abissora::Equipment>& equipment);
     void editRequested(const abissora::Equipment& equipment);
     void addRequested();
+    /// The selected item has a row; or it has none since the search or a filter changed.
+    void selectionListed(bool listed);
+    /// The keyboard stands at another row, or came or went.
+    void placeChanged();
 
 private:
     void buildLayout();
@@ -60,6 +67,7 @@ private:
     void connectControls();
     void connectTable();
     void redraw();
+    void tellWhetherListed();
     void select(const std::optional<Equipment>& equipment);
     void edit(const Equipment& equipment);
     void clearFilters();
@@ -72,6 +80,7 @@ private:
     IdGenerator& m_ids;
     VisibleUpdate m_update;
     std::optional<Equipment> m_selectedEquipment;
+    ListContent::Narrowing m_narrowing;
     std::optional<Equipment> m_equipmentToDelete;
     Equipment m_equipmentOfActions; ///< whose row the menu was opened for
     QUuid m_refreshID;

@@ -106,7 +106,9 @@ void EquipmentTableDelegate::paint(QPainter* painter, const QStyleOptionViewItem
     const QRect cell = option.rect.adjusted(metrics::spaceS, 0, -metrics::spaceXS, 0);
     const EquipmentRow row = m_model.row(index.row());
     const bool focused = showsFocusRing(option);
-    if (focused && index.column() != EquipmentTableModel::ActionsColumn)
+    // The table rings whole rows, the button its own cell.
+    if (focused && index.column() != EquipmentTableModel::NameColumn &&
+        index.column() != EquipmentTableModel::ActionsColumn)
         drawFocusRing(*painter, option.rect.adjusted(1, 1, -1, -1), metrics::spaceXS, option.palette);
     switch (index.column()) {
     case EquipmentTableModel::NameColumn:

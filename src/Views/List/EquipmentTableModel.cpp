@@ -24,6 +24,12 @@ int EquipmentTableModel::rowOf(const QUuid& id) const
     return found == m_equipment.end() ? -1 : static_cast<int>(found - m_equipment.begin());
 }
 
+std::optional<Equipment> EquipmentTableModel::itemOf(const QUuid& id) const
+{
+    const int row = rowOf(id);
+    return row < 0 ? std::nullopt : std::optional(m_equipment.at(row));
+}
+
 int EquipmentTableModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_equipment.size());

@@ -24,6 +24,8 @@ public:
     [[nodiscard]] EquipmentRow row(int row) const;
     /// -1 when no row shows the item.
     [[nodiscard]] int rowOf(const QUuid& id) const;
+    /// As its row shows it; nothing when no row does.
+    [[nodiscard]] std::optional<Equipment> itemOf(const QUuid& id) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;

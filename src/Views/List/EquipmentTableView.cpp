@@ -60,19 +60,15 @@ void squeeze(Widths& columns, const Widths& least, int lack)
 } // namespace
 
 EquipmentTableView::EquipmentTableView(QWidget* parent)
-    : QTableView(parent)
+    : RowTable(parent)
     , m_delegate(m_model)
 {
     setObjectName(u"equipmentTable"_s);
     setAccessibleName(u"Attrezzatura Subacquea"_s);
     setModel(&m_model);
     setItemDelegate(&m_delegate);
-    setSelectionBehavior(SelectRows);
-    setSelectionMode(SingleSelection);
-    setEditTriggers(NoEditTriggers);
     setShowGrid(false);
     setMouseTracking(true);
-    setTabKeyNavigation(false);
     setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollMode(ScrollPerPixel);
     setCornerButtonEnabled(false);
@@ -89,6 +85,8 @@ void EquipmentTableView::showEquipment(const QList<Equipment>& equipment, const 
                                        const std::optional<QUuid>& selected)
 {
     const int scrolled = verticalScrollBar()->value();
+    const auto shownBefore = selected ? m_model.itemOf(*selected) : std::nullopt;
+    const bool wasInSight = shownBefore && isInSight(m_model.rowOf(*selected));
     const QModelIndex before = currentIndex();
     const std::optional<QUuid> current =
         before.isValid() ? std::optional(m_model.equipment().at(before.row()).id) : std::nullopt;
@@ -103,6 +101,14 @@ void EquipmentTableView::showEquipment(const QList<Equipment>& equipment, const 
             keepPlace(*current, rowBefore, column);
     }
     verticalScrollBar()->setValue(scrolled);
+    const int row = selected ? m_model.rowOf(*selected) : -1;
+    if (row >= 0 && (wasInSight || shownBefore != m_model.equipment().at(row)))
+        scrollTo(m_model.index(row, column));
+}
+
+bool EquipmentTableView::isInSight(int row) const
+{
+    return row >= 0 && viewport()->rect().contains(QPoint(0, rowViewportPosition(row)));
 }
 
 void EquipmentTableView::keepPlace(const QUuid& id, int rowBefore, int column)
@@ -125,7 +131,6 @@ void EquipmentTableView::showSelected(const std::optional<QUuid>& id)
 
 void EquipmentTableView::contextMenuEvent(QContextMenuEvent* event)
 {
-    // A right click has selected the row already; the keyboard means the current one.
     const QModelIndex index = event->reason() == QContextMenuEvent::Mouse ? indexAt(event->pos()) : currentIndex();
     if (!index.isValid())
         return;
@@ -133,14 +138,6 @@ void EquipmentTableView::contextMenuEvent(QContextMenuEvent* event)
         Q_EMIT actionsRequested(index.row(), event->globalPos());
     else
         requestActions(index);
-}
-
-void EquipmentTableView::focusInEvent(QFocusEvent* event)
-{
-    QTableView::focusInEvent(event);
-    // The keyboard needs a place to start from; the selection is the person's own choice.
-    if (!currentIndex().isValid() && m_model.rowCount() > 0)
-        selectionModel()->setCurrentIndex(m_model.index(0, 0), QItemSelectionModel::NoUpdate);
 }
 
 void EquipmentTableView::keyPressEvent(QKeyEvent* event)
@@ -154,11 +151,6 @@ void EquipmentTableView::keyPressEvent(QKeyEvent* event)
             selectRow(current.row());
         return;
     }
-    const bool moves = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
-    if (current.isValid() && moves && event->modifiers() == Qt::NoModifier && !selectionModel()->hasSelection()) {
-        selectRow(current.row()); // where the keyboard stands, not past it
-        return;
-    }
     if (current.isValid() && event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
         requestActions(current);
         return;
@@ -167,18 +159,18 @@ void EquipmentTableView::keyPressEvent(QKeyEvent* event)
         Q_EMIT deleteRequested(current.row());
         return;
     }
-    QTableView::keyPressEvent(event);
+    RowTable::keyPressEvent(event);
 }
 
 void EquipmentTableView::leaveEvent(QEvent* event)
 {
-    QTableView::leaveEvent(event);
+    RowTable::leaveEvent(event);
     setHover({}, false);
 }
 
 void EquipmentTableView::mouseMoveEvent(QMouseEvent* event)
 {
-    QTableView::mouseMoveEvent(event);
+    RowTable::mouseMoveEvent(event);
     const QModelIndex index = indexAt(event->pos());
     setHover(index, isOnActionButton(index, event->pos()));
 }
@@ -190,18 +182,18 @@ void EquipmentTableView::mousePressEvent(QMouseEvent* event)
         requestActions(index);
         return;
     }
-    QTableView::mousePressEvent(event);
+    RowTable::mousePressEvent(event);
 }
 
 void EquipmentTableView::resizeEvent(QResizeEvent* event)
 {
     layOutColumns();
-    QTableView::resizeEvent(event);
+    RowTable::resizeEvent(event);
 }
 
 void EquipmentTableView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
-    QTableView::selectionChanged(selected, deselected);
+    RowTable::selectionChanged(selected, deselected);
     if (m_silent)
         return;
     const QModelIndexList rows = selectionModel()->selectedRows();
@@ -210,7 +202,7 @@ void EquipmentTableView::selectionChanged(const QItemSelection& selected, const 
 
 void EquipmentTableView::changeEvent(QEvent* event)
 {
-    QTableView::changeEvent(event);
+    RowTable::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
         adjustToText();
 }

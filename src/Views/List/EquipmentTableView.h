@@ -2,18 +2,17 @@
 #pragma once
 
 #include "EquipmentTableDelegate.h"
-
-#include <QTableView>
+#include "RowTable.h"
 
 namespace abissora {
 
-/// The register's table. One row is selected at a time; the actions of a row open from its button, by right click, by
+/// The register's table. The actions of a row open from its button, by right click, by
 /// the Menu key or Shift+F10, and by Return or Space on its last cell.
 ///
 /// Its columns together are as wide as its viewport. Spare width goes to names, makes, models and dates by fixed
 /// shares. In a narrow viewport makes and models give way first, names and dates last, each down to a least width;
 /// below that the table scrolls. A date's least width holds its abbreviated form.
-class EquipmentTableView : public QTableView
+class EquipmentTableView : public RowTable
 {
     Q_OBJECT
 
@@ -22,8 +21,8 @@ public:
 
     [[nodiscard]] EquipmentTableModel& equipmentModel() { return m_model; }
 
-    /// Replaces the rows, keeping the scroll position and the current row. The row of `selected` stays selected; emits
-    /// nothing.
+    /// Replaces the rows, keeping the scroll position and the current row. The row of `selected` stays selected, and in
+    /// sight where it was; one that is new or holds something else comes into sight. Emits nothing about it.
     void showEquipment(const QList<Equipment>& equipment, const EquipmentRowMaker& rows,
                        const std::optional<QUuid>& selected);
     /// Selects the item's row, or none; emits nothing.
@@ -39,7 +38,6 @@ Q_SIGNALS:
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -50,6 +48,7 @@ protected:
 
 private:
     [[nodiscard]] bool isOnActionButton(const QModelIndex& index, QPoint position) const;
+    [[nodiscard]] bool isInSight(int row) const;
     void requestActions(const QModelIndex& index);
     /// The keyboard goes on from the item, or from its row once it is gone.
     void keepPlace(const QUuid& id, int rowBefore, int column);

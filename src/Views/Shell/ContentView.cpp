@@ -2,7 +2,6 @@
 #include "ContentView.h"
 
 #include "EmptyState.h"
-#include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
 #include "Literals.h"
@@ -11,31 +10,21 @@
 #include "SidebarView.h"
 #include "ViewSheet.h"
 
-#include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace abissora {
-
-namespace {
-
-constexpr int detailWidth = 385;
-constexpr int leastListWidth = 440; // its table with every column
-
-} // namespace
 
 ContentView::ContentView(ScreenFactory& factory, EquipmentViewModel& equipment, QWidget* parent)
     : QWidget(parent)
     , m_factory(factory)
     , m_equipment(equipment)
     , m_splitter(new QSplitter)
-    , m_listSplitter(new QSplitter)
     , m_sidebar(factory.makeSidebar())
     , m_pages(new QStackedWidget)
     , m_tabs(new SegmentedControl)
     , m_screens(new QStackedWidget)
-    , m_list(factory.makeList())
-    , m_detailPane(new QWidget)
+    , m_listPage(new ListPage(factory, equipment))
     , m_tabArea(makeTabArea())
 {
     m_pages->addWidget(m_tabArea);
@@ -53,10 +42,10 @@ ContentView::ContentView(ScreenFactory& factory, EquipmentViewModel& equipment, 
     connect(m_sidebar, &SidebarView::tabRequested, this, &ContentView::setSelectedTab);
     connect(m_sidebar, &SidebarView::selectedSidebarItemChanged, this, &ContentView::showPage);
     connect(m_tabs, &SegmentedControl::activated, this, &ContentView::setSelectedTab);
-    connect(m_list, &EquipmentListView::equipmentSelected, this, &ContentView::setSelectedEquipment);
-    connect(m_list, &EquipmentListView::addRequested, this, &ContentView::addEquipment);
-    connect(m_list, &EquipmentListView::editRequested, this, &ContentView::editEquipment);
-    connect(&equipment, &EquipmentViewModel::equipmentChanged, this, &ContentView::forgetDeletedSelection);
+    connect(&list(), &EquipmentListView::addRequested, this, &ContentView::addEquipment);
+    connect(&list(), &EquipmentListView::editRequested, this, &ContentView::editEquipment);
+    connect(m_listPage, &ListPage::itemChanged, this, &ContentView::itemChanged);
+    connect(this, &ContentView::pageChanged, this, &ContentView::itemChanged);
 }
 
 void ContentView::setSelectedTab(int tab)
@@ -68,44 +57,66 @@ void ContentView::setSelectedTab(int tab)
     Q_EMIT selectedTabChanged();
 }
 
-void ContentView::setSelectedEquipment(const std::optional<Equipment>& equipment)
+void ContentView::showTab(int tab)
 {
-    if (equipment == m_selectedEquipment)
-        return;
-    m_selectedEquipment = equipment;
-    m_list->setSelectedEquipment(equipment);
-    showDetail();
-    Q_EMIT selectedEquipmentChanged();
+    if (isShowingSettings())
+        leaveSettings(tab);
+    setSelectedTab(tab);
 }
 
-void ContentView::showDetail()
+void ContentView::stepTab(int places)
 {
-    if (m_selectedEquipment && m_detail == nullptr) {
-        m_detail = m_factory.makeDetail(*m_selectedEquipment);
-        m_detailPane->layout()->addWidget(m_detail);
-        connect(m_detail, &EquipmentDetailView::closed, this, [this] { setSelectedEquipment(std::nullopt); });
-    } else if (m_selectedEquipment) {
-        m_detail->setEquipment(*m_selectedEquipment);
-    }
-    const bool focusGoes = !m_selectedEquipment && m_detailPane->isAncestorOf(window()->focusWidget());
-    m_detailPane->setVisible(m_selectedEquipment.has_value());
-    if (focusGoes)
-        m_list->focusContent();
+    showTab((m_selectedTab + places + TabCount) % TabCount);
+}
+
+void ContentView::showSettings()
+{
+    m_sidebar->setSelectedSidebarItem(sidebar::settings);
+}
+
+bool ContentView::isShowingSettings() const
+{
+    return m_sidebar->selectedSidebarItem() == sidebar::settings;
+}
+
+void ContentView::leaveSettings(int tab)
+{
+    if (tab == MaintenanceTab)
+        m_sidebar->setSelectedSidebarItem(sidebar::maintenance);
+    else if (const auto& typeName = m_equipment.filterTypeName())
+        m_sidebar->setSelectedSidebarItem(sidebar::typePrefix + *typeName);
+    else
+        m_sidebar->setSelectedSidebarItem(sidebar::all);
+}
+
+std::optional<Equipment> ContentView::item() const
+{
+    const bool isListShown = m_selectedTab == ListTab && !isShowingSettings();
+    return isListShown ? m_listPage->item() : std::nullopt;
 }
 
 void ContentView::findInList()
 {
-    if (m_sidebar->selectedSidebarItem() == sidebar::settings)
-        m_sidebar->setSelectedSidebarItem(sidebar::all);
-    setSelectedTab(ListTab);
-    m_list->focusSearch();
+    showTab(ListTab);
+    list().focusSearch();
 }
 
 void ContentView::addEquipment()
 {
+    openFormForNew(std::nullopt);
+}
+
+void ContentView::duplicateEquipment(const Equipment& equipment)
+{
+    openFormForNew(equipment);
+}
+
+void ContentView::openFormForNew(const std::optional<Equipment>& like)
+{
     if (isFormOpen())
         return;
-    auto* form = m_factory.makeFormForNew(window());
+    auto* form = m_factory.makeFormForNew(like, window());
+    connect(form, &EquipmentForm::saved, this, &ContentView::setSelectedEquipment);
     connect(form, &QDialog::finished, this, [this] { m_equipment.setAddingEquipment(false); });
     openForm(form);
     m_equipment.setAddingEquipment(true);
@@ -122,7 +133,7 @@ void ContentView::editEquipment(const Equipment& equipment)
         return;
     setSelectedEquipment(equipment);
     auto* form = m_factory.makeFormFor(equipment, window());
-    connect(form, &EditEquipmentView::saved, this, &ContentView::setSelectedEquipment);
+    connect(form, &EquipmentForm::saved, this, &ContentView::setSelectedEquipment);
     openForm(form);
 }
 
@@ -151,7 +162,7 @@ QWidget* ContentView::makeTabArea()
     m_tabs->addSegment(u"wrench"_s, u"Manutenzione"_s);
     m_tabs->addSegment(u"chart.bar"_s, u"Statistiche"_s);
     m_tabs->setCurrentIndex(m_selectedTab);
-    m_screens->addWidget(makeListArea());
+    m_screens->addWidget(m_listPage);
     for (int tab = MaintenanceTab; tab < TabCount; ++tab)
         m_screens->addWidget(new QWidget);
 
@@ -164,35 +175,24 @@ QWidget* ContentView::makeTabArea()
     return area;
 }
 
-QWidget* ContentView::makeListArea()
-{
-    auto* paneLayout = new QHBoxLayout(m_detailPane);
-    paneLayout->setContentsMargins(0, 0, 0, 0);
-    m_detailPane->setObjectName(u"detailPane"_s);
-    m_detailPane->hide();
-    m_listSplitter->setObjectName(u"listSplitter"_s);
-    m_list->setMinimumWidth(leastListWidth);
-    m_listSplitter->addWidget(m_list);
-    m_listSplitter->addWidget(m_detailPane);
-    m_listSplitter->setChildrenCollapsible(false);
-    m_listSplitter->setStretchFactor(0, 1);
-    m_listSplitter->setSizes({detailWidth * 2, detailWidth});
-    m_listSplitter->setHandleWidth(1);
-    return m_listSplitter;
-}
-
 void ContentView::showPage()
 {
-    if (m_sidebar->selectedSidebarItem() == sidebar::settings) {
+    if (isShowingSettings()) {
         if (!m_settings) {
             m_settings = m_factory.makeSettings();
             m_pages->addWidget(m_settings);
         }
         m_pages->setCurrentWidget(m_settings);
-        return;
+    } else {
+        m_pages->setCurrentWidget(m_tabArea);
+        m_tabs->setCurrentIndex(m_selectedTab);
+        showScreen();
     }
-    m_pages->setCurrentWidget(m_tabArea);
-    m_tabs->setCurrentIndex(m_selectedTab);
+    Q_EMIT pageChanged();
+}
+
+void ContentView::showScreen()
+{
     // A bare QWidget holds the place of a screen that was never shown.
     if (QWidget* placeholder = m_screens->widget(m_selectedTab);
         placeholder->metaObject() == &QWidget::staticMetaObject) {
@@ -202,13 +202,6 @@ void ContentView::showPage()
         placeholder->deleteLater();
     }
     m_screens->setCurrentIndex(m_selectedTab);
-}
-
-void ContentView::forgetDeletedSelection()
-{
-    if (m_selectedEquipment &&
-        std::ranges::count(m_equipment.equipment(), m_selectedEquipment->id, &Equipment::id) == 0)
-        setSelectedEquipment(std::nullopt);
 }
 
 } // namespace abissora

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "EquipmentViewModel.h"
+#include "ListPage.h"
 #include "ScreenFactory.h"
 
 #include <QPointer>
 #include <QWidget>
 
-class QSplitter;
 class QStackedWidget;
 
 namespace abissora {
@@ -15,8 +15,8 @@ namespace abissora {
 class SegmentedControl;
 class SheetWindow;
 
-/// The main window's content: the sidebar, and beside it the three tabs or the settings; the selected item stands in
-/// detail at the right of the list. Screens are created when they are first shown.
+/// The main window's content: the sidebar, and beside it the three tabs or the settings. Screens are created when they
+/// are first shown.
 class ContentView : public QWidget
 {
     Q_OBJECT
@@ -29,11 +29,23 @@ public:
 
     [[nodiscard]] int selectedTab() const { return m_selectedTab; }
     void setSelectedTab(int tab);
-    [[nodiscard]] const std::optional<Equipment>& selectedEquipment() const { return m_selectedEquipment; }
-    void setSelectedEquipment(const std::optional<Equipment>& equipment);
+    /// From the settings too, keeping the filter by type.
+    void showTab(int tab);
+    /// The tab so many places further on, round from the last one to the first.
+    void stepTab(int places);
+    void showSettings();
+    [[nodiscard]] bool isShowingSettings() const;
 
-    [[nodiscard]] EquipmentListView& list() { return *m_list; }
-    [[nodiscard]] QList<QSplitter*> splitters() const { return {m_splitter, m_listSplitter}; }
+    [[nodiscard]] ListPage& listPage() { return *m_listPage; }
+    [[nodiscard]] EquipmentListView& list() { return m_listPage->list(); }
+    [[nodiscard]] const std::optional<Equipment>& selectedEquipment() const { return m_listPage->selectedEquipment(); }
+    void setSelectedEquipment(const std::optional<Equipment>& equipment)
+    {
+        m_listPage->setSelectedEquipment(equipment);
+    }
+    /// What commands on an item act on: ListPage::item() while the list is shown.
+    [[nodiscard]] std::optional<Equipment> item() const;
+    [[nodiscard]] QList<QSplitter*> splitters() const { return {m_splitter, m_listPage}; }
 
     /// Shows the list and puts the cursor into its search field.
     void findInList();
@@ -41,6 +53,8 @@ public:
     /// Opens the form for a new item over the window; does nothing while a form is open, as editEquipment().
     void addEquipment();
     [[nodiscard]] bool showingAddSheet() const;
+    /// Opens the form for a new item, filled from this one.
+    void duplicateEquipment(const Equipment& equipment);
     /// Selects the item and opens the form for it.
     void editEquipment(const Equipment& equipment);
     /// Opens the way back to an earlier state over the window; does nothing while a form is open.
@@ -48,31 +62,29 @@ public:
 
 Q_SIGNALS:
     void selectedTabChanged();
-    void selectedEquipmentChanged();
+    /// Another tab, or the settings, or back.
+    void pageChanged();
+    void itemChanged();
 
 private:
     [[nodiscard]] QWidget* makeTabArea();
-    [[nodiscard]] QWidget* makeListArea();
+    void leaveSettings(int tab);
     void showPage();
-    void showDetail();
-    void forgetDeletedSelection();
+    void showScreen();
+    void openFormForNew(const std::optional<Equipment>& like);
     [[nodiscard]] bool isFormOpen() const;
     void openForm(SheetWindow* form);
 
     ScreenFactory& m_factory;
     EquipmentViewModel& m_equipment;
     int m_selectedTab = ListTab;
-    std::optional<Equipment> m_selectedEquipment;
 
     QSplitter* m_splitter;
-    QSplitter* m_listSplitter;
     SidebarView* m_sidebar;
     QStackedWidget* m_pages;
     SegmentedControl* m_tabs;
     QStackedWidget* m_screens;
-    EquipmentListView* m_list;
-    QWidget* m_detailPane;
-    EquipmentDetailView* m_detail = nullptr;
+    ListPage* m_listPage;
     QWidget* m_tabArea;
     QWidget* m_settings = nullptr;
     QPointer<SheetWindow> m_form;

@@ -2,11 +2,14 @@
 #include "MainWindow.h"
 
 #include "AppWindows.h"
+#include "Command.h"
 #include "ContentView.h"
 #include "EquipmentListView.h"
+#include "EquipmentMenu.h"
 #include "Literals.h"
 #include "ScreenFactory.h"
 #include "SymbolIcon.h"
+#include "ViewMenu.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -30,15 +33,6 @@ bool isTextField(const QWidget* widget)
 bool isReadOnly(const QWidget* field)
 {
     return field->property("readOnly").toBool();
-}
-
-template <typename Receiver, typename Slot>
-QAction* addCommand(QMenu& menu, const QString& text, const QKeySequence& shortcut, Receiver* receiver, Slot slot)
-{
-    QAction* command = menu.addAction(text);
-    command->setShortcut(shortcut);
-    QObject::connect(command, &QAction::triggered, receiver, slot);
-    return command;
 }
 
 /// The platform's usual editing commands, for whatever text field has the focus.
@@ -96,6 +90,22 @@ void EditMenu::enableFor(QWidget* field)
     }
 }
 
+/// While the menu bar has the keyboard, its keys are its own: a shortcut that one of its menus shows for another widget
+/// would count as the bar's.
+class MenuBarKeys final : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* /*menuBar*/, QEvent* event) override
+    {
+        if (event->type() != QEvent::ShortcutOverride)
+            return false;
+        event->accept();
+        return true;
+    }
+};
+
 } // namespace
 
 MainWindow::MainWindow(ScreenFactory& screens, EquipmentViewModel& equipment, const QString& stateFile, QWidget* parent)
@@ -110,6 +120,9 @@ MainWindow::MainWindow(ScreenFactory& screens, EquipmentViewModel& equipment, co
     m_content->list().focusContent();
     addFileMenu(screens);
     addEditMenu();
+    menuBar()->addMenu(new EquipmentMenu(*m_content, this));
+    menuBar()->installEventFilter(new MenuBarKeys(this));
+    addViewMenu();
     addHelpMenu();
     m_state.restore(*this, m_content->splitters());
 }
@@ -149,6 +162,19 @@ void MainWindow::addEditMenu()
     edit->addSeparator();
     addCommand(*edit, u"&Trova"_s, QKeySequence::Find, m_content, &ContentView::findInList);
     menuBar()->addMenu(edit);
+}
+
+void MainWindow::addViewMenu()
+{
+    menuBar()->addMenu(new ViewMenu(*m_content, this));
+    const auto step = [this](int places, const QList<QKeySequence>& keys) {
+        auto* const command = new QAction(this);
+        command->setShortcuts(keys);
+        connect(command, &QAction::triggered, m_content, [this, places] { m_content->stepTab(places); });
+        addAction(command);
+    };
+    step(1, {Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown});
+    step(-1, {Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab, Qt::CTRL | Qt::Key_PageUp});
 }
 
 void MainWindow::addHelpMenu()

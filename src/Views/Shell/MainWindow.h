@@ -34,6 +34,7 @@ protected:
 private:
     void addFileMenu(const ScreenFactory& screens);
     void addEditMenu();
+    void addViewMenu();
     void addHelpMenu();
 
     ContentView* m_content;

@@ -28,8 +28,8 @@ public:
     [[nodiscard]] virtual QWidget* makeStatistics() = 0;
     [[nodiscard]] virtual QWidget* makeSettings() = 0;
 
-    /// The forms, over a window.
-    [[nodiscard]] virtual EquipmentFormView* makeFormForNew(QWidget* over) = 0;
+    /// The forms, over a window. That for a new item is filled from another one where that is given.
+    [[nodiscard]] virtual EquipmentFormView* makeFormForNew(const std::optional<Equipment>& like, QWidget* over) = 0;
     [[nodiscard]] virtual EditEquipmentView* makeFormFor(const Equipment& equipment, QWidget* over) = 0;
 
     /// The way back to an earlier state, over a window.

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAction>
 #include <QProgressBar>
 #include <QVariant>
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr const char* buttonProperty = "abissoraButtonLook";
 constexpr const char* selectionProperty = "abissoraSelectionLook";
+constexpr const char* destructiveProperty = "abissoraDestructive";
 constexpr const char* invalidProperty = "abissoraInvalid";
 constexpr const char* barProperty = "abissoraBarColor";
 
@@ -40,6 +42,16 @@ SelectionLook selectionLook(const QWidget* view)
 {
     const QVariant look = view != nullptr ? view->property(selectionProperty) : QVariant();
     return look.isValid() ? static_cast<SelectionLook>(look.toInt()) : SelectionLook::Row;
+}
+
+void setDestructiveLook(QAction& entry)
+{
+    entry.setProperty(destructiveProperty, true);
+}
+
+bool hasDestructiveLook(const QAction* entry)
+{
+    return entry != nullptr && entry->property(destructiveProperty).toBool();
 }
 
 void setInvalidLook(QWidget& field, bool invalid)

@@ -8,6 +8,7 @@
 
 class QAbstractButton;
 class QAbstractItemView;
+class QAction;
 class QProgressBar;
 class QWidget;
 
@@ -36,6 +37,10 @@ enum class SelectionLook {
 /// Item views show selected rows as Row until told otherwise.
 void setSelectionLook(QAbstractItemView& view, SelectionLook look);
 [[nodiscard]] SelectionLook selectionLook(const QWidget* view);
+
+/// An entry of a menu that takes something away stands in the colour of danger.
+void setDestructiveLook(QAction& entry);
+[[nodiscard]] bool hasDestructiveLook(const QAction* entry);
 
 /// A field that holds what cannot be taken stands in the colour of danger.
 void setInvalidLook(QWidget& field, bool invalid);

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ControlPainting.h"
 
+#include "ControlLook.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "Tokens.h"
 
+#include <QMenu>
 #include <QPainter>
 
 namespace abissora::menus {
@@ -22,9 +24,31 @@ int iconColumn(const QStyleOptionMenuItem& option)
     return option.maxIconWidth > 0 ? metrics::iconSize + metrics::spaceS : 0;
 }
 
+/// Where entries have pictures, what is chosen is marked at its picture, or in its place.
+int markColumn(const QStyleOptionMenuItem& option)
+{
+    return option.menuHasCheckableItems && option.maxIconWidth == 0 ? checkColumn : 0;
+}
+
 int leadingWidth(const QStyleOptionMenuItem& option)
 {
-    return rowPadding + (option.menuHasCheckableItems ? checkColumn : 0) + iconColumn(option);
+    return rowPadding + markColumn(option) + iconColumn(option);
+}
+
+bool isDestructive(const QStyleOptionMenuItem& option, const QWidget* widget)
+{
+    const auto* const menu = qobject_cast<const QMenu*>(widget);
+    return menu != nullptr && hasDestructiveLook(menu->actionAt(option.rect.center()));
+}
+
+void drawMark(const QStyleOptionMenuItem& option, QPainter& painter, const QRect& place, bool current)
+{
+    const Tokens& tokens = Tokens::of(option.palette);
+    if (option.icon.isNull())
+        drawGlyph(painter, place, Glyph::Check, current ? tokens.onFill : tokens.text, 10);
+    else
+        drawPanel(painter, place.adjusted(-3, -3, 3, 3), metrics::controlRadius - 2,
+                  current ? QColor() : tokens.accentTint, current ? tokens.onFill : tokens.accentInk);
 }
 
 int mnemonicFlag(const QStyle& style, const QStyleOption& option, const QWidget* widget)
@@ -57,20 +81,19 @@ void drawMenuItem(const QStyleOptionMenuItem& option, QPainter& painter, const Q
     const bool current = enabled && (option.state & QStyle::State_Selected);
     if (current)
         drawPanel(painter, option.rect, metrics::controlRadius - 2, tokens.accentFill, {});
-    const QColor ink = !enabled ? tokens.disabled : current ? tokens.onFill : tokens.text;
+    const QColor usual = isDestructive(option, widget) ? tokens.danger : tokens.text;
+    const QColor ink = !enabled ? tokens.disabled : current ? tokens.onFill : usual;
     const QRect row = option.rect.adjusted(rowPadding, 0, -rowPadding, 0);
     const auto mirrored = [&](const QRect& place) { return QStyle::visualRect(option.direction, option.rect, place); };
 
     int left = row.left();
-    if (option.menuHasCheckableItems) {
-        if (option.checked)
-            drawGlyph(painter, mirrored({left, row.top(), metrics::iconSize, row.height()}), Glyph::Check, ink, 10);
-        left += checkColumn;
-    }
+    const QRect place(left, row.center().y() - metrics::iconSize / 2 + 1, metrics::iconSize, metrics::iconSize);
+    if (option.checked)
+        drawMark(option, painter, mirrored(place), current);
+    left += markColumn(option);
     if (!option.icon.isNull()) {
-        const QRect place(left, row.center().y() - metrics::iconSize / 2 + 1, metrics::iconSize, metrics::iconSize);
         const QIcon::Mode mode = !enabled ? QIcon::Disabled : current ? QIcon::Selected : QIcon::Normal;
-        option.icon.paint(&painter, mirrored(place), Qt::AlignCenter, mode);
+        option.icon.paint(&painter, mirrored(place.translated(left - place.left(), 0)), Qt::AlignCenter, mode);
     }
     left += iconColumn(option);
 

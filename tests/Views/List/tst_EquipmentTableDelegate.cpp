@@ -128,7 +128,8 @@ private Q_SLOTS:
     void theFocusIsARing()
     {
         const Table table;
-        for (int column = 0; column < Column::ColumnCount; ++column) {
+        // At the name the table rings the whole row.
+        for (int column = Column::NameColumn + 1; column < Column::ColumnCount; ++column) {
             const Picture cell = drawnItem(table.view, table.index(Usual, static_cast<Column>(column)),
                                            table.cellSize(), tokens().surface, keyboardFocus);
             const QRect ring = column == Column::ActionsColumn ? EquipmentTableDelegate::actionButton(cell.rect())

@@ -90,7 +90,7 @@ private Q_SLOTS:
         QStringList titles;
         for (const QAction* menu : s.window.menuBar()->actions())
             titles.append(plain(menu->text()));
-        QCOMPARE(titles, QStringList({u"File"_s, u"Modifica"_s, u"Aiuto"_s}));
+        QCOMPARE(titles, QStringList({u"File"_s, u"Modifica"_s, u"Articolo"_s, u"Vista"_s, u"Aiuto"_s}));
     }
 
     void sidebarAndTabsWorkTogether()
