@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Accessibility.h"
 
+#include "Literals.h"
+
 #include <QAbstractButton>
 #include <QVariant>
 
@@ -69,6 +71,20 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
     return maker.isValid() ? maker.value<Maker>()(widget) : nullptr;
 }
 
+/// Where a window's announcements stand for screen readers.
+QWidget& announcer(QWidget& window)
+{
+    const auto objectName = u"announcer"_s;
+    if (auto* const found = window.findChild<QWidget*>(objectName, Qt::FindDirectChildrenOnly))
+        return *found;
+    auto* const made = new QWidget(&window);
+    made->setObjectName(objectName);
+    made->setAttribute(Qt::WA_TransparentForMouseEvents);
+    made->resize(0, 0);
+    setAccessibleRole(*made, QAccessible::Notification, AccessibleParts::Hidden);
+    return *made;
+}
+
 } // namespace
 
 void setAccessibleRole(QWidget& widget, QAccessible::Role role, AccessibleParts parts)
@@ -89,6 +105,17 @@ void setAccessibleMaker(QWidget& widget, Maker make)
 {
     QAccessible::installFactory(makeInterface); // does nothing when it is there
     widget.setProperty(makerProperty, QVariant::fromValue(std::move(make)));
+}
+
+void announce(QWidget& widget, const QString& text)
+{
+    if (text.isEmpty())
+        return;
+    // The toolkit has no event for this: readers speak the name of a notification that comes into sight.
+    QWidget& place = announcer(*widget.window());
+    place.hide();
+    place.setAccessibleName(text);
+    place.show();
 }
 
 } // namespace abissora

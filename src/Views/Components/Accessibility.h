@@ -31,4 +31,8 @@ void setAccessibleInterface(Widget& widget)
     setAccessibleMaker(widget, [](QWidget* object) { return new Interface(static_cast<Widget*>(object)); });
 }
 
+/// Has the text read out at once, whatever has the focus, for what comes into sight elsewhere: the reason why a field
+/// takes no text, how something ended. The same text is read again each time; an empty one is not.
+void announce(QWidget& widget, const QString& text);
+
 } // namespace abissora
