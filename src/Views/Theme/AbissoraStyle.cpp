@@ -6,9 +6,11 @@
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
+#include "ReturnKey.h"
 #include "Theme.h"
 #include "TypeScale.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QHeaderView>
 #include <QMenu>
@@ -44,6 +46,7 @@ void drawSplitter(const QStyleOption& option, QPainter& painter)
 
 AbissoraStyle::AbissoraStyle()
     : QProxyStyle(u"Fusion"_s)
+    , m_returnKey(new ReturnKey(this))
 {
     setObjectName(u"abissora"_s);
 }
@@ -61,6 +64,8 @@ void AbissoraStyle::polish(QWidget* widget)
     } else if (auto* const menu = qobject_cast<QMenu*>(widget)) {
         if (windowsCanBeTranslucent())
             menu->setAttribute(Qt::WA_TranslucentBackground);
+    } else if (auto* const button = qobject_cast<QAbstractButton*>(widget)) {
+        m_returnKey->attachTo(*button);
     }
 }
 

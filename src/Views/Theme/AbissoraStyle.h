@@ -5,8 +5,10 @@
 
 namespace abissora {
 
+class ReturnKey;
+
 /// Fusion with this program's own drawing. It keeps no colours: each control is drawn from the tokens of the scheme
-/// that its palette belongs to.
+/// that its palette belongs to. Return presses the button that has the focus.
 class AbissoraStyle final : public QProxyStyle
 {
     Q_OBJECT
@@ -35,6 +37,9 @@ public:
     [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                                 QStyleHintReturn* returned) const override;
+
+private:
+    ReturnKey* m_returnKey;
 };
 
 } // namespace abissora

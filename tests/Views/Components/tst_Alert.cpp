@@ -21,6 +21,7 @@ private Q_SLOTS:
     void escapeRejects();
     void returnPressesTheSafeButton();
     void tabLeadsToTheDestructiveButton();
+    void returnPressesTheDestructiveButtonOnceItHasTheFocus();
     void aNoticeHasOneButton();
     void anAskedQuestionActsOnceAndGoes();
     void nobodyIsToldOnceThePlaceIsGone();
@@ -102,6 +103,19 @@ void tst_Alert::tabLeadsToTheDestructiveButton()
     const QSignalSpy accepted(m_alert.get(), &QDialog::accepted);
     QTest::keyClick(m_alert->destructiveButton(), Qt::Key_Space);
     QCOMPARE(accepted.size(), 1);
+}
+
+void tst_Alert::returnPressesTheDestructiveButtonOnceItHasTheFocus()
+{
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        m_alert->open();
+        QTRY_COMPARE(QApplication::activeWindow(), m_alert.get());
+        QTRY_VERIFY(m_alert->safeButton()->hasFocus());
+        QTest::keyClick(m_alert->focusWidget(), Qt::Key_Tab);
+        const QSignalSpy accepted(m_alert.get(), &QDialog::accepted);
+        QTest::keyClick(m_alert->focusWidget(), key);
+        QCOMPARE(accepted.size(), 1);
+    }
 }
 
 void tst_Alert::aNoticeHasOneButton()

@@ -30,6 +30,7 @@ private Q_SLOTS:
     void controlReturnWorksFromATextEdit();
     void controlReturnRespectsADisabledButton();
     void returnInAFieldPressesNothing();
+    void returnPressesTheFocusedButton();
     void theFirstFieldHasTheFocus();
     void anotherFieldCanHaveTheFocusFirst();
     void theFocusReturnsToTheOpener();
@@ -139,6 +140,20 @@ void tst_Sheet::returnInAFieldPressesNothing()
     QTest::keyClick(m_first, Qt::Key_Return);
     QVERIFY(m_sheet->isVisible());
     QCOMPARE(clicked.size(), 0);
+}
+
+void tst_Sheet::returnPressesTheFocusedButton()
+{
+    const QSignalSpy clicked(m_sheet.get(), &Sheet::primaryClicked);
+    m_sheet->open();
+    QTRY_COMPARE(QApplication::activeWindow(), m_sheet.get());
+    m_sheet->primaryButton()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(m_sheet->focusWidget(), Qt::Key_Enter);
+    QCOMPARE(clicked.size(), 1);
+    m_sheet->cancelButton()->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(m_sheet->focusWidget(), Qt::Key_Return);
+    QVERIFY(!m_sheet->isVisible());
+    QCOMPARE(clicked.size(), 1);
 }
 
 void tst_Sheet::theFirstFieldHasTheFocus()
