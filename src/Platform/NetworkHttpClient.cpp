@@ -2,119 +2,119 @@
 #include "NetworkHttpClient.h"
 
 #include "Answer.h"
+#include "HttpTransfer.h"
 
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
+#include <QNetworkProxyFactory>
 #include <QTimer>
 
 namespace abissora {
 
 namespace {
 
-/// For the toolkit statuses from 400 on and redirections that it does not follow are errors, too.
-bool isAnswer(QNetworkReply::NetworkError error)
+constexpr int mostRedirections = 20;
+
+bool isWebAddress(const QUrl& url)
 {
-    return error == QNetworkReply::NoError || error >= QNetworkReply::ContentAccessDenied ||
-           error == QNetworkReply::TooManyRedirectsError || error == QNetworkReply::InsecureRedirectError;
+    return url.isValid() && !url.host().isEmpty() && (url.scheme() == "https"_L1 || url.scheme() == "http"_L1);
 }
 
-bool isSuccess(int status)
+QByteArray schemeOf(QNetworkProxy::ProxyType type)
 {
-    return status >= 200 && status < 300;
+    switch (type) {
+    case QNetworkProxy::HttpProxy:
+    case QNetworkProxy::HttpCachingProxy:
+        return "http";
+    case QNetworkProxy::Socks5Proxy:
+        return "socks5h"; // which looks the name up itself
+    default:
+        return {};
+    }
 }
 
-/// One request under way. It has a network of its own, so that nothing is left of it.
-class Transfer : public QObject
+/// The first that the system names, as a browser would do. It may be none.
+HttpProxy proxyFor(const QUrl& url)
+{
+    for (const QNetworkProxy& proxy : QNetworkProxyFactory::proxyForQuery(QNetworkProxyQuery(url))) {
+        if (proxy.type() == QNetworkProxy::NoProxy)
+            break;
+        QUrl address;
+        address.setScheme(QString::fromLatin1(schemeOf(proxy.type())));
+        address.setHost(proxy.hostName());
+        address.setPort(proxy.port());
+        if (!address.scheme().isEmpty() && !address.host().isEmpty())
+            return {address.toEncoded(), proxy.user().toUtf8(), proxy.password().toUtf8()};
+    }
+    return {};
+}
+
+/// One request under way, with the transfers that it takes.
+class Request : public QObject
 {
 public:
-    Transfer(QNetworkRequest request, const HttpLimits& limits, QObject* parent);
+    Request(QUrl url, const HttpLimits& limits, QObject* parent);
 
-    void cancel();
+    void cancel() { finish(tl::unexpected(HttpError::cancelled())); }
 
     [[nodiscard]] Answer<HttpResult>::Awaiter answer() { return m_answer.given(); }
 
 private:
-    void readBody();
-    void handleFinished();
+    void fetch(const QUrl& url);
+    void handleEnd();
     void finish(const HttpResult& result);
-    void end();
-    [[nodiscard]] bool isCutShort() const;
-    [[nodiscard]] int status() const;
 
-    QNetworkAccessManager m_network;
-    QNetworkReply* m_reply;
+    QUrl m_url;
+    HttpLimits m_limits;
+    tl::expected<CurlLibrary, QString> m_curl = CurlLibrary::load();
+    std::unique_ptr<HttpTransfer, QScopedPointerDeleteLater> m_transfer; ///< its own signal may end its life
     QTimer m_deadline;
-    qint64 m_bodyLimit;
-    QByteArray m_body;
+    int m_redirections = 0;
     Answer<HttpResult> m_answer;
 };
 
-Transfer::Transfer(QNetworkRequest request, const HttpLimits& limits, QObject* parent)
+Request::Request(QUrl url, const HttpLimits& limits, QObject* parent)
     : QObject(parent)
-    , m_bodyLimit(limits.bodyBytes)
+    , m_limits(limits)
 {
-    // What unpacks to much more than it weighs is given up before it is whole.
-    request.setDecompressedSafetyCheckThreshold(limits.bodyBytes);
-    m_reply = m_network.get(request);
-    connect(m_reply, &QNetworkReply::readyRead, this, &Transfer::readBody);
-    connect(m_reply, &QNetworkReply::finished, this, &Transfer::handleFinished);
-    // The request's own time-out counts the silence only: a server that says a word now and then would never end.
+    // A silence of its own would not do: a server that says a word now and then would never end.
     m_deadline.setSingleShot(true);
     connect(&m_deadline, &QTimer::timeout, this, [this] {
         finish(tl::unexpected(HttpError{HttpError::Kind::TimedOut, u"The request took too long"_s}));
     });
     m_deadline.start(limits.time);
-}
-
-void Transfer::cancel()
-{
-    end();
-    m_answer.give(tl::unexpected(HttpError::cancelled()));
-}
-
-void Transfer::readBody()
-{
-    m_body += m_reply->read(m_bodyLimit - m_body.size() + 1);
-    if (m_body.size() > m_bodyLimit)
-        finish(HttpResponse{status(), std::nullopt});
-}
-
-void Transfer::handleFinished()
-{
-    readBody();
-    const auto error = m_reply->error();
-    if (status() == 0 || !isAnswer(error))
-        finish(tl::unexpected(HttpError{HttpError::Kind::Transfer, m_reply->errorString()}));
-    else if (isSuccess(status()) && isCutShort())
-        finish(tl::unexpected(HttpError{HttpError::Kind::Transfer, u"The answer is incomplete"_s}));
-    else if (error != QNetworkReply::NoError && isSuccess(status())) // packed in a way that cannot be unpacked
-        finish(HttpResponse{status(), std::nullopt});
+    if (!m_curl)
+        finish(tl::unexpected(HttpError{HttpError::Kind::Transfer, m_curl.error()}));
+    else if (!isWebAddress(url))
+        finish(tl::unexpected(HttpError{HttpError::Kind::Transfer, u"This is no web address"_s}));
     else
-        finish(HttpResponse{status(), m_body});
+        fetch(url);
 }
 
-void Transfer::finish(const HttpResult& result)
+void Request::fetch(const QUrl& url)
 {
-    end();
-    m_answer.give(result);
+    m_url = url;
+    m_transfer.reset(new HttpTransfer(*m_curl, url, proxyFor(url), m_limits));
+    connect(m_transfer.get(), &HttpTransfer::ended, this, &Request::handleEnd);
 }
 
-void Transfer::end()
+void Request::handleEnd()
+{
+    const QUrl next = m_transfer->redirection();
+    if (m_redirections < mostRedirections && NetworkHttpClient::mayRedirect(m_url, next)) {
+        ++m_redirections;
+        fetch(next);
+        return;
+    }
+    finish(HttpResult(m_transfer->result()));
+}
+
+void Request::finish(const HttpResult& result)
 {
     m_deadline.stop();
-    m_reply->disconnect(this); // the connection ends when this object goes away
-}
-
-bool Transfer::isCutShort() const
-{
-    // The toolkit itself does not always notice. It takes the length of what it unpacks away.
-    const QVariant length = m_reply->header(QNetworkRequest::ContentLengthHeader);
-    return length.isValid() && m_body.size() < length.toLongLong();
-}
-
-int Transfer::status() const
-{
-    return m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (m_transfer) {
+        m_transfer->disconnect(this);
+        m_transfer->giveUp();
+    }
+    m_answer.give(result);
 }
 
 } // namespace
@@ -125,27 +125,21 @@ NetworkHttpClient::NetworkHttpClient(HttpLimits limits)
 
 NetworkHttpClient::~NetworkHttpClient()
 {
-    const QObjectList transfers = m_transfers.children();
-    for (QObject* transfer : transfers)
-        static_cast<Transfer*>(transfer)->cancel();
+    const QObjectList requests = m_requests.children();
+    for (QObject* request : requests)
+        static_cast<Request*>(request)->cancel();
 }
 
 QCoro::Task<HttpResult> NetworkHttpClient::get(QUrl url)
 {
-    // It is resumed from inside the transfer, which therefore goes away later.
-    const std::unique_ptr<Transfer, QScopedPointerDeleteLater> transfer(
-        new Transfer(request(url), m_limits, &m_transfers));
-    co_return co_await transfer->answer();
+    // It is resumed from inside the request, which therefore goes away later.
+    const std::unique_ptr<Request, QScopedPointerDeleteLater> request(new Request(url, m_limits, &m_requests));
+    co_return co_await request->answer();
 }
 
-QNetworkRequest NetworkHttpClient::request(const QUrl& url)
+bool NetworkHttpClient::mayRedirect(const QUrl& from, const QUrl& to)
 {
-    QNetworkRequest request(url);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::NoLessSafeRedirectPolicy);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
-    return request;
+    return isWebAddress(to) && (to.scheme() == "https"_L1 || from.scheme() == "http"_L1);
 }
 
 } // namespace abissora

@@ -2,22 +2,14 @@
 #pragma once
 
 #include "HttpClient.h"
+#include "HttpLimits.h"
 
 #include <QObject>
-#include <chrono>
-
-class QNetworkRequest;
 
 namespace abissora {
 
-struct HttpLimits
-{
-    std::chrono::milliseconds time = std::chrono::minutes(1); ///< for a whole request, redirections included
-    qint64 bodyBytes = 1024 * 1024;                           ///< after decompression
-};
-
-/// Follows redirections, never from https to http. Keeps no cookies, no cache and no connection from one request to the
-/// next, and creates nothing before the first.
+/// Sends each request once. Follows redirections, never from https to http, and uses the system's proxies. Keeps no
+/// cookies, no cache and no connection from one request to the next, and creates nothing before the first.
 class NetworkHttpClient final : public HttpClient
 {
 public:
@@ -28,13 +20,13 @@ public:
     [[nodiscard]] QCoro::Task<HttpResult> get(QUrl url) override;
 
     /// A request is under way, or was until the events that are being handled.
-    [[nodiscard]] bool isBusy() const { return !m_transfers.children().isEmpty(); }
+    [[nodiscard]] bool isBusy() const { return !m_requests.children().isEmpty(); }
 
-    [[nodiscard]] static QNetworkRequest request(const QUrl& url);
+    [[nodiscard]] static bool mayRedirect(const QUrl& from, const QUrl& to);
 
 private:
     HttpLimits m_limits;
-    QObject m_transfers; ///< owns those under way, and nothing else
+    QObject m_requests; ///< owns those under way, and nothing else
 };
 
 } // namespace abissora

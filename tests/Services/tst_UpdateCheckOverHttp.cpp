@@ -53,6 +53,7 @@ private Q_SLOTS:
         row("password wanted",
             LocalServer::answers("401 Unauthorized", newer, "WWW-Authenticate: Basic realm=\"a\"\r\n"),
             "invalidResponse");
+        row("a proxy's password", LocalServer::answers("407 Proxy Authentication Required", newer), "invalidResponse");
         row("empty", LocalServer::answers("200 OK", {}), "invalidManifest");
         row("page", LocalServer::answers("200 OK", "<html></html>", "Content-Type: text/html\r\n"), "invalidManifest");
         row("cut manifest", LocalServer::answers("200 OK", newer.chopped(5)), "invalidManifest");
@@ -92,17 +93,15 @@ private Q_SLOTS:
         LocalServer server;
         server.next(
             LocalServer::sends("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nff\r\n" + newer.chopped(1)));
-        // The transport sees the end of the connection or the end of the answer first.
-        const QString outcome = check(server, 60s);
-        QVERIFY2(outcome == "invalidManifest"_L1 || outcome == "transport"_L1, qPrintable(outcome));
+        QCOMPARE(check(server, 60s), u"transport"_s);
     }
 
     void nobodySpeaksHttp()
     {
         LocalServer server;
-        for (int i = 0; i < 5; ++i) // the transport tries again
-            server.next(LocalServer::sends("SSH-2.0-OpenSSH_9.2\r\n"));
+        server.next(LocalServer::sends("SSH-2.0-OpenSSH_9.2\r\n"));
         QCOMPARE(check(server, 60s), u"transport"_s);
+        QCOMPARE(server.connections(), 1);
     }
 
     void nobodyListens()

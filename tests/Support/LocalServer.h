@@ -25,6 +25,13 @@ public:
     {
         QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
             while (QTcpSocket* socket = m_server.nextPendingConnection()) {
+                ++m_connections;
+                ++m_open;
+                QObject::connect(socket, &QTcpSocket::disconnected, &m_server, [this] { --m_open; });
+                QObject::connect(socket, &QTcpSocket::bytesWritten, &m_server,
+                                 [this](qint64 bytes) { m_sent += bytes; });
+                if (m_greeting)
+                    m_greeting(*socket);
                 auto received = std::make_shared<QByteArray>();
                 QObject::connect(socket, &QTcpSocket::readyRead, &m_server, [=, this] { serve(*socket, *received); });
             }
@@ -34,6 +41,8 @@ public:
         m_port = m_server.serverPort();
     }
 
+    /// What is done with every connection before any request has come on it.
+    void greet(Behaviour behaviour) { m_greeting = std::move(behaviour); }
     /// Behaviours are used up one a request; without any, the connection is closed.
     void next(Behaviour behaviour) { m_behaviours.append(std::move(behaviour)); }
 
@@ -43,6 +52,12 @@ public:
     }
     /// Head of every request, without the empty line after it.
     [[nodiscard]] const QList<QByteArray>& requests() const { return m_requests; }
+    /// All that there ever were.
+    [[nodiscard]] int connections() const { return m_connections; }
+    /// Those that neither side has ended.
+    [[nodiscard]] int open() const { return m_open; }
+    /// Bytes that were handed to the system.
+    [[nodiscard]] qint64 sent() const { return m_sent; }
     /// Nobody listens from now on.
     void close() { m_server.close(); }
 
@@ -58,6 +73,14 @@ public:
     {
         return sends("HTTP/1.1 " + status + "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n" +
                      headers + "\r\n" + body);
+    }
+    [[nodiscard]] static Behaviour closes()
+    {
+        return [](QTcpSocket& socket) { socket.disconnectFromHost(); };
+    }
+    [[nodiscard]] static Behaviour resets()
+    {
+        return [](QTcpSocket& socket) { socket.abort(); };
     }
     [[nodiscard]] static Behaviour redirectsTo(const QUrl& url)
     {
@@ -79,6 +102,18 @@ public:
         };
     }
 
+    /// Sends `head`, and then `piece` again and again, as fast as it is taken, without end.
+    [[nodiscard]] static Behaviour floodsAfter(const QByteArray& head, const QByteArray& piece)
+    {
+        return [=](QTcpSocket& socket) {
+            socket.write(head + piece);
+            QObject::connect(&socket, &QTcpSocket::bytesWritten, &socket, [&socket, piece] {
+                while (socket.bytesToWrite() < 64 * 1024)
+                    socket.write(piece);
+            });
+        };
+    }
+
 private:
     void serve(QTcpSocket& socket, QByteArray& received)
     {
@@ -96,7 +131,11 @@ private:
 
     QTcpServer m_server;
     quint16 m_port = 0; ///< also after close()
+    Behaviour m_greeting;
     QList<Behaviour> m_behaviours;
+    int m_connections = 0;
+    int m_open = 0;
+    qint64 m_sent = 0;
     QList<QByteArray> m_requests;
 };
 
