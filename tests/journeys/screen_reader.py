@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""What a screen reader is told while somebody searches and goes through the list: the focus stays in the search, the
-first Down tells its row."""
+"""What a screen reader is told while somebody searches and goes through the list: the focus stays in the search,
+what it leaves is counted, the first Down tells its row."""
 
 from gi.repository import Atspi, GLib
 
@@ -61,6 +61,7 @@ def journey(run, data):
     assert search.get_state_set().contains(Atspi.StateType.FOCUSED)
     told = ears.take_focused()
     assert not told, f"the search lost the focus: {told}"
+    ears.wait("the count", lambda: "1 articoli" in ears.notifications)
 
     program.key("Down")
     ears.wait("the first row", lambda: ears.focused)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentListView.h"
 
+#include "Accessibility.h"
 #include "Alert.h"
 #include "EmptyState.h"
 #include "EquipmentTableView.h"
@@ -211,16 +212,19 @@ void EquipmentListView::redraw()
     m_dueCount->setText(content.dueCount);
     m_dueCount->setVisible(!content.dueCount.isEmpty());
     m_activeCount->setText(content.activeCount);
-    tellWhetherListed();
+    tellOfNarrowing();
 }
 
-void EquipmentListView::tellWhetherListed()
+void EquipmentListView::tellOfNarrowing()
 {
     const auto before = std::exchange(m_narrowing, ListContent::narrowingOf(m_equipment));
+    const bool narrowedAnew = before != m_narrowing;
+    if (narrowedAnew)
+        announce(*this, m_shownCount->text());
     if (!m_selectedEquipment)
         return;
     const bool listed = m_table->equipmentModel().rowOf(m_selectedEquipment->id) >= 0;
-    if (listed || before != m_narrowing)
+    if (listed || narrowedAnew)
         Q_EMIT selectionListed(listed);
 }
 

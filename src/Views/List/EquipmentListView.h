@@ -67,7 +67,7 @@ private:
     void connectControls();
     void connectTable();
     void redraw();
-    void tellWhetherListed();
+    void tellOfNarrowing();
     void select(const std::optional<Equipment>& equipment);
     void edit(const Equipment& equipment);
     void clearFilters();

@@ -28,7 +28,7 @@ void tellPlace(QTableView& table)
 } // namespace
 
 RowTable::RowTable(QWidget* parent)
-    : QTableView(parent)
+    : QuietFocus(parent)
 {
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -69,11 +69,7 @@ void RowTable::setHasKeyboard(bool has)
 
 void RowTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
-    // The table's own announces the cell as what has the focus, whoever has it.
-    if (hasFocus())
-        QTableView::currentChanged(current, previous);
-    else
-        QAbstractItemView::currentChanged(current, previous);
+    QuietFocus::currentChanged(current, previous);
     viewport()->update(); // the ring goes round whole rows
     Q_EMIT placeChanged();
 }

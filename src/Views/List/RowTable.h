@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "QuietFocus.h"
+
 #include <QTableView>
 
 namespace abissora {
@@ -8,7 +10,7 @@ namespace abissora {
 /// A table of which the rows are what a person works with: one of them is selected at a time, and the keyboard stands
 /// at one of them, selected or not. Home and End go to the first and the last row; the first Up or Down selects the
 /// row where the keyboard stands. A right click takes the keyboard there and selects nothing.
-class RowTable : public QTableView
+class RowTable : public QuietFocus<QTableView>
 {
     Q_OBJECT
 

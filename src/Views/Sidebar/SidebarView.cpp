@@ -115,7 +115,7 @@ QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QM
 
 SidebarView::SidebarView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types, Console& console,
                          QWidget* parent)
-    : QListView(parent)
+    : QuietFocus(parent)
     , m_equipment(equipment)
     , m_types(types)
     , m_selection(equipment, console)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "EquipmentTypeViewModel.h"
+#include "QuietFocus.h"
 #include "SidebarContent.h"
 #include "VisibleUpdate.h"
 
@@ -24,7 +25,7 @@ public:
 };
 
 /// Shows the selection of what the window is about, and lets the person choose another one.
-class SidebarView : public QListView
+class SidebarView : public QuietFocus<QListView>
 {
     Q_OBJECT
 
