@@ -2,6 +2,7 @@
 #include "Picture.h"
 
 #include "Gui.h"
+#include "Pointer.h"
 #include "Theme.h"
 
 #include <QAbstractItemView>
@@ -189,6 +190,7 @@ void PictureTest::init()
     TestCase::init();
     QFETCH_GLOBAL(const Scheme, scheme);
     applyTheme(*qApp, scheme);
+    useThePointer();
 }
 
 qreal PictureTest::scale()
@@ -227,8 +229,8 @@ Picture PictureTest::drawnItem(const QAbstractItemView& view, const QModelIndex&
 Picture PictureTest::drawnFocused(QWidget& widget)
 {
     activate(*widget.window());
-    widget.window()->setAttribute(Qt::WA_KeyboardFocusChange); // activation takes it back
     widget.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&widget, Qt::Key_F24);
     settle();
     return drawn(widget);
 }

@@ -3,6 +3,7 @@
 
 #include "Gui.h"
 #include "Literals.h"
+#include "Pointer.h"
 #include "Scenes.h"
 #include "Theme.h"
 
@@ -28,6 +29,7 @@ bool render(const QList<Scene>& scenes, const QDir& folder)
     bool written = true;
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
         applyTheme(*qApp, scheme);
+        test::useThePointer();
         const QString name = scheme == Scheme::Light ? u"light"_s : u"dark"_s;
         for (const Scene& scene : scenes)
             written = renderScene(scene, name, folder) && written;

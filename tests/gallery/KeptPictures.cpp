@@ -2,6 +2,7 @@
 #include "KeptPictures.h"
 
 #include "Gui.h"
+#include "Pointer.h"
 #include "Scenes.h"
 
 #include <QPainter>
@@ -63,6 +64,7 @@ void pinAppearance(double pointSize)
 QImage draw(const KeptPicture& picture, const std::function<void(QWidget&)>& change)
 {
     applyTheme(*qApp, picture.scheme);
+    test::useThePointer();
     const auto widget = sceneNamed(picture.scene).make();
     widget->show();
     test::settle();

@@ -207,12 +207,22 @@ void EquipmentListView::redraw()
         m_search->setText(m_equipment.searchText());
     m_header->setFilter(content.filter);
     m_empty->setButtonText(content.offer);
-    m_content->setCurrentWidget(content.items.isEmpty() ? static_cast<QWidget*>(m_empty) : m_table);
+    showContent(*(content.items.isEmpty() ? static_cast<QWidget*>(m_empty) : m_table));
     m_shownCount->setText(content.shownCount);
     m_dueCount->setText(content.dueCount);
     m_dueCount->setVisible(!content.dueCount.isEmpty());
     m_activeCount->setText(content.activeCount);
     tellOfNarrowing();
+}
+
+void EquipmentListView::showContent(QWidget& content)
+{
+    if (&content == m_content->currentWidget())
+        return;
+    const bool focusGoes = m_content->isAncestorOf(window()->focusWidget());
+    m_content->setCurrentWidget(&content);
+    if (focusGoes)
+        focusContent();
 }
 
 void EquipmentListView::tellOfNarrowing()

@@ -67,6 +67,8 @@ private:
     void connectControls();
     void connectTable();
     void redraw();
+    /// The focus of what it replaces goes over to it.
+    void showContent(QWidget& content);
     void tellOfNarrowing();
     void select(const std::optional<Equipment>& equipment);
     void edit(const Equipment& equipment);

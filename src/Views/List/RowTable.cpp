@@ -129,13 +129,8 @@ void RowTable::paintEvent(QPaintEvent* event)
 {
     QTableView::paintEvent(event);
     const QModelIndex current = currentIndex();
-    if (!m_hasKeyboard || !isActiveWindow() || !current.isValid() || current.column() != 0)
-        return;
-    // The selection shows a place that the mouse chose.
-    QStyleOption option;
-    option.initFrom(this);
-    const bool usesKeys = option.state.testFlag(QStyle::State_KeyboardFocusChange);
-    if (!usesKeys && selectionModel()->isRowSelected(current.row(), rootIndex()))
+    const bool shown = m_hasKeyboard && isActiveWindow() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
+    if (!shown || !current.isValid() || current.column() != 0)
         return;
     QPainter painter(viewport());
     painter.setRenderHint(QPainter::Antialiasing);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ScreenPage.h"
 
+#include "Accessibility.h"
 #include "Metrics.h"
 #include "Painting.h"
 
@@ -21,6 +22,7 @@ ScreenPage::ScreenPage(const QString& name, QWidget* parent)
     : ScrollPane(parent)
     , m_column(new QVBoxLayout(widget()))
 {
+    setAccessibleRole(*this, QAccessible::Pane);
     m_column->setContentsMargins(sideMargin, metrics::spaceS, sideMargin, sideMargin);
     m_column->setSpacing(metrics::spaceL);
 

@@ -44,7 +44,10 @@ void paintEntry(QPainter& painter, const QStyleOptionViewItem& option, const QMo
         drawPanel(painter, pill, metrics::controlRadius, tokens.accentFill, QColor());
     else if (option.state.testFlag(QStyle::State_MouseOver))
         drawPanel(painter, pill, metrics::controlRadius, mix(tokens.sidebar, tokens.text, 0.06), QColor());
-    if (showsFocusRing(option))
+    if (showsFocusRing(option) && selected) // on the accent only its opposite is seen
+        drawPanel(painter, pill.adjusted(2, 2, -2, -2), metrics::controlRadius - 2, {}, tokens.onFill,
+                  metrics::focusRingWidth);
+    else if (showsFocusRing(option))
         drawFocusRing(painter, pill, metrics::controlRadius, option.palette);
 
     QRect content = pill.adjusted(margin, 0, -margin, 0);

@@ -3,6 +3,7 @@
 
 #include "ControlLook.h"
 #include "ControlPainting.h"
+#include "FocusCue.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
@@ -12,6 +13,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QHeaderView>
 #include <QMenu>
 #include <QPainter>
@@ -49,6 +51,7 @@ AbissoraStyle::AbissoraStyle()
     , m_returnKey(new ReturnKey(this))
 {
     setObjectName(u"abissora"_s);
+    qApp->installEventFilter(new FocusCue(this));
 }
 
 void AbissoraStyle::polish(QWidget* widget)

@@ -41,14 +41,15 @@ bool isDestructive(const QStyleOptionMenuItem& option, const QWidget* widget)
     return menu != nullptr && hasDestructiveLook(menu->actionAt(option.rect.center()));
 }
 
-void drawMark(const QStyleOptionMenuItem& option, QPainter& painter, const QRect& place, bool current)
+void drawMark(const QStyleOptionMenuItem& option, QPainter& painter, const QRect& place, const QColor& ink)
 {
     const Tokens& tokens = Tokens::of(option.palette);
+    const bool usual = ink == tokens.text;
     if (option.icon.isNull())
-        drawGlyph(painter, place, Glyph::Check, current ? tokens.onFill : tokens.text, 10);
+        drawGlyph(painter, place, Glyph::Check, ink, 10);
     else
         drawPanel(painter, place.adjusted(-3, -3, 3, 3), metrics::controlRadius - 2,
-                  current ? QColor() : tokens.accentTint, current ? tokens.onFill : tokens.accentInk);
+                  usual ? tokens.accentTint : QColor(), usual ? tokens.accentInk : ink);
 }
 
 int mnemonicFlag(const QStyle& style, const QStyleOption& option, const QWidget* widget)
@@ -89,7 +90,7 @@ void drawMenuItem(const QStyleOptionMenuItem& option, QPainter& painter, const Q
     int left = row.left();
     const QRect place(left, row.center().y() - metrics::iconSize / 2 + 1, metrics::iconSize, metrics::iconSize);
     if (option.checked)
-        drawMark(option, painter, mirrored(place), current);
+        drawMark(option, painter, mirrored(place), ink);
     left += markColumn(option);
     if (!option.icon.isNull()) {
         const QIcon::Mode mode = !enabled ? QIcon::Disabled : current ? QIcon::Selected : QIcon::Normal;

@@ -25,7 +25,7 @@ namespace {
 struct Open
 {
     explicit Open(RegisterFixture& f, QSize size = QSize(1000, 700))
-        : form((window.resize(size), window.show(), f.equipment), f.types, f.almanac, f.ids, &window)
+        : form((window.resize(size), window.show(), f.equipment), f.types, f.almanac, f.ids, std::nullopt, &window)
     {
         form.open();
         activate(form);

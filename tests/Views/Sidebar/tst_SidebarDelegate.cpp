@@ -95,6 +95,8 @@ private Q_SLOTS:
         const Picture entry = row(sidebar, u"Pinne"_s, keyboardFocus);
         QCOMPARE(entry.framed(entry.rect().adjusted(10, 1, -10, -1), tokens().accentInk, 2), fine);
         QCOMPARE(entry.contained(), fine);
+        const Picture chosen = row(sidebar, u"Pinne"_s, keyboardFocus | QStyle::State_Selected);
+        QCOMPARE(chosen.framed(chosen.rect().adjusted(12, 3, -12, -3), tokens().onFill, 2), fine);
         QCOMPARE(row(sidebar, u"Pinne"_s, QStyle::State_HasFocus).amount(QRect(9, 0, 5, 40), tokens().accentInk), 0);
     }
 
