@@ -97,8 +97,8 @@ QCoro::Task<> MarevoloApp::checkForUpdatesAtStart()
     if (!m_settings.checkForUpdatesOnLaunch())
         co_return;
     const QPointer<MarevoloApp> alive(this);
-    co_await m_updates.checkForUpdates();
-    if (alive && m_updates.availableUpdate())
+    co_await m_updates.checkForUpdates(CheckReason::Start);
+    if (alive && m_updates.availableUpdate() && m_updates.foundBy() == CheckReason::Start)
         Q_EMIT updateOffered(*m_updates.availableUpdate());
 }
 
@@ -113,6 +113,12 @@ MainWindow& MarevoloApp::mainWindow()
         connect(m_mainWindow.get(), &MainWindow::helpRequested, m_windows.get(), &AppWindows::openHelp);
         connect(m_mainWindow.get(), &MainWindow::closed, m_windows.get(), &AppWindows::closeAll);
         connect(this, &MarevoloApp::updateOffered, m_windows.get(), &AppWindows::openUpdate);
+        connect(m_windows.get(), &AppWindows::updateDismissed, &m_updates,
+                &UpdateCheckerViewModel::clearAvailableUpdate);
+        connect(&m_updates, &UpdateCheckerViewModel::availableUpdateChanged, m_windows.get(), [this] {
+            if (!m_updates.availableUpdate())
+                m_windows->closeUpdates();
+        });
     }
     return *m_mainWindow;
 }

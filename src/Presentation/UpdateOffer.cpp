@@ -10,6 +10,7 @@ namespace {
 
 constexpr qsizetype longestVersion = 80;
 constexpr qsizetype longestNotes = 100'000;
+constexpr qsizetype longestAddress = 300;
 
 QString shownRelease(const UpdateInfo& update)
 {
@@ -28,10 +29,14 @@ QString shownNotes(const UpdateInfo& update)
 
 UpdateOffer UpdateOffer::of(const UpdateInfo& update, const QUrl& website)
 {
+    const QUrl page = opensInBrowser(update.downloadURL) ? update.downloadURL : website;
     return {
         .version = u"Nuova versione · "_s + shownRelease(update),
         .notes = shownNotes(update),
-        .page = opensInBrowser(update.downloadURL) ? update.downloadURL : website,
+        .page = page,
+        .host = page.host(QUrl::FullyEncoded),
+        .unopened = u"Il sistema non ha aperto la pagina da cui scaricare: forse manca un browser. L'indirizzo è:\n"_s +
+                    shownLine(page.toString(QUrl::FullyEncoded), longestAddress),
     };
 }
 

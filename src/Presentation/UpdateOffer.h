@@ -10,7 +10,9 @@ struct UpdateOffer
 {
     QString version; ///< "Nuova versione · 1.3.0 (build 57)"
     QString notes;
-    QUrl page; ///< the release's own, or the website when it names none that a browser opens
+    QUrl page;        ///< the release's own, or the website when it names none that a browser opens
+    QString host;     ///< of the page, in plain letters, so that no other host looks like it
+    QString unopened; ///< what to say when nothing on this system opens the page
 
     [[nodiscard]] static UpdateOffer of(const UpdateInfo& update, const QUrl& website);
 };

@@ -24,7 +24,7 @@ UpdateCheckerViewModel::UpdateCheckerViewModel(const UpdateChecker& checker, con
     , m_clock(clock)
 {}
 
-QCoro::Task<std::optional<UpdateInfo>> UpdateCheckerViewModel::checkForUpdates()
+QCoro::Task<std::optional<UpdateInfo>> UpdateCheckerViewModel::checkForUpdates(CheckReason reason)
 {
     const QPointer<UpdateCheckerViewModel> alive(this);
     setChecking(true);
@@ -35,6 +35,7 @@ QCoro::Task<std::optional<UpdateInfo>> UpdateCheckerViewModel::checkForUpdates()
     if (!alive)
         co_return std::nullopt;
     if (result) {
+        m_foundBy = reason;
         setAvailableUpdate(*result);
         setLastCheckedAt(m_clock.now());
     } else {

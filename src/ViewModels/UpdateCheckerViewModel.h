@@ -7,6 +7,12 @@
 namespace abissora {
 
 /// Runs the check for updates and publishes its progress and outcome. Nothing is stored.
+/// Who wanted a check: it decides where a newer release is offered, so that one check gives one offer.
+enum class CheckReason {
+    Person,
+    Start, ///< the setting to check at start
+};
+
 class UpdateCheckerViewModel : public StateObject
 {
     Q_OBJECT
@@ -18,6 +24,8 @@ public:
     [[nodiscard]] bool isChecking() const { return m_isChecking; }
     /// The newer release that the last check found.
     [[nodiscard]] const std::optional<UpdateInfo>& availableUpdate() const { return m_availableUpdate; }
+    /// Why that check was made.
+    [[nodiscard]] CheckReason foundBy() const { return m_foundBy; }
     /// A sentence for the user about the last check, when it failed.
     [[nodiscard]] const std::optional<QString>& lastError() const { return m_lastError; }
     /// When the last successful check finished.
@@ -25,7 +33,7 @@ public:
 
     /// Gives the newer release, if any. A second check may begin while one is under way: each publishes its outcome
     /// when it ends. Should this object go away first, the result is nothing.
-    QCoro::Task<std::optional<UpdateInfo>> checkForUpdates();
+    QCoro::Task<std::optional<UpdateInfo>> checkForUpdates(CheckReason reason = CheckReason::Person);
 
     /// The offer was dismissed.
     void clearAvailableUpdate();
@@ -46,6 +54,7 @@ private:
     const Clock& m_clock;
     bool m_isChecking = false;
     std::optional<UpdateInfo> m_availableUpdate;
+    CheckReason m_foundBy = CheckReason::Person;
     std::optional<QString> m_lastError;
     std::optional<Instant> m_lastCheckedAt;
 };

@@ -6,7 +6,9 @@
 #include "MarevoloApp.h"
 #include "NetworkHttpClient.h"
 #include "ScriptedHttpClient.h"
+#include "SidebarView.h"
 #include "TestRunner.h"
+#include "UpdateView.h"
 
 #include <QApplication>
 #include <QSignalSpy>
@@ -97,6 +99,47 @@ private Q_SLOTS:
         QCOMPARE(offered.first().first().value<UpdateInfo>().id(), u"999.0-57"_s);
     }
 
+    void oneCheckGivesOneOffer()
+    {
+        wantCheckAtStart(true);
+        start();
+        m_app->showMainWindow();
+        QTRY_COMPARE(m_http->open(), 1);
+        sidebar().setSelectedSidebarItem(sidebar::settings);
+        settle();
+        m_http->answer(200, newer);
+        settle();
+        QCOMPARE(offers().size(), 1);
+        // Closed where it is, it comes nowhere else.
+        press(*offers().first()->window(), u"Più tardi"_s);
+        settle();
+        QCOMPARE(offers().size(), 0);
+        sidebar().setSelectedSidebarItem(sidebar::all);
+        sidebar().setSelectedSidebarItem(sidebar::settings);
+        settle();
+        QCOMPARE(offers().size(), 0);
+    }
+
+    void anotherCheckTakesTheOfferBack()
+    {
+        wantCheckAtStart(true);
+        start();
+        m_app->showMainWindow();
+        QTRY_COMPARE(m_http->open(), 1);
+        m_http->answer(200, newer);
+        settle();
+        QCOMPARE(offers().size(), 1);
+        sidebar().setSelectedSidebarItem(sidebar::settings);
+        settle();
+        click(m_app->mainWindow(), u"checkForUpdates"_s);
+        settle();
+        QCOMPARE(offers().size(), 0);
+        m_http->answer(200, newer);
+        settle();
+        QCOMPARE(offers().size(), 1);
+        QVERIFY(findDialog(m_app->mainWindow()) != nullptr);
+    }
+
     void isSilentOtherwise_data()
     {
         QTest::addColumn<HttpResult>("answer");
@@ -158,6 +201,18 @@ private:
     [[nodiscard]] ApplicationDirectories directories() const { return ApplicationDirectories(m_folder->path(), true); }
 
     void start() { m_app.emplace(*qApp, directories(), product, *m_http, m_permission); }
+
+    [[nodiscard]] SidebarView& sidebar() { return part<SidebarView>(m_app->mainWindow(), u"sidebar"_s); }
+
+    [[nodiscard]] static QList<UpdateView*> offers()
+    {
+        QList<UpdateView*> found;
+        for (QWidget* widget : QApplication::allWidgets()) {
+            if (auto* offer = qobject_cast<UpdateView*>(widget); offer != nullptr && offer->isVisible())
+                found.append(offer);
+        }
+        return found;
+    }
 
     void wantCheckAtStart(bool want) const
     {

@@ -206,6 +206,17 @@ private Q_SLOTS:
         QCOMPARE(get(server, patient), HttpResult(HttpResponse{200, whole ? std::optional(bytes) : std::nullopt}));
     }
 
+    void theHeadHasALimit()
+    {
+        HttpLimits limits = patient;
+        limits.headBytes = 2000;
+        LocalServer server;
+        server.next(LocalServer::answers("200 OK", body, "X-More: " + QByteArray(1900, 'x') + "\r\n"));
+        QCOMPARE(get(server, limits), HttpResult(HttpResponse{200, body}));
+        server.next(LocalServer::answers("200 OK", body, "X-More: " + QByteArray(2000, 'x') + "\r\n"));
+        QCOMPARE(failure(get(server, limits)), HttpError::Kind::Transfer);
+    }
+
     void aBodyWithoutEndIsGivenUp()
     {
         LocalServer server;

@@ -21,6 +21,8 @@ class Website(http.server.ThreadingHTTPServer):
         super().__init__(("127.0.0.1", 0), Answering)
         self.asked = []
         self.answer = (200, b"")
+        self.may_answer = threading.Event()
+        self.may_answer.set()
         threading.Thread(target=self.serve_forever, daemon=True).start()
 
     def says(self, status, manifest):
@@ -30,6 +32,7 @@ class Website(http.server.ThreadingHTTPServer):
 class Answering(http.server.BaseHTTPRequestHandler):
     def do_GET(self):
         self.server.asked.append(self.path)
+        self.server.may_answer.wait()
         status, body = self.server.answer
         self.send_response(status)
         self.send_header("Content-Length", str(len(body)))
@@ -77,7 +80,44 @@ def journey(run, data):
     asked(3)
     program.close()
 
-    for count, (status, manifest) in enumerate([(200, OLDER), (200, {}), (500, NEWER)], start=4):
+    # An offer takes nothing from whoever is typing.
+    website.may_answer.clear()
+    program = run()
+    asked(4)
+    program.key("ctrl+f")
+    program.type("gav ")
+    website.may_answer.set()
+    program.find_anywhere(Atspi.Role.LABEL, "Nuova versione · 999.0 (build 57)")
+    program.type("scubapro h")
+    program.key("Return")
+    program.wait_for_lines(["   searchText: gav scubapro h"])
+    assert program.window.get_state_set().contains(Atspi.StateType.ACTIVE)
+    assert len(program.windows()) == 2
+    # Whoever wants it takes it.
+    program.press(program.find_anywhere(Atspi.Role.PUSH_BUTTON, "Più tardi"))
+    until("the main window alone", lambda: len(program.windows()) == 1)
+    program.close()
+
+    # It waits for the end of a form.
+    website.may_answer.clear()
+    program = run()
+    asked(5)
+    program.key("ctrl+n")
+    field = program.find_anywhere(Atspi.Role.TEXT, "Nome*")
+    until("the focus in the form", lambda: field.get_state_set().contains(Atspi.StateType.FOCUSED))
+    program.type("Torcia di ")
+    website.may_answer.set()
+    program.type("riserva")
+    name = field.get_text_iface()
+    until("the whole name", lambda: name.get_text(0, name.get_character_count()) == "Torcia di riserva")
+    assert len(program.windows()) == 2
+    program.key("ctrl+a", "BackSpace", "Escape")
+    program.find_anywhere(Atspi.Role.LABEL, "Nuova versione · 999.0 (build 57)")
+    program.press(program.find_anywhere(Atspi.Role.PUSH_BUTTON, "Più tardi"))
+    until("the main window alone", lambda: len(program.windows()) == 1)
+    program.close()
+
+    for count, (status, manifest) in enumerate([(200, OLDER), (200, {}), (500, NEWER)], start=6):
         website.says(status, manifest)
         program = run()
         asked(count)

@@ -12,7 +12,7 @@ namespace abissora {
 class DesktopOpener final : public Opener
 {
 public:
-    explicit DesktopOpener(std::chrono::milliseconds patience = std::chrono::milliseconds(700));
+    explicit DesktopOpener(std::chrono::milliseconds patience = std::chrono::seconds(3));
 
     [[nodiscard]] QCoro::Task<bool> open(QUrl url) override;
 

@@ -113,10 +113,11 @@ void SettingsView::offerUpdate()
 {
     const std::optional<UpdateInfo>& update = m_updates.availableUpdate();
     const bool isOffered = m_sheet && m_sheet->findChild<UpdateView*>() != nullptr;
+    const bool isAskedFor = update && m_updates.foundBy() == CheckReason::Person; // else a window offers it
     const bool isCovered = m_sheet && m_sheet->isVisible();
     if (!update && isOffered) {
         m_sheet->close();
-    } else if (update && !isCovered && isVisible()) {
+    } else if (isAskedFor && !isCovered && isVisible()) {
         auto* view = new UpdateView(*update, m_program.product.websiteURL, m_opener);
         auto* sheet = new ViewSheet({.view = view,
                                      .title = u"Aggiornamento disponibile"_s,
@@ -141,7 +142,7 @@ void SettingsView::openSheet(SheetWindow* sheet)
 void SettingsView::showEvent(QShowEvent* event)
 {
     ScrollPane::showEvent(event);
-    // An update found by the check at start is offered here as well.
+    // An update may have been found since the person left.
     if (!event->spontaneous())
         QMetaObject::invokeMethod(this, &SettingsView::offerUpdate, Qt::QueuedConnection);
 }

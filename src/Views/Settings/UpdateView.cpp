@@ -8,10 +8,13 @@
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
-#include "Opening.h"
+#include "Opener.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
 
+#include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QShortcut>
@@ -119,6 +122,12 @@ UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& op
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, this, &UpdateView::closeRequested);
 
+    m_download->setAccessibleDescription(u"Apre "_s + m_offer.host);
+    auto* host = named(new ElidedLabel(TextStyle::Caption, &Tokens::secondaryText), u"downloadHost");
+    host->setText(m_offer.host);
+    host->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_failure = makeFailure();
+
     auto* icon = new IconView(symbolIcon(u"arrow.down.circle.fill"_s, NamedColor::blue), iconSide);
     setLayout(inColumn(metrics::spaceS,
                        {{icon, 0, Qt::AlignHCenter},
@@ -127,10 +136,11 @@ UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& op
                         Gap(metrics::spaceS),
                         {makeNotes(), 1},
                         Gap(metrics::spaceS),
-                        inRow(metrics::spaceM, {Stretch(), later, m_download})},
+                        m_failure,
+                        inRow(metrics::spaceM, {Stretch(), later, m_download}),
+                        host},
                        {metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceL}));
     setMinimumWidth(withText(contentWidth, fontMetrics()));
-    setFocusProxy(m_download);
 }
 
 void UpdateView::showEvent(QShowEvent* event)
@@ -139,21 +149,46 @@ void UpdateView::showEvent(QShowEvent* event)
     setFocus();
 }
 
-GroupBox* UpdateView::makeNotes() const
+GroupBox* UpdateView::makeNotes()
 {
     const QString title = u"Novità in questa versione"_s;
     auto* notes = named(new ReleaseNotes(m_offer.notes), u"releaseNotes");
     notes->setAccessibleName(title);
+    setFocusProxy(notes);
     auto* box = new GroupBox(title, u"sparkles"_s);
     box->content()->addWidget(notes, 1);
     return box;
 }
 
+QWidget* UpdateView::makeFailure()
+{
+    auto* text = named(new WrapLabel(TextStyle::Body, &Tokens::danger, m_offer.unopened), u"unopened");
+    auto* copy = named(new PlainButton(u"Copia indirizzo"_s), u"copyAddress");
+    connect(copy, &QAbstractButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(m_offer.page.toString(QUrl::FullyEncoded)); });
+    auto* failure = new QWidget;
+    failure->setLayout(inColumn(metrics::spaceS, {text, inRow(0, {copy, Stretch()}), Gap(metrics::spaceS)}));
+    failure->hide();
+    return failure;
+}
+
 QCoro::Task<> UpdateView::download()
 {
+    if (std::exchange(m_isOpening, true))
+        co_return;
     const QPointer<UpdateView> alive(this);
-    if (co_await openPage(m_offer.page, m_opener, *this) && alive)
+    m_failure->hide();
+    const bool isOpened = co_await m_opener.open(m_offer.page);
+    if (!alive)
+        co_return;
+    m_isOpening = false;
+    if (isOpened) {
         Q_EMIT closeRequested();
+        co_return;
+    }
+    m_failure->show();
+    QAccessibleEvent event(m_failure, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 } // namespace abissora

@@ -26,16 +26,19 @@ Q_SIGNALS:
     void closeRequested();
 
 protected:
-    /// The button to download has the focus at first.
+    /// The notes have the focus at first: what somebody was just typing does nothing there.
     void showEvent(QShowEvent* event) override;
 
 private:
-    [[nodiscard]] GroupBox* makeNotes() const;
+    [[nodiscard]] GroupBox* makeNotes();
+    [[nodiscard]] QWidget* makeFailure();
     QCoro::Task<> download();
 
     UpdateOffer m_offer;
     Opener& m_opener;
     PrimaryButton* m_download;
+    QWidget* m_failure = nullptr;
+    bool m_isOpening = false;
 };
 
 } // namespace abissora

@@ -12,6 +12,7 @@
 #include "UpdateView.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDialog>
 #include <QMainWindow>
 #include <QMouseEvent>
@@ -103,20 +104,25 @@ void TitlelessWindow::resizeEvent(QResizeEvent* event)
         setMask(roundedRegion(rect(), metrics::sheetRadius));
 }
 
+void showOver(QWidget& window, const QWidget* over)
+{
+    if (window.isVisible())
+        return;
+    if (over != nullptr) {
+        window.ensurePolished();
+        window.adjustSize();
+        QRect frame(QPoint(), window.size());
+        frame.moveCenter(over->geometry().center());
+        window.move(frame.topLeft());
+    }
+    window.show();
+}
+
 } // namespace
 
 void bringForward(QWidget& window, const QWidget* over)
 {
-    if (!window.isVisible()) {
-        if (over != nullptr) {
-            window.ensurePolished();
-            window.adjustSize();
-            QRect frame(QPoint(), window.size());
-            frame.moveCenter(over->geometry().center());
-            window.move(frame.topLeft());
-        }
-        window.show();
-    }
+    showOver(window, over);
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
     window.raise();
     window.activateWindow();
@@ -159,14 +165,48 @@ void AppWindows::openHelp()
 
 void AppWindows::openUpdate(const UpdateInfo& update)
 {
+    if (QApplication::activeModalWidget() != nullptr) {
+        m_waiting = update;
+        qApp->installEventFilter(this);
+        return;
+    }
     QPointer<QWidget>& window = m_updates[update];
     if (!window) {
         auto* view = new UpdateView(update, m_program.product.websiteURL, m_opener);
-        window = new TitlelessWindow(u"Aggiornamento disponibile"_s, view);
-        window->setObjectName(u"updateWindow"_s);
-        connect(view, &UpdateView::closeRequested, window, &QWidget::close);
+        auto* offer = new TitlelessWindow(u"Aggiornamento disponibile"_s, view);
+        offer->setObjectName(u"updateWindow"_s);
+        offer->setAttribute(Qt::WA_ShowWithoutActivating);
+        connect(view, &UpdateView::closeRequested, offer, &QWidget::close);
+        connect(offer, &QDialog::finished, this, &AppWindows::updateDismissed);
+        window = offer;
     }
-    bringForward(*window, m_mainWindow);
+    showOver(*window, m_mainWindow);
+    window->raise();
+}
+
+bool AppWindows::eventFilter(QObject* watched, QEvent* event)
+{
+    // A modal window that closes; its owner may open the next one at once.
+    if (event->type() == QEvent::Hide && watched->isWidgetType())
+        QMetaObject::invokeMethod(this, &AppWindows::openWaitingUpdate, Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
+}
+
+void AppWindows::openWaitingUpdate()
+{
+    if (!m_waiting || QApplication::activeModalWidget() != nullptr)
+        return;
+    qApp->removeEventFilter(this);
+    openUpdate(*std::exchange(m_waiting, std::nullopt));
+}
+
+void AppWindows::closeUpdates()
+{
+    m_waiting.reset();
+    qApp->removeEventFilter(this);
+    for (const QPointer<QWidget>& window : std::as_const(m_updates))
+        if (window)
+            window->close();
 }
 
 void AppWindows::closeAll()
@@ -174,9 +214,7 @@ void AppWindows::closeAll()
     for (QWidget* window : {m_about.data(), m_help.data()})
         if (window != nullptr)
             window->close();
-    for (const QPointer<QWidget>& window : std::as_const(m_updates))
-        if (window)
-            window->close();
+    closeUpdates();
 }
 
 } // namespace abissora

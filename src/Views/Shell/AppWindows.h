@@ -34,17 +34,31 @@ public:
 
     void openAbout();
     void openHelp();
+    /// The window comes without the keyboard, as somebody may be typing, and not before every sheet and other modal
+    /// window is closed.
     void openUpdate(const UpdateInfo& update);
+    /// Takes every offer back, also one that waits.
+    void closeUpdates();
 
     void closeAll();
 
+Q_SIGNALS:
+    /// The person closed an offer.
+    void updateDismissed();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void openWaitingUpdate();
+
     ProgramFacts m_program;
     Opener& m_opener;
     QPointer<QWidget> m_mainWindow;
     QPointer<QWidget> m_about;
     QPointer<QWidget> m_help;
     QHash<UpdateInfo, QPointer<QWidget>> m_updates;
+    std::optional<UpdateInfo> m_waiting; ///< for the last modal window to close
 };
 
 } // namespace abissora

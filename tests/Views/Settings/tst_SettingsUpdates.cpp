@@ -171,6 +171,39 @@ private Q_SLOTS:
         QVERIFY(s.sheet<ViewSheet>() != nullptr);
     }
 
+    void whatTheStartFoundIsOfferedElsewhere()
+    {
+        RegisterFixture f;
+        ShownSettings s(f);
+        f.updates.checkForUpdates(CheckReason::Start);
+        f.http.answer(200, newer);
+        settle();
+        QVERIFY(f.updates.availableUpdate());
+        QVERIFY(s.sheet<ViewSheet>() == nullptr);
+        s.view->hide();
+        s.view->show();
+        settle();
+        QVERIFY(s.sheet<ViewSheet>() == nullptr);
+        // The person's own check is another one.
+        s.click("checkForUpdates");
+        f.http.answer(200, newer);
+        settle();
+        QVERIFY(s.sheet<ViewSheet>() != nullptr);
+    }
+
+    void anOfferThatIsOverCloses()
+    {
+        RegisterFixture f;
+        ShownSettings s(f);
+        s.click("checkForUpdates");
+        f.http.answer(200, newer);
+        settle();
+        QVERIFY(s.sheet<ViewSheet>() != nullptr);
+        f.updates.clearAvailableUpdate();
+        settle();
+        QVERIFY(s.sheet<ViewSheet>() == nullptr);
+    }
+
     void anOfferWaitsForAnotherSheet()
     {
         RegisterFixture f;

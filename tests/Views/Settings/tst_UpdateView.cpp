@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "Alert.h"
 #include "Buttons.h"
 #include "Cards.h"
 #include "ClippedTexts.h"
@@ -13,6 +12,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -113,15 +113,64 @@ private Q_SLOTS:
     void saysWhenNothingOpensTheAddress()
     {
         Offer o;
+        QVERIFY(!test::isShown(o.view, "unopened"));
         o.f.opener.succeed(false);
         QTest::mouseClick(&o.button("download"), Qt::LeftButton);
+        test::settle();
         QCOMPARE(o.closed.size(), 0);
-        const auto* notice = o.view.findChild<Alert*>();
-        QVERIFY(notice != nullptr && notice->isVisible());
-        QVERIFY(notice->message().endsWith(u'\n' + address.toString()));
-        QTest::mouseClick(notice->safeButton(), Qt::LeftButton);
-        QTRY_VERIFY(o.view.findChild<Alert*>() == nullptr);
+        QCOMPARE(test::textOf(o.view, "unopened"),
+                 u"Il sistema non ha aperto la pagina da cui scaricare: forse manca un browser. L'indirizzo è:\n"_s +
+                     address.toString());
+        o.view.adjustSize(); // as its window does
+        test::settle();
+        QCOMPARE(test::clippedTexts(o.view), QStringList());
+        QTest::mouseClick(&o.button("copyAddress"), Qt::LeftButton);
+        QCOMPARE(QGuiApplication::clipboard()->text(), address.toString());
         QCOMPARE(o.closed.size(), 0);
+        o.f.opener.succeed(true);
+        QTest::mouseClick(&o.button("download"), Qt::LeftButton);
+        QCOMPARE(o.closed.size(), 1);
+        QCOMPARE(o.f.opener.opened().size(), 2);
+    }
+
+    void tellsWhoseAddressItIs_data()
+    {
+        QTest::addColumn<QString>("download");
+        QTest::addColumn<QString>("host");
+        QTest::newRow("plain") << address.toString() << u"abissora.example"_s;
+        QTest::newRow("looks like another") << u"https://abissora.example@altrove.example/x"_s << u"altrove.example"_s;
+        QTest::newRow("other letters") << u"https://аbissora.example/"_s << u"xn--bissora-1fg.example"_s;
+        QTest::newRow("no web page") << u"file:///etc/passwd"_s << u"abissora.example"_s;
+    }
+
+    void tellsWhoseAddressItIs()
+    {
+        QFETCH(const QString, download);
+        QFETCH(const QString, host);
+        UpdateInfo update = release();
+        update.downloadURL = QUrl(download);
+        const Offer o(update);
+        QCOMPARE(test::textOf(o.view, "downloadHost"), host);
+        const auto& label = test::part<QLabel>(o.view, "downloadHost");
+        QVERIFY(label.y() >= o.button("download").geometry().bottom());
+        QCOMPARE(label.geometry().right(), o.button("download").geometry().right());
+    }
+
+    void whatWasBeingTypedDoesNothing_data()
+    {
+        QTest::addColumn<int>("key");
+        for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_S, Qt::Key_Backspace})
+            QTest::newRow(qUtf8Printable(QKeySequence(key).toString())) << int(key);
+    }
+
+    void whatWasBeingTypedDoesNothing()
+    {
+        QFETCH(const int, key);
+        const Offer o;
+        QTest::keyClick(o.view.window()->focusWidget(), static_cast<Qt::Key>(key));
+        QCOMPARE(o.closed.size(), 0);
+        QCOMPARE(o.f.opener.opened(), QList<QUrl>());
+        QCOMPARE(o.notes().toPlainText(), *release().releaseNotes);
     }
 
     void waitsForABrowserThatComesLate()
@@ -195,9 +244,8 @@ private Q_SLOTS:
     void everythingIsReachedInReadingOrder()
     {
         Offer o;
-        o.view.setFocus();
-        QVERIFY(o.button("download").hasFocus());
-        QWidget* const order[] = {&o.notes(), &o.button("later"), &o.button("download")};
+        QVERIFY(o.notes().hasFocus());
+        QWidget* const order[] = {&o.button("later"), &o.button("download"), &o.notes()};
         for (QWidget* widget : order) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QCOMPARE(QApplication::focusWidget(), widget);
@@ -205,7 +253,6 @@ private Q_SLOTS:
         }
         QTest::keyClick(&o.button("download"), Qt::Key_Space);
         QCOMPARE(o.closed.size(), 1);
-        o.notes().setFocus();
         QTest::keyClick(&o.notes(), Qt::Key_A, Qt::ControlModifier);
         QCOMPARE(o.notes().textCursor().selectedText().size(), release().releaseNotes->size());
     }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "AboutView.h"
+#include "Alert.h"
 #include "AppWindows.h"
 #include "Gui.h"
 #include "HelpView.h"
@@ -10,6 +11,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QPointer>
+#include <QSignalSpy>
 
 using namespace abissora;
 using namespace abissora::test;
@@ -88,13 +91,63 @@ private Q_SLOTS:
         QCOMPARE(windowsOf<UpdateView>().size(), 3);
     }
 
+    void anOfferTakesNothingFromWhoTypes()
+    {
+        RegisterFixture f;
+        AppWindows windows({f.info, f.product}, f.opener);
+        windows.openUpdate(release(u"1.3.0"_s));
+        QWidget* const offer = windowsOf<UpdateView>().first();
+        QVERIFY(offer->testAttribute(Qt::WA_ShowWithoutActivating));
+        // Where a new window has the keyboard whatever it wants.
+        activate(*offer);
+        for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_A})
+            QTest::keyClick(offer->focusWidget(), key);
+        QCOMPARE(f.opener.opened(), QList<QUrl>());
+        QVERIFY(offer->isVisible());
+    }
+
+    void anOfferWaitsForTheLastSheet()
+    {
+        RegisterFixture f;
+        QWidget main;
+        activate(main);
+        AppWindows windows({f.info, f.product}, f.opener);
+        const QPointer<Alert> first = Alert::notice(&main, u"Titolo"_s, u"Testo"_s);
+        const QPointer<Alert> second = Alert::notice(first, u"Titolo"_s, u"Testo"_s);
+        windows.openUpdate(release(u"1.3.0"_s));
+        settle();
+        QVERIFY(windowsOf<UpdateView>().isEmpty());
+        second->reject();
+        settle();
+        QVERIFY(windowsOf<UpdateView>().isEmpty());
+        first->reject();
+        settle();
+        QCOMPARE(windowsOf<UpdateView>().size(), 1);
+    }
+
+    void anOfferThatWaitsMayBeTakenBack()
+    {
+        RegisterFixture f;
+        QWidget main;
+        activate(main);
+        AppWindows windows({f.info, f.product}, f.opener);
+        const QPointer<Alert> alert = Alert::notice(&main, u"Titolo"_s, u"Testo"_s);
+        windows.openUpdate(release(u"1.3.0"_s));
+        windows.closeUpdates();
+        alert->reject();
+        settle();
+        QVERIFY(windowsOf<UpdateView>().isEmpty());
+    }
+
     void theOfferClosesItsWindow()
     {
         RegisterFixture f;
         AppWindows windows({f.info, f.product}, f.opener);
         windows.openUpdate(release(u"1.3.0"_s));
-        Q_EMIT windowsOf<UpdateView>().first()->findChild<UpdateView*>()->closeRequested();
+        QSignalSpy dismissed(&windows, &AppWindows::updateDismissed);
+        press(*windowsOf<UpdateView>().first(), u"Più tardi"_s);
         QVERIFY(windowsOf<UpdateView>().isEmpty());
+        QCOMPARE(dismissed.size(), 1);
         settle();
         windows.openUpdate(release(u"1.3.0"_s));
         QCOMPARE(windowsOf<UpdateView>().size(), 1);
