@@ -16,6 +16,7 @@
 #include "TypeScale.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QListView>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -80,7 +81,33 @@ HelpIndexView::HelpIndexView(HelpIndex& index, QWidget* parent)
                        {metrics::spaceM, metrics::spaceM, metrics::spaceM, metrics::spaceM}));
     // A screen reader or a dictation sets the text, which is no edit to the field.
     connect(m_search, &QLineEdit::textChanged, this, &HelpIndexView::search);
+    connect(m_search, &QLineEdit::returnPressed, this, [this] {
+        if (selectFirst())
+            Q_EMIT readingRequested();
+    });
+    m_search->installEventFilter(this);
     showSections();
+}
+
+bool HelpIndexView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_search && event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<const QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Down && (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
+            if (selectFirst())
+                m_list->setFocus(Qt::TabFocusReason);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+bool HelpIndexView::selectFirst()
+{
+    if (m_index.filteredSections().isEmpty())
+        return false;
+    m_list->setCurrentIndex(m_titles.index(0));
+    return true;
 }
 
 void HelpIndexView::focusSearch()

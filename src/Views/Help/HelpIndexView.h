@@ -27,8 +27,11 @@ public:
 
 Q_SIGNALS:
     void selectionChanged();
+    /// The person wants to read what the search found first.
+    void readingRequested();
 
 protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
@@ -36,6 +39,8 @@ private:
     [[nodiscard]] QWidget* makeNoResult();
     void search(const QString& text);
     void selectRow();
+    /// False when there is none.
+    bool selectFirst();
     void showSections();
 
     HelpIndex& m_index;

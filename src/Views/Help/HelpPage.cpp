@@ -2,6 +2,7 @@
 #include "HelpPage.h"
 
 #include "HelpPageWriter.h"
+#include "HelpText.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Opening.h"
@@ -26,6 +27,7 @@ namespace {
 
 /// Longer lines are hard to read.
 constexpr int widestPage = 780;
+constexpr int caretWidth = 2;
 
 using help::Backdrop;
 
@@ -90,6 +92,7 @@ HelpPage::HelpPage(Opener& opener, QWidget* parent)
     setOpenLinks(false);
     setUndoRedoEnabled(false);
     setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+    setCursorWidth(caretWidth);
     setFrameShape(QFrame::NoFrame);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     viewport()->setAutoFillBackground(false);
@@ -106,6 +109,27 @@ void HelpPage::setSection(const HelpSection& section)
     write();
     moveCursor(QTextCursor::Start);
     verticalScrollBar()->setValue(0);
+    showFirstMatch();
+}
+
+void HelpPage::setSearchText(const QString& text)
+{
+    const QString wanted = help::withoutBlanksAndNewlines(text);
+    if (wanted == m_searchText)
+        return;
+    m_searchText = wanted;
+    markMatches();
+    showFirstMatch();
+}
+
+void HelpPage::goToFirstMatch()
+{
+    const auto matches = extraSelections();
+    QTextCursor caret(document());
+    if (!matches.isEmpty())
+        caret.setPosition(matches.first().cursor.selectionStart());
+    setTextCursor(caret);
+    ensureCursorVisible();
 }
 
 QVariant HelpPage::loadResource(int /*type*/, const QUrl& /*name*/)
@@ -132,7 +156,9 @@ void HelpPage::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape)
         event->ignore(); // closing is for what the page stands in
-    else if (!scrollBy(*event))
+    else if (event->key() == Qt::Key_Space)
+        turnPage(*event);
+    else
         QTextBrowser::keyPressEvent(event);
 }
 
@@ -163,6 +189,33 @@ void HelpPage::write()
 {
     HelpPageWriter(*document(), Tokens::of(palette())).write(*m_section);
     limitLines();
+    markMatches();
+}
+
+void HelpPage::markMatches()
+{
+    QList<ExtraSelection> marks;
+    const Tokens& tokens = Tokens::of(palette());
+    for (QTextCursor found(document()); !m_searchText.isEmpty();) {
+        found = document()->find(m_searchText, found);
+        if (found.isNull())
+            break;
+        QTextCharFormat look;
+        look.setBackground(tokens.match);
+        look.setForeground(tokens.text); // a link or a quote has an ink of its own
+        marks.append({found, look});
+    }
+    setExtraSelections(marks);
+}
+
+void HelpPage::showFirstMatch()
+{
+    const auto matches = extraSelections();
+    if (matches.isEmpty())
+        return;
+    const QRect place = cursorRect(matches.first().cursor);
+    if (!viewport()->rect().contains(place))
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + place.center().y() - viewport()->height() / 2);
 }
 
 void HelpPage::limitLines()
@@ -191,20 +244,12 @@ void HelpPage::rewrite()
     verticalScrollBar()->setValue(scrolled);
 }
 
-bool HelpPage::scrollBy(const QKeyEvent& event)
+void HelpPage::turnPage(const QKeyEvent& space)
 {
-    static const QHash<int, QAbstractSlider::SliderAction> actions{
-        {Qt::Key_Up, QAbstractSlider::SliderSingleStepSub},   {Qt::Key_Down, QAbstractSlider::SliderSingleStepAdd},
-        {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub}, {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd},
-        {Qt::Key_Space, QAbstractSlider::SliderPageStepAdd},  {Qt::Key_Home, QAbstractSlider::SliderToMinimum},
-        {Qt::Key_End, QAbstractSlider::SliderToMaximum},
-    };
-    const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    const bool isBackward = event.modifiers() == Qt::ShiftModifier && event.key() == Qt::Key_Space;
-    if (!actions.contains(event.key()) || (!isPlain && !isBackward))
-        return false;
-    verticalScrollBar()->triggerAction(isBackward ? QAbstractSlider::SliderPageStepSub : actions.value(event.key()));
-    return true;
+    // The caret goes along, as with the keys that say so.
+    const bool isBackward = space.modifiers().testFlag(Qt::ShiftModifier);
+    QKeyEvent page(QEvent::KeyPress, isBackward ? Qt::Key_PageUp : Qt::Key_PageDown, Qt::NoModifier);
+    QTextBrowser::keyPressEvent(&page);
 }
 
 } // namespace abissora

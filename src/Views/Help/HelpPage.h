@@ -22,6 +22,10 @@ public:
 
     /// Shows it from its top; the section that is shown already stays where it is.
     void setSection(const HelpSection& section);
+    /// Marks the text wherever it stands on the page, whatever the letter case, and brings the first place into view.
+    void setSearchText(const QString& text);
+    /// Puts the caret there; at the top when the page does not have the text.
+    void goToFirstMatch();
 
     /// Nothing, whatever is asked for.
     QVariant loadResource(int type, const QUrl& name) override;
@@ -38,8 +42,11 @@ private:
     void write();
     void rewrite();
     void limitLines();
-    [[nodiscard]] bool scrollBy(const QKeyEvent& event);
+    void turnPage(const QKeyEvent& space);
+    void markMatches();
+    void showFirstMatch();
 
+    QString m_searchText;
     std::optional<HelpSection> m_section;
 };
 

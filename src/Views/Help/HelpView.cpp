@@ -42,6 +42,10 @@ HelpView::HelpView(QList<HelpSection> sections, Opener& opener, QWidget* parent)
     connect(m_indexView, &HelpIndexView::selectionChanged, this, &HelpView::showSelection);
     connect(new QShortcut(QKeySequence::Find, this, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
             &QShortcut::activated, m_indexView, &HelpIndexView::focusSearch);
+    connect(m_indexView, &HelpIndexView::readingRequested, this, [this] {
+        m_page->goToFirstMatch();
+        m_page->setFocus(Qt::TabFocusReason);
+    });
     showSelection();
 }
 
@@ -68,6 +72,7 @@ QLayout* HelpView::makeBody()
 void HelpView::showSelection()
 {
     const std::optional<HelpSection> section = m_index.selectedSection();
+    m_page->setSearchText(m_index.searchText());
     if (section)
         m_page->setSection(*section);
     m_pages->setCurrentIndex(section ? 0 : 1);

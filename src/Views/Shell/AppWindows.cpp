@@ -14,6 +14,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QMouseEvent>
 #include <QPainter>
@@ -34,10 +35,23 @@ void closeByKeyboard(QWidget& window)
     window.addAction(close);
 }
 
+/// Closed by Escape, once nothing in it has another use for that: the search empties itself first.
+class HelpWindow final : public QMainWindow
+{
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->key() == Qt::Key_Escape)
+            close();
+        else
+            QMainWindow::keyPressEvent(event);
+    }
+};
+
 /// The guide in a window of its own. It deletes itself when it closes, so that it opens afresh.
 QWidget* makeHelpWindow(Opener& opener)
 {
-    auto* window = new QMainWindow;
+    auto* window = new HelpWindow;
     window->setObjectName(u"helpWindow"_s);
     window->setWindowTitle(u"Aiuto"_s);
     window->setAttribute(Qt::WA_DeleteOnClose);

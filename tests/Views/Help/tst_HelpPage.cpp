@@ -98,8 +98,12 @@ private Q_SLOTS:
     void hostileLinksAreText();
     void theSchemeSwitchesLive();
     void theTextSizeFollowsTheApplication();
-    void theKeysScroll_data();
-    void theKeysScroll();
+    void theKeysMoveTheCaret_data();
+    void theKeysMoveTheCaret();
+    void theCaretIsSeen();
+    void whatWasSearchedIsMarked_data();
+    void whatWasSearchedIsMarked();
+    void theFirstMatchComesIntoView();
     void shiftedKeysSelect();
     void escapeIsLeftToOthers();
     void anotherSectionIsShownFromItsTop();
@@ -275,37 +279,107 @@ void tst_HelpPage::theTextSizeFollowsTheApplication()
     QTRY_COMPARE(size(), before);
 }
 
-void tst_HelpPage::theKeysScroll_data()
+void tst_HelpPage::theKeysMoveTheCaret_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
-    QTest::addColumn<bool>("isForward");
-    const auto row = [](const char* name, Qt::Key key, bool isForward, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::newRow(name) << static_cast<int>(key) << static_cast<int>(modifiers) << isForward;
+    QTest::addColumn<int>("least"); // blocks that the caret moves at least
+    QTest::addColumn<int>("most");
+    const auto row = [](const char* name, Qt::Key key, int least, int most, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::newRow(name) << static_cast<int>(key) << static_cast<int>(modifiers) << least << most;
     };
-    row("down", Qt::Key_Down, true);
-    row("page down", Qt::Key_PageDown, true);
-    row("space", Qt::Key_Space, true);
-    row("end", Qt::Key_End, true);
-    row("up", Qt::Key_Up, false);
-    row("page up", Qt::Key_PageUp, false);
-    row("shift and space", Qt::Key_Space, false, Qt::ShiftModifier);
-    row("home", Qt::Key_Home, false);
+    row("down", Qt::Key_Down, 1, 1);
+    row("up", Qt::Key_Up, -1, -1);
+    row("page down", Qt::Key_PageDown, 5, 20);
+    row("page up", Qt::Key_PageUp, -20, -5);
+    row("space", Qt::Key_Space, 5, 20);
+    row("shift and space", Qt::Key_Space, -20, -5, Qt::ShiftModifier);
+    row("to the end", Qt::Key_End, 40, 40, Qt::ControlModifier);
+    row("to the start", Qt::Key_Home, -40, -40, Qt::ControlModifier);
+    row("end of the line", Qt::Key_End, 0, 0);
 }
 
-void tst_HelpPage::theKeysScroll()
+void tst_HelpPage::theKeysMoveTheCaret()
 {
     QFETCH(const int, key);
     QFETCH(const int, modifiers);
-    QFETCH(const bool, isForward);
+    QFETCH(const int, least);
+    QFETCH(const int, most);
     Shown shown(manyParagraphs());
     test::activate(shown.page);
-    QScrollBar& bar = *shown.page.verticalScrollBar();
-    const int middle = bar.maximum() / 2;
-    bar.setValue(middle);
+    QTextCursor middle(shown.page.document()->findBlockByNumber(40));
+    middle.movePosition(QTextCursor::Right);
+    shown.page.setTextCursor(middle);
     sendKey(shown.page, key, static_cast<Qt::KeyboardModifiers>(modifiers));
-    QVERIFY(isForward ? bar.value() > middle : bar.value() < middle);
-    QVERIFY(!shown.page.textCursor().hasSelection());
+    const QTextCursor caret = shown.page.textCursor();
+    const int moved = caret.blockNumber() - 40;
+    QVERIFY2(moved >= least && moved <= most, qPrintable(QString::number(moved)));
+    QVERIFY(caret.position() != middle.position());
+    QVERIFY(!caret.hasSelection());
+    QVERIFY(shown.page.viewport()->rect().contains(shown.page.cursorRect().center()));
+}
+
+void tst_HelpPage::theCaretIsSeen()
+{
+    Shown shown(manyParagraphs());
+    test::activate(shown.page);
+    sendKey(shown.page, Qt::Key_Down);
+    sendKey(shown.page, Qt::Key_End);
+    const QRect caret = shown.page.cursorRect();
+    const QColor ink = shown.page.viewport()->grab().toImage().pixelColor(caret.left(), caret.center().y());
+    const QColor ground = Tokens::of(Scheme::Light).window;
+    QVERIFY2(ink.lightness() < ground.lightness() - 100, qPrintable(ink.name()));
+}
+
+void tst_HelpPage::whatWasSearchedIsMarked_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("count");
+    QTest::newRow("nothing") << QString() << 0;
+    QTest::newRow("blanks") << u"  "_s << 0;
+    QTest::newRow("everywhere") << u"o"_s << -1;
+    QTest::newRow("letter case") << u" GRASSETTO "_s << 1;
+    QTest::newRow("in the title") << u"titolo"_s << 1;
+    QTest::newRow("in code") << u"**uno**"_s << 1;
+    QTest::newRow("in a link") << u"citazione"_s << 1;
+    QTest::newRow("only in the markup") << u"**grassetto**"_s << 0;
+}
+
+void tst_HelpPage::whatWasSearchedIsMarked()
+{
+    QFETCH(const QString, text);
+    QFETCH(const int, count);
+    Shown shown(QString::fromUtf8(everyKind));
+    shown.page.setSearchText(text);
+    if (count < 0) // as often as the page has it
+        QCOMPARE(shown.page.extraSelections().size(), shown.page.toPlainText().count(u'o', Qt::CaseInsensitive));
+    else
+        QCOMPARE(shown.page.extraSelections().size(), qsizetype(count));
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        applyTheme(*qApp, scheme);
+        test::activate(shown.page);
+        for (const auto& mark : shown.page.extraSelections()) {
+            QVERIFY(mark.cursor.hasSelection());
+            QCOMPARE(mark.format.background().color(), Tokens::of(scheme).match);
+            QCOMPARE(mark.format.foreground().color(), Tokens::of(scheme).text);
+        }
+    }
+    applyTheme(*qApp, Scheme::Light);
+    shown.page.setSearchText({});
+    QVERIFY(shown.page.extraSelections().isEmpty());
+}
+
+void tst_HelpPage::theFirstMatchComesIntoView()
+{
+    Shown shown(manyParagraphs() + u"In fondo uno scontrino."_s);
+    test::activate(shown.page);
+    shown.page.setSearchText(u"riga"_s);
+    QCOMPARE(shown.page.verticalScrollBar()->value(), 0);
+    shown.page.setSearchText(u"scontrino"_s);
+    QVERIFY(shown.page.verticalScrollBar()->value() > 0);
+    QCOMPARE(shown.page.textCursor().position(), 0);
+    shown.page.goToFirstMatch();
+    QCOMPARE(shown.page.textCursor().position(), at(shown.page, u"scontrino"_s).selectionStart());
 }
 
 void tst_HelpPage::shiftedKeysSelect()

@@ -37,6 +37,8 @@ private Q_SLOTS:
     void theProgramsGuideIsShown();
     void controlFGoesToTheSearch();
     void escapeClearsTheSearchAndThenGoesOn();
+    void downGoesFromTheSearchToTheFirstResult();
+    void enterGoesFromTheSearchToTheFirstResult();
     void theTabKeyGoesInReadingOrder();
     void everythingHasAName();
     void noTextIsClipped_data();
@@ -260,6 +262,41 @@ void tst_HelpView::escapeClearsTheSearchAndThenGoesOn()
         QApplication::sendEvent(widget, &escape);
         QVERIFY2(!escape.isAccepted(), qPrintable(widget->objectName()));
     }
+}
+
+void tst_HelpView::downGoesFromTheSearchToTheFirstResult()
+{
+    ShownHelp shown;
+    activate(shown.view);
+    shown.click(1);
+    type(shown.view, u"helpSearch", u"manutenzione"_s);
+    QCOMPARE(shown.selectedRow(), 1);
+    QTest::keyClick(&shown.search, Qt::Key_Down);
+    QVERIFY(shown.list.hasFocus());
+    QCOMPARE(shown.selectedRow(), 0);
+    QCOMPARE(shown.pageTitle(), u"Primi passi"_s);
+    QTest::keyClick(&shown.list, Qt::Key_Down);
+    QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
+    type(shown.view, u"helpSearch", u"rebreather"_s);
+    QTest::keyClick(&shown.search, Qt::Key_Down);
+    QVERIFY(shown.search.hasFocus());
+}
+
+void tst_HelpView::enterGoesFromTheSearchToTheFirstResult()
+{
+    ShownHelp shown;
+    activate(shown.view);
+    shown.click(2);
+    type(shown.view, u"helpSearch", u"scontrino"_s);
+    QTest::keyClick(&shown.search, Qt::Key_Return);
+    QVERIFY(shown.page.hasFocus());
+    QCOMPARE(shown.pageTitle(), u"Manutenzioni"_s);
+    const auto marks = shown.page.extraSelections();
+    QCOMPARE(marks.size(), qsizetype(1));
+    QCOMPARE(shown.page.textCursor().position(), marks.first().cursor.selectionStart());
+    type(shown.view, u"helpSearch", u"rebreather"_s);
+    QTest::keyClick(&shown.search, Qt::Key_Return);
+    QVERIFY(shown.search.hasFocus());
 }
 
 void tst_HelpView::theTabKeyGoesInReadingOrder()

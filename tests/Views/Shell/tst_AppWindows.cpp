@@ -75,6 +75,34 @@ private Q_SLOTS:
         QVERIFY(!(help->windowFlags() & Qt::FramelessWindowHint));
     }
 
+    void escapeClosesTheHelpWindow_data()
+    {
+        QTest::addColumn<QString>("place");
+        for (const auto& place : {u"helpSearch"_s, u"helpSections"_s, u"helpPage"_s})
+            QTest::newRow(qUtf8Printable(place)) << place;
+    }
+
+    void escapeClosesTheHelpWindow()
+    {
+        QFETCH(const QString, place);
+        RegisterFixture f;
+        AppWindows windows({f.info, f.product}, f.opener);
+        windows.openHelp();
+        QWidget& help = *windowsOf<HelpView>().first();
+        activate(help);
+        auto& focused = part(help, place);
+        focused.setFocus();
+        // The search empties itself first.
+        if (place == "helpSearch"_L1) {
+            type(help, place, u"scadenza"_s);
+            QTest::keyClick(&focused, Qt::Key_Escape);
+            QVERIFY(help.isVisible());
+            QCOMPARE(focused.property("text").toString(), QString());
+        }
+        QTest::keyClick(&focused, Qt::Key_Escape);
+        QVERIFY(!help.isVisible());
+    }
+
     void thereIsOneUpdateWindowForEachOffer()
     {
         RegisterFixture f;

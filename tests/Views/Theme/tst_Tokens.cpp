@@ -81,7 +81,8 @@ void tst_Tokens::contrastOfPairs_data()
                 QTest::addRow("%s: %s on %s", schemeName, ink.name, ground.name)
                     << tokens.*ink.role << tokens.*ground.role << least;
         };
-        pairs({"text", &Tokens::text}, {window, sidebar, surface, field, accentTint, selection, dangerTint, divider},
+        pairs({"text", &Tokens::text},
+              {window, sidebar, surface, field, accentTint, selection, dangerTint, divider, {"match", &Tokens::match}},
               textContrast);
         pairs({"secondary text", &Tokens::secondaryText},
               {window, sidebar, surface, field, accentTint, selection, divider}, textContrast);

@@ -29,6 +29,7 @@ struct Tokens
     QColor onFill;     ///< text on accentFill and dangerFill
     QColor accentTint;
     QColor selection; ///< selected table row
+    QColor match;     ///< behind the text that a search found
     QColor danger;
     QColor dangerFill;
     QColor dangerTint;
