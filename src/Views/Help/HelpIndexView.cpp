@@ -16,7 +16,6 @@
 #include "TypeScale.h"
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QListView>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -85,21 +84,11 @@ HelpIndexView::HelpIndexView(HelpIndex& index, QWidget* parent)
         if (selectFirst())
             Q_EMIT readingRequested();
     });
-    m_search->installEventFilter(this);
+    connect(m_search, &SearchField::resultsRequested, this, [this] {
+        if (selectFirst())
+            m_list->setFocus(Qt::TabFocusReason);
+    });
     showSections();
-}
-
-bool HelpIndexView::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_search && event->type() == QEvent::KeyPress) {
-        const auto* key = static_cast<const QKeyEvent*>(event);
-        if (key->key() == Qt::Key_Down && (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
-            if (selectFirst())
-                m_list->setFocus(Qt::TabFocusReason);
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 bool HelpIndexView::selectFirst()

@@ -31,7 +31,6 @@ Q_SIGNALS:
     void readingRequested();
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

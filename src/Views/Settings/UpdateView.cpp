@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "UpdateView.h"
 
+#include "Accessibility.h"
 #include "Assembly.h"
 #include "Buttons.h"
 #include "Cards.h"
@@ -12,7 +13,6 @@
 #include "Painting.h"
 #include "SymbolIcon.h"
 
-#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QPlainTextEdit>
@@ -187,8 +187,7 @@ QCoro::Task<> UpdateView::download()
         co_return;
     }
     m_failure->show();
-    QAccessibleEvent event(m_failure, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
+    announce(*this, m_offer.unopened);
 }
 
 } // namespace abissora

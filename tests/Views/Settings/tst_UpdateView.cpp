@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Buttons.h"
 #include "Cards.h"
+#include "Announcements.h"
 #include "ClippedTexts.h"
 #include "Gui.h"
 #include "Literals.h"
@@ -115,7 +116,9 @@ private Q_SLOTS:
         Offer o;
         QVERIFY(!test::isShown(o.view, "unopened"));
         o.f.opener.succeed(false);
+        const test::Announcements announcements;
         QTest::mouseClick(&o.button("download"), Qt::LeftButton);
+        QCOMPARE(announcements.texts(), QStringList{test::textOf(o.view, "unopened")});
         test::settle();
         QCOMPARE(o.closed.size(), 0);
         QCOMPARE(test::textOf(o.view, "unopened"),
