@@ -126,7 +126,7 @@ class Journey:
         self.pick(RECEIPT)
         self.press("Carica certificato (PDF)")
         self.pick(CERTIFICATE)
-        until("both documents", lambda: self.buttons("Rimuovi") == 2)
+        until("both documents", lambda: self.buttons("Rimuovi Scontrino") + self.buttons("Rimuovi Certificato") == 2)
         self.program.key("ctrl+Return")
         self.wait_until_closed("Nuova Manutenzione")
         receipt = self.wait_for_name("receiptFileName", "PDF")
@@ -186,8 +186,8 @@ class Journey:
     def remove_certificate(self):
         self.press("Modifica", 1)  # the first one edits the item
         self.program.find_anywhere(Atspi.Role.LABEL, "Modifica Manutenzione")
-        self.press("Rimuovi", 1)  # the certificate's
-        until("the removal in the form", lambda: self.buttons("Rimuovi") == 1)
+        self.press("Rimuovi Certificato")
+        until("the removal in the form", lambda: self.buttons("Rimuovi Certificato") == 0)
 
     def remove_in_the_form(self, receipt, certificate):
         # Removed in a form that is cancelled, it stays.

@@ -157,7 +157,7 @@ def check_the_item(program, data, before):
     program.table().add_row_selection(row)
     program.press(program.find(Atspi.Role.PUSH_BUTTON, "Modifica"))
     form = dialog(program, "Modifica Attrezzatura")
-    program.find(Atspi.Role.COMBO_BOX, OWN, form)
+    program.find(Atspi.Role.COMBO_BOX, "Tipo*: " + OWN, form)
     program.key("Escape")
     wait_until_closed(program, "Modifica Attrezzatura")
 

@@ -4,6 +4,8 @@
 #include "Literals.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QVariant>
 
 namespace abissora {
@@ -64,6 +66,59 @@ private:
     [[nodiscard]] QAbstractButton* button() const { return static_cast<QAbstractButton*>(object()); }
 };
 
+class PickerInterface final : public QAccessibleWidget
+{
+public:
+    explicit PickerInterface(QComboBox* picker)
+        : QAccessibleWidget(picker, QAccessible::ComboBox)
+    {}
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override
+    {
+        const QString choice = picker()->currentText();
+        const QString own = QAccessibleWidget::text(kind);
+        if (kind == QAccessible::Name)
+            return own.isEmpty() ? choice : own + u": "_s + choice;
+        return kind == QAccessible::Value ? choice : own;
+    }
+    [[nodiscard]] QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = picker()->view()->isVisible();
+        return state;
+    }
+    [[nodiscard]] int childCount() const override { return 1; }
+    [[nodiscard]] QAccessibleInterface* child(int index) const override
+    {
+        return index == 0 ? QAccessible::queryAccessibleInterface(picker()->view()) : nullptr;
+    }
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override
+    {
+        return child->object() == picker()->view() ? 0 : -1;
+    }
+    [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override
+    {
+        const QAbstractItemView* const view = picker()->view();
+        const bool isHit = view->isVisible() && view->rect().contains(view->mapFromGlobal(QPoint(x, y)));
+        return isHit ? child(0) : nullptr;
+    }
+    [[nodiscard]] QStringList actionNames() const override
+    {
+        return QStringList{showMenuAction(), pressAction()} << QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& action) override
+    {
+        if (action == showMenuAction() || action == pressAction())
+            picker()->view()->isVisible() ? picker()->hidePopup() : picker()->showPopup();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    [[nodiscard]] QComboBox* picker() const { return static_cast<QComboBox*>(object()); }
+};
+
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
 {
     auto* const widget = qobject_cast<QWidget*>(object);
@@ -99,6 +154,11 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role, AccessibleParts 
 void setAccessibleChoice(QAbstractButton& button, QAccessible::Role role)
 {
     setAccessibleMaker(button, [role](QWidget* object) { return new ChoiceInterface(object, role); });
+}
+
+void setAccessiblePicker(QComboBox& picker)
+{
+    setAccessibleInterface<PickerInterface>(picker);
 }
 
 void setAccessibleMaker(QWidget& widget, Maker make)

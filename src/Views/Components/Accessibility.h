@@ -5,6 +5,7 @@
 #include <functional>
 
 class QAbstractButton;
+class QComboBox;
 
 namespace abissora {
 
@@ -21,6 +22,10 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role, AccessibleParts 
 /// One of several buttons that exclude one another; the toolkit would make check boxes of them. Its text is its name
 /// unless it has an accessible name.
 void setAccessibleChoice(QAbstractButton& button, QAccessible::Role role = QAccessible::RadioButton);
+
+/// The toolkit names a picker by its choice alone. This one is read as "Tipo: Erogatore", with what names it by its
+/// label or its accessible name; its value is the choice.
+void setAccessiblePicker(QComboBox& picker);
 
 void setAccessibleMaker(QWidget& widget, std::function<QAccessibleInterface*(QWidget*)> make);
 

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "Buttons.h"
 
+#include "AccessKeys.h"
 #include "SymbolIcon.h"
 #include "Tokens.h"
+
+#include <QStyleOptionButton>
 
 namespace abissora {
 
@@ -44,6 +47,13 @@ LookButton::LookButton(ButtonLook look, const QString& text, const QString& symb
 void LookButton::setSymbol(const QString& name)
 {
     setIcon(symbolFor(m_look, name));
+}
+
+void LookButton::initStyleOption(QStyleOptionButton* option) const
+{
+    QPushButton::initStyleOption(option);
+    if (const QChar key = accessKeyOf(*this); !key.isNull())
+        option->text = markedText(text(), key, *this);
 }
 
 IconButton::IconButton(const QIcon& icon, const QString& name, QWidget* parent)

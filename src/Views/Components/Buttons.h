@@ -19,6 +19,9 @@ public:
     /// In the colour of the look's text.
     void setSymbol(const QString& name);
 
+protected:
+    void initStyleOption(QStyleOptionButton* option) const override;
+
 private:
     ButtonLook m_look;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Cards.h"
 
+#include "AccessKeys.h"
 #include "Accessibility.h"
 #include "IconViews.h"
 #include "Metrics.h"
@@ -10,7 +11,6 @@
 #include "TypeScale.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
 
@@ -34,10 +34,9 @@ void Card::paintEvent(QPaintEvent*)
 
 GroupBox::GroupBox(const QString& title, const QString& symbol, QWidget* parent)
     : Card(parent)
-    , m_title(new QLabel)
+    , m_title(new NameLabel)
 {
     m_title->setFont(abissora::font(TextStyle::Headline));
-    m_title->setTextFormat(Qt::PlainText);
     auto* header = new QHBoxLayout;
     header->setSpacing(metrics::spaceS);
     if (!symbol.isEmpty())
@@ -56,6 +55,11 @@ void GroupBox::setTitle(const QString& title)
 {
     m_title->setText(title);
     setAccessibleName(title);
+}
+
+void GroupBox::setAccessKey(QChar key, QWidget* widget)
+{
+    m_title->setAccessKey(key, widget);
 }
 
 Separator::Separator(Weight weight, QWidget* parent)

@@ -3,10 +3,11 @@
 
 #include <QFrame>
 
-class QLabel;
 class QVBoxLayout;
 
 namespace abissora {
+
+class NameLabel;
 
 /// A rounded surface with a hairline border, its content below one another.
 class Card : public QFrame
@@ -35,9 +36,11 @@ public:
 
     [[nodiscard]] QString title() const;
     void setTitle(const QString& title);
+    /// A letter of the title, which then leads to a widget of the content.
+    void setAccessKey(QChar key, QWidget* widget);
 
 private:
-    QLabel* m_title;
+    NameLabel* m_title;
 };
 
 /// A horizontal hairline.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "FormRow.h"
 
+#include "AccessKeys.h"
+#include "Accessibility.h"
 #include "ControlLook.h"
 #include "Labels.h"
 #include "Literals.h"
@@ -26,18 +28,21 @@ void CheckedField::setError(const QString& error)
     m_error = error;
     setInvalidLook(*this, !error.isEmpty());
     setAccessibleDescription(error);
+    if (isVisible())
+        announce(*this, error);
     Q_EMIT errorChanged(error);
 }
 
-FormRow::FormRow(const QString& label, QWidget* field, QWidget* parent)
+FormRow::FormRow(const QString& label, QWidget* field, QChar accessKey, QWidget* parent)
     : QWidget(parent)
 {
     // With a buddy the label takes an ampersand for the mark of an access key.
-    auto* name = new QLabel(QString(label).replace(u'&', "&&"_L1));
+    auto* name = new NameLabel(QString(label).replace(u'&', "&&"_L1));
     name->setForegroundRole(QPalette::PlaceholderText);
     name->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     if (!label.isEmpty())
         name->setBuddy(field);
+    name->setAccessKey(accessKey, field);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setHorizontalSpacing(metrics::spaceM);

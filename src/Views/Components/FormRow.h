@@ -43,8 +43,8 @@ public:
     static constexpr int labelColumn = 156; ///< at the usual text size
 
     /// Takes the field over. A field that does not want the whole width says so by its size policy. The error of a
-    /// CheckedField stands below it.
-    FormRow(const QString& label, QWidget* field, QWidget* parent = nullptr);
+    /// CheckedField stands below it. The access key is a letter of the label.
+    FormRow(const QString& label, QWidget* field, QChar accessKey = {}, QWidget* parent = nullptr);
 
     /// A width other than labelColumn, at the usual text size too.
     void setLabelColumn(int width);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Sheet.h"
 
+#include "AccessKeys.h"
 #include "Assembly.h"
 #include "Buttons.h"
 #include "Cards.h"
@@ -12,6 +13,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QShortcut>
+#include <QStyle>
 
 namespace abissora {
 
@@ -29,14 +31,20 @@ Sheet::Sheet(const QString& title, QWidget* parent)
     , m_primary(named(new PrimaryButton({}), u"primary"_s))
     , m_scroll(new ScrollPane)
     , m_body(new QVBoxLayout(m_scroll->widget()))
+    , m_footLines(inColumn(metrics::spaceXS, {}, {sideMargin, metrics::spaceS, sideMargin, metrics::spaceM}))
+    , m_foot(makeFoot())
 {
     setTitle(title);
+    setAccessKey(*m_cancel, u'A');
     m_primary->hide();
 
-    m_body->setContentsMargins(sideMargin, metrics::spaceL, sideMargin, metrics::spaceL);
+    // The scroll bar has its room in the margin from the start, so that nothing moves when it comes or goes.
+    m_scroll->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    const int besideBar = std::max(0, sideMargin - style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    m_body->setContentsMargins(sideMargin, metrics::spaceL, besideBar, metrics::spaceL);
     m_body->setSpacing(metrics::spaceL - 2);
 
-    setLayout(inColumn(0, {makeHeader(), new Separator, {m_scroll, 1}}, {1, 1, 1, 1}));
+    setLayout(inColumn(0, {makeHeader(), new Separator, {m_scroll, 1}, m_foot}, {1, 1, 1, 1}));
 
     connect(m_cancel, &QAbstractButton::clicked, this, &QDialog::reject);
     connect(m_primary, &QAbstractButton::clicked, this, &Sheet::primaryClicked);
@@ -59,15 +67,31 @@ QWidget* Sheet::makeHeader()
     return header;
 }
 
+QWidget* Sheet::makeFoot()
+{
+    auto* foot = new QWidget;
+    foot->setLayout(inColumn(0, {new Separator, m_footLines}));
+    foot->hide();
+    return foot;
+}
+
+void Sheet::addToFoot(QWidget* line)
+{
+    m_footLines->addWidget(line);
+    m_foot->show();
+}
+
 void Sheet::setTitle(const QString& title)
 {
     setWindowTitle(title);
     m_title->setText(title);
 }
 
-void Sheet::setPrimaryText(const QString& text)
+void Sheet::setPrimaryText(const QString& text, QChar accessKey)
 {
     m_primary->setText(text);
+    if (!accessKey.isNull())
+        setAccessKey(*m_primary, accessKey);
     m_primary->setVisible(!text.isEmpty());
 }
 
@@ -98,7 +122,7 @@ void Sheet::pressPrimary()
 void Sheet::goTo(QWidget* field)
 {
     field->setFocus(Qt::TabFocusReason);
-    m_scroll->ensureWidgetVisible(field);
+    m_scroll->bringIntoSight(*field);
 }
 
 QSize Sheet::preferredSize() const
@@ -106,12 +130,13 @@ QSize Sheet::preferredSize() const
     if (m_preferred.isValid())
         return m_preferred;
     const QSize content = m_content != nullptr ? m_content->sizeHint() : m_scroll->widget()->sizeHint();
-    const int header = m_cancel->parentWidget()->sizeHint().height() + 3;
+    const int foot = m_foot->isVisibleTo(this) ? m_foot->sizeHint().height() : 0;
+    const int around = m_cancel->parentWidget()->sizeHint().height() + 3 + foot;
     const int width = std::max(withText(formWidth, fontMetrics()), content.width() + 2);
     const QWidget* const body = m_scroll->widget();
     const int height =
         m_content == nullptr && body->hasHeightForWidth() ? body->heightForWidth(width) : content.height();
-    return {width, header + height};
+    return {width, around + height};
 }
 
 QWidget* Sheet::firstFocus() const

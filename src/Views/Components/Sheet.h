@@ -4,16 +4,16 @@
 #include "SheetWindow.h"
 
 class QLabel;
-class QScrollArea;
 class QVBoxLayout;
 
 namespace abissora {
 
 class PlainButton;
 class PrimaryButton;
+class ScrollPane;
 
 /// A form or a screen over its window: a header with a button to leave, the title and, once given a text, a primary
-/// button; below it a body that scrolls. Escape leaves, Ctrl+Return presses the primary button.
+/// button; below it a body that scrolls, with a foot that stays. Escape leaves, Ctrl+Return presses the primary button.
 class Sheet : public SheetWindow
 {
     Q_OBJECT
@@ -26,12 +26,14 @@ public:
     /// "Annulla" until told otherwise; it rejects the dialog.
     [[nodiscard]] PlainButton* cancelButton() const { return m_cancel; }
     /// Hidden until it is given a text here. Pressing it closes nothing by itself.
-    void setPrimaryText(const QString& text);
+    void setPrimaryText(const QString& text, QChar accessKey = {});
     [[nodiscard]] PrimaryButton* primaryButton() const { return m_primary; }
 
     [[nodiscard]] QVBoxLayout* body() const { return m_body; }
     /// What the body scrolls in.
-    [[nodiscard]] QScrollArea* scrollArea() const { return m_scroll; }
+    [[nodiscard]] ScrollPane* scrollArea() const { return m_scroll; }
+    /// Stands below the body, in sight wherever that is scrolled to. Lines of it stand below one another.
+    void addToFoot(QWidget* line);
     /// For content that scrolls by itself: takes the place of the scrolling body.
     void setContent(QWidget* content);
 
@@ -51,13 +53,16 @@ protected:
 
 private:
     [[nodiscard]] QWidget* makeHeader();
+    [[nodiscard]] QWidget* makeFoot();
     void pressPrimary();
 
     QLabel* m_title;
     PlainButton* m_cancel;
     PrimaryButton* m_primary;
-    QScrollArea* m_scroll;
+    ScrollPane* m_scroll;
     QVBoxLayout* m_body;
+    QVBoxLayout* m_footLines;
+    QWidget* m_foot;
     QWidget* m_content = nullptr;
     QPointer<QWidget> m_firstField;
     QSize m_preferred;

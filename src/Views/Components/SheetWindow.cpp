@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SheetWindow.h"
 
+#include "AccessKeys.h"
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
@@ -8,7 +9,7 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QPainter>
 #include <QScreen>
@@ -17,7 +18,7 @@ namespace abissora {
 
 namespace {
 
-constexpr int distanceToEdge = metrics::spaceXL;
+constexpr int distanceToEdge = metrics::spaceL;
 
 /// Dims a window for as long as it exists.
 class Scrim final : public QWidget
@@ -142,6 +143,8 @@ void SheetWindow::uncover()
 bool SheetWindow::event(QEvent* event)
 {
     const bool handled = QDialog::event(event);
+    if (event->type() == QEvent::WindowDeactivate)
+        setAccessKeysShown(*this, false);
     if (event->type() == QEvent::LayoutRequest && isVisible())
         place();
     return handled;
@@ -167,6 +170,20 @@ void SheetWindow::resizeEvent(QResizeEvent* event)
     QDialog::resizeEvent(event);
     if (!windowsCanBeTranslucent())
         setMask(roundedRegion(rect(), metrics::sheetRadius));
+}
+
+void SheetWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Alt)
+        setAccessKeysShown(*this, true);
+    QDialog::keyPressEvent(event);
+}
+
+void SheetWindow::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Alt)
+        setAccessKeysShown(*this, false);
+    QDialog::keyReleaseEvent(event);
 }
 
 } // namespace abissora

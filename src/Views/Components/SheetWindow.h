@@ -8,6 +8,7 @@ namespace abissora {
 
 /// A rounded window-modal dialog without a frame, centred over the window it belongs to, which it dims. When it closes,
 /// the focus goes back to where it was. That window's own actions that hold in the whole application hold here, too.
+/// While Alt is held, the access keys are underlined.
 class SheetWindow : public QDialog
 {
     Q_OBJECT
@@ -27,6 +28,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     void setVisible(bool visible) override;
 
 private:

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ToggleSwitch.h"
 
+#include "AccessKeys.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "Tokens.h"
@@ -91,7 +92,8 @@ void ToggleSwitch::paintEvent(QPaintEvent*)
     const int mnemonic =
         style()->styleHint(QStyle::SH_UnderlineShortcut, &option, this) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     painter.drawItemText(QStyle::visualRect(layoutDirection(), rect(), textRect),
-                         int{Qt::AlignLeft} | Qt::AlignVCenter | mnemonic, palette(), isEnabled(), text(),
+                         int{Qt::AlignLeft} | Qt::AlignVCenter | mnemonic, palette(), isEnabled(),
+                         accessKeyOf(*this).isNull() ? text() : markedText(text(), accessKeyOf(*this), *this),
                          QPalette::WindowText);
 }
 

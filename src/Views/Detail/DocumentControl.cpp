@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DocumentControl.h"
 
+#include "AccessKeys.h"
 #include "Assembly.h"
 #include "Buttons.h"
 #include "IconViews.h"
@@ -42,11 +43,16 @@ void DocumentControl::lookLikeAForm(DocumentSlot slot)
     layout()->addWidget(file);
 
     m_open = named(new PlainButton(u"Apri"_s), u"open"_s + label);
-    m_open->setAccessibleDescription(label);
     m_takeAway = named(new DestructiveButton(u"Rimuovi"_s), u"remove"_s + label);
-    m_takeAway->setAccessibleDescription(label);
     const QString attach = slot == DocumentSlot::Receipt ? u"Carica scontrino (PDF)"_s : u"Carica certificato (PDF)"_s;
     m_takeIn = named(new PlainButton(attach, u"doc.badge.plus"_s), u"attach"_s + label);
+    // Both documents have buttons of the same text.
+    for (LookButton* button : {m_open, m_takeAway})
+        button->setAccessibleName(button->text() + u' ' + label);
+    const bool isReceipt = slot == DocumentSlot::Receipt;
+    setAccessKey(*m_open, isReceipt ? u'P' : u'I');
+    setAccessKey(*m_takeAway, isReceipt ? u'R' : u'V');
+    setAccessKey(*m_takeIn, isReceipt ? u'O' : u'F');
 }
 
 void DocumentControl::lookLikeLinks(DocumentSlot slot)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "MaintenanceFormView.h"
 
+#include "AccessKeys.h"
+#include "Accessibility.h"
 #include "Assembly.h"
 #include "Buttons.h"
 #include "Cards.h"
@@ -45,7 +47,7 @@ MaintenanceFormView::MaintenanceFormView(std::unique_ptr<MaintenanceDraft> draft
     , m_notes(named(new NotesField(notesHeight), "notes"))
 {
     setObjectName(u"maintenanceForm"_s);
-    setPrimaryText(u"Salva"_s);
+    setPrimaryText(u"Salva"_s, u'S');
     buildBody();
     showState();
     connectFields();
@@ -55,17 +57,21 @@ void MaintenanceFormView::buildBody()
 {
     m_cost->setMaximumWidth(withText(costWidth, fontMetrics()));
     m_next->setAccessibleName(u"Data Prossimo Tagliando"_s);
+    setAccessKey(*m_completed, u'M');
+    GroupBox* const notes = makeGroup(u"Note"_s, {m_notes});
+    notes->setAccessKey(u'T', m_notes);
     for (QWidget* group : std::initializer_list<QWidget*>{
              makeDetails(),
              makeGroup(u"Informazioni Aggiuntive"_s,
-                       {new FormRow(u"Eseguito da"_s, m_performedBy), new FormRow(u"Costo"_s, m_cost)}),
+                       {new FormRow(u"Eseguito da"_s, m_performedBy, u'E'), new FormRow(u"Costo"_s, m_cost, u'C')}),
              makeGroup(u"Esito e Documenti"_s,
                        {m_completed, makeDocument(DocumentSlot::Receipt), makeDocument(DocumentSlot::Certificate)}),
              makeNextService(),
-             makeGroup(u"Note"_s, {m_notes}),
-             new InkLabel(TextStyle::Caption, &Tokens::secondaryText, u"* Campi obbligatori"_s),
+             notes,
          })
         body()->addWidget(group);
+    body()->addStretch();
+    addToFoot(new InkLabel(TextStyle::Caption, &Tokens::secondaryText, u"* Campi obbligatori"_s));
     setFirstField(m_description);
 }
 
@@ -73,6 +79,7 @@ QWidget* MaintenanceFormView::makeDetails()
 {
     m_date->setAccessibleName(u"Data"_s);
     m_date->setFixedWidth(withText(FormRow::labelColumn, fontMetrics())); // the type stands above the other fields
+    setAccessiblePicker(*m_type);
     m_type->setAccessibleName(u"Tipo"_s);
     for (const MaintenanceType type : allCases<MaintenanceType>()) {
         const TypeAppearance look = appearanceOf(type);
@@ -89,7 +96,7 @@ QWidget* MaintenanceFormView::makeDetails()
     auto* group = new GroupBox(u"Dettagli Manutenzione"_s);
     group->content()->addLayout(inRow(metrics::spaceM, {m_date, {m_type, 1}}));
     group->content()->addWidget(error);
-    group->content()->addWidget(new FormRow(u"Descrizione*"_s, m_description));
+    group->content()->addWidget(new FormRow(u"Descrizione*"_s, m_description, u'D'));
     return group;
 }
 
@@ -136,7 +143,7 @@ QWidget* MaintenanceFormView::makeNextService()
     auto* wand = new IconView(symbolIcon(u"wand.and.stars"_s, NamedColor::blue));
     auto* group = new GroupBox(u"Prossimo Tagliando"_s);
     group->content()->addLayout(inRow(metrics::spaceS, {{wand, 0, Qt::AlignTop}, {explanation, 1}}));
-    group->content()->addWidget(new FormRow(u"Data Prossimo Tagliando"_s, m_next));
+    group->content()->addWidget(new FormRow(u"Data Prossimo Tagliando"_s, m_next, u'G'));
     return group;
 }
 

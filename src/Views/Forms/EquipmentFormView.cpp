@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentFormView.h"
 
+#include "AccessKeys.h"
 #include "Alert.h"
 #include "Assembly.h"
 #include "Buttons.h"
@@ -21,7 +22,7 @@ namespace abissora {
 
 namespace {
 
-constexpr int notesHeight = 110;
+constexpr int notesHeight = 84;
 
 } // namespace
 
@@ -45,7 +46,7 @@ EquipmentForm::EquipmentForm(Purpose purpose, const QString& title, const Equipm
     , m_notes(named(new NotesField(notesHeight), "notes"))
     , m_incomplete(named(new InkLabel(TextStyle::Caption, &Tokens::danger), "incomplete"))
 {
-    setPrimaryText(u"Salva"_s);
+    setPrimaryText(u"Salva"_s, u'S');
     addGroups();
     addFootnotes();
     setState(initial);
@@ -57,17 +58,21 @@ EquipmentForm::EquipmentForm(Purpose purpose, const QString& title, const Equipm
 void EquipmentForm::addGroups()
 {
     GroupBox* const state = makeGroup(u"Stato"_s, {m_isActive});
+    setAccessKey(*m_isActive, u'V');
+    GroupBox* const notes = makeGroup(u"Note"_s, {m_notes});
+    notes->setAccessKey(u'E', m_notes);
     state->setVisible(m_purpose == Purpose::Edit);
     for (GroupBox* group : {
              makeGroup(u"Informazioni Generali"_s,
-                       {new FormRow(u"Nome*"_s, m_name), new FormRow(u"Tipo*"_s, m_type), m_intervalRow}),
-             makeGroup(u"Dettagli Tecnici"_s, {new FormRow(u"Marca*"_s, m_brand), new FormRow(u"Modello"_s, m_model),
-                                               new FormRow(u"Numero Seriale"_s, m_serialNumber)}),
-             makeGroup(u"Date"_s, {new FormRow(u"Data Acquisto"_s, m_purchaseDate),
-                                   new FormRow(u"Ultimo Tagliando"_s, m_lastServiceDate),
+                       {new FormRow(u"Nome*"_s, m_name, u'N'), new FormRow(u"Tipo*"_s, m_type, u'T'), m_intervalRow}),
+             makeGroup(u"Dettagli Tecnici"_s,
+                       {new FormRow(u"Marca*"_s, m_brand, u'M'), new FormRow(u"Modello"_s, m_model, u'D'),
+                        new FormRow(u"Numero Seriale"_s, m_serialNumber, u'U')}),
+             makeGroup(u"Date"_s, {new FormRow(u"Data Acquisto"_s, m_purchaseDate, u'Q'),
+                                   new FormRow(u"Ultimo Tagliando"_s, m_lastServiceDate, u'L'),
                                    new FormRow(u"Prossimo Tagliando"_s, m_nextServiceDate)}),
              state,
-             makeGroup(u"Note"_s, {m_notes}),
+             notes,
          })
         body()->addWidget(group);
 }
@@ -80,8 +85,9 @@ void EquipmentForm::addFootnotes()
     m_incomplete->setSizePolicy(policy);
     auto* required =
         named(new InkLabel(TextStyle::Caption, &Tokens::secondaryText, u"* Campi obbligatori"_s), "required");
-    body()->addLayout(inColumn(metrics::spaceXS, {required, m_incomplete}));
     body()->addStretch();
+    addToFoot(required);
+    addToFoot(m_incomplete);
 }
 
 void EquipmentForm::setState(const EquipmentFormState& state)

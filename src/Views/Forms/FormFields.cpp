@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FormFields.h"
 
+#include "Accessibility.h"
 #include "Assembly.h"
 #include "Cards.h"
 #include "Literals.h"
@@ -62,6 +63,7 @@ QString NotesField::notes() const
 TypePicker::TypePicker(QWidget* parent)
     : QComboBox(parent)
 {
+    setAccessiblePicker(*this);
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

@@ -13,6 +13,7 @@
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
+#include "ScrollPane.h"
 #include "Stepper.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
@@ -20,7 +21,6 @@
 
 #include <QEvent>
 #include <QLineEdit>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <limits>
 
@@ -37,9 +37,9 @@ constexpr int shortestInterval = 30; // days
 constexpr int longestInterval = 730;
 constexpr int intervalStep = 30;
 
-FormRow* row(const QString& label, QWidget* field)
+FormRow* row(const QString& label, QWidget* field, QChar accessKey = {})
 {
-    auto* row = new FormRow(label, field);
+    auto* row = new FormRow(label, field, accessKey);
     row->setLabelColumn(labelColumn);
     return row;
 }
@@ -141,7 +141,7 @@ EquipmentTypeFormView::EquipmentTypeFormView(EquipmentTypeViewModel& types, IdGe
     , m_icons(new IconPicker)
     , m_preview(new Preview)
 {
-    setPrimaryText(u"Salva"_s);
+    setPrimaryText(u"Salva"_s, u'S');
     setPreferredSize({withText(preferredWidth, fontMetrics()), withText(preferredHeight, fontMetrics())});
     makeColumns();
     setState(editingType ? EquipmentTypeFormState::of(*editingType) : EquipmentTypeFormState());
@@ -162,12 +162,12 @@ GroupBox* EquipmentTypeFormView::makeBasics()
     m_interval->setSingleStep(intervalStep);
     m_interval->setSuffix(u" giorni"_s);
 
-    auto* name = row(u"Nome Tipologia*"_s, m_name);
+    auto* name = row(u"Nome Tipologia*"_s, m_name, u'N');
     name->setHint(u"* Campo obbligatorio"_s);
     name->addBelow(m_invalidName);
     auto* group = new GroupBox(u"Informazioni Base"_s);
     group->content()->addWidget(name);
-    group->content()->addWidget(row(u"Intervallo Tagliando"_s, m_interval));
+    group->content()->addWidget(row(u"Intervallo Tagliando"_s, m_interval, u'I'));
     group->content()->addWidget(row({}, m_color));
     return group;
 }
@@ -194,7 +194,7 @@ void EquipmentTypeFormView::connectFields()
     connect(m_color, &ColorChoice::chosen, this, &EquipmentTypeFormView::refresh);
     connect(&m_icons->grid(), &IconGrid::chosen, this, &EquipmentTypeFormView::refresh);
     connect(&m_icons->grid(), &IconGrid::entered, scrollArea(),
-            [this](QWidget* cell) { scrollArea()->ensureWidgetVisible(cell); });
+            [this](const QWidget* cell) { scrollArea()->bringIntoSight(*cell); });
     connect(this, &Sheet::primaryClicked, this, &EquipmentTypeFormView::save);
 }
 

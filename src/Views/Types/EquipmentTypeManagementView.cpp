@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeManagementView.h"
 
+#include "AccessKeys.h"
 #include "Alert.h"
 #include "Buttons.h"
 #include "Cards.h"
@@ -43,6 +44,9 @@ EquipmentTypeManagementView::EquipmentTypeManagementView(EquipmentTypeViewModel&
     , m_reset(new PlainButton(u"Ripristina Default"_s))
 {
     cancelButton()->setText(u"Chiudi"_s);
+    setAccessKey(*cancelButton(), u'C');
+    setAccessKey(*m_add, u'N');
+    setAccessKey(*m_reset, u'R');
     setPreferredSize({withText(preferredWidth, fontMetrics()), withText(preferredHeight, fontMetrics())});
     setContent(makeContent());
     setFirstField(m_search);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Announcements.h"
 #include "ClippedTexts.h"
 #include "ComponentTest.h"
 #include "FormRow.h"
@@ -89,6 +90,7 @@ void tst_FormRow::theErrorOfAFieldStandsBelowIt()
     row.resize(520, 30);
     test::activate(row);
     const int height = row.sizeHint().height();
+    const test::Announcements heard;
     field->setText(u"Data non valida"_s);
     QVERIFY(!field->commit());
     QTRY_VERIFY(row.sizeHint().height() > height);
@@ -96,6 +98,7 @@ void tst_FormRow::theErrorOfAFieldStandsBelowIt()
     auto* const error = row.findChild<QLabel*>(u"error"_s);
     QVERIFY(error && error->isVisible());
     QCOMPARE(error->text(), u"Data non valida"_s);
+    QCOMPARE(heard.texts(), QStringList{u"Data non valida"_s});
     QCOMPARE(error->x(), field->x());
     QVERIFY(error->y() > field->geometry().bottom());
     QCOMPARE(test::clippedTexts(row), QStringList());

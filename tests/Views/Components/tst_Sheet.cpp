@@ -5,11 +5,12 @@
 #include "ComponentTest.h"
 #include "FormRow.h"
 #include "Literals.h"
+#include "ScrollPane.h"
 #include "Sheet.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QVBoxLayout>
@@ -37,6 +38,8 @@ private Q_SLOTS:
     void theWindowBelowIsDimmedMeanwhile();
     void itIsCentredAndFitsTheWindow();
     void aTallBodyScrolls();
+    void theFootStaysInSight();
+    void nothingMovesWhenTheBodyBeginsToScroll();
     void theHeaderIsNotClipped();
 
 private:
@@ -215,6 +218,34 @@ void tst_Sheet::aTallBodyScrolls()
     QVERIFY(m_sheet->height() < 700);
     QVERIFY(m_sheet->findChild<QScrollArea*>()->verticalScrollBar()->maximum() > 0);
     QCOMPARE(m_sheet->findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0);
+}
+
+void tst_Sheet::theFootStaysInSight()
+{
+    auto* line = new QLabel(u"* Campi obbligatori"_s);
+    m_sheet->open();
+    test::settle();
+    const int before = m_sheet->height();
+    m_sheet->addToFoot(line);
+    test::settle();
+    QVERIFY(m_sheet->height() > before); // the body has its height as before
+    QCOMPARE(m_sheet->scrollArea()->verticalScrollBar()->maximum(), 0);
+    m_notes->setFixedHeight(1500);
+    test::settle();
+    QCOMPARE(line->visibleRegion().boundingRect(), line->rect());
+    QCOMPARE(line->mapTo(m_sheet.get(), QPoint()).x(), m_sheet->cancelButton()->mapTo(m_sheet.get(), QPoint()).x());
+}
+
+void tst_Sheet::nothingMovesWhenTheBodyBeginsToScroll()
+{
+    m_sheet->open();
+    test::settle();
+    const auto place = [this] { return QRect(m_first->mapTo(m_sheet->scrollArea(), QPoint()), m_first->size()); };
+    const QRect before = place();
+    m_notes->setFixedHeight(1500);
+    test::settle();
+    QVERIFY(m_sheet->scrollArea()->verticalScrollBar()->maximum() > 0);
+    QCOMPARE(place(), before);
 }
 
 void tst_Sheet::theHeaderIsNotClipped()

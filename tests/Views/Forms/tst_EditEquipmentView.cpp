@@ -6,6 +6,7 @@
 #include "Builders.h"
 #include "Cards.h"
 #include "DateField.h"
+#include "FocusInSight.h"
 #include "FormParts.h"
 #include "RegisterFixture.h"
 #include "TestRunner.h"
@@ -279,6 +280,36 @@ private Q_SLOTS:
         }
         QCOMPARE(order, QStringList({u"name"_s, u"type"_s, u"brand"_s, u"model"_s, u"serialNumber"_s, u"purchaseDate"_s,
                                      u"lastServiceDate"_s, u"isActive"_s, u"notes"_s, u"cancel"_s, u"primary"_s}));
+    }
+
+    void whatHasTheFocusIsInSight_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("smallest window") << QSize(1000, 700);
+        QTest::newRow("usual window") << QSize(1280, 800);
+    }
+
+    void whatHasTheFocusIsInSight()
+    {
+        QFETCH(QSize, size);
+        RegisterFixture f;
+        QWidget window;
+        window.resize(size);
+        window.show();
+        EditEquipmentView form(f.equipment, f.types, f.almanac, settled(f), &window);
+        form.open();
+        activate(form);
+        QCOMPARE(stopsOutOfSight(form), QStringList());
+        QCOMPARE(stopsOutOfSight(form, true), QStringList());
+        QVERIFY(part(form, "required").visibleRegion().boundingRect() == part(form, "required").rect());
+        QTest::keyClick(form.focusWidget(), Qt::Key_E, Qt::AltModifier);
+        QVERIFY(usable(form, "notes").hasFocus());
+        for (int line = 0; line < 20; ++line) {
+            QTest::keyClick(form.focusWidget(), Qt::Key_Return);
+            QVERIFY(isFocusInSight(form));
+        }
+        QTest::keyClick(form.focusWidget(), Qt::Key_V, Qt::AltModifier);
+        QTRY_VERIFY(!usable<ToggleSwitch>(form, "isActive").isChecked());
     }
 };
 

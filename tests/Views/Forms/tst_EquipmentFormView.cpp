@@ -2,11 +2,13 @@
 #include "EquipmentFormView.h"
 #include "Literals.h"
 #include "ScaledText.h"
+#include "ScrollPane.h"
 
 #include "Alert.h"
 #include "Cards.h"
 #include "ClippedTexts.h"
 #include "DateField.h"
+#include "FocusInSight.h"
 #include "FormParts.h"
 #include "RegisterFixture.h"
 #include "TestRunner.h"
@@ -324,15 +326,61 @@ private Q_SLOTS:
                                      u"lastServiceDate"_s, u"notes"_s, u"cancel"_s, u"primary"_s, u"name"_s}));
     }
 
-    void tabBringsFieldsIntoView()
+    void whatHasTheFocusIsInSight_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("smallest window") << QSize(1000, 700);
+        QTest::newRow("usual window") << QSize(1280, 800);
+    }
+
+    void whatHasTheFocusIsInSight()
+    {
+        QFETCH(QSize, size);
+        RegisterFixture f;
+        Open o(f, size);
+        QCOMPARE(stopsOutOfSight(o.form), QStringList());
+        QCOMPARE(stopsOutOfSight(o.form, true), QStringList());
+        QVERIFY(o.form.height() < size.height());
+    }
+
+    void theUsualWindowHasRoomForTheWholeForm()
+    {
+        RegisterFixture f;
+        const Open o(f, QSize(1280, 800));
+        QCOMPARE(o.form.scrollArea()->verticalScrollBar()->maximum(), 0);
+    }
+
+    void whatIsMissingIsInSight_data() { whatHasTheFocusIsInSight_data(); }
+
+    void whatIsMissingIsInSight()
+    {
+        QFETCH(QSize, size);
+        RegisterFixture f;
+        const Open o(f, size);
+        for (const char* text : {"required", "incomplete"})
+            QCOMPARE(part(o.form, text).visibleRegion().boundingRect(), part(o.form, text).rect());
+        QVERIFY(part(o.form, "incomplete").y() > part(o.form, "required").y());
+    }
+
+    void altAndALetterLeadToEachControl()
     {
         RegisterFixture f;
         Open o(f);
-        auto& notes = usable<QPlainTextEdit>(o.form, "notes");
-        while (!notes.hasFocus())
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        QVERIFY(notes.visibleRegion().boundingRect().height() > notes.height() / 2);
-        QVERIFY(o.form.height() < 700);
+        for (const auto& [key, name] :
+             {std::pair(Qt::Key_T, "type"), std::pair(Qt::Key_M, "brand"), std::pair(Qt::Key_D, "model"),
+              std::pair(Qt::Key_U, "serialNumber"), std::pair(Qt::Key_Q, "purchaseDate"),
+              std::pair(Qt::Key_L, "lastServiceDate"), std::pair(Qt::Key_E, "notes"), std::pair(Qt::Key_N, "name")}) {
+            QTest::keyClick(o.form.focusWidget(), key, Qt::AltModifier);
+            QCOMPARE(o.form.focusWidget()->objectName(), QString::fromLatin1(name));
+            QVERIFY(isFocusInSight(o.form));
+        }
+        QTest::keyClick(o.form.focusWidget(), Qt::Key_S, Qt::AltModifier);
+        QTRY_VERIFY(findDialog<Alert>(o.form));
+        click(*findDialog<Alert>(o.form), "safe");
+        o.form.activateWindow();
+        QTRY_COMPARE(QApplication::activeWindow(), &o.form);
+        QTest::keyClick(o.form.focusWidget(), Qt::Key_A, Qt::AltModifier);
+        QTRY_VERIFY(!o.form.isVisible());
     }
 
     void fieldsAreNamedByTheirLabels()
@@ -354,8 +402,9 @@ private Q_SLOTS:
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&usable(o.form, part));
             QCOMPARE(accessible->text(QAccessible::Name), name);
         }
-        // On this platform a picker reads out its choice, and its label through the relation.
         QAccessibleInterface* picker = QAccessible::queryAccessibleInterface(&usable(o.form, "type"));
+        QCOMPARE(picker->text(QAccessible::Name), u"Tipo*: Erogatore"_s);
+        QCOMPARE(picker->text(QAccessible::Value), u"Erogatore"_s);
         const auto labels = picker->relations(QAccessible::Label);
         QCOMPARE(labels.size(), 1);
         QCOMPARE(labels.first().first->text(QAccessible::Name), u"Tipo*"_s);

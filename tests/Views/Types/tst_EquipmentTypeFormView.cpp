@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentTypeFormView.h"
 #include "Literals.h"
+#include "ScrollPane.h"
 
 #include "Buttons.h"
 #include "ClippedTexts.h"
