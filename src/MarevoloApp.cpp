@@ -125,7 +125,9 @@ MainWindow& MarevoloApp::mainWindow()
 
 std::unique_ptr<EquipmentDetail> MarevoloApp::detail(const Equipment& equipment)
 {
-    return std::make_unique<EquipmentDetail>(m_equipment, m_types, m_documents, m_ids, m_almanac, equipment);
+    auto detail = std::make_unique<EquipmentDetail>(m_equipment, m_types, m_documents, m_ids, m_almanac, equipment);
+    detail->setCurrencySymbol([this] { return m_settings.currencySymbol(); });
+    return detail;
 }
 
 SidebarView* MarevoloApp::makeSidebar()

@@ -15,6 +15,8 @@ namespace {
 constexpr QChar comma = u',';
 constexpr QChar fullStop = u'.';
 constexpr QChar euro(0x20ac);
+constexpr QChar blank = u' ';
+constexpr QChar apostrophe = u'\'';
 constexpr qsizetype groupLength = 3;
 
 bool areDigits(QStringView text)
@@ -22,14 +24,67 @@ bool areDigits(QStringView text)
     return std::ranges::all_of(text, [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
-QString withoutCurrency(const QString& text)
+/// One kind of blank, apostrophe and minus each.
+QString withUsualMarks(const QString& text)
 {
-    QString amount = text.trimmed();
-    if (amount.startsWith(euro))
-        amount.remove(0, 1);
-    else if (amount.endsWith(euro))
-        amount.chop(1);
-    return amount.trimmed();
+    QString usual = text.trimmed();
+    for (QChar& c : usual) {
+        if (c.isSpace())
+            c = blank;
+        else if (c == QChar(0x2019) || c == QChar(0x02bc)) // typographic ones
+            c = apostrophe;
+        else if (c == QChar(0x2212)) // the mathematical minus
+            c = u'-';
+    }
+    return usual;
+}
+
+QStringList currencyWords(const Reading& reading)
+{
+    QStringList words{reading.currencySymbol.trimmed(), u"euro"_s, u"EUR"_s};
+    words.removeAll(QString());
+    return words;
+}
+
+/// How many characters of a currency the text begins with, or ends with.
+qsizetype currencyAt(QStringView text, bool atEnd, const Reading& reading)
+{
+    if (!text.isEmpty() && (atEnd ? text.back() : text.front()).category() == QChar::Symbol_Currency)
+        return 1;
+    for (const QString& word : currencyWords(reading)) {
+        if (atEnd ? text.endsWith(word, Qt::CaseInsensitive) : text.startsWith(word, Qt::CaseInsensitive))
+            return word.size();
+    }
+    return 0;
+}
+
+QString withoutCurrency(const QString& text, const Reading& reading)
+{
+    if (const qsizetype first = currencyAt(text, false, reading))
+        return text.mid(first).trimmed();
+    return text.chopped(currencyAt(text, true, reading)).trimmed();
+}
+
+struct Amount
+{
+    QString digits; ///< with their separators
+    bool isNegative = false;
+};
+
+Amount amountOf(const QString& text, const Reading& reading)
+{
+    QString rest = withUsualMarks(text);
+    bool isNegative = false;
+    const auto takeMinus = [&] {
+        if (!reading.takesNegative || isNegative || !rest.startsWith(u'-'))
+            return;
+        isNegative = true;
+        rest = rest.mid(1).trimmed();
+    };
+    takeMinus();
+    rest = withoutCurrency(rest, reading);
+    takeMinus();
+    return {rest, isNegative};
 }
 
 /// The digits without the separators between groups of three; nothing when they are grouped otherwise.
@@ -44,6 +99,16 @@ std::optional<QString> ungrouped(const QString& digits, QChar separator)
     return areOfThree ? std::optional(groups.join(QString())) : std::nullopt;
 }
 
+/// Blanks or apostrophes, where they stand.
+std::optional<QChar> plainGrouping(const QString& amount)
+{
+    for (const QChar grouping : {blank, apostrophe}) {
+        if (amount.contains(grouping))
+            return grouping;
+    }
+    return std::nullopt;
+}
+
 /// What separates the decimals, if anything does.
 std::optional<QChar> decimalSeparator(const QString& amount)
 {
@@ -53,7 +118,7 @@ std::optional<QChar> decimalSeparator(const QString& amount)
         return amount.lastIndexOf(comma) > amount.lastIndexOf(fullStop) ? comma : fullStop;
     if (amount.count(comma) == 1)
         return comma;
-    if (amount.count(fullStop) == 1 && !ungrouped(amount, fullStop))
+    if (amount.count(fullStop) == 1 && (plainGrouping(amount) || !ungrouped(amount, fullStop)))
         return fullStop;
     return std::nullopt;
 }
@@ -65,9 +130,8 @@ std::optional<QString> normalized(const QString& amount)
     const qsizetype end = decimal ? amount.lastIndexOf(*decimal) : amount.size();
     const QString whole = amount.left(end);
     const QString decimals = amount.mid(end + 1);
-    const QChar grouping =
-        decimal ? (*decimal == comma ? fullStop : comma) : (amount.contains(comma) ? comma : fullStop);
-    const std::optional<QString> digits = ungrouped(whole, grouping);
+    const QChar usual = decimal ? (*decimal == comma ? fullStop : comma) : (amount.contains(comma) ? comma : fullStop);
+    const std::optional<QString> digits = ungrouped(whole, plainGrouping(amount).value_or(usual));
     if (!digits || !areDigits(*digits) || !areDigits(decimals) || (digits->isEmpty() && decimals.isEmpty()))
         return std::nullopt;
     return (digits->isEmpty() ? u"0"_s : *digits) + fullStop + (decimals.isEmpty() ? u"0"_s : decimals);
@@ -93,18 +157,35 @@ std::optional<double> valueOf(const QString& amount)
 
 } // namespace
 
-std::optional<double> parse(const QString& text)
+std::optional<double> parse(const QString& text, const Reading& reading)
 {
-    const QString amount = withoutCurrency(text);
-    return amount.isEmpty() ? 0.0 : valueOf(amount);
+    const auto [digits, isNegative] = amountOf(text, reading);
+    if (digits.isEmpty())
+        return isNegative ? std::nullopt : std::optional(0.0);
+    const std::optional<double> cost = valueOf(digits);
+    return cost && isNegative ? -*cost : cost;
 }
 
-bool isUnfinished(const QString& text)
+bool isUnfinished(const QString& text, const Reading& reading)
 {
-    const auto completes = [amount = withoutCurrency(text)](const char* rest) {
-        return valueOf(amount + QLatin1String(rest)).has_value();
+    const auto completes = [&](const QString& begun) {
+        return std::ranges::any_of(std::array{"0", "00", "000"}, [&](const char* rest) {
+            const QString amount = amountOf(begun + QLatin1String(rest), reading).digits;
+            return valueOf(amount).has_value();
+        });
     };
-    return completes("0") || completes("00") || completes("000");
+    // As it stands, or without the beginning of a currency at its end.
+    const QString begun = withUsualMarks(text);
+    if (completes(begun))
+        return true;
+    return std::ranges::any_of(currencyWords(reading), [&](const QString& word) {
+        for (qsizetype length = 1; length < word.size(); ++length) {
+            const bool isBegun = begun.endsWith(QStringView(word).first(length), Qt::CaseInsensitive);
+            if (isBegun && (length == begun.size() || valueOf(amountOf(begun.chopped(length), reading).digits)))
+                return true;
+        }
+        return false;
+    });
 }
 
 QString show(double cost)

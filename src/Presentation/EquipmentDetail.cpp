@@ -63,8 +63,11 @@ void EquipmentDetail::deleteEquipment()
 
 std::unique_ptr<MaintenanceDraft> EquipmentDetail::draft(const std::optional<QUuid>& recordId) const
 {
-    return std::make_unique<MaintenanceDraft>(m_equipment, m_types, m_documents, m_ids, m_almanac, m_item.id,
-                                              recordId ? record(*recordId) : std::nullopt);
+    auto draft = std::make_unique<MaintenanceDraft>(m_equipment, m_types, m_documents, m_ids, m_almanac, m_item.id,
+                                                    recordId ? record(*recordId) : std::nullopt);
+    if (m_currencySymbol)
+        draft->setCurrencySymbol(m_currencySymbol());
+    return draft;
 }
 
 QString EquipmentDetail::maintenanceDeleteAlertMessage(const QUuid& recordId) const

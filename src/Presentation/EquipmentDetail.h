@@ -5,6 +5,7 @@
 #include "MaintenanceDraft.h"
 
 #include <QMap>
+#include <functional>
 
 namespace abissora {
 
@@ -21,6 +22,9 @@ public:
                     MaintenanceDocumentStore& documents, IdGenerator& ids, const Almanac& almanac,
                     const Equipment& item);
     ~EquipmentDetail() override;
+
+    /// Asked for each draft.
+    void setCurrencySymbol(std::function<QString()> currencySymbol) { m_currencySymbol = std::move(currencySymbol); }
 
     [[nodiscard]] const Equipment& equipment() const { return m_item; }
     /// Of this item or another one.
@@ -66,6 +70,7 @@ private:
     IdGenerator& m_ids;
     Almanac m_almanac;
     Equipment m_item;
+    std::function<QString()> m_currencySymbol;
     QMap<std::pair<QUuid, DocumentSlot>, std::shared_ptr<WorkProgress>> m_copies; ///< those under way
 };
 

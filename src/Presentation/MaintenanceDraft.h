@@ -45,6 +45,9 @@ public:
     [[nodiscard]] MaintenanceFormState initial() const;
     [[nodiscard]] AttachmentDraft& attachments() { return m_attachments; }
     [[nodiscard]] const Calendar& calendar() const { return m_almanac.calendar; }
+    /// What may stand beside a cost that is entered; empty until it is told.
+    [[nodiscard]] const QString& currencySymbol() const { return m_currencySymbol; }
+    void setCurrencySymbol(const QString& symbol) { m_currencySymbol = symbol; }
 
     /// The days between two services of the item, as they are now.
     [[nodiscard]] std::int64_t intervalDays() const;
@@ -63,6 +66,7 @@ private:
     IdGenerator& m_ids;
     Almanac m_almanac;
     QUuid m_equipmentId;
+    QString m_currencySymbol;
     bool m_isNew;
     Maintenance m_record;
     AttachmentDraft m_attachments;

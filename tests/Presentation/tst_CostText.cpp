@@ -55,6 +55,23 @@ private Q_SLOTS:
         row("  12,50  ", 12.5);
         row("€\u00a01.234,50", 1234.5);
         row("9007199254740993", 9007199254740992.0);
+        row("1 234", 1234);
+        row("1 234,56", 1234.56);
+        row("1 234.56", 1234.56);
+        row("1 234.567", 1234.567);
+        row("1\u00a0234,56", 1234.56);
+        row("12\u202f345\u202f678,90", 12345678.9);
+        row("1'234'567.89", 1234567.89);
+        row("1\u2019234,5", 1234.5);
+        row("12,50 EUR", 12.5);
+        row("12,50EUR", 12.5);
+        row("EUR 12,50", 12.5);
+        row("12,50 euro", 12.5);
+        row("12,50 Euro", 12.5);
+        row("eur 1.234,56", 1234.56);
+        row("$5", 5);
+        row("5 $", 5);
+        row("\u00a3 5", 5);
     }
 
     void numbers()
@@ -70,10 +87,11 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("text");
         for (const char* text :
-             {"-5",        "+5",  "-0",    "abc",   "12a",     "1e3",      "inf",       "nan",           "0x10",
-              ",",         ".",   "1,2,3", "1.2.3", "1.234.5", "12,34.5",  "1.23,4",    "1,234.567.890", "1 234",
-              "12,50 EUR", "€€5", "$5",    "1..2",  "1,,2",    ".123.456", "0.123.456", "1234.567.890",  "١٢",
-              "12½"})
+             {"-5",        "+5",    "-0",        "abc",     "12a",     "1e3",      "inf",           "nan",
+              "0x10",      ",",     ".",         "1,2,3",   "1.2.3",   "1.234.5",  "12,34.5",       "1.23,4",
+              "1 23",      "12 34", "1234 567",  "1 234 5", "1 2'345", "1,5 000",  "1,234.567.890", "1 234.567,89",
+              "EUR 5 EUR", "€€5",   "euroeuro5", "1..2",    "1,,2",    ".123.456", "0.123.456",     "1234.567.890",
+              "١٢",        "12½",   "12 pezzi",  "-",       "- 5",     "5-",       "--5",           "12,50 EURO EUR"})
             QTest::newRow(text) << QString::fromUtf8(text);
         QTest::newRow("beyond the largest number") << QString(400, u'9');
         QTest::newRow("below the smallest number") << QString("0,"_L1 + QString(400, u'0') + u'1');
@@ -88,7 +106,8 @@ private Q_SLOTS:
     void everyKeyOnTheWayToANumberIsTaken_data()
     {
         QTest::addColumn<QString>("text");
-        for (const char* text : {"12,50", "12.50", "1.234,50", "1,234.50", "1.234.567,89", "€ 12,50", ",5", "12,50 €"})
+        for (const char* text : {"12,50", "12.50", "1.234,50", "1,234.50", "1.234.567,89", "€ 12,50", ",5", "12,50 €",
+                                 "1 234,56", "1'234.50", "12,50 EUR", "12 euro", "EUR 12,50", "euro 1 234"})
             QTest::newRow(text) << QString::fromUtf8(text);
     }
 
@@ -104,7 +123,7 @@ private Q_SLOTS:
     void whatCannotBecomeANumberIsNotUnfinished_data()
     {
         QTest::addColumn<QString>("text");
-        for (const char* text : {"-", "a", "1a", "1,2,3", "1234.567.", "1,,", "€€"})
+        for (const char* text : {"-", "a", "1a", "1,2,3", "1234.567.", "1,,", "€€", "1e3", "1234 5", "12 eb"})
             QTest::newRow(text) << QString::fromUtf8(text);
     }
 
@@ -112,6 +131,29 @@ private Q_SLOTS:
     {
         QFETCH(QString, text);
         QVERIFY(!costText::isUnfinished(text));
+    }
+
+    void theCurrencyOfTheSettingsIsPassedOver()
+    {
+        const costText::Reading francs{u" Fr."_s};
+        QCOMPARE(costText::parse(u"Fr. 12,50"_s, francs), std::optional(12.5));
+        QCOMPARE(costText::parse(u"1'234.50 fr."_s, francs), std::optional(1234.5));
+        QCOMPARE(costText::parse(u"12 EUR"_s, francs), std::optional(12.0));
+        QCOMPARE(costText::parse(u"Fr. 12,50"_s), std::nullopt);
+        QVERIFY(costText::isUnfinished(u"12 f"_s, francs));
+        QVERIFY(!costText::isUnfinished(u"12 f"_s));
+    }
+
+    void aNegativeAmountIsTakenWhereThereMayBeOne()
+    {
+        const costText::Reading negative{{}, true};
+        for (const char* text :
+             {"-1.234,50", "- 1.234,50", "\u22121234,5", "€ -1.234,50", "-€ 1.234,50", "-1234,5 EUR"})
+            QCOMPARE(costText::parse(QString::fromUtf8(text), negative), std::optional(-1234.5));
+        QCOMPARE(costText::parse(u"5"_s, negative), std::optional(5.0));
+        for (const char* text : {"--5", "-", "5-", "-€-5"})
+            QCOMPARE(costText::parse(QString::fromUtf8(text), negative), std::nullopt);
+        QVERIFY(costText::isUnfinished(u"-"_s, negative));
     }
 
     void shown_data()

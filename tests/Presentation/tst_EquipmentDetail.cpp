@@ -295,6 +295,16 @@ private Q_SLOTS:
         s.detail->replaceDocument(s.record().id, receipt);
         QCOMPARE(s.f.takeLog(), QStringList());
     }
+
+    void draftsKnowTheCurrencyOfTheMoment()
+    {
+        RegisterFixture f;
+        const auto detail = f.detail(f.equipment.equipment().first());
+        QCOMPARE(detail->draft()->currencySymbol(), QString());
+        detail->setCurrencySymbol([&f] { return f.settings.currencySymbol(); });
+        f.settings.setCurrencySymbol(u"Fr."_s);
+        QCOMPARE(detail->draft()->currencySymbol(), u"Fr."_s);
+    }
 };
 
 ABISSORA_TEST(tst_EquipmentDetail);

@@ -45,6 +45,8 @@ MaintenanceFormView::MaintenanceFormView(std::unique_ptr<MaintenanceDraft> draft
     , m_completed(named(new ToggleSwitch(u"Manutenzione avvenuta"_s), "isCompleted"))
     , m_next(named(new DateField(m_draft->calendar()), "nextServiceDate"))
     , m_notes(named(new NotesField(notesHeight), "notes"))
+    , m_noCost(
+          named(new InkLabel(TextStyle::Caption, &Tokens::danger, u"Il costo non è un importo valido"_s), "noCost"))
 {
     setObjectName(u"maintenanceForm"_s);
     setPrimaryText(u"Salva"_s, u'S');
@@ -72,6 +74,10 @@ void MaintenanceFormView::buildBody()
         body()->addWidget(group);
     body()->addStretch();
     addToFoot(new InkLabel(TextStyle::Caption, &Tokens::secondaryText, u"* Campi obbligatori"_s));
+    QSizePolicy policy = m_noCost->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // nothing shall move while somebody types
+    m_noCost->setSizePolicy(policy);
+    addToFoot(m_noCost);
     setFirstField(m_description);
 }
 
@@ -153,11 +159,19 @@ void MaintenanceFormView::showState()
     m_type->setCurrentIndex(m_type->findData(static_cast<int>(m_initial.type)));
     m_description->setText(m_initial.description);
     m_performedBy->setText(m_initial.performedBy);
+    m_cost->setCurrencySymbol(m_draft->currencySymbol());
     m_cost->setCost(m_initial.cost);
     m_completed->setChecked(m_initial.isCompleted);
     m_next->setInstant(m_initial.nextServiceDate);
     m_notes->setNotes(m_initial.notes);
-    primaryButton()->setEnabled(m_initial.isFormValid());
+    refresh();
+}
+
+void MaintenanceFormView::refresh()
+{
+    const bool hasCost = m_cost->cost().has_value();
+    m_noCost->setVisible(!hasCost);
+    primaryButton()->setEnabled(hasCost && !m_description->text().isEmpty());
 }
 
 MaintenanceFormState MaintenanceFormView::state() const
@@ -182,8 +196,8 @@ void MaintenanceFormView::connectFields()
             m_next->setInstant(m_draft->nextServiceDate(m_date->instant()));
     });
     connect(m_next, &DateField::edited, this, [this] { m_autoUpdateNextDate = false; });
-    connect(m_description, &QLineEdit::textChanged, this,
-            [this] { primaryButton()->setEnabled(state().isFormValid()); });
+    for (const QLineEdit* field : std::initializer_list<QLineEdit*>{m_description, m_cost})
+        connect(field, &QLineEdit::textChanged, this, &MaintenanceFormView::refresh);
     connect(this, &Sheet::primaryClicked, this, &MaintenanceFormView::save);
 }
 
@@ -200,7 +214,7 @@ CheckedField* MaintenanceFormView::firstInvalidField() const
 
 void MaintenanceFormView::save()
 {
-    if (!state().isFormValid())
+    if (!primaryButton()->isEnabled())
         return;
     if (CheckedField* const field = firstInvalidField()) {
         goTo(field);

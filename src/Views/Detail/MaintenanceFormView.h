@@ -12,6 +12,7 @@ namespace abissora {
 class CheckedField;
 class CostField;
 class DateField;
+class InkLabel;
 class NotesField;
 class Opener;
 class ToggleSwitch;
@@ -26,8 +27,8 @@ public:
     /// `opener` must outlive it.
     MaintenanceFormView(std::unique_ptr<MaintenanceDraft> draft, Opener& opener, QWidget* parent = nullptr);
 
-    /// Does nothing while the record lacks its description; takes the person to a date or a cost that is none. A
-    /// document that is being copied is waited for: should none come of it, the form stays.
+    /// Does nothing while the record lacks its description or its cost is none; takes the person to a date that is
+    /// none. A document that is being copied is waited for: should none come of it, the form stays.
     void save();
 
     void reject() override;
@@ -40,6 +41,7 @@ private:
     [[nodiscard]] QWidget* makeNextService();
     void connectFields();
     void showState();
+    void refresh();
     [[nodiscard]] MaintenanceFormState state() const;
     [[nodiscard]] CheckedField* firstInvalidField() const;
 
@@ -57,6 +59,7 @@ private:
     ToggleSwitch* m_completed;
     DateField* m_next;
     NotesField* m_notes;
+    InkLabel* m_noCost;
 };
 
 } // namespace abissora

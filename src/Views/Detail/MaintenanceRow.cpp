@@ -10,6 +10,7 @@
 #include "Literals.h"
 #include "Metrics.h"
 #include "SymbolIcon.h"
+#include "TypeScale.h"
 
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -19,6 +20,7 @@ namespace abissora {
 namespace {
 
 constexpr int tileSide = 34;
+constexpr int widestCost = 150;
 
 QFont medium(QFont font)
 {
@@ -32,7 +34,7 @@ MaintenanceRow::MaintenanceRow(QWidget* parent)
     : QWidget(parent)
     , m_tile(new IconTile(tileSide))
     , m_type(named(new WrapLabel(TextStyle::Headline, &Tokens::text), "maintenanceType"))
-    , m_cost(named(new InkLabel(TextStyle::Caption, &Tokens::secondaryText), "maintenanceCost"))
+    , m_cost(named(new ElidedLabel(TextStyle::Caption, &Tokens::secondaryText), "maintenanceCost"))
     , m_description(named(new WrapLabel(TextStyle::Body, &Tokens::text), "maintenanceDescription"))
     , m_dateAndPerformer(named(new WrapLabel(TextStyle::Caption, &Tokens::secondaryText), "maintenanceDate"))
     , m_completedIcon(new IconView)
@@ -45,6 +47,7 @@ MaintenanceRow::MaintenanceRow(QWidget* parent)
     , m_certificate(makeDocument(DocumentSlot::Certificate))
 {
     m_cost->setFont(medium(m_cost->font()));
+    m_cost->setMaximumWidth(withText(widestCost, fontMetrics()));
     auto* documents = new FlowLayout(metrics::spaceS, 0);
     documents->addWidget(m_receipt);
     documents->addWidget(m_certificate);

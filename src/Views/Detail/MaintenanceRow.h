@@ -9,10 +9,10 @@
 namespace abissora {
 
 class DocumentControl;
+class ElidedLabel;
 class IconButton;
 class IconTile;
 class IconView;
-class InkLabel;
 class WrapLabel;
 
 /// One record of the history with its documents.
@@ -48,7 +48,7 @@ private:
     QUuid m_id;
     IconTile* m_tile;
     WrapLabel* m_type;
-    InkLabel* m_cost;
+    ElidedLabel* m_cost;
     WrapLabel* m_description;
     WrapLabel* m_dateAndPerformer;
     IconView* m_completedIcon;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "ControlLook.h"
 #include "CostField.h"
 #include "Literals.h"
 
@@ -16,29 +17,61 @@ class tst_CostField : public TestCase
     Q_OBJECT
 
 private Q_SLOTS:
-    void typing_data()
+    void everyKeyStands_data()
     {
         QTest::addColumn<QString>("keys");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<double>("cost");
-        QTest::newRow("comma") << u"12,50"_s << u"12,50"_s << 12.5;
-        QTest::newRow("full stop") << u"12.50"_s << u"12.50"_s << 12.5;
-        QTest::newRow("both") << u"1.234,50"_s << u"1.234,50"_s << 1234.5;
-        QTest::newRow("letters are refused") << u"a1b2c"_s << u"12"_s << 12.0;
-        QTest::newRow("a sign is refused") << u"-5"_s << u"5"_s << 5.0;
-        QTest::newRow("an exponent is refused") << u"1e3"_s << u"13"_s << 13.0;
-        QTest::newRow("a second comma is refused") << u"1,5,2"_s << u"1,52"_s << 1.52;
+        QTest::addColumn<std::optional<double>>("cost");
+        const auto row = [](const char* keys, std::optional<double> cost) {
+            QTest::newRow(keys) << QString::fromUtf8(keys) << cost;
+        };
+        row("12,50", 12.5);
+        row("12.50", 12.5);
+        row("1.234,50", 1234.5);
+        row("1,234.50", 1234.5);
+        row("1 234,56", 1234.56);
+        row("1'234,56", 1234.56);
+        row("12,50 EUR", 12.5);
+        row("45 euro", 45);
+        row("a1b2c", std::nullopt);
+        row("-5", std::nullopt);
+        row("1e3", std::nullopt);
+        row("1,2,3", std::nullopt);
+        row("gratis", std::nullopt);
     }
 
-    void typing()
+    void everyKeyStands()
     {
         QFETCH(QString, keys);
-        QFETCH(QString, text);
-        QFETCH(double, cost);
+        QFETCH(std::optional<double>, cost);
         CostField field;
         QTest::keyClicks(&field, keys);
-        QCOMPARE(field.text(), text);
-        QCOMPARE(field.cost(), std::optional(cost));
+        QCOMPARE(field.text(), keys);
+        QCOMPARE(field.cost(), cost);
+        QCOMPARE(field.error().isEmpty(), cost.has_value());
+        QCOMPARE(hasInvalidLook(&field), !cost.has_value());
+    }
+
+    void theSettingsCurrencyIsPassedOver()
+    {
+        CostField field;
+        field.setCurrencySymbol(u"Fr."_s);
+        QTest::keyClicks(&field, u"Fr. 12,50"_s);
+        QCOMPARE(field.cost(), std::optional(12.5));
+    }
+
+    void aNegativeCostStaysOne()
+    {
+        CostField field;
+        field.setCost(-7.25);
+        QCOMPARE(field.text(), u"-7,25"_s);
+        QTest::keyClick(&field, Qt::Key_End);
+        QTest::keyClick(&field, Qt::Key_Backspace);
+        QCOMPARE(field.cost(), std::optional(-7.2));
+        field.setCost(7.25);
+        QTest::keyClick(&field, Qt::Key_Home);
+        QTest::keyClick(&field, Qt::Key_Minus);
+        QCOMPARE(field.text(), u"-7,25"_s);
+        QCOMPARE(field.cost(), std::nullopt);
     }
 
     void untouchedCostComesBackBitForBit_data()
@@ -70,23 +103,35 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("pasted");
         QTest::addColumn<QString>("text");
-        QTest::newRow("a number") << u"€ 1.234,50"_s << u"€ 1.234,50"_s;
-        QTest::newRow("a word") << u"gratis"_s << u"7,00"_s;
-        QTest::newRow("a number and a word") << u"12 euro"_s << u"7,00"_s;
-        QTest::newRow("a negative number") << u"-12"_s << u"7,00"_s;
-        QTest::newRow("an unfinished number") << u"1.234.5"_s << u"7,00"_s;
+        QTest::addColumn<std::optional<double>>("cost");
+        const auto row = [](const char* pasted, std::optional<double> cost) {
+            const QString text = QString::fromUtf8(pasted);
+            QTest::newRow(pasted) << text << QString(text).replace(u'\n', u' ') << cost;
+        };
+        row("€ 1.234,50", 1234.5);
+        row("12,50 EUR", 12.5);
+        row("12 euro", 12);
+        row("1\u00a0234,56", 1234.56);
+        row("1\u202f234,56 €", 1234.56);
+        row("gratis", std::nullopt);
+        row("-12", std::nullopt);
+        row("1.234.5", std::nullopt);
     }
 
     void pasting()
     {
         QFETCH(QString, pasted);
         QFETCH(QString, text);
+        QFETCH(std::optional<double>, cost);
         CostField field;
         field.setCost(7);
         field.selectAll();
         QApplication::clipboard()->setText(pasted);
         field.paste();
         QCOMPARE(field.text(), text);
+        QCOMPARE(field.cost(), cost);
+        field.commit();
+        QCOMPARE(field.error().isEmpty(), cost.has_value());
     }
 
     /// Correcting a digit in the middle leads through texts that are no numbers.

@@ -281,15 +281,28 @@ private Q_SLOTS:
         QCOMPARE(s.history().value(0).description, u"  "_s);
     }
 
-    void unfinishedCostIsNotSaved()
+    void whatIsNoCostIsNotSaved()
     {
         Shown s;
         QTest::keyClicks(&s.field<QLineEdit>("description"), u"x"_s);
+        QVERIFY(s.form->primaryButton()->isEnabled());
+        const int height = s.form->height();
         QTest::keyClicks(&s.field<CostField>("cost"), u"1.234.5"_s);
-        s.save();
+        QVERIFY(!s.form->primaryButton()->isEnabled());
+        QCOMPARE(textOf(*s.form, u"noCost"_s), u"Il costo non è un importo valido"_s);
+        QCOMPARE(s.form->height(), height);
+        QTest::keyClick(&s.field<CostField>("cost"), Qt::Key_Return, Qt::ControlModifier);
+        s.form->save();
         QVERIFY(s.form->isVisible());
-        QVERIFY(s.field<CostField>("cost").hasFocus());
         QCOMPARE(s.history(), QList<Maintenance>());
+        QTest::keyClicks(&s.field<CostField>("cost"), u"e"_s);
+        QVERIFY(textOf(*s.form, u"error"_s).startsWith(u"Importo non valido"_s));
+        QTest::keyClick(&s.field<CostField>("cost"), Qt::Key_Backspace);
+        QTest::keyClicks(&s.field<CostField>("cost"), u"00"_s);
+        QVERIFY(!isShown(*s.form, u"noCost"_s));
+        QVERIFY(!isShown(*s.form, u"error"_s));
+        s.save();
+        QCOMPARE(s.history().value(0).cost, 1234500.0);
     }
 
     void unfinishedDatesAreNotSaved()

@@ -3,10 +3,14 @@
 
 #include "Fakes.h"
 #include "Gui.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "TestRunner.h"
 
+#include <QAccessible>
+#include <QHelpEvent>
 #include <QSignalSpy>
+#include <QToolTip>
 
 using namespace abissora;
 using namespace abissora::test;
@@ -128,6 +132,26 @@ private Q_SLOTS:
         listen(&MaintenanceRow::uploadRequested, u"upload "_s);
         click(s.row, button);
         QCOMPARE(asked, QStringList(expected));
+    }
+
+    /// The whole of it is read in the tool tip and by screen readers.
+    void anEndlessCostGivesWay()
+    {
+        Shown s;
+        MaintenanceRowContent row = content();
+        row.cost = u"€"_s + u"9"_s.repeated(60) + u".00"_s;
+        s.row.setRow(row);
+        s.row.resize(385, 300);
+        settle();
+        QVERIFY(s.row.minimumSizeHint().width() <= 385);
+        auto& cost = part<ElidedLabel>(s.row, "maintenanceCost");
+        QVERIFY(s.row.rect().contains(QRect(cost.mapTo(&s.row, QPoint()), cost.size())));
+        QVERIFY(part(s.row, "maintenanceType").width() > 80);
+        QHelpEvent asked(QEvent::ToolTip, cost.rect().center(), cost.mapToGlobal(cost.rect().center()));
+        QApplication::sendEvent(&cost, &asked);
+        QVERIFY(QToolTip::text().contains(row.cost));
+        QToolTip::hideText();
+        QCOMPARE(QAccessible::queryAccessibleInterface(&cost)->text(QAccessible::Name), row.cost);
     }
 };
 
