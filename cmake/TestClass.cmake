@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 # abissora_test_program(Models CLASSES tst_Equipment tst_Maintenance LINK Abissora::Models)
-# builds tests_models from one source per class and gives ctest one test per class.
+# builds tests_models from one source per class and gives ctest one test per class. Windows stand on a screen of
+# 1920 x 1200.
 function(abissora_test_program name)
   cmake_parse_arguments(TESTS "GUI" "" "CLASSES;SOURCES;LINK" ${ARGN})
   string(TOLOWER "tests_${name}" target)
@@ -17,6 +18,6 @@ function(abissora_test_program name)
   foreach(class IN LISTS TESTS_CLASSES)
     add_test(NAME ${name}/${class} COMMAND ${target} ${class})
     set_tests_properties(${name}/${class} PROPERTIES ENVIRONMENT
-      "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=Europe/Rome;QT_LOGGING_RULES=;ABISSORA_DATA_DIR=")
+      "QT_QPA_PLATFORM=offscreen:configfile=${PROJECT_SOURCE_DIR}/tests/Support/screen.json;LC_ALL=C.UTF-8;TZ=Europe/Rome;QT_LOGGING_RULES=;ABISSORA_DATA_DIR=")
   endforeach()
 endfunction()

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "DetailSections.h"
 
+#include "ActionRows.h"
 #include "Assembly.h"
 #include "Buttons.h"
 #include "Cards.h"
-#include "FlowLayout.h"
 #include "IconViews.h"
 #include "Labels.h"
 #include "Literals.h"
@@ -122,7 +122,7 @@ void TechnicalDetails::setLines(const QList<DetailContent::Line>& lines)
         auto* value = new WrapLabel(TextStyle::Body, &Tokens::text);
         value->setAlignment(Qt::AlignRight | Qt::AlignTop);
         content()->addLayout(
-            inRow(metrics::spaceM, {{label, 0, Qt::AlignTop}, {value, 1}}, {0, metrics::spaceXS, 0, metrics::spaceXS}));
+            inRow(metrics::spaceS, {{label, 0, Qt::AlignTop}, {value, 1}}, {0, metrics::spaceXS, 0, metrics::spaceXS}));
         m_values.append(value);
     }
     for (qsizetype i = 0; i < lines.size(); ++i)
@@ -190,25 +190,62 @@ void SelectableText::fit()
 
 DetailActions::DetailActions(QWidget* parent)
     : QWidget(parent)
-    , m_addMaintenance(named(new PrimaryButton(u"Aggiungi Manutenzione"_s, u"wrench.fill"_s), "addMaintenance"))
+    , m_rows(new ActionRows(metrics::spaceS))
+    , m_edit(named(new PlainButton(u"Modifica"_s), "editEquipment"))
+    , m_addMaintenance(named(new PrimaryButton(u"Aggiungi Manutenzione"_s), "addMaintenance"))
     , m_toggleActive(named(new LookButton(ButtonLook::Caution), "toggleActive"))
+    , m_remove(named(new DestructiveButton(u"Elimina"_s), "deleteEquipment"))
 {
-    auto* edit = named(new PlainButton(u"Modifica"_s, u"pencil"_s), "editEquipment");
-    edit->setToolTip(u"Modifica l'attrezzatura"_s);
+    m_edit->setToolTip(u"Modifica l'attrezzatura"_s);
     m_addMaintenance->setToolTip(u"Aggiungi una nuova manutenzione"_s);
-    auto* remove = named(new DestructiveButton(u"Elimina"_s), "deleteEquipment");
-    remove->setToolTip(u"Elimina l'attrezzatura"_s);
+    m_remove->setToolTip(u"Elimina l'attrezzatura"_s);
 
-    auto* layout = new FlowLayout(metrics::spaceS, metrics::spaceS);
-    setLayout(layout);
-    for (QWidget* button : std::initializer_list<QWidget*>{edit, m_addMaintenance, m_toggleActive, remove})
-        layout->addWidget(button);
+    setLayout(m_rows);
+    for (QWidget* button : std::initializer_list<QWidget*>{m_edit, m_addMaintenance, m_toggleActive, m_remove})
+        m_rows->addWidget(button);
     setActive(true);
+    showPictures(true);
 
-    connect(edit, &QAbstractButton::clicked, this, &DetailActions::editClicked);
+    connect(m_edit, &QAbstractButton::clicked, this, &DetailActions::editClicked);
     connect(m_addMaintenance, &QAbstractButton::clicked, this, &DetailActions::addMaintenanceClicked);
     connect(m_toggleActive, &QAbstractButton::clicked, this, &DetailActions::toggleActiveClicked);
-    connect(remove, &QAbstractButton::clicked, this, &DetailActions::deleteClicked);
+    connect(m_remove, &QAbstractButton::clicked, this, &DetailActions::deleteClicked);
+}
+
+void DetailActions::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    fitPictures();
+}
+
+bool DetailActions::event(QEvent* event)
+{
+    const bool handled = QWidget::event(event);
+    if (event->type() == QEvent::ApplicationFontChange)
+        showPictures(true); // until they turn out to have no room
+    if (event->type() == QEvent::LayoutRequest)
+        fitPictures();
+    return handled;
+}
+
+void DetailActions::showPictures(bool shown)
+{
+    m_hasPictures = shown;
+    m_edit->setIcon({});
+    m_addMaintenance->setIcon({});
+    if (!shown)
+        return;
+    m_edit->setSymbol(u"pencil"_s);
+    m_addMaintenance->setSymbol(u"wrench.fill"_s);
+}
+
+void DetailActions::fitPictures()
+{
+    if (m_hasPictures)
+        m_widthWithPictures = m_rows->widthOf(2);
+    const bool fits = m_widthWithPictures <= width();
+    if (fits != m_hasPictures)
+        showPictures(fits);
 }
 
 void DetailActions::focusAddMaintenance()

@@ -8,6 +8,7 @@
 
 namespace abissora {
 
+class ActionRows;
 class IconTile;
 class LookButton;
 class StateMark;
@@ -78,6 +79,10 @@ public:
     void setActive(bool active);
     void focusAddMaintenance();
 
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
 Q_SIGNALS:
     void editClicked();
     void addMaintenanceClicked();
@@ -85,8 +90,17 @@ Q_SIGNALS:
     void deleteClicked();
 
 private:
+    /// Two rows are worth more than pictures on the buttons.
+    void fitPictures();
+    void showPictures(bool shown);
+
+    ActionRows* m_rows;
+    LookButton* m_edit;
     LookButton* m_addMaintenance;
     LookButton* m_toggleActive;
+    LookButton* m_remove;
+    int m_widthWithPictures = 0;
+    bool m_hasPictures = false;
 };
 
 } // namespace abissora

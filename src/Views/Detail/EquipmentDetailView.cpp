@@ -4,6 +4,7 @@
 #include "Alert.h"
 #include "Assembly.h"
 #include "Buttons.h"
+#include "Cards.h"
 #include "DetailSections.h"
 #include "EquipmentFormView.h"
 #include "Labels.h"
@@ -23,8 +24,11 @@ namespace abissora {
 
 namespace {
 
-constexpr int sideMargin = 18;
-constexpr int leastWidth = 300;
+constexpr int usualSideMargin = 18;
+constexpr int narrowSideMargin = metrics::spaceM;
+constexpr int usualLeastWidth = 286;
+constexpr int mostLeastWidth = 440; // beside the list in the smallest window
+constexpr int narrow = 340;         // in less, the cards need the margin
 
 } // namespace
 
@@ -39,10 +43,11 @@ EquipmentDetailView::EquipmentDetailView(std::unique_ptr<EquipmentDetail> detail
     , m_body(new ScrollPane)
     , m_history(new MaintenanceHistory(*m_body))
 {
+    QWidget* const titleBar = makeTitleBar();
     fillBody();
     setObjectName(u"equipmentDetail"_s);
-    setMinimumWidth(leastWidth);
-    setLayout(inColumn(0, {makeTitleBar(), {m_body, 1}}));
+    setMinimumWidth(leastWidth());
+    setLayout(inColumn(0, {titleBar, {m_body, 1}}));
     connectParts();
     redraw();
 }
@@ -64,12 +69,11 @@ QWidget* EquipmentDetailView::makeTitleBar()
 {
     auto* close = named(new IconButton(symbolIcon(u"xmark"_s), u"Chiudi"_s), "closeDetail");
     connect(close, &QAbstractButton::clicked, this, &EquipmentDetailView::closed);
-    auto* title = new InkLabel(TextStyle::Headline, &Tokens::text, u"Dettagli Attrezzatura"_s);
+    auto* title = named(new WrapLabel(TextStyle::Headline, &Tokens::text, u"Dettagli Attrezzatura"_s), "detailTitle");
     auto* bar = new QWidget;
-    auto* layout = inRow(metrics::spaceS, {{title, 1}, close},
-                         {sideMargin, metrics::spaceXS, sideMargin - metrics::spaceXS, metrics::spaceXS});
-    layout->setSpacing(-1); // the style's
-    bar->setLayout(layout);
+    m_titleLine = inRow(metrics::spaceS, {{title, 1}, close});
+    m_titleLine->setSpacing(-1); // the style's
+    bar->setLayout(m_titleLine);
     return bar;
 }
 
@@ -79,17 +83,43 @@ void EquipmentDetailView::fillBody()
     auto* notes = new GroupBox(u"Note"_s, u"note.text"_s);
     notes->content()->addWidget(m_notes);
 
-    auto* layout = inColumn(metrics::spaceM, {m_header, m_technical, notes, m_actions, m_history},
-                            {sideMargin, metrics::spaceXS, sideMargin, metrics::spaceL});
-    layout->addStretch(1); // takes all the spare height: no card grows
-    m_body->widget()->setLayout(layout);
+    m_cards = inColumn(metrics::spaceM, {m_header, m_technical, notes, m_actions, m_history});
+    m_cards->addStretch(1); // takes all the spare height: no card grows
+    m_body->widget()->setLayout(m_cards);
+    connect(m_body->verticalScrollBar(), &QScrollBar::rangeChanged, this, &EquipmentDetailView::keepMargins);
+    keepMargins();
+}
+
+void EquipmentDetailView::keepMargins()
+{
+    const bool isNarrow = width() < withText(narrow, fontMetrics());
+    const int side = isNarrow ? narrowSideMargin : usualSideMargin;
+    m_titleLine->setContentsMargins(side, 0, side - metrics::spaceXS, metrics::spaceS);
     // The scroll bar stands in the margin: the cards keep their width when it comes and goes.
     const QScrollBar* const bar = m_body->verticalScrollBar();
-    connect(bar, &QScrollBar::rangeChanged, layout, [bar, layout](int, int maximum) {
-        QMargins margins = layout->contentsMargins();
-        margins.setRight(maximum > 0 ? std::max(0, sideMargin - bar->sizeHint().width()) : sideMargin);
-        layout->setContentsMargins(margins);
-    });
+    const int right = bar->maximum() > 0 ? std::max(0, side - bar->sizeHint().width()) : side;
+    m_cards->setContentsMargins(side, metrics::spaceXS, right, metrics::spaceL);
+    const int padding = isNarrow ? metrics::spaceM - 2 : metrics::spaceL;
+    for (Card* card : m_body->findChildren<Card*>())
+        card->content()->setContentsMargins(padding, padding, padding, padding);
+}
+
+int EquipmentDetailView::leastWidth()
+{
+    return std::min(withText(usualLeastWidth, QFontMetrics(abissora::font(TextStyle::Body))), mostLeastWidth);
+}
+
+void EquipmentDetailView::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
+        setMinimumWidth(leastWidth());
+}
+
+void EquipmentDetailView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    keepMargins();
 }
 
 void EquipmentDetailView::connectParts()

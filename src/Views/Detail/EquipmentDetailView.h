@@ -3,6 +3,7 @@
 
 #include "EquipmentDetail.h"
 
+#include <QBoxLayout>
 #include <QWidget>
 
 namespace abissora {
@@ -27,6 +28,9 @@ public:
     /// Over another screen.
     [[nodiscard]] static ViewSheet* makeSheet(std::unique_ptr<EquipmentDetail> detail, Opener& opener, QWidget* parent);
 
+    /// What its texts need at their present size.
+    [[nodiscard]] static int leastWidth();
+
     [[nodiscard]] const Equipment& equipment() const { return m_detail->equipment(); }
     /// Shows an item, another one from its top.
     void setEquipment(const Equipment& equipment);
@@ -43,11 +47,14 @@ Q_SIGNALS:
     void closed();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     [[nodiscard]] QWidget* makeTitleBar();
     void fillBody();
+    void keepMargins();
     void connectParts();
     void redraw();
     void openForm(std::unique_ptr<MaintenanceDraft> draft);
@@ -62,6 +69,8 @@ private:
     DetailActions* m_actions;
     ScrollPane* m_body;
     MaintenanceHistory* m_history;
+    QHBoxLayout* m_titleLine = nullptr;
+    QVBoxLayout* m_cards = nullptr;
 };
 
 } // namespace abissora

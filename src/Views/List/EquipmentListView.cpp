@@ -18,6 +18,13 @@
 
 namespace abissora {
 
+namespace {
+
+constexpr int usualSideMargin = metrics::spaceL + metrics::spaceXS;
+constexpr int narrow = 560; // in less, the table needs the margin
+
+} // namespace
+
 EquipmentListView::EquipmentListView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types,
                                      Almanac almanac, Console& console, IdGenerator& ids, QWidget* parent)
     : QWidget(parent)
@@ -74,8 +81,7 @@ void EquipmentListView::buildLayout()
     counts->addStretch();
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(metrics::spaceL + metrics::spaceXS, 0, metrics::spaceL + metrics::spaceXS,
-                               metrics::spaceM);
+    layout->setContentsMargins(usualSideMargin, 0, usualSideMargin, metrics::spaceM);
     layout->setSpacing(metrics::spaceM);
     layout->addWidget(m_header);
     layout->addLayout(searchRow);
@@ -147,6 +153,13 @@ void EquipmentListView::connectTable()
     connect(m_table, &EquipmentTableView::deleteRequested, this,
             [this, itemOf](int row) { confirmDeletion(itemOf(row)); });
     connect(m_table, &RowTable::placeChanged, this, &EquipmentListView::placeChanged);
+}
+
+void EquipmentListView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const int side = width() < narrow ? metrics::spaceS : usualSideMargin;
+    layout()->setContentsMargins(side, 0, side, metrics::spaceM);
 }
 
 void EquipmentListView::setSelectedEquipment(const std::optional<Equipment>& equipment)

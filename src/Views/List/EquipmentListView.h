@@ -47,6 +47,8 @@ public:
     void refresh();
     [[nodiscard]] QUuid refreshID() const { return m_refreshID; }
 
+    [[nodiscard]] EquipmentTableView& table() { return *m_table; }
+
     void focusSearch();
     /// The table; while it has no rows, the button in its place.
     void focusContent();
@@ -60,6 +62,9 @@ Q_SIGNALS:
     void selectionListed(bool listed);
     /// The keyboard stands at another row, or came or went.
     void placeChanged();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void buildLayout();

@@ -15,64 +15,68 @@ namespace abissora {
 
 namespace {
 
-constexpr int typeIconSize = 20;
-constexpr int actionIconSize = 20;
-constexpr int dotSize = 8;
+constexpr int linesOfMake = 2; ///< and of a model
 
 struct Line
 {
     QString text;
     QFont font;
     QColor color;
+    int most = 1; ///< lines of its own
 };
 
-void drawLine(QPainter& painter, const QRectF& rect, const Line& line)
+/// The texts one below the other, in the middle of the cell's height.
+void drawLines(QPainter& painter, const QRect& rect, std::initializer_list<Line> texts)
 {
-    const QFontMetrics metrics(line.font);
-    painter.setFont(line.font);
-    painter.setPen(line.color);
-    painter.drawText(
-        rect, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-        metrics.elidedText(QString(line.text).replace(u'\n', u' '), Qt::ElideRight, static_cast<int>(rect.width())));
+    QList<Line> lines;
+    int height = 0;
+    for (const Line& text : texts) {
+        const QFontMetrics metrics(text.font);
+        for (const QString& line : cellLines(text.text, metrics, rect.width(), text.most)) {
+            lines.append({line, text.font, text.color});
+            height += metrics.height();
+        }
+    }
+    int top = rect.top() + (rect.height() - height) / 2;
+    for (const Line& line : std::as_const(lines)) {
+        const int lineHeight = QFontMetrics(line.font).height();
+        painter.setFont(line.font);
+        painter.setPen(line.color);
+        painter.drawText(QRect(rect.left(), top, rect.width(), lineHeight),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, line.text);
+        top += lineHeight;
+    }
 }
 
-void drawTwoLines(QPainter& painter, const QRect& rect, const Line& upper, const Line& lower)
+void paintName(QPainter& painter, const QRect& cell, const EquipmentRow& row, const Tokens& tokens, int mostLines)
 {
-    const int upperHeight = QFontMetrics(upper.font).height();
-    const int lowerHeight = QFontMetrics(lower.font).height();
-    const int top = rect.top() + (rect.height() - upperHeight - lowerHeight) / 2;
-    drawLine(painter, QRect(rect.left(), top, rect.width(), upperHeight), upper);
-    drawLine(painter, QRect(rect.left(), top + upperHeight, rect.width(), lowerHeight), lower);
-}
-
-void paintName(QPainter& painter, const QRect& cell, const EquipmentRow& row, const Tokens& tokens)
-{
-    const QRect icon(cell.left(), cell.top() + (cell.height() - typeIconSize) / 2, typeIconSize, typeIconSize);
+    constexpr int side = TableColumns::typeIconSize;
+    const QRect icon(cell.left(), cell.top() + (cell.height() - side) / 2, side, side);
     typeIcon(row.appearance.icon, row.appearance.color).paint(&painter, icon);
-    drawTwoLines(painter, cell.adjusted(typeIconSize + metrics::spaceS, 0, 0, 0),
-                 {row.name, font(TextStyle::BodyMedium), tokens.text},
-                 {row.typeName, font(TextStyle::Caption), tokens.secondaryText});
+    drawLines(painter, cell.adjusted(side + TableColumns::typeIconGap, 0, 0, 0),
+              {{row.name, font(TextStyle::BodyMedium), tokens.text, mostLines},
+               {row.typeName, font(TextStyle::Caption), tokens.secondaryText}});
 }
 
-void paintNextService(QPainter& painter, const QRect& cell, const EquipmentRow& row, const Tokens& tokens)
+void paintNextService(QPainter& painter, const QRect& cell, const EquipmentRow& row, const Tokens& tokens, bool whole)
 {
     QFont due = font(TextStyle::Caption);
     due.setBold(true);
-    const QFont body = font(TextStyle::Body);
-    const bool fits = QFontMetrics(body).horizontalAdvance(row.nextServiceDate) <= cell.width();
-    drawTwoLines(painter, cell, {fits ? row.nextServiceDate : row.nextServiceDateAbbreviated, body, tokens.text},
-                 row.isDue ? Line{row.remaining, due, tokens.danger}
-                           : Line{row.remaining, font(TextStyle::Caption), tokens.secondaryText});
+    drawLines(painter, cell,
+              {{whole ? row.nextServiceDate : row.nextServiceDateAbbreviated, font(TextStyle::Body), tokens.text},
+               row.isDue ? Line{row.remaining, due, tokens.danger}
+                         : Line{row.remaining, font(TextStyle::Caption), tokens.secondaryText}});
 }
 
 void paintState(QPainter& painter, const QRect& cell, const EquipmentRow& row, const Tokens& tokens)
 {
-    const QRectF dot(cell.left(), cell.top() + (cell.height() - dotSize) / 2.0, dotSize, dotSize);
+    constexpr int side = TableColumns::dotSize;
+    const QRectF dot(cell.left(), cell.top() + (cell.height() - side) / 2.0, side, side);
     painter.setPen(Qt::NoPen);
     painter.setBrush(tokens.named(row.isActive ? NamedColor::green : NamedColor::gray));
     painter.drawEllipse(dot);
-    drawLine(painter, cell.adjusted(dotSize + metrics::spaceS, 0, 0, 0),
-             {row.state, font(TextStyle::Caption), tokens.text});
+    drawLines(painter, cell.adjusted(side + TableColumns::dotGap, 0, 0, 0),
+              {{row.state, font(TextStyle::Caption), tokens.text}});
 }
 
 void paintActions(QPainter& painter, const QRect& cell, bool hovered, bool focused, const QPalette& palette)
@@ -83,8 +87,8 @@ void paintActions(QPainter& painter, const QRect& cell, bool hovered, bool focus
         drawPanel(painter, button, metrics::controlRadius, mix(tokens.surface, tokens.text, 0.08), QColor());
     if (focused)
         drawFocusRing(painter, button, metrics::controlRadius, palette);
-    const QRect icon(button.center() - QPoint(actionIconSize / 2 - 1, actionIconSize / 2 - 1),
-                     QSize(actionIconSize, actionIconSize));
+    constexpr int side = TableColumns::actionIconSize;
+    const QRect icon(button.center() - QPoint(side / 2 - 1, side / 2 - 1), QSize(side, side));
     symbolIcon(u"ellipsis.circle.fill"_s, NamedColor::secondary).paint(&painter, icon);
 }
 
@@ -103,7 +107,11 @@ void EquipmentTableDelegate::paint(QPainter* painter, const QStyleOptionViewItem
     paintBackground(*painter, option, index);
     painter->setRenderHint(QPainter::Antialiasing);
     const Tokens& tokens = Tokens::of(option.palette);
-    const QRect cell = option.rect.adjusted(metrics::spaceS, 0, -metrics::spaceXS, 0);
+    const QRect cell =
+        option.rect.adjusted(TableColumns::leftPadding(index.column()), 0, -TableColumns::rightPadding, 0);
+    const auto drawText = [&](const QString& text) {
+        drawLines(*painter, cell, {{text, font(TextStyle::Body), tokens.text, linesOfMake}});
+    };
     const EquipmentRow row = m_model.row(index.row());
     const bool focused = showsFocusRing(option);
     // The table rings whole rows, the button its own cell.
@@ -112,16 +120,16 @@ void EquipmentTableDelegate::paint(QPainter* painter, const QStyleOptionViewItem
         drawFocusRing(*painter, option.rect.adjusted(1, 1, -1, -1), metrics::spaceXS, option.palette);
     switch (index.column()) {
     case EquipmentTableModel::NameColumn:
-        paintName(*painter, cell, row, tokens);
+        paintName(*painter, cell, row, tokens, m_layout.nameLines);
         break;
     case EquipmentTableModel::BrandColumn:
-        drawLine(*painter, cell, {row.brand, font(TextStyle::Body), tokens.text});
+        drawText(row.brand);
         break;
     case EquipmentTableModel::ModelColumn:
-        drawLine(*painter, cell, {row.model, font(TextStyle::Body), tokens.text});
+        drawText(row.model);
         break;
     case EquipmentTableModel::NextServiceColumn:
-        paintNextService(*painter, cell, row, tokens);
+        paintNextService(*painter, cell, row, tokens, m_layout.hasWholeDates);
         break;
     case EquipmentTableModel::StateColumn:
         paintState(*painter, cell, row, tokens);
@@ -140,10 +148,15 @@ QSize EquipmentTableDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, c
 
 QRect EquipmentTableDelegate::actionButton(const QRect& cell)
 {
-    constexpr int side = actionIconSize + 2 * metrics::spaceXS;
+    constexpr int side = TableColumns::actionIconSize + 2 * metrics::spaceXS;
     QRect button(0, 0, side, side);
     button.moveCenter(cell.center());
     return button;
+}
+
+void EquipmentTableDelegate::setLayout(const TableColumns::Layout& layout)
+{
+    m_layout = layout;
 }
 
 void EquipmentTableDelegate::setHover(int row, bool onActionButton)
@@ -154,8 +167,9 @@ void EquipmentTableDelegate::setHover(int row, bool onActionButton)
 
 int EquipmentTableDelegate::rowHeight() const
 {
-    return QFontMetrics(font(TextStyle::BodyMedium)).height() + QFontMetrics(font(TextStyle::Caption)).height() +
-           2 * metrics::spaceM;
+    const int name = QFontMetrics(font(TextStyle::BodyMedium)).height();
+    const int air = m_layout.nameLines > 1 ? 2 * metrics::spaceS : 2 * metrics::spaceM;
+    return m_layout.nameLines * name + QFontMetrics(font(TextStyle::Caption)).height() + air;
 }
 
 void EquipmentTableDelegate::paintBackground(QPainter& painter, const QStyleOptionViewItem& option,

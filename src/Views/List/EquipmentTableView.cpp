@@ -2,7 +2,6 @@
 #include "EquipmentTableView.h"
 
 #include "Literals.h"
-#include "Metrics.h"
 #include "TypeScale.h"
 
 #include <QContextMenuEvent>
@@ -10,54 +9,8 @@
 #include <QKeyEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <numeric>
 
 namespace abissora {
-
-namespace {
-
-constexpr std::size_t columnCount = EquipmentTableModel::ColumnCount;
-
-/// Share of the spare width, what the column needs to be read whole as a rule, and the least that it is squeezed to.
-struct ColumnWidth
-{
-    int share;
-    int usual;
-    int least;
-};
-
-constexpr std::array<ColumnWidth, columnCount> widths{ColumnWidth{30, 170, 95}, ColumnWidth{14, 74, 42},
-                                                      ColumnWidth{14, 74, 42},  ColumnWidth{20, 146, 94},
-                                                      ColumnWidth{0, 86, 70},   ColumnWidth{0, 66, 50}};
-
-/// Which columns give way together, the first ones first.
-constexpr std::array<std::array<EquipmentRow::Column, 2>, 3> stages{
-    {{EquipmentTableModel::BrandColumn, EquipmentTableModel::ModelColumn},
-     {EquipmentTableModel::StateColumn, EquipmentTableModel::ActionsColumn},
-     {EquipmentTableModel::NameColumn, EquipmentTableModel::NextServiceColumn}}};
-
-using Widths = std::array<int, columnCount>;
-
-/// Takes from the columns what the viewport lacks.
-void squeeze(Widths& columns, const Widths& least, int lack)
-{
-    for (const auto& stage : stages) {
-        int room = 0;
-        for (const std::size_t column : stage)
-            room += columns.at(column) - least.at(column);
-        int taken = std::min(lack, room);
-        lack -= taken;
-        for (const std::size_t column : stage) {
-            const int own = columns.at(column) - least.at(column);
-            const int loss = room > 0 ? taken * own / room : 0;
-            columns.at(column) -= loss;
-            taken -= loss;
-            room -= own;
-        }
-    }
-}
-
-} // namespace
 
 EquipmentTableView::EquipmentTableView(QWidget* parent)
     : RowTable(parent)
@@ -76,8 +29,17 @@ EquipmentTableView::EquipmentTableView(QWidget* parent)
     verticalHeader()->hide();
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
-    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setMinimumSectionSize(1); // the style's own is wider than some columns' least
+    QHeaderView* const header = horizontalHeader();
+    header->setSectionResizeMode(QHeaderView::Interactive);
+    header->setMinimumSectionSize(1); // the style's own is wider than some columns' least
+    connect(header, &QHeaderView::sectionResized, this, [this](int column, int /*before*/, int width) {
+        if (!m_isLayingOut)
+            dragColumn(column, width);
+    });
+    connect(header, &QHeaderView::sectionHandleDoubleClicked, this, [this](int column) {
+        m_columns.setOwnWidth(column, std::nullopt);
+        layOutColumns();
+    });
     adjustToText();
 }
 
@@ -95,6 +57,9 @@ void EquipmentTableView::showEquipment(const QList<Equipment>& equipment, const 
     {
         const QScopedValueRollback silent(m_silent, true);
         m_model.setEquipment(equipment, rows);
+        m_columnTexts = ColumnTexts::of(equipment, rows);
+        m_columns.measure(m_columnTexts);
+        layOutColumns();
         if (const int row = selected ? m_model.rowOf(*selected) : -1; row >= 0)
             setCurrentIndex(m_model.index(row, column));
         else if (current)
@@ -235,36 +200,60 @@ void EquipmentTableView::setHover(const QModelIndex& index, bool onActionButton)
 
 void EquipmentTableView::adjustToText()
 {
-    // One height for all rows: nothing measures ten thousand of them.
-    verticalHeader()->setMinimumSectionSize(m_delegate.rowHeight());
-    verticalHeader()->setDefaultSectionSize(m_delegate.rowHeight());
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setFont(abissora::font(TextStyle::CaptionSemibold));
+    m_columns.measure(m_columnTexts);
     layOutColumns();
+}
+
+QList<int> EquipmentTableView::ownColumnWidths() const
+{
+    QList<int> widths;
+    for (int column = 0; column < EquipmentTableModel::ColumnCount; ++column)
+        widths.append(m_columns.ownWidth(column).value_or(0));
+    return widths;
+}
+
+void EquipmentTableView::setOwnColumnWidths(const QList<int>& widths)
+{
+    for (int column = 0; column < EquipmentTableModel::ColumnCount; ++column) {
+        const int width = widths.value(column);
+        m_columns.setOwnWidth(column, width > 0 ? std::optional(width) : std::nullopt);
+    }
+    layOutColumns();
+}
+
+void EquipmentTableView::dragColumn(int column, int width)
+{
+    m_columns.setOwnWidth(column, width);
+    // What stands before it keeps its place under the pointer.
+    TableColumns kept = m_columns;
+    for (int before = 0; before < column; ++before)
+        kept.setOwnWidth(before, columnWidth(before));
+    showLayout(kept.layOut(viewport()->width()));
 }
 
 void EquipmentTableView::layOutColumns()
 {
-    const QFontMetrics text(abissora::font(TextStyle::Body));
-    Widths columns{};
-    Widths least{};
-    int shares = 0;
-    for (std::size_t i = 0; i < columnCount; ++i) {
-        columns.at(i) = withText(widths.at(i).usual, text);
-        least.at(i) = withText(widths.at(i).least, text);
-        shares += widths.at(i).share;
+    showLayout(m_columns.layOut(viewport()->width()));
+}
+
+void EquipmentTableView::showLayout(const TableColumns::Layout& layout)
+{
+    const QScopedValueRollback layingOut(m_isLayingOut, true);
+    for (int column = 0; column < EquipmentTableModel::ColumnCount; ++column)
+        setColumnWidth(column, layout.widths.at(static_cast<std::size_t>(column)));
+    m_delegate.setLayout(layout);
+    // One height for all rows: nothing measures ten thousand of them.
+    const int before = verticalHeader()->defaultSectionSize();
+    const int height = m_delegate.rowHeight();
+    if (height != before) {
+        const int scrolled = verticalScrollBar()->value();
+        verticalHeader()->setMinimumSectionSize(height);
+        verticalHeader()->setDefaultSectionSize(height);
+        verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+        verticalScrollBar()->setValue(before > 0 ? scrolled / before * height + scrolled % before : 0);
     }
-    const int spare = viewport()->width() - std::accumulate(columns.begin(), columns.end(), 0);
-    if (spare < 0)
-        squeeze(columns, least, -spare);
-    int given = 0;
-    for (std::size_t i = columnCount - 1; i > 0; --i) {
-        const int extra = std::max(0, spare) * widths.at(i).share / shares;
-        given += extra;
-        columns.at(i) += extra;
-    }
-    columns.front() += std::max(0, spare) - given; // with what the divisions left over
-    for (std::size_t i = 0; i < columnCount; ++i)
-        setColumnWidth(static_cast<int>(i), columns.at(i));
+    viewport()->update();
 }
 
 } // namespace abissora

@@ -9,9 +9,8 @@ namespace abissora {
 /// The register's table. The actions of a row open from its button, by right click, by
 /// the Menu key or Shift+F10, and by Return or Space on its last cell.
 ///
-/// Its columns together are as wide as its viewport. Spare width goes to names, makes, models and dates by fixed
-/// shares. In a narrow viewport makes and models give way first, names and dates last, each down to a least width;
-/// below that the table scrolls. A date's least width holds its abbreviated form.
+/// Its columns together are as wide as its viewport, see TableColumns. The border of a column can be dragged; a double
+/// click on it makes the column's width automatic again.
 class EquipmentTableView : public RowTable
 {
     Q_OBJECT
@@ -27,6 +26,10 @@ public:
                        const std::optional<QUuid>& selected);
     /// Selects the item's row, or none; emits nothing.
     void showSelected(const std::optional<QUuid>& id);
+
+    /// Of the columns that were dragged; 0 for the others, also for those that the list leaves out.
+    [[nodiscard]] QList<int> ownColumnWidths() const;
+    void setOwnColumnWidths(const QList<int>& widths);
 
 Q_SIGNALS:
     /// The person selected another row, or none (-1).
@@ -55,11 +58,16 @@ private:
     void setHover(const QModelIndex& index, bool onActionButton);
     void adjustToText();
     void layOutColumns();
+    void dragColumn(int column, int width);
+    void showLayout(const TableColumns::Layout& layout);
 
     EquipmentTableModel m_model;
     EquipmentTableDelegate m_delegate;
+    ColumnTexts m_columnTexts;
+    TableColumns m_columns;
     QPersistentModelIndex m_hovered;
     bool m_silent = false;
+    bool m_isLayingOut = false;
 };
 
 } // namespace abissora

@@ -14,7 +14,9 @@ namespace abissora {
 namespace {
 
 constexpr int detailWidth = 385;
-constexpr int leastListWidth = 440; // its table with every column
+/// Beside the sidebar at its narrowest, in the smallest window: the list with every column to be read, and the pane,
+/// which takes more of it for larger text.
+constexpr int leastPagesWidth = 778;
 
 } // namespace
 
@@ -30,7 +32,7 @@ ListPage::ListPage(ScreenFactory& factory, EquipmentViewModel& equipment, QWidge
     paneLayout->setContentsMargins(0, 0, 0, 0);
     m_detailPane->setObjectName(u"detailPane"_s);
     m_detailPane->hide();
-    m_list->setMinimumWidth(leastListWidth);
+    boundWidths();
     addWidget(m_list);
     addWidget(m_detailPane);
     setChildrenCollapsible(false);
@@ -97,6 +99,18 @@ void ListPage::keyPressEvent(QKeyEvent* event)
         setSelectedEquipment(std::nullopt);
     else
         QSplitter::keyPressEvent(event);
+}
+
+void ListPage::changeEvent(QEvent* event)
+{
+    QSplitter::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
+        boundWidths();
+}
+
+void ListPage::boundWidths()
+{
+    m_list->setMinimumWidth(leastPagesWidth - EquipmentDetailView::leastWidth());
 }
 
 void ListPage::followRegister()

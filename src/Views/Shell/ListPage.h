@@ -44,8 +44,10 @@ Q_SIGNALS:
 protected:
     /// Escape closes the detail.
     void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void boundWidths();
     void followRegister();
     void setFilteredOut(bool filteredOut);
     void showDetail();

@@ -6,6 +6,7 @@
 #include "ContentView.h"
 #include "EquipmentListView.h"
 #include "EquipmentMenu.h"
+#include "EquipmentTableView.h"
 #include "Literals.h"
 #include "ScreenFactory.h"
 #include "SymbolIcon.h"
@@ -16,6 +17,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QTextEdit>
 
 namespace abissora {
@@ -124,12 +126,14 @@ MainWindow::MainWindow(ScreenFactory& screens, EquipmentViewModel& equipment, co
     menuBar()->installEventFilter(new MenuBarKeys(this));
     addViewMenu();
     addHelpMenu();
-    m_state.restore(*this, m_content->splitters());
+    m_state.restore(*this, m_content->splitters(), screen()->availableGeometry());
+    m_content->list().table().setOwnColumnWidths(m_state.columnWidths());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
     m_state.save(*this, m_content->splitters());
+    m_state.saveColumnWidths(m_content->list().table().ownColumnWidths());
     QMainWindow::closeEvent(event);
     if (event->isAccepted())
         Q_EMIT closed();

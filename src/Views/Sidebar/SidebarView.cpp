@@ -16,7 +16,9 @@ namespace abissora {
 namespace {
 
 constexpr int minimumSidebarWidth = 220;
-constexpr int margin = 10;
+constexpr int outerMargin = 6; ///< beside the pill of a row
+constexpr int innerMargin = 8;
+constexpr int iconGap = 8;
 constexpr int badgePadding = 4;
 
 void paintBadge(QPainter& painter, const QRect& rect, const QString& text, const Tokens& tokens)
@@ -39,7 +41,7 @@ QSize badgeSize(const QString& text)
 void paintEntry(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index, const Tokens& tokens)
 {
     const bool selected = option.state.testFlag(QStyle::State_Selected);
-    const QRect pill = option.rect.adjusted(margin, 1, -margin, -1);
+    const QRect pill = option.rect.adjusted(outerMargin, 1, -outerMargin, -1);
     if (selected)
         drawPanel(painter, pill, metrics::controlRadius, tokens.accentFill, QColor());
     else if (option.state.testFlag(QStyle::State_MouseOver))
@@ -50,13 +52,13 @@ void paintEntry(QPainter& painter, const QStyleOptionViewItem& option, const QMo
     else if (showsFocusRing(option))
         drawFocusRing(painter, pill, metrics::controlRadius, option.palette);
 
-    QRect content = pill.adjusted(margin, 0, -margin, 0);
+    QRect content = pill.adjusted(innerMargin, 0, -innerMargin, 0);
     const QRect icon(content.left(), content.top() + (content.height() - metrics::iconSize) / 2, metrics::iconSize,
                      metrics::iconSize);
     index.data(Qt::DecorationRole)
         .value<QIcon>()
         .paint(&painter, icon, Qt::AlignCenter, selected ? QIcon::Selected : QIcon::Normal);
-    content.setLeft(icon.right() + 1 + margin);
+    content.setLeft(icon.right() + 1 + iconGap);
 
     if (const QVariant badge = index.data(SidebarView::BadgeRole); badge.isValid()) {
         const QString text = badge.toString();
@@ -76,7 +78,8 @@ void paintTitle(QPainter& painter, const QRect& rect, const QString& text, const
 {
     painter.setFont(font(TextStyle::CaptionSemibold));
     painter.setPen(tokens.secondaryText);
-    painter.drawText(rect.adjusted(2 * margin, 0, -margin, -metrics::spaceXS), Qt::AlignLeft | Qt::AlignBottom, text);
+    painter.drawText(rect.adjusted(outerMargin + innerMargin, 0, -outerMargin, -metrics::spaceXS),
+                     Qt::AlignLeft | Qt::AlignBottom, text);
 }
 
 } // namespace
@@ -91,7 +94,7 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
         paintTitle(*painter, option.rect, index.data().toString(), tokens);
         break;
     case SidebarRow::Divider:
-        drawHorizontalHairline(*painter, option.rect.left() + margin, option.rect.right() - margin,
+        drawHorizontalHairline(*painter, option.rect.left() + outerMargin, option.rect.right() - outerMargin,
                                option.rect.center().y(), tokens.border);
         break;
     default:
@@ -102,10 +105,11 @@ void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
 
 QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& index) const
 {
-    const int entryHeight = QFontMetrics(font(TextStyle::Body)).height() + metrics::spaceL;
+    const int entryHeight = QFontMetrics(font(TextStyle::Body)).height() + metrics::spaceM + 2;
     // Room for a badge of two digits, so that one that appears moves nothing.
     const int width = QFontMetrics(font(TextStyle::Body)).horizontalAdvance(index.data().toString()) +
-                      metrics::iconSize + 5 * margin + badgeSize(u"00"_s).width() + metrics::spaceXS;
+                      metrics::iconSize + 2 * outerMargin + innerMargin + iconGap + badgeSize(u"00"_s).width() +
+                      metrics::spaceXS + 2;
     switch (index.data(SidebarView::KindRole).toInt()) {
     case SidebarRow::SectionTitle:
         return {width, QFontMetrics(font(TextStyle::CaptionSemibold)).height() + metrics::spaceL + metrics::spaceXS};

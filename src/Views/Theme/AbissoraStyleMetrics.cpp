@@ -119,7 +119,7 @@ int AbissoraStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
     case PM_SplitterWidth:
         return 7;
     case PM_HeaderMargin:
-        return metrics::spaceS;
+        return metrics::spaceXS;
     case PM_MenuPanelWidth:
     case PM_MenuBarPanelWidth:
         return 0;

@@ -68,7 +68,7 @@ QString headerText(const QString& text, const QFontMetrics& metrics, QSize room)
 {
     const auto elided = [&](const QString& line) { return metrics.elidedText(line, Qt::ElideRight, room.width()); };
     const qsizetype space = text.indexOf(u' ');
-    const bool twoLines = metrics.horizontalAdvance(text) > room.width() && space > 0 &&
+    const bool twoLines = QFontMetricsF(metrics).horizontalAdvance(text) > room.width() && space > 0 &&
                           metrics.height() + metrics.lineSpacing() <= room.height();
     return twoLines ? QString(elided(text.left(space)) + u'\n' + elided(text.mid(space + 1))) : elided(text);
 }
@@ -86,10 +86,12 @@ void drawHeaderLabel(const QStyleOptionHeader& option, QPainter& painter, const 
 {
     const Tokens& tokens = Tokens::of(option.palette);
     const bool enabled = option.state & QStyle::State_Enabled;
-    QRect place = option.rect.adjusted(0, 0, metrics::spaceXS, 0);
+    QRect place = option.rect.adjusted(0, 0, 2, 0);
     if (const auto* header = qobject_cast<const QHeaderView*>(widget);
         header != nullptr && header->orientation() == Qt::Horizontal)
         place = QRect(place.left(), 0, place.width(), header->height()); // two lines want all of the height
+    if (option.position == QStyleOptionHeader::Beginning || option.position == QStyleOptionHeader::OnlyOneSection)
+        place.setLeft(place.left() + 2); // further from the frame
     if (option.sortIndicator != QStyleOptionHeader::None) {
         const QRect mark(place.right() - metrics::spaceM, place.top(), metrics::spaceM, place.height());
         drawGlyph(painter, QStyle::visualRect(option.direction, place, mark),

@@ -165,7 +165,7 @@ private Q_SLOTS:
         QFont bold = font(TextStyle::Caption);
         bold.setBold(true);
         const int half = cell.rect().height() / 2;
-        const QRect lower(0, half + 5, cellWidth, half - 7);
+        const QRect lower(0, half - 2, cellWidth, half);
         const auto inkIn = [&](const QFont& font) {
             const Picture picture = drawn(cell.rect().size(), tokens().surface, [&](QPainter& painter) {
                 painter.setFont(font);
@@ -189,19 +189,23 @@ private Q_SLOTS:
             const bool twoLines = column == Column::NameColumn;
             QVERIFY(cell.endsInDots(QRect(31, 0, cellWidth - 31, twoLines ? half : 2 * half - 2), tokens().surface));
             QVERIFY(!twoLines || cell.endsInDots(QRect(31, half, cellWidth - 31, half - 2), tokens().surface));
-            QCOMPARE(cell.bare(QRect(cellWidth - 4, 0, 4, cell.rect().height() - 2), tokens().surface), fine);
+            QCOMPARE(cell.bare(QRect(cellWidth - TableColumns::rightPadding, 0, TableColumns::rightPadding,
+                                     cell.rect().height() - 2),
+                               tokens().surface),
+                     fine);
         }
         const Picture fits =
             drawnItem(table.view, table.index(Usual, Column::BrandColumn), table.cellSize(), tokens().surface);
         QVERIFY(!fits.endsInDots(fits.rect().adjusted(0, 0, 0, -2), tokens().surface));
     }
 
-    void aDateWithoutRoomIsAbbreviated()
+    void datesAreShownInTheFormOfTheColumn()
     {
         const Table table;
         const EquipmentRow row = table.model().row(Usual);
-        const auto upperWidth = [&](int width) {
+        const auto upperWidth = [&](int width, bool whole) {
             const QSize size(width, table.cellSize().height());
+            table.delegate().setLayout({.widths = {}, .hasWholeDates = whole, .nameLines = 1});
             const Picture cell =
                 drawnItem(table.view, table.index(Usual, Column::NextServiceColumn), size, tokens().surface);
             return cell.ink(QRect(0, 0, width, size.height() / 2), tokens().surface).bounds.width();
@@ -209,8 +213,8 @@ private Q_SLOTS:
         const QFontMetricsF body(font(TextStyle::Body));
         const qreal whole = body.horizontalAdvance(row.nextServiceDate);
         const qreal abbreviated = body.horizontalAdvance(row.nextServiceDateAbbreviated);
-        QVERIFY(std::abs(upperWidth(qCeil(whole) + 20) - whole) < 4);
-        QVERIFY(std::abs(upperWidth(qCeil(abbreviated) + 20) - abbreviated) < 4);
+        QVERIFY(std::abs(upperWidth(200, true) - whole) < 4);
+        QVERIFY(std::abs(upperWidth(200, false) - abbreviated) < 4);
     }
 };
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "Announcements.h"
 #include "Buttons.h"
 #include "Cards.h"
-#include "Announcements.h"
 #include "ClippedTexts.h"
 #include "Gui.h"
 #include "Literals.h"

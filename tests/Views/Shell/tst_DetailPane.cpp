@@ -9,10 +9,8 @@
 #include "Gui.h"
 #include "Literals.h"
 #include "MainWindow.h"
-#include "Metrics.h"
 #include "ShellFixture.h"
 #include "TestRunner.h"
-#include "TypeScale.h"
 
 #include <QScrollArea>
 #include <QScrollBar>
@@ -132,12 +130,6 @@ private Q_SLOTS:
         settle();
         QCOMPARE(s.window.size(), QSize(1000, 700));
         QCOMPARE(s.table().horizontalScrollBar()->maximum(), 0);
-        const QFontMetrics text(font(TextStyle::Body));
-        for (int month = 1; month <= 12; ++month) {
-            const Instant day = f.calendar.instant(QDate(2026, month, 28), QTime(12, 0)).value();
-            QVERIFY(text.horizontalAdvance(f.almanac.dates.abbreviatedDate(day)) + metrics::spaceS + metrics::spaceXS <=
-                    s.table().columnWidth(EquipmentTableModel::NextServiceColumn));
-        }
         QCOMPARE(clippedTexts(s.window.content().list()), QStringList());
     }
 

@@ -13,7 +13,7 @@ namespace {
 constexpr QStyle::State keyboardFocus = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
 constexpr int width = 220;
 /// Where a row's picture ends and its text begins.
-constexpr int lead = 40;
+constexpr int lead = 34;
 
 /// A sidebar with one item that is due and a type with a long name.
 struct Sidebar
@@ -78,9 +78,9 @@ private Q_SLOTS:
         QCOMPARE(entry.contained(), fine);
         QCOMPARE(entry.filled(inside, ground, 0.7), fine);
         // The pill is round and stands free.
-        QCOMPARE(entry.bare(QRect(0, 0, 8, entry.rect().height()), tokens().sidebar), fine);
-        QCOMPARE(entry.bare(QRect(width - 8, 0, 8, entry.rect().height()), tokens().sidebar), fine);
-        QCOMPARE(entry.bare(QRect(10, 1, 1, 1), tokens().sidebar), fine);
+        QCOMPARE(entry.bare(QRect(0, 0, 5, entry.rect().height()), tokens().sidebar), fine);
+        QCOMPARE(entry.bare(QRect(width - 5, 0, 5, entry.rect().height()), tokens().sidebar), fine);
+        QCOMPARE(entry.bare(QRect(6, 1, 1, 1), tokens().sidebar), fine);
         const QColor picture = tokens().named(sidebar.f.types.getTypeByName(u"Pinne"_s)->colorValue());
         QCOMPARE(entry.inked(QRect(14, 4, lead - 14, inside.height()), ground, selected ? tokens().onFill : picture),
                  fine);
@@ -93,11 +93,11 @@ private Q_SLOTS:
     {
         const Sidebar sidebar;
         const Picture entry = row(sidebar, u"Pinne"_s, keyboardFocus);
-        QCOMPARE(entry.framed(entry.rect().adjusted(10, 1, -10, -1), tokens().accentInk, 2), fine);
+        QCOMPARE(entry.framed(entry.rect().adjusted(6, 1, -6, -1), tokens().accentInk, 2), fine);
         QCOMPARE(entry.contained(), fine);
         const Picture chosen = row(sidebar, u"Pinne"_s, keyboardFocus | QStyle::State_Selected);
-        QCOMPARE(chosen.framed(chosen.rect().adjusted(12, 3, -12, -3), tokens().onFill, 2), fine);
-        QCOMPARE(row(sidebar, u"Pinne"_s, QStyle::State_HasFocus).amount(QRect(9, 0, 5, 40), tokens().accentInk), 0);
+        QCOMPARE(chosen.framed(chosen.rect().adjusted(8, 3, -8, -3), tokens().onFill, 2), fine);
+        QCOMPARE(row(sidebar, u"Pinne"_s, QStyle::State_HasFocus).amount(QRect(5, 0, 5, 40), tokens().accentInk), 0);
     }
 
     void theBadgeIsWhiteOnDanger()
@@ -105,9 +105,9 @@ private Q_SLOTS:
         Sidebar sidebar;
         const QString due = u"Manutenzione scaduta"_s;
         const Picture badged = row(sidebar, due);
-        const QRect end(width - 40, 4, 28, badged.rect().height() - 8);
+        const QRect end(width - 36, 4, 28, badged.rect().height() - 8);
         QVERIFY(badged.amount(end, tokens().dangerFill) > 80);
-        const QRect inner(width - 26, badged.rect().center().y() - 4, 9, 9);
+        const QRect inner(width - 22, badged.rect().center().y() - 4, 9, 9);
         QCOMPARE(badged.inked(inner, tokens().dangerFill, tokens().onFill), fine);
         QCOMPARE(badged.contained(), fine);
         QCOMPARE(row(sidebar, u"Pinne"_s).amount(end, tokens().dangerFill), 0);
@@ -143,7 +143,7 @@ private Q_SLOTS:
         const Sidebar sidebar;
         const Picture entry = row(sidebar, QString(60, u'l'));
         QVERIFY(entry.endsInDots(entry.rect().adjusted(lead, 0, 0, 0), tokens().sidebar));
-        QCOMPARE(entry.bare(QRect(width - 20, 0, 20, entry.rect().height()), tokens().sidebar), fine);
+        QCOMPARE(entry.bare(QRect(width - 14, 0, 14, entry.rect().height()), tokens().sidebar), fine);
         const Picture shorter = row(sidebar, u"Pinne"_s);
         QVERIFY(!shorter.endsInDots(shorter.rect().adjusted(lead, 0, 0, 0), tokens().sidebar));
     }

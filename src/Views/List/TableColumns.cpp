@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+#include "TableColumns.h"
+
+#include "Literals.h"
+#include "Metrics.h"
+#include "TypeScale.h"
+
+#include <QFontMetrics>
+#include <QtMath>
+#include <algorithm>
+#include <numeric>
+
+namespace abissora {
+
+namespace {
+
+using enum EquipmentRow::Column;
+using Widths = TableColumns::Widths;
+
+constexpr int air = 10;
+/// At the usual text size: what a single long text may claim for its column, and what a text is squeezed to.
+constexpr int mostForName = 360;
+constexpr int mostForMake = 170;
+constexpr int leastForName = 70;
+constexpr int leastForMake = 34;
+/// Of the spare width.
+constexpr Widths shares{30, 14, 14, 20, 0, 0};
+
+/// Rounded up: a text in less than its width would end in dots.
+int advance(const QString& text, const QFontMetrics& metrics)
+{
+    return qCeil(QFontMetricsF(metrics).horizontalAdvance(text));
+}
+
+int widest(const QStringList& texts, const QFontMetrics& metrics)
+{
+    int width = 0;
+    for (const QString& text : texts)
+        width = std::max(width, advance(text, metrics));
+    return width;
+}
+
+/// The least width at which the text has room in two lines.
+int inTwoLines(const QString& text, const QFontMetrics& metrics)
+{
+    int width = advance(text, metrics);
+    for (qsizetype space = text.indexOf(u' '); space >= 0; space = text.indexOf(u' ', space + 1)) {
+        width = std::min(width, std::max(advance(text.left(space), metrics), advance(text.mid(space + 1), metrics)));
+    }
+    return width;
+}
+
+int widestInTwoLines(const QStringList& texts, const QFontMetrics& metrics)
+{
+    int width = 0;
+    for (const QString& text : texts)
+        width = std::max(width, inTwoLines(text, metrics));
+    return width;
+}
+
+int sum(const Widths& widths)
+{
+    return std::accumulate(widths.begin(), widths.end(), 0);
+}
+
+/// Takes from the columns what is lacking, from each as far as its bound allows.
+void squeeze(Widths& columns, const Widths& bounds, int lack)
+{
+    int room = 0;
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        room += std::max(0, columns.at(i) - bounds.at(i));
+    int taken = std::clamp(lack, 0, room);
+    for (std::size_t i = 0; i < columns.size() && room > 0; ++i) {
+        const int own = std::max(0, columns.at(i) - bounds.at(i));
+        const int loss = taken * own / room;
+        columns.at(i) -= loss;
+        taken -= loss;
+        room -= own;
+    }
+}
+
+/// Gives the columns what is over, by their shares.
+void spread(Widths& columns, const Widths& among, int spare)
+{
+    const int all = sum(among);
+    if (spare <= 0 || all == 0)
+        return;
+    int given = 0;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const int extra = spare * among.at(i) / all;
+        columns.at(i) += extra;
+        given += extra;
+    }
+    // What the divisions left over.
+    const auto first = std::ranges::find_if(among, [](int share) { return share > 0; });
+    columns.at(static_cast<std::size_t>(first - among.begin())) += spare - given;
+}
+
+} // namespace
+
+QStringList cellLines(const QString& text, const QFontMetrics& metrics, int width, int mostLines)
+{
+    const QString line = QString(text).replace(u'\n', u' ');
+    qsizetype space = -1;
+    if (mostLines > 1 && advance(line, metrics) > width) {
+        for (qsizetype next = line.indexOf(u' '); next >= 0; next = line.indexOf(u' ', next + 1)) {
+            if (advance(line.left(next), metrics) > width)
+                break;
+            space = next;
+        }
+    }
+    if (space < 0)
+        return {metrics.elidedText(line, Qt::ElideRight, width)};
+    return QStringList(line.left(space)) + cellLines(line.mid(space + 1), metrics, width, mostLines - 1);
+}
+
+int TableColumns::leftPadding(int column)
+{
+    return column == NameColumn ? metrics::spaceXS + 2 : metrics::spaceXS;
+}
+
+void TableColumns::measure(const ColumnTexts& texts)
+{
+    const QFontMetrics body(font(TextStyle::Body));
+    const QFontMetrics name(font(TextStyle::BodyMedium));
+    const QFontMetrics caption(font(TextStyle::Caption));
+    const QFontMetrics title(font(TextStyle::CaptionSemibold));
+    QFont dueFont = font(TextStyle::Caption);
+    dueFont.setBold(true);
+    constexpr int beforeName = typeIconSize + typeIconGap;
+    const int typeName = std::min(widest(texts.typeNames, caption), withText(mostForName, body) / 2);
+    const int remaining = widest(texts.remaining, QFontMetrics(dueFont));
+    const int state = dotSize + dotGap + widest({u"Attivo"_s, u"Inattivo"_s}, caption);
+    const int action = actionIconSize + 2 * metrics::spaceXS;
+
+    const auto bounded = [&](int width, int most) { return std::min(width, withText(most, body)); };
+    const Widths whole{beforeName + std::max(bounded(widest(texts.names, name), mostForName), typeName),
+                       bounded(widest(texts.brands, body), mostForMake),
+                       bounded(widest(texts.models, body), mostForMake),
+                       std::max(widest(texts.abbreviatedDates, body), remaining),
+                       state,
+                       action};
+    const Widths wrapped{beforeName + std::max(bounded(widestInTwoLines(texts.names, name), mostForName), typeName),
+                         bounded(widestInTwoLines(texts.brands, body), mostForMake),
+                         bounded(widestInTwoLines(texts.models, body), mostForMake),
+                         whole.at(NextServiceColumn),
+                         state,
+                         action};
+    const Widths least{beforeName + withText(leastForName, body),
+                       withText(leastForMake, body),
+                       withText(leastForMake, body),
+                       whole.at(NextServiceColumn),
+                       state,
+                       action};
+    for (std::size_t i = 0; i < count; ++i) {
+        const int column = static_cast<int>(i);
+        const int padding = leftPadding(column) + rightPadding;
+        const QString heading = EquipmentRow::title(static_cast<EquipmentRow::Column>(column));
+        const int narrowHeading = inTwoLines(heading, title);
+        m_whole.at(i) = std::max(whole.at(i), narrowHeading) + padding;
+        m_wrapped.at(i) = std::max(wrapped.at(i), narrowHeading) + padding;
+        m_least.at(i) = std::min(m_wrapped.at(i), std::max(least.at(i), narrowHeading) + padding);
+        m_airy.at(i) = std::max(m_whole.at(i), advance(heading, title) + padding) + air;
+    }
+    m_wholeDate = std::max(widest(texts.dates, body), remaining) + leftPadding(NextServiceColumn) + rightPadding;
+    m_wholeDate = std::max(m_wholeDate, m_whole.at(NextServiceColumn));
+    m_airy.at(NextServiceColumn) = std::max(m_airy.at(NextServiceColumn), m_wholeDate + air);
+}
+
+void TableColumns::setOwnWidth(int column, std::optional<int> width)
+{
+    if (width)
+        width = std::clamp(*width, leftPadding(column) + rightPadding + metrics::spaceL, mostOwnWidth);
+    m_own.at(static_cast<std::size_t>(column)) = width;
+}
+
+TableColumns::Layout TableColumns::layOut(int viewportWidth) const
+{
+    Layout layout{.widths = m_airy};
+    Widths& columns = layout.widths;
+    Widths among = shares;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (m_own.at(i)) {
+            columns.at(i) = *m_own.at(i);
+            among.at(i) = 0;
+        }
+    }
+    const auto giveWay = [&](Widths bounds) {
+        for (std::size_t i = 0; i < count; ++i)
+            bounds.at(i) = std::min(bounds.at(i), columns.at(i));
+        for (std::size_t i = 0; i < count; ++i) {
+            if (m_own.at(i))
+                bounds.at(i) = columns.at(i);
+        }
+        squeeze(columns, bounds, sum(columns) - viewportWidth);
+    };
+    const Widths airy = columns;
+    Widths withWholeDates = m_whole;
+    withWholeDates.at(NextServiceColumn) = m_wholeDate;
+    giveWay(withWholeDates);
+    if (sum(columns) > viewportWidth && !m_own.at(NextServiceColumn)) {
+        columns = airy;
+        columns.at(NextServiceColumn) = m_whole.at(NextServiceColumn) + air;
+    }
+    giveWay(m_whole);
+    Widths nameWrapped = m_whole;
+    nameWrapped.at(NameColumn) = m_wrapped.at(NameColumn);
+    giveWay(nameWrapped);
+    giveWay(m_wrapped);
+    giveWay(m_least);
+    spread(columns, among, viewportWidth - sum(columns));
+    layout.hasWholeDates = columns.at(NextServiceColumn) >= m_wholeDate;
+    layout.nameLines = columns.at(NameColumn) >= m_whole.at(NameColumn) ? 1 : 2;
+    return layout;
+}
+
+} // namespace abissora
