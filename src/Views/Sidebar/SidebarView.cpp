@@ -2,14 +2,17 @@
 #include "SidebarView.h"
 
 #include "ControlLook.h"
+#include "Labels.h"
 #include "Metrics.h"
 #include "Painting.h"
 #include "SymbolIcon.h"
 #include "Tokens.h"
 #include "TypeScale.h"
 
+#include <QHelpEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QToolTip>
 
 namespace abissora {
 
@@ -19,6 +22,7 @@ constexpr int minimumSidebarWidth = 220;
 constexpr int outerMargin = 6; ///< beside the pill of a row
 constexpr int innerMargin = 8;
 constexpr int iconGap = 8;
+constexpr int mostNameWidth = 320; // at the usual text size
 constexpr int badgePadding = 4;
 
 void paintBadge(QPainter& painter, const QRect& rect, const QString& text, const Tokens& tokens)
@@ -31,6 +35,11 @@ void paintBadge(QPainter& painter, const QRect& rect, const QString& text, const
     painter.drawText(rect, Qt::AlignCenter, text);
 }
 
+QRect pillOf(const QRect& row)
+{
+    return row.adjusted(outerMargin, 1, -outerMargin, -1);
+}
+
 QSize badgeSize(const QString& text)
 {
     const QFontMetrics metrics(font(TextStyle::CaptionSemibold));
@@ -38,10 +47,28 @@ QSize badgeSize(const QString& text)
     return {std::max(height, metrics.horizontalAdvance(text) + 2 * (badgePadding + 2)), height};
 }
 
+QRect badgeRect(const QRect& row, const QString& text)
+{
+    const QRect pill = pillOf(row);
+    QRect rect(QPoint(), badgeSize(text));
+    rect.moveCenter(pill.center());
+    rect.moveRight(pill.right() - 1);
+    return rect;
+}
+
+/// Where the name of an entry stands.
+QRect textRect(const QRect& row, const QModelIndex& index)
+{
+    QRect text = pillOf(row).adjusted(innerMargin + metrics::iconSize + iconGap, 0, -innerMargin, 0);
+    if (const QVariant badge = index.data(SidebarView::BadgeRole); badge.isValid())
+        text.setRight(badgeRect(row, badge.toString()).left() - metrics::spaceXS);
+    return text;
+}
+
 void paintEntry(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index, const Tokens& tokens)
 {
     const bool selected = option.state.testFlag(QStyle::State_Selected);
-    const QRect pill = option.rect.adjusted(outerMargin, 1, -outerMargin, -1);
+    const QRect pill = pillOf(option.rect);
     if (selected)
         drawPanel(painter, pill, metrics::controlRadius, tokens.accentFill, QColor());
     else if (option.state.testFlag(QStyle::State_MouseOver))
@@ -52,22 +79,14 @@ void paintEntry(QPainter& painter, const QStyleOptionViewItem& option, const QMo
     else if (showsFocusRing(option))
         drawFocusRing(painter, pill, metrics::controlRadius, option.palette);
 
-    QRect content = pill.adjusted(innerMargin, 0, -innerMargin, 0);
-    const QRect icon(content.left(), content.top() + (content.height() - metrics::iconSize) / 2, metrics::iconSize,
+    const QRect icon(pill.left() + innerMargin, pill.top() + (pill.height() - metrics::iconSize) / 2, metrics::iconSize,
                      metrics::iconSize);
     index.data(Qt::DecorationRole)
         .value<QIcon>()
         .paint(&painter, icon, Qt::AlignCenter, selected ? QIcon::Selected : QIcon::Normal);
-    content.setLeft(icon.right() + 1 + iconGap);
-
-    if (const QVariant badge = index.data(SidebarView::BadgeRole); badge.isValid()) {
-        const QString text = badge.toString();
-        QRect rect(QPoint(), badgeSize(text));
-        rect.moveCenter(content.center());
-        rect.moveRight(pill.right() - 1);
-        paintBadge(painter, rect, text, tokens);
-        content.setRight(rect.left() - metrics::spaceXS);
-    }
+    if (const QVariant badge = index.data(SidebarView::BadgeRole); badge.isValid())
+        paintBadge(painter, badgeRect(option.rect, badge.toString()), badge.toString(), tokens);
+    const QRect content = textRect(option.rect, index);
     painter.setFont(font(TextStyle::Body));
     painter.setPen(selected ? tokens.onFill : tokens.text);
     painter.drawText(content, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
@@ -83,6 +102,19 @@ void paintTitle(QPainter& painter, const QRect& rect, const QString& text, const
 }
 
 } // namespace
+
+bool SidebarDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                                const QModelIndex& index)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    const QString name = index.data().toString();
+    const bool isCut =
+        index.data(SidebarView::KindRole).toInt() == SidebarRow::Entry &&
+        QFontMetrics(font(TextStyle::Body)).horizontalAdvance(name) > textRect(option.rect, index).width();
+    QToolTip::showText(event->globalPos(), isCut ? toolTipText(name) : QString(), view);
+    return true;
+}
 
 void SidebarDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
@@ -107,9 +139,9 @@ QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QM
 {
     const int entryHeight = QFontMetrics(font(TextStyle::Body)).height() + metrics::spaceM + 2;
     // Room for a badge of two digits, so that one that appears moves nothing.
-    const int width = QFontMetrics(font(TextStyle::Body)).horizontalAdvance(index.data().toString()) +
-                      metrics::iconSize + 2 * outerMargin + innerMargin + iconGap + badgeSize(u"00"_s).width() +
-                      metrics::spaceXS + 2;
+    const int name = QFontMetrics(font(TextStyle::Body)).horizontalAdvance(index.data().toString());
+    const int width = std::min(name, withText(mostNameWidth, QFontMetrics(font(TextStyle::Body)))) + metrics::iconSize +
+                      2 * outerMargin + innerMargin + iconGap + badgeSize(u"00"_s).width() + metrics::spaceXS + 2;
     switch (index.data(SidebarView::KindRole).toInt()) {
     case SidebarRow::SectionTitle:
         return {width, QFontMetrics(font(TextStyle::CaptionSemibold)).height() + metrics::spaceL + metrics::spaceXS};

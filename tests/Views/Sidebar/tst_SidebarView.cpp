@@ -7,7 +7,9 @@
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QSignalSpy>
+#include <QToolTip>
 
 using namespace abissora;
 using namespace abissora::test;
@@ -72,6 +74,29 @@ private Q_SLOTS:
                                    u"Impostazioni"_s};
         QCOMPARE(texts(view), expected);
         QVERIFY(view.minimumWidth() >= 220);
+    }
+
+    void aNameThatIsCutHasAToolTip()
+    {
+        RegisterFixture f;
+        EquipmentTypeModel type;
+        type.id = SequentialIds::at(1);
+        type.name = QString(200, u'm');
+        f.types.addType(type);
+        SidebarView view(f.equipment, f.types, f.console);
+        view.resize(228, 900);
+        activate(view);
+        const auto toolTipOf = [&](const QString& text) {
+            const int row = static_cast<int>(texts(view).indexOf(text));
+            const QPoint place = view.visualRect(view.model()->index(row, 0)).center();
+            QHelpEvent event(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
+            QCoreApplication::sendEvent(view.viewport(), &event);
+            return QToolTip::text();
+        };
+        QCOMPARE(toolTipOf(u"GAV"_s), QString());
+        QCOMPARE(toolTipOf(type.name), type.name);
+        for (int row = 0; row < view.model()->rowCount(); ++row)
+            QVERIFY(view.sizeHintForIndex(view.model()->index(row, 0)).width() < 450);
     }
 
     void aClickOnACategorySetsTheFilter()
