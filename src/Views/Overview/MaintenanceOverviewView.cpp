@@ -28,6 +28,7 @@ MaintenanceOverviewView::MaintenanceOverviewView(const EquipmentViewModel& equip
     , m_allInOrder(new EmptyState)
 {
     setObjectName(u"maintenanceOverview"_s);
+    setFocusProxy(m_page); // what the tabs give the focus to where nothing in it takes any
     buildLayout();
     connect(&equipment, &EquipmentViewModel::equipmentChanged, &m_update, &VisibleUpdate::schedule);
     connect(&equipment, &EquipmentViewModel::equipmentChanged, this, &MaintenanceOverviewView::forgetDeletedSelection);
@@ -78,11 +79,25 @@ void MaintenanceOverviewView::forgetDeletedSelection()
         setSelectedEquipment(std::nullopt);
 }
 
+void MaintenanceOverviewView::takeFocusFromList()
+{
+    // A button that is hidden would keep the focus, or get it back when the screen is shown again.
+    QWidget* const remembered = focusWidget();
+    if (remembered == nullptr || !m_dueList->isAncestorOf(remembered))
+        return;
+    const bool hasFocus = window()->focusWidget() == remembered;
+    remembered->clearFocus();
+    if (hasFocus)
+        m_page->setFocus(Qt::OtherFocusReason);
+}
+
 void MaintenanceOverviewView::redraw()
 {
     const RegisterSummary summary = m_equipment.summary();
     m_figures->setValues(overviewFigures(summary));
     const bool anyDue = !summary.due.isEmpty();
+    if (!anyDue)
+        takeFocusFromList();
     m_dueTitle->setVisible(anyDue);
     m_dueList->setVisible(anyDue);
     m_allInOrder->setVisible(!anyDue);

@@ -36,6 +36,7 @@ public:
 private:
     void buildLayout();
     void redraw();
+    void takeFocusFromList();
     void forgetDeletedSelection();
 
     const EquipmentViewModel& m_equipment;

@@ -150,6 +150,7 @@ StatisticsView::StatisticsView(const EquipmentViewModel& equipment, const Equipm
     m_distribution->setObjectName(u"distribution"_s);
     m_distribution->setAccessibleName(u"Distribuzione per Tipo"_s);
     auto* page = new ScreenPage(u"Statistiche"_s);
+    setFocusProxy(page); // what the tabs give the focus to where nothing in it takes any
     page->column()->addLayout(m_figures);
     page->column()->addWidget(new InkLabel(TextStyle::Headline, &Tokens::text, u"Distribuzione per Tipo"_s));
     page->column()->addWidget(m_distribution);
