@@ -35,7 +35,7 @@ class TypeDistribution : public Card
 public:
     TypeDistribution();
 
-    /// One row per share in this order; none, and a text instead, when `total` is 0.
+    /// One row per share in this order; none, and a text instead, when `total` is 0 or there is no share.
     void setShares(const QList<TypeShare>& shares, qsizetype total);
 
 protected:
@@ -57,15 +57,19 @@ private:
 
     QGridLayout* m_grid;
     QLabel* m_nothing;
+    QLabel* m_noTypes;
     QList<Row> m_rows;
 };
 
 TypeDistribution::TypeDistribution()
     : m_grid(new QGridLayout)
     , m_nothing(new WrapLabel(TextStyle::Body, &Tokens::secondaryText, u"Nessuna attrezzatura registrata"_s))
+    , m_noTypes(new WrapLabel(TextStyle::Body, &Tokens::secondaryText, u"Nessuna tipologia trovata"_s))
 {
     m_nothing->setObjectName(u"noEquipment"_s);
+    m_noTypes->setObjectName(u"noTypes"_s);
     content()->addWidget(m_nothing);
+    content()->addWidget(m_noTypes);
     content()->addLayout(m_grid);
     content()->setContentsMargins(metrics::spaceL, metrics::spaceM, metrics::spaceL, metrics::spaceM);
     m_grid->setHorizontalSpacing(metrics::spaceM);
@@ -79,6 +83,7 @@ void TypeDistribution::setShares(const QList<TypeShare>& shares, qsizetype total
 {
     const qsizetype wanted = total > 0 ? shares.size() : 0;
     m_nothing->setVisible(total == 0);
+    m_noTypes->setVisible(total > 0 && shares.isEmpty());
     while (m_rows.size() < wanted)
         addRow();
     while (m_rows.size() > wanted)

@@ -105,6 +105,19 @@ private Q_SLOTS:
         QCOMPARE(cardTexts(s.window).last(), u"Tipologie: 0"_s);
         QCOMPARE(s.distribution(), QStringList());
         QVERIFY(!isShown(s.window, u"noEquipment"_s));
+        QCOMPARE(textOf(s.window, u"noTypes"_s), u"Nessuna tipologia trovata"_s);
+        EquipmentTypeModel type;
+        type.name = u"Boa"_s;
+        f.types.addType(type);
+        settle();
+        QVERIFY(!isShown(s.window, u"noTypes"_s));
+        f.types.setTypes({});
+        f.equipment.deleteEquipment(f.equipment.equipment().first());
+        f.equipment.deleteEquipment(f.equipment.equipment().first());
+        f.equipment.deleteEquipment(f.equipment.equipment().first());
+        settle();
+        QVERIFY(!isShown(s.window, u"noTypes"_s));
+        QVERIFY(isShown(s.window, u"noEquipment"_s));
     }
 
     void whatCountsForAType()

@@ -55,6 +55,32 @@ class tst_SymbolTable : public test::TestCase
     Q_OBJECT
 
 private Q_SLOTS:
+    /// At the size of the sidebar, where one was taken for the other.
+    void gaugesCanBeToldApart()
+    {
+        const auto pictureOf = [](const QString& name) {
+            return typeIcon(name, NamedColor::primary).pixmap(16, 16).toImage().convertToFormat(QImage::Format_ARGB32);
+        };
+        const auto difference = [&](const QString& first, const QString& second) {
+            const QImage one = pictureOf(first);
+            const QImage two = pictureOf(second);
+            double inked = 0;
+            double different = 0;
+            for (int y = 0; y < one.height(); ++y) {
+                for (int x = 0; x < one.width(); ++x) {
+                    const int alpha = qAlpha(one.pixel(x, y));
+                    const int other = qAlpha(two.pixel(x, y));
+                    inked += alpha > 64 || other > 64 ? 1 : 0;
+                    different += std::abs(alpha - other) > 128 ? 1 : 0;
+                }
+            }
+            return different / inked;
+        };
+        const QString pressure = u"dive.gauge"_s;
+        QVERIFY(difference(u"gauge.with.dots.needle.bottom.0percent"_s, pressure) > 0.4);
+        QVERIFY(difference(u"gauge.with.dots.needle.bottom.50percent"_s, pressure) < 0.3); // those are alike
+    }
+
     void everyRowPaintsAPicture_data();
     void everyRowPaintsAPicture();
     void everyPictureIsPlainAndOfOneColour_data();

@@ -33,6 +33,58 @@ QColor over(const QColor& ground, QColor ink, float alpha)
                             channel(ground.blueF(), ink.blueF()));
 }
 
+struct Lab
+{
+    double l;
+    double a;
+    double b;
+};
+
+/// CIELAB under D65.
+Lab labOf(const QColor& color)
+{
+    const auto linear = [](float channel) {
+        return channel <= 0.04045F ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+    };
+    const auto root = [](double t) { return t > 216.0 / 24389 ? std::cbrt(t) : (24389.0 / 27 * t + 16) / 116; };
+    const double r = linear(color.redF());
+    const double g = linear(color.greenF());
+    const double b = linear(color.blueF());
+    const double x = root((0.4124564 * r + 0.3575761 * g + 0.1804375 * b) / 0.95047);
+    const double y = root(0.2126729 * r + 0.7151522 * g + 0.0721750 * b);
+    const double z = root((0.0193339 * r + 0.1191920 * g + 0.9503041 * b) / 1.08883);
+    return {116 * y - 16, 500 * (x - y), 200 * (y - z)};
+}
+
+/// How different two colours look: CIEDE2000, where about 2 is the least that is seen side by side.
+double difference(const QColor& first, const QColor& second)
+{
+    constexpr double degree = M_PI / 180;
+    Lab one = labOf(first);
+    Lab two = labOf(second);
+    const auto seventh = [](double chroma) {
+        return std::sqrt(std::pow(chroma, 7) / (std::pow(chroma, 7) + std::pow(25, 7)));
+    };
+    const double g = 0.5 * (1 - seventh((std::hypot(one.a, one.b) + std::hypot(two.a, two.b)) / 2));
+    one.a *= 1 + g;
+    two.a *= 1 + g;
+    const double c1 = std::hypot(one.a, one.b);
+    const double c2 = std::hypot(two.a, two.b);
+    const double h1 = std::fmod(std::atan2(one.b, one.a) / degree + 360, 360);
+    const double h2 = std::fmod(std::atan2(two.b, two.a) / degree + 360, 360);
+    const double dh = std::remainder(h2 - h1, 360);
+    const double hue = std::fmod(h1 + dh / 2 + 360, 360);
+    const double l = (one.l + two.l) / 2;
+    const double c = (c1 + c2) / 2;
+    const double t = 1 - 0.17 * std::cos((hue - 30) * degree) + 0.24 * std::cos(2 * hue * degree) +
+                     0.32 * std::cos((3 * hue + 6) * degree) - 0.2 * std::cos((4 * hue - 63) * degree);
+    const double dl = (two.l - one.l) / (1 + 0.015 * std::pow(l - 50, 2) / std::sqrt(20 + std::pow(l - 50, 2)));
+    const double dc = (c2 - c1) / (1 + 0.045 * c);
+    const double dhue = 2 * std::sqrt(c1 * c2) * std::sin(dh / 2 * degree) / (1 + 0.015 * c * t);
+    const double turn = -2 * seventh(c) * std::sin(60 * std::exp(-std::pow((hue - 275) / 25, 2)) * degree);
+    return std::sqrt(dl * dl + dc * dc + dhue * dhue + turn * dc * dhue);
+}
+
 using Role = QColor Tokens::*;
 
 struct Named
@@ -64,6 +116,7 @@ private Q_SLOTS:
     void contrastOfPairs();
     void namedColorsAreReadableIcons_data();
     void namedColorsAreReadableIcons();
+    void namedColorsCanBeToldApart();
     void everyColorIsSet();
     void aPaletteTellsItsScheme();
 };
@@ -134,6 +187,22 @@ void tst_Tokens::namedColorsAreReadableIcons()
     QFETCH(const QColor, ground);
     const double measured = contrast(ink, ground);
     QVERIFY2(measured >= shapeContrast, qPrintable(QString::number(measured)));
+}
+
+void tst_Tokens::namedColorsCanBeToldApart()
+{
+    const auto isAbout = [](double measured, double wanted) { return std::abs(measured - wanted) < 0.1; };
+    QVERIFY(isAbout(difference(Qt::black, Qt::white), 100));
+    QCOMPARE(difference(Qt::red, Qt::red), 0);
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        const auto& colors = Tokens::of(scheme).namedColors;
+        for (std::size_t i = 0; i < colors.size(); ++i) {
+            for (std::size_t j = 0; j < i; ++j) {
+                const double measured = difference(colors.at(i), colors.at(j));
+                QVERIFY2(measured > 11.5, qPrintable(u"%1 and %2: %3"_s.arg(j).arg(i).arg(measured)));
+            }
+        }
+    }
 }
 
 void tst_Tokens::everyColorIsSet()

@@ -37,9 +37,9 @@ Tokens lightTokens()
         .ok = rgb("#18764A"),
         .warning = rgb("#B25000"),
         .scrim = rgb("#660B0F14"),
-        .namedColors = {rgb("#0A64BE"), rgb("#C62828"), rgb("#18764A"), rgb("#B25000"), rgb("#8944AB"), rgb("#5F6A75"),
-                        rgb("#0071A4"), rgb("#4B45B8"), rgb("#C2185B"), rgb("#8A6200"), rgb("#00707F"), rgb("#0A7A70"),
-                        rgb("#7A5C3A")},
+        .namedColors = {rgb("#0A64BE"), rgb("#C62828"), rgb("#166826"), rgb("#B25000"), rgb("#8944AB"), rgb("#5F6A75"),
+                        rgb("#0880A8"), rgb("#4B45B8"), rgb("#C2185B"), rgb("#8C7104"), rgb("#046169"), rgb("#0A856A"),
+                        rgb("#6A391B")},
     };
 }
 
@@ -69,8 +69,8 @@ Tokens darkTokens()
         .warning = rgb("#F0A93B"),
         .scrim = rgb("#8C000000"),
         .namedColors = {rgb("#58A6FF"), rgb("#FF7A72"), rgb("#4CC38A"), rgb("#F0A93B"), rgb("#CB8CF5"), rgb("#A0AAB4"),
-                        rgb("#64D2FF"), rgb("#A19EFF"), rgb("#FF7EB0"), rgb("#FFD60A"), rgb("#5CD3E4"), rgb("#63E6D8"),
-                        rgb("#CDAA80")},
+                        rgb("#64D2FF"), rgb("#A19EFF"), rgb("#FF7EB0"), rgb("#FFD60A"), rgb("#1FA8A8"), rgb("#63E6D8"),
+                        rgb("#BC895D")},
     };
 }
 
