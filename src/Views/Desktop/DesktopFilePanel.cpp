@@ -2,18 +2,27 @@
 #include "DesktopFilePanel.h"
 
 #include "Alert.h"
+#include "Assembly.h"
+#include "DateFormat.h"
+#include "FilePanelModel.h"
+#include "Labels.h"
 #include "Literals.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
+#include <QHeaderView>
 #include <QMimeDatabase>
 #include <QStandardPaths>
+#include <QTreeView>
 
 namespace abissora {
 
 namespace {
+
+constexpr QSize leastSize(820, 540);
 
 /// In the program's language; the system's description of a type is in the user's.
 QString filterFor(const QString& contentType)
@@ -43,8 +52,12 @@ public:
         setFileMode(ExistingFile);
         setNameFilters(filters);
         setLabelText(Accept, request.confirmLabel);
-        // File dialogs have no line for a message; screen readers read it as the dialog's description.
+        // A dialog of the platform's own has no line for a message: it is only the description there.
         setAccessibleDescription(request.message);
+        // Files are chosen here, not renamed or deleted.
+        setOption(ReadOnly);
+        if (isOwn())
+            furnish();
     }
 
 protected:
@@ -53,16 +66,60 @@ protected:
         const QStringList files = selectedFiles();
         const bool chosen = !files.isEmpty() && QFileInfo(files.first()).exists() && !QFileInfo(files.first()).isDir();
         // A dialog of the platform's own has closed by now.
-        const bool isOwn = findChild<QWidget*>(u"fileNameEdit"_s) != nullptr;
-        if (isOwn && chosen && !accepts(m_request, files.first()))
+        if (isOwn() && chosen && !accepts(m_request, files.first()))
             Alert::notice(this, windowTitle(), m_request.refusal);
         else
             QFileDialog::accept();
     }
 
 private:
+    /// The toolkit's, not the platform's.
+    [[nodiscard]] bool isOwn() const { return findChild<QWidget*>(u"fileNameEdit"_s) != nullptr; }
+    void furnish();
+    void addMessage();
+
     const FilePanelRequest& m_request;
 };
+
+void OpenDialog::furnish()
+{
+    addMessage();
+    setProxyModel(new FilePanelModel(DateFormat::userLocale(), this));
+    if (auto* list = findChild<QTreeView*>(u"treeView"_s)) {
+        list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        list->header()->setSectionResizeMode(FilePanelModel::Name, QHeaderView::Stretch);
+    }
+    // Its one entry, to remove a place, has no Italian text.
+    if (auto* places = findChild<QWidget*>(u"sidebar"_s))
+        places->setContextMenuPolicy(Qt::NoContextMenu);
+    if (auto* newFolder = findChild<QWidget*>(u"newFolderButton"_s))
+        newFolder->hide();
+    resize(size().expandedTo(leastSize));
+}
+
+void OpenDialog::addMessage()
+{
+    auto* grid = qobject_cast<QGridLayout*>(layout());
+    if (grid == nullptr)
+        return;
+    struct Cell
+    {
+        QLayoutItem* item;
+        int row, column, rows, columns;
+    };
+    QList<Cell> cells;
+    while (grid->count() > 0) {
+        Cell cell{};
+        grid->getItemPosition(0, &cell.row, &cell.column, &cell.rows, &cell.columns);
+        cell.item = grid->takeAt(0);
+        cells.append(cell);
+    }
+    const int columns = grid->columnCount();
+    auto* message = named(new WrapLabel(TextStyle::BodyMedium, &Tokens::text, m_request.message), u"message");
+    grid->addWidget(message, 0, 0, 1, columns);
+    for (const Cell& cell : cells)
+        grid->addItem(cell.item, cell.row + 1, cell.column, cell.rows, cell.columns, cell.item->alignment());
+}
 
 /// Nothing when the person gave up. A dialog of the platform's own opens again for as long as its choice is refused.
 std::optional<QString> choiceOf(OpenDialog& dialog, const FilePanelRequest& request)

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeView>
 #include <sys/stat.h>
 
 using namespace abissora;
@@ -181,6 +182,73 @@ private Q_SLOTS:
         a.request().accepts = nullptr;
         const QString path = a.write(u"appunti.txt"_s, "no");
         QCOMPARE(a.pick([&](QFileDialog& dialog) { choose(dialog, path); }), std::optional(path));
+    }
+
+    void itsMessageStandsInIt()
+    {
+        Asked a;
+        QString message;
+        bool isAboveTheList = false;
+        QVERIFY(!a.pick([&](QFileDialog& dialog) {
+            const auto& label = part<QLabel>(dialog, u"message");
+            message = label.text();
+            isAboveTheList = label.geometry().bottom() < part(dialog, u"splitter").y();
+        }));
+        QCOMPARE(message, u"Scegli un file"_s);
+        QVERIFY(isAboveTheList);
+    }
+
+    void speaksItalian()
+    {
+        Asked a;
+        for (const auto& name : {u"scontrino.PDF"_s, u"b.pdf"_s})
+            a.write(name, "yes");
+        QVERIFY(QDir().mkdir(a.path(u"cartella"_s)));
+        QFile old(a.path(u"b.pdf"_s));
+        QVERIFY(old.open(QIODevice::ReadWrite));
+        QVERIFY(old.setFileTime(QDateTime({2024, 2, 1}, {9, 30}), QFileDevice::FileModificationTime));
+        old.close();
+        QStringList rows;
+        QStringList clipped;
+        QVERIFY(!a.pick([&](QFileDialog& dialog) {
+            dialog.setDirectory(a.path(u"."_s));
+            auto& list = part<QTreeView>(dialog, u"treeView");
+            const QAbstractItemModel& model = *list.model();
+            QTRY_COMPARE(model.rowCount(list.rootIndex()), 3);
+            settle();
+            for (int row = 0; row < 3; ++row) {
+                QStringList cells;
+                for (int column = 0; column < 4; ++column) {
+                    const QModelIndex cell = model.index(row, column, list.rootIndex());
+                    if (column > 0 && list.sizeHintForIndex(cell).width() > list.columnWidth(column))
+                        clipped.append(cell.data().toString());
+                    if (column < 3 || row == 1)
+                        cells.append(cell.data().toString());
+                }
+                rows.append(cells.join(u'|'));
+            }
+        }));
+        QCOMPARE(rows, QStringList({u"cartella||Cartella"_s, u"b.pdf|3 byte|Documento PDF|01/02/2024 09:30"_s,
+                                    u"scontrino.PDF|3 byte|Documento PDF"_s}));
+        QCOMPARE(clipped, QStringList());
+    }
+
+    void filesAreOnlyChosen()
+    {
+        Asked a;
+        const QString path = a.write(u"a.pdf"_s, "yes");
+        QVERIFY(!a.pick([&](QFileDialog& dialog) {
+            dialog.setDirectory(QFileInfo(path).path());
+            auto& list = part<QTreeView>(dialog, u"treeView");
+            QTRY_COMPARE(list.model()->rowCount(list.rootIndex()), 1);
+            list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
+            for (const auto key : {Qt::Key_Delete, Qt::Key_F2})
+                QTest::keyClick(&list, key);
+            settle();
+            QVERIFY(findDialog(dialog) == nullptr);
+            QVERIFY(!isShown(dialog, u"newFolderButton"));
+        }));
+        QVERIFY(QFile::exists(path));
     }
 
     void opensWhereTheLastFileWas()
