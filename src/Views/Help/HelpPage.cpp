@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "HelpPage.h"
 
+#include "Accessibility.h"
+#include "HelpPageAccessible.h"
 #include "HelpPageWriter.h"
 #include "HelpText.h"
 #include "Literals.h"
@@ -89,6 +91,7 @@ HelpPage::HelpPage(Opener& opener, QWidget* parent)
     : QTextBrowser(parent)
 {
     setObjectName(u"helpPage"_s);
+    setAccessibleInterface<HelpPageAccessible>(*this);
     setOpenLinks(false);
     setUndoRedoEnabled(false);
     setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
@@ -130,6 +133,13 @@ void HelpPage::goToFirstMatch()
         caret.setPosition(matches.first().cursor.selectionStart());
     setTextCursor(caret);
     ensureCursorVisible();
+}
+
+void HelpPage::bringIntoView(const QTextCursor& place)
+{
+    const QRect line = cursorRect(place);
+    if (!viewport()->rect().contains(line))
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + line.center().y() - viewport()->height() / 2);
 }
 
 QVariant HelpPage::loadResource(int /*type*/, const QUrl& /*name*/)
@@ -211,11 +221,8 @@ void HelpPage::markMatches()
 void HelpPage::showFirstMatch()
 {
     const auto matches = extraSelections();
-    if (matches.isEmpty())
-        return;
-    const QRect place = cursorRect(matches.first().cursor);
-    if (!viewport()->rect().contains(place))
-        verticalScrollBar()->setValue(verticalScrollBar()->value() + place.center().y() - viewport()->height() / 2);
+    if (!matches.isEmpty())
+        bringIntoView(matches.first().cursor);
 }
 
 void HelpPage::limitLines()

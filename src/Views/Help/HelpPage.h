@@ -26,6 +26,7 @@ public:
     void setSearchText(const QString& text);
     /// Puts the caret there; at the top when the page does not have the text.
     void goToFirstMatch();
+    void bringIntoView(const QTextCursor& place);
 
     /// Nothing, whatever is asked for.
     QVariant loadResource(int type, const QUrl& name) override;

@@ -112,6 +112,8 @@ private Q_SLOTS:
     void nothingIsWiderThanThePage();
     void linesOfAWidePageStayReadable();
     void itIsReadAsTextWithTheSectionsName();
+    void itIsADocumentWithLinks();
+    void itsTextIsReadAndSelectedFromOutside();
 
 private:
     QFont m_font;
@@ -465,6 +467,64 @@ void tst_HelpPage::itIsReadAsTextWithTheSectionsName()
     QVERIFY(page->textInterface() != nullptr);
     const QString text = page->textInterface()->text(0, page->textInterface()->characterCount());
     QVERIFY2(text.contains(u"2.\tSecondo"_s), qPrintable(text));
+}
+
+void tst_HelpPage::itIsADocumentWithLinks()
+{
+    Shown shown(
+        u"Vedi [la *prima* pagina](https://abissora.example/a) e **poi** [altro](https://abissora.example/b)."_s);
+    test::activate(shown.page);
+    shown.page.setFocus();
+    QAccessibleInterface* const page = QAccessible::queryAccessibleInterface(&shown.page);
+    QCOMPARE(page->role(), QAccessible::Document);
+    QVERIFY(page->state().readOnly && page->state().focusable);
+    QCOMPARE(page->childCount(), 2);
+    QAccessibleInterface* const link = page->child(0);
+    QCOMPARE(link->role(), QAccessible::Link);
+    QCOMPARE(link->text(QAccessible::Name), u"la prima pagina"_s);
+    QCOMPARE(link->text(QAccessible::Description), u"https://abissora.example/a"_s);
+    QCOMPARE(link->parent(), page);
+    QCOMPARE(page->indexOfChild(page->child(1)), 1);
+    const QPoint middle = link->rect().center();
+    QCOMPARE(page->childAt(middle.x(), middle.y()), link);
+    link->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    QCOMPARE(shown.page.textCursor().selectedText(), u"la prima pagina"_s);
+    QVERIFY(link->state().focused);
+    link->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(shown.opener.opened(), QList<QUrl>({QUrl(u"https://abissora.example/a"_s)}));
+    // Another section has other links.
+    shown.page.setSection({u"sezione-1"_s, u"Altro"_s, u"Niente."_s});
+    QCOMPARE(page->childCount(), 0);
+}
+
+void tst_HelpPage::itsTextIsReadAndSelectedFromOutside()
+{
+    Shown shown(manyParagraphs() + u"In **fondo**."_s);
+    test::activate(shown.page);
+    QAccessibleTextInterface* const text = QAccessible::queryAccessibleInterface(&shown.page)->textInterface();
+    QCOMPARE(text->text(0, 6), u"Titolo"_s);
+    QCOMPARE(text->text(0, -1), shown.page.toPlainText());
+    QCOMPARE(text->characterCount(), int(shown.page.toPlainText().size()));
+    text->setSelection(0, 0, 6);
+    int start = -1;
+    int end = -1;
+    text->selection(0, &start, &end);
+    QCOMPARE(QPair(start, end), QPair(0, 6));
+    text->removeSelection(0);
+    QCOMPARE(text->selectionCount(), 0);
+    QCOMPARE(text->cursorPosition(), 6);
+    const int bold = int(shown.page.toPlainText().indexOf(u"fondo"_s));
+    text->scrollToSubstring(bold, bold + 5);
+    QVERIFY(shown.page.verticalScrollBar()->value() > 0);
+    QCOMPARE(text->offsetAtPoint(text->characterRect(bold).topLeft() + QPoint(1, 3)), bold);
+    QVERIFY(text->attributes(bold, &start, &end).contains(u"bold"_s));
+    QCOMPARE(QPair(start, end), QPair(bold, bold + 5));
+    for (const int beyond : {-5, 1'000'000}) {
+        text->setCursorPosition(beyond);
+        text->characterRect(beyond);
+        text->attributes(beyond, &start, &end);
+    }
+    QCOMPARE(text->cursorPosition(), text->characterCount());
 }
 
 ABISSORA_TEST(tst_HelpPage);
