@@ -41,6 +41,7 @@ private Q_SLOTS:
     void enterGoesFromTheSearchToTheFirstResult();
     void theTabKeyGoesInReadingOrder();
     void everythingHasAName();
+    void whatTakesTheFocusSaysWhatItIs();
     void noTextIsClipped_data();
     void noTextIsClipped();
     void theSchemeSwitchesLive();
@@ -323,6 +324,21 @@ void tst_HelpView::everythingHasAName()
     QCOMPARE(roleOf(shown.search), QAccessible::EditableText);
     QCOMPARE(roleOf(shown.list), QAccessible::List);
     QCOMPARE(QAccessible::queryAccessibleInterface(&shown.list)->child(1)->text(QAccessible::Name), u"Manutenzioni"_s);
+}
+
+void tst_HelpView::whatTakesTheFocusSaysWhatItIs()
+{
+    ShownHelp shown;
+    activate(shown.view);
+    for (QWidget* widget : shown.view.findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::NoFocus || !widget->isVisible())
+            continue;
+        const QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY2(told->role() != QAccessible::Client && told->role() != QAccessible::NoRole,
+                 qPrintable(widget->objectName()));
+        QVERIFY2(!told->text(QAccessible::Name).isEmpty(), qPrintable(widget->objectName()));
+    }
+    QCOMPARE(QAccessible::queryAccessibleInterface(&shown.page)->role(), QAccessible::Document);
 }
 
 void tst_HelpView::noTextIsClipped_data()
