@@ -22,7 +22,7 @@ bool EquipmentTypeFormState::isFormValid() const
 
 EquipmentTypeModel EquipmentTypeFormState::toType(const QUuid& id) const
 {
-    return {id, name, rawValue(selectedIcon), caseName(selectedColor), serviceIntervalDays, true};
+    return {id, name.trimmed(), rawValue(selectedIcon), caseName(selectedColor), serviceIntervalDays, true};
 }
 
 QList<DivingIconsCategory> filteredIcons(const QString& searchIconText)

@@ -20,7 +20,7 @@ struct EquipmentTypeFormState
 
     /// The name holds more than white space.
     [[nodiscard]] bool isFormValid() const;
-    /// The record to store, always active.
+    /// The record to store, always active; its name without the blanks at its ends, as the items have it.
     [[nodiscard]] EquipmentTypeModel toType(const QUuid& id) const;
 
     friend bool operator==(const EquipmentTypeFormState&, const EquipmentTypeFormState&) = default;

@@ -65,6 +65,13 @@ Instant MaintenanceDraft::nextServiceDate(Instant date) const
     return m_almanac.calendar.addDays(date, intervalDays()).value_or(date);
 }
 
+bool MaintenanceDraft::nextDateFollows() const
+{
+    const MaintenanceFormState state = initial();
+    const Calendar& calendar = m_almanac.calendar;
+    return calendar.local(state.nextServiceDate).date() == calendar.local(nextServiceDate(state.date)).date();
+}
+
 void MaintenanceDraft::save(const MaintenanceFormState& entered)
 {
     m_record = m_attachments.appliedTo(entered.appliedTo(m_record));

@@ -54,6 +54,9 @@ public:
     /// So many days after the date; the date itself when the calendar does not reach that far.
     [[nodiscard]] Instant nextServiceDate(Instant date) const;
 
+    /// Whether the next service is as many days after the record's date: otherwise somebody set it by hand.
+    [[nodiscard]] bool nextDateFollows() const;
+
     /// Hands the record to the register, then settles the files. A register that has no such record, as its item is
     /// gone, takes none: what was attached goes again.
     void save(const MaintenanceFormState& entered);

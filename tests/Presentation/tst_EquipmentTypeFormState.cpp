@@ -94,8 +94,11 @@ private Q_SLOTS:
 
     void savingActivatesAndKeepsTheRest()
     {
-        EquipmentTypeModel type{SequentialIds::at(7), u" Boa "_s, u"dive.reel"_s, u"mint"_s, -5, true};
+        EquipmentTypeModel type{SequentialIds::at(7), u"Boa"_s, u"dive.reel"_s, u"mint"_s, -5, true};
         QCOMPARE(EquipmentTypeFormState::of(type).toType(type.id), type);
+        EquipmentTypeModel blanks = type;
+        blanks.name = u" Boa\t "_s;
+        QCOMPARE(EquipmentTypeFormState::of(blanks).toType(type.id), type);
         EquipmentTypeModel inactive = type;
         inactive.isActive = false;
         QCOMPARE(EquipmentTypeFormState::of(inactive).toType(type.id), type);

@@ -7,6 +7,7 @@
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
+#include "OneLine.h"
 #include "TypeScale.h"
 
 #include <QGridLayout>
@@ -20,6 +21,12 @@ namespace {
 enum Row { fieldRow, hintRow, errorRow };
 
 } // namespace
+
+CheckedField::CheckedField(QWidget* parent)
+    : QLineEdit(parent)
+{
+    keepOneLine(*this);
+}
 
 void CheckedField::setError(const QString& error)
 {

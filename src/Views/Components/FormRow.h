@@ -16,7 +16,7 @@ class CheckedField : public QLineEdit
     Q_OBJECT
 
 public:
-    using QLineEdit::QLineEdit;
+    explicit CheckedField(QWidget* parent = nullptr);
 
     /// Takes what is typed, as leaving the field does. False when no value comes of it; error() then says why.
     virtual bool commit() = 0;

@@ -26,8 +26,27 @@ ScrollPane::ScrollPane(QWidget* parent)
     widget()->setAutoFillBackground(false); // setWidget() makes it fill
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* now) { follow(now); });
     // Every text field of the toolkit tells of its cursor this way, with each letter, too.
-    connect(QGuiApplication::inputMethod(), &QInputMethod::cursorRectangleChanged, this,
-            [this] { follow(QApplication::focusWidget()); });
+    connect(QGuiApplication::inputMethod(), &QInputMethod::cursorRectangleChanged, this, &ScrollPane::followCursor);
+    m_later.setSingleShot(true);
+    connect(&m_later, &QTimer::timeout, this, [this] { follow(QApplication::focusWidget()); });
+}
+
+QRect ScrollPane::placeOf(const QWidget& part) const
+{
+    return {part.mapTo(widget(), QPoint()), part.size()};
+}
+
+void ScrollPane::followCursor()
+{
+    const QWidget* const focused = QApplication::focusWidget();
+    const bool isInside = focused != nullptr && widget() != nullptr && widget()->isAncestorOf(focused);
+    if (!isInside || QGuiApplication::mouseButtons() != Qt::NoButton)
+        return;
+    // A field that was moved may be on its way: layouts take several steps, and it may end where it was.
+    if (placeOf(*focused) == m_place)
+        follow(focused);
+    else
+        m_later.start(0);
 }
 
 void ScrollPane::follow(const QWidget* focused)
@@ -35,6 +54,8 @@ void ScrollPane::follow(const QWidget* focused)
     const bool isInside = focused != nullptr && widget() != nullptr && widget()->isAncestorOf(focused);
     if (isInside && focused->isVisible() && QGuiApplication::mouseButtons() == Qt::NoButton)
         bringIntoSight(*focused);
+    if (isInside)
+        m_place = placeOf(*focused);
 }
 
 void ScrollPane::bringIntoSight(const QWidget& part)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QScrollArea>
+#include <QTimer>
 
 namespace abissora {
 
@@ -25,6 +26,11 @@ protected:
 
 private:
     void follow(const QWidget* focused);
+    void followCursor();
+    [[nodiscard]] QRect placeOf(const QWidget& part) const;
+
+    QRect m_place; ///< of what has the focus, on widget()
+    QTimer m_later;
 };
 
 } // namespace abissora

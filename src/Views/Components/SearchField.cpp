@@ -2,6 +2,7 @@
 #include "SearchField.h"
 
 #include "Literals.h"
+#include "OneLine.h"
 #include "SymbolIcon.h"
 
 #include <QAction>
@@ -13,6 +14,7 @@ SearchField::SearchField(const QString& placeholder, QWidget* parent)
     : QLineEdit(parent)
     , m_clear(new QAction(this))
 {
+    keepOneLine(*this);
     setPlaceholderText(placeholder);
     setAccessibleName(placeholder);
     auto* lens = new QAction(this);

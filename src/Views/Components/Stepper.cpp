@@ -13,7 +13,10 @@ namespace abissora {
 
 namespace {
 
-class StepperInterface final : public QAccessibleWidget, public QAccessibleValueInterface
+/// Read as a number and, with its unit, as a text that has neither cursor nor selection.
+class StepperInterface final : public QAccessibleWidget,
+                               public QAccessibleValueInterface,
+                               public QAccessibleTextInterface
 {
 public:
     explicit StepperInterface(Stepper* stepper)
@@ -24,6 +27,8 @@ public:
     {
         if (type == QAccessible::ValueInterface)
             return static_cast<QAccessibleValueInterface*>(this);
+        if (type == QAccessible::TextInterface)
+            return static_cast<QAccessibleTextInterface*>(this);
         return QAccessibleWidget::interface_cast(type);
     }
     [[nodiscard]] QString text(QAccessible::Text kind) const override
@@ -38,6 +43,26 @@ public:
     [[nodiscard]] QVariant maximumValue() const override { return stepper()->maximum(); }
     [[nodiscard]] QVariant minimumValue() const override { return stepper()->minimum(); }
     [[nodiscard]] QVariant minimumStepSize() const override { return stepper()->singleStep(); }
+
+    using QAccessibleWidget::text;
+    [[nodiscard]] QString text(int start, int end) const override { return stepper()->text().mid(start, end - start); }
+    [[nodiscard]] int characterCount() const override { return static_cast<int>(stepper()->text().size()); }
+    void selection(int, int* start, int* end) const override { *start = *end = 0; }
+    [[nodiscard]] int selectionCount() const override { return 0; }
+    void addSelection(int, int) override {}
+    void removeSelection(int) override {}
+    void setSelection(int, int, int) override {}
+    [[nodiscard]] int cursorPosition() const override { return 0; }
+    void setCursorPosition(int) override {}
+    [[nodiscard]] QRect characterRect(int) const override { return rect(); }
+    [[nodiscard]] int offsetAtPoint(const QPoint&) const override { return 0; }
+    void scrollToSubstring(int, int) override {}
+    [[nodiscard]] QString attributes(int, int* start, int* end) const override
+    {
+        *start = 0;
+        *end = characterCount();
+        return {};
+    }
 
     [[nodiscard]] QStringList actionNames() const override
     {
@@ -177,12 +202,15 @@ QString Stepper::textOf(qint64 value) const
 
 void Stepper::present(qint64 value)
 {
+    const QString before = text();
     m_value = value;
     lineEdit()->setText(textOf(value));
     lineEdit()->deselect();
     update();
     QAccessibleValueChangeEvent event(this, QVariant(value));
     QAccessible::updateAccessibility(&event);
+    QAccessibleTextUpdateEvent textEvent(this, 0, before, text());
+    QAccessible::updateAccessibility(&textEvent);
 }
 
 } // namespace abissora

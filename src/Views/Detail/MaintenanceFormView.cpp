@@ -15,6 +15,7 @@
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
+#include "OneLine.h"
 #include "Opening.h"
 #include "SymbolIcon.h"
 #include "ToggleSwitch.h"
@@ -37,6 +38,7 @@ MaintenanceFormView::MaintenanceFormView(std::unique_ptr<MaintenanceDraft> draft
     , m_draft(std::move(draft))
     , m_opener(opener)
     , m_initial(m_draft->initial())
+    , m_autoUpdateNextDate(m_draft->nextDateFollows())
     , m_date(named(new DateField(m_draft->calendar()), "date"))
     , m_type(named(new QComboBox, "type"))
     , m_description(makeTextField(u"description"_s, u"Inserisci la descrizione"_s))
@@ -157,8 +159,8 @@ void MaintenanceFormView::showState()
 {
     m_date->setInstant(m_initial.date);
     m_type->setCurrentIndex(m_type->findData(static_cast<int>(m_initial.type)));
-    m_description->setText(m_initial.description);
-    m_performedBy->setText(m_initial.performedBy);
+    setStoredText(*m_description, m_initial.description);
+    setStoredText(*m_performedBy, m_initial.performedBy);
     m_cost->setCurrencySymbol(m_draft->currencySymbol());
     m_cost->setCost(m_initial.cost);
     m_completed->setChecked(m_initial.isCompleted);
@@ -190,14 +192,14 @@ MaintenanceFormState MaintenanceFormView::state() const
 
 void MaintenanceFormView::connectFields()
 {
-    connect(m_date, &DateField::edited, this, [this] {
+    connect(m_date, &DateField::instantChanged, &m_listener, [this] {
         // What stands unfinished in the other field is the person's own.
         if (m_autoUpdateNextDate && m_next->error().isEmpty())
             m_next->setInstant(m_draft->nextServiceDate(m_date->instant()));
     });
-    connect(m_next, &DateField::edited, this, [this] { m_autoUpdateNextDate = false; });
+    connect(m_next, &DateField::edited, &m_listener, [this] { m_autoUpdateNextDate = false; });
     for (const QLineEdit* field : std::initializer_list<QLineEdit*>{m_description, m_cost})
-        connect(field, &QLineEdit::textChanged, this, &MaintenanceFormView::refresh);
+        connect(field, &QLineEdit::textChanged, &m_listener, [this] { refresh(); });
     connect(this, &Sheet::primaryClicked, this, &MaintenanceFormView::save);
 }
 

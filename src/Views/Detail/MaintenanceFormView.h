@@ -17,8 +17,8 @@ class NotesField;
 class Opener;
 class ToggleSwitch;
 
-/// Enters a new maintenance record of an item, or edits one. The next service date follows the maintenance date until
-/// it is changed by hand.
+/// Enters a new maintenance record of an item, or edits one. The next service date follows the maintenance date, as
+/// it is typed, until it is changed by hand, be it earlier.
 class MaintenanceFormView : public Sheet
 {
     Q_OBJECT
@@ -48,7 +48,7 @@ private:
     std::unique_ptr<MaintenanceDraft> m_draft;
     Opener& m_opener;
     MaintenanceFormState m_initial;
-    bool m_autoUpdateNextDate = true;
+    bool m_autoUpdateNextDate;
     bool m_savesOnceCopied = false;
 
     DateField* m_date;
@@ -60,6 +60,7 @@ private:
     DateField* m_next;
     NotesField* m_notes;
     InkLabel* m_noCost;
+    QObject m_listener; ///< hears the fields; goes before them, which tell something even when they go
 };
 
 } // namespace abissora

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DateField.h"
 
+#include "DayText.h"
 #include "Literals.h"
 #include "SymbolIcon.h"
 #include "Tokens.h"
@@ -9,7 +10,6 @@
 #include <QAction>
 #include <QCalendarWidget>
 #include <QKeyEvent>
-#include <QRegularExpression>
 #include <QTextCharFormat>
 #include <QToolButton>
 #include <QWidgetAction>
@@ -23,34 +23,6 @@ constexpr int fieldWidth = 170;
 QString textOf(QDate day)
 {
     return day.toString(u"dd/MM/yyyy"_s);
-}
-
-/// Two digits of a year as people write them: 98 is 1998, 26 is 2026.
-int fullYear(const QString& digits)
-{
-    constexpr int firstOfLastCentury = 70;
-    const int year = digits.toInt();
-    return digits.size() > 2 ? year : year + (year < firstOfLastCentury ? 2000 : 1900);
-}
-
-std::optional<QDate> dayOf(const QString& text, const QRegularExpression& form)
-{
-    const QRegularExpressionMatch match = form.match(text.trimmed());
-    const QDate day(fullYear(match.captured(3)), match.captured(2).toInt(), match.captured(1).toInt());
-    return match.hasMatch() && day.isValid() ? std::optional(day) : std::nullopt;
-}
-
-/// A day written in full, so that none is taken for meant which is only passed while typing another.
-std::optional<QDate> completeDay(const QString& text)
-{
-    static const QRegularExpression form(u"^([0-9]{2})/?([0-9]{2})/?([0-9]{4})$"_s);
-    return dayOf(text, form);
-}
-
-std::optional<QDate> shortDay(const QString& text)
-{
-    static const QRegularExpression form(u"^([0-9]{1,2})[-/. ]([0-9]{1,2})[-/. ]([0-9]{4}|[0-9]{2})$"_s);
-    return dayOf(text, form);
 }
 
 /// The toolkit's pictures have colours of their own.
@@ -89,6 +61,7 @@ void DateField::setInstant(Instant instant)
     m_original = {local.date(), instant};
     m_timeOfDay = local.time();
     m_last = m_original;
+    m_told = instant;
     setText(textOf(m_last.day));
     setError({});
 }
@@ -110,9 +83,7 @@ std::optional<DateField::Value> DateField::typed() const
 {
     if (text() == textOf(m_last.day))
         return m_last;
-    auto day = completeDay(text());
-    if (!day)
-        day = shortDay(text());
+    const auto day = dayText::parse(text());
     return day ? valueOn(*day) : std::nullopt;
 }
 
@@ -134,6 +105,7 @@ void DateField::take(const Value& value)
     if (text() != textOf(value.day))
         setText(textOf(value.day));
     setError({});
+    tellInstant();
     if (isAnother)
         Q_EMIT edited();
 }
@@ -141,8 +113,15 @@ void DateField::take(const Value& value)
 void DateField::takeCompleteDay()
 {
     const auto value = typed();
-    if (value && completeDay(text()))
+    if (value && dayText::parseComplete(text()))
         take(*value);
+    tellInstant();
+}
+
+void DateField::tellInstant()
+{
+    if (const Instant now = instant(); now != std::exchange(m_told, now))
+        Q_EMIT instantChanged();
 }
 
 bool DateField::step(int key)

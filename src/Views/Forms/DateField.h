@@ -11,9 +11,10 @@ class QCalendarWidget;
 
 namespace abissora {
 
-/// The day of an instant as dd/MM/yyyy: typed, stepped (Up and Down a day, Page Up and Page Down a month) or picked
-/// from a calendar (the mark at the end, Alt+Down, F4). Only the day is edited: another day keeps the time of day, the
-/// original day gives the original instant back to the millisecond. A text that is no day of the calendar is no value.
+/// The day of an instant as dd/MM/yyyy: typed in any of the usual ways (DayText.h), stepped (Up and Down a day, Page Up
+/// and Page Down a month) or picked from a calendar (the mark at the end, Alt+Down, F4). Only the day is edited:
+/// another day keeps the time of day, the original day gives the original instant back to the millisecond. A text that
+/// is no day of the calendar is no value.
 class DateField : public CheckedField
 {
     Q_OBJECT
@@ -34,6 +35,8 @@ public:
 Q_SIGNALS:
     /// The person gave another day. While a day is being typed, as soon as it is complete.
     void edited();
+    /// instant() is another one by what the person did, also while a day is being typed that may become another.
+    void instantChanged();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -49,6 +52,7 @@ private:
     [[nodiscard]] std::optional<Value> typed() const;
     void take(const Value& value);
     void takeCompleteDay();
+    void tellInstant();
     bool step(int key);
     void openCalendar();
     void makeCalendar();
@@ -57,6 +61,7 @@ private:
     Value m_original;
     QTime m_timeOfDay;
     Value m_last;
+    Instant m_told{};
     QMenu* m_popup = nullptr; // made when it is first opened
     QCalendarWidget* m_days = nullptr;
 };

@@ -12,6 +12,7 @@
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
+#include "OneLine.h"
 #include "ToggleSwitch.h"
 #include "TypeChoice.h"
 
@@ -93,10 +94,10 @@ void EquipmentForm::addFootnotes()
 void EquipmentForm::setState(const EquipmentFormState& state)
 {
     m_selectedTypeName = state.selectedTypeName;
-    m_name->setText(state.name);
-    m_brand->setText(state.brand);
-    m_model->setText(state.model);
-    m_serialNumber->setText(state.serialNumber);
+    setStoredText(*m_name, state.name);
+    setStoredText(*m_brand, state.brand);
+    setStoredText(*m_model, state.model);
+    setStoredText(*m_serialNumber, state.serialNumber);
     m_purchaseDate->setInstant(state.purchaseDate);
     m_lastServiceDate->setInstant(state.lastServiceDate);
     m_isActive->setChecked(state.isActive);
@@ -106,8 +107,8 @@ void EquipmentForm::setState(const EquipmentFormState& state)
 void EquipmentForm::connectFields()
 {
     for (const QLineEdit* field : {m_name, m_brand})
-        connect(field, &QLineEdit::textChanged, this, &EquipmentForm::refresh);
-    connect(m_lastServiceDate, &DateField::edited, this, &EquipmentForm::refresh);
+        connect(field, &QLineEdit::textChanged, &m_listener, [this] { refresh(); });
+    connect(m_lastServiceDate, &DateField::instantChanged, &m_listener, [this] { refresh(); });
     connect(m_type, &TypePicker::chosen, this, [this](const QString& typeName) {
         m_selectedTypeName = typeName;
         followTypes();

@@ -70,6 +70,7 @@ private:
     ToggleSwitch* m_isActive;
     NotesField* m_notes;
     QLabel* m_incomplete;
+    QObject m_listener; ///< hears the fields; goes before them, which tell something even when they go
 };
 
 /// "Nuova Attrezzatura": adds an item to the register.

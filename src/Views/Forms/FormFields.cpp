@@ -5,6 +5,7 @@
 #include "Assembly.h"
 #include "Cards.h"
 #include "Literals.h"
+#include "OneLine.h"
 #include "SymbolIcon.h"
 #include "TypeAppearance.h"
 #include "TypeScale.h"
@@ -33,6 +34,7 @@ GroupBox* makeGroup(const QString& title, std::initializer_list<QWidget*> rows)
 QLineEdit* makeTextField(const QString& objectName, const QString& placeholder)
 {
     auto* field = named(new QLineEdit, objectName);
+    keepOneLine(*field);
     field->setMaxLength(std::numeric_limits<int>::max());
     field->setPlaceholderText(placeholder);
     return field;

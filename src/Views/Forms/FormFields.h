@@ -15,7 +15,7 @@ class GroupBox;
 /// A group of rows of a form.
 [[nodiscard]] GroupBox* makeGroup(const QString& title, std::initializer_list<QWidget*> rows);
 
-/// A line of text of any length: a form shall not shorten what is stored.
+/// A line of text of any length: a form shall not shorten what is stored. Give it that by setStoredText().
 [[nodiscard]] QLineEdit* makeTextField(const QString& objectName, const QString& placeholder);
 
 /// Text of several lines. The editor has its own idea of line ends and of spaces that do not break: what nobody changed

@@ -7,6 +7,7 @@
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
+#include "OneLine.h"
 #include "Opening.h"
 #include "ProgramFacts.h"
 #include "SegmentedControl.h"
@@ -125,6 +126,7 @@ SettingsGroupBox* makeGeneralGroup(SettingsViewModel& settings)
     for (const ServiceInterval& offered : offeredIntervals)
         interval->addSegment(offered.text);
     auto* currency = named(new QLineEdit, u"currencySymbol");
+    keepOneLine(*currency);
     currency->setMaxLength(std::numeric_limits<int>::max()); // what is stored shall not be shortened
     currency->setPlaceholderText(u"Simbolo"_s);
     currency->setFixedWidth(withText(currencyWidth, currency->fontMetrics()));
@@ -134,7 +136,7 @@ SettingsGroupBox* makeGeneralGroup(SettingsViewModel& settings)
     follow(settings, group, [interval, currency, &settings] {
         interval->setCurrentIndex(placeOfInterval(settings.defaultServiceInterval()));
         if (const QString symbol = settings.currencySymbol(); currency->text() != symbol)
-            currency->setText(symbol);
+            setStoredText(*currency, symbol);
     });
     QObject::connect(interval, &SegmentedControl::activated, &settings, [&settings](int segment) {
         settings.setDefaultServiceInterval(offeredIntervals.at(segment).days);

@@ -3,7 +3,6 @@
 
 #include "Accessibility.h"
 #include "Assembly.h"
-#include "FlowLayout.h"
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
@@ -11,6 +10,7 @@
 #include "Tokens.h"
 
 #include <QButtonGroup>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QRadioButton>
@@ -20,6 +20,7 @@ namespace abissora {
 
 namespace {
 
+constexpr int swatchesInRow = 7; // no colour stands alone in the last row
 constexpr int swatchSide = 28;
 constexpr int swatchInset = 3;
 constexpr int checkSide = 11;
@@ -76,14 +77,17 @@ ColorChoice::ColorChoice(QWidget* parent)
 {
     setAccessibleRole(*this, QAccessible::Grouping);
     setAccessibleName(u"Colore"_s);
-    auto* flow = new FlowLayout(0, metrics::spaceXS);
+    auto* rows = new QGridLayout;
+    rows->setSpacing(metrics::spaceXS);
+    rows->setColumnStretch(swatchesInRow, 1);
     for (const AvailableColors color : allCases<AvailableColors>()) {
         auto* swatch = new ColorSwatch(color);
         m_swatches->addButton(swatch, static_cast<int>(color));
         swatch->installEventFilter(this);
-        flow->addWidget(swatch);
+        const int place = m_swatches->id(swatch);
+        rows->addWidget(swatch, place / swatchesInRow, place % swatchesInRow);
     }
-    setLayout(inColumn(metrics::spaceXS, {flow, m_label}));
+    setLayout(inColumn(metrics::spaceXS, {rows, m_label}));
     setSelectedColor(m_selectedColor);
     connect(m_swatches, &QButtonGroup::idClicked, this, [this](int id) { choose(static_cast<AvailableColors>(id)); });
 }

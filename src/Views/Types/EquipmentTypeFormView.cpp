@@ -13,6 +13,7 @@
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
+#include "OneLine.h"
 #include "ScrollPane.h"
 #include "Stepper.h"
 #include "SymbolIcon.h"
@@ -152,6 +153,7 @@ EquipmentTypeFormView::EquipmentTypeFormView(EquipmentTypeViewModel& types, IdGe
 
 GroupBox* EquipmentTypeFormView::makeBasics()
 {
+    keepOneLine(*m_name);
     m_name->setMaxLength(std::numeric_limits<int>::max()); // a form shall not shorten what is stored
     m_name->setPlaceholderText(u"Inserisci il nome"_s);
     m_invalidName->setObjectName(u"invalidName"_s);
@@ -181,7 +183,7 @@ void EquipmentTypeFormView::makeColumns()
 
 void EquipmentTypeFormView::setState(const EquipmentTypeFormState& state)
 {
-    m_name->setText(state.name);
+    setStoredText(*m_name, state.name);
     m_interval->setValue(state.serviceIntervalDays);
     m_color->setSelectedColor(state.selectedColor);
     m_icons->grid().setSelectedIcon(state.selectedIcon);
@@ -189,7 +191,11 @@ void EquipmentTypeFormView::setState(const EquipmentTypeFormState& state)
 
 void EquipmentTypeFormView::connectFields()
 {
-    connect(m_name, &QLineEdit::textChanged, this, &EquipmentTypeFormView::refresh);
+    connect(m_name, &QLineEdit::textChanged, &m_listener, [this] { refresh(); });
+    connect(m_name, &QLineEdit::editingFinished, &m_listener, [this] {
+        if (const QString trimmed = m_name->text().trimmed(); trimmed != m_name->text())
+            m_name->setText(trimmed);
+    });
     connect(m_interval, &Stepper::edited, this, &EquipmentTypeFormView::refresh);
     connect(m_color, &ColorChoice::chosen, this, &EquipmentTypeFormView::refresh);
     connect(&m_icons->grid(), &IconGrid::chosen, this, &EquipmentTypeFormView::refresh);

@@ -49,6 +49,7 @@ private:
     ColorChoice* m_color;
     IconPicker* m_icons;
     Preview* m_preview;
+    QObject m_listener; ///< hears the fields; goes before them, which tell something even when they go
 };
 
 } // namespace abissora

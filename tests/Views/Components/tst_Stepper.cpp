@@ -195,6 +195,10 @@ void tst_Stepper::itIsReadAsASpinBox()
     QCOMPARE(read->role(), QAccessible::SpinBox);
     QCOMPARE(read->text(QAccessible::Name), u"Giorni di anticipo"_s);
     QCOMPARE(read->text(QAccessible::Value), u"30 giorni"_s);
+    QAccessibleTextInterface* const shown = read->textInterface();
+    QVERIFY(shown != nullptr);
+    QCOMPARE(shown->text(0, shown->characterCount()), u"30 giorni"_s);
+    QCOMPARE(shown->text(0, 2), u"30"_s);
     QCOMPARE(read->valueInterface()->currentValue().toInt(), 30);
     QCOMPARE(read->valueInterface()->minimumValue().toInt(), 7);
     QCOMPARE(read->valueInterface()->maximumValue().toInt(), 90);

@@ -15,6 +15,7 @@
 #include "Theme.h"
 
 #include <QAccessible>
+#include <QClipboard>
 #include <QScrollBar>
 #include <QSignalSpy>
 
@@ -419,6 +420,35 @@ private Q_SLOTS:
         for (const char* field : {"purchaseDate", "lastServiceDate", "name", "type"})
             QVERIFY(usable(o.form, field).height() >= usable(o.form, field).sizeHint().height());
         QVERIFY(o.form.width() < 1000 && o.form.height() < 700);
+    }
+
+    void theNextServiceFollowsWhileTheDayIsTyped()
+    {
+        RegisterFixture f(QList<Equipment>{});
+        Open o(f);
+        type(o.form, "name", u"N"_s);
+        type(o.form, "brand", u"B"_s);
+        const QString before = textOf(o.form, "nextServiceDate");
+        type(o.form, "lastServiceDate", u"1/2/2"_s);
+        QCOMPARE(textOf(o.form, "nextServiceDate"), before);
+        QTest::keyClicks(o.form.focusWidget(), u"5"_s);
+        QCOMPARE(textOf(o.form, "nextServiceDate"), u"1 feb 2026"_s);
+        QCOMPARE(usable<DateField>(o.form, "lastServiceDate").text(), u"1/2/25"_s);
+        type(o.form, "lastServiceDate", u"2025-03-01"_s);
+        QCOMPARE(textOf(o.form, "nextServiceDate"), u"1 mar 2026"_s);
+        QTest::keyClick(o.form.focusWidget(), Qt::Key_Return, Qt::ControlModifier);
+        QCOMPARE(f.almanac.dates.abbreviatedDate(f.equipment.equipment().first().nextServiceDate), u"1 mar 2026"_s);
+    }
+
+    void pastedNamesStayOneLine()
+    {
+        RegisterFixture f;
+        Open o(f);
+        QApplication::clipboard()->setText(u"due\nrighe"_s);
+        for (const char* field : {"name", "brand", "model", "serialNumber"}) {
+            usable<QLineEdit>(o.form, field).paste();
+            QCOMPARE(usable<QLineEdit>(o.form, field).text(), u"due righe"_s);
+        }
     }
 };
 

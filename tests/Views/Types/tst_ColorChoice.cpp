@@ -159,6 +159,19 @@ private Q_SLOTS:
         }
         applyTheme(*qApp, Scheme::Light);
     }
+
+    void noColourStandsAlone()
+    {
+        Shown s;
+        for (const int width : {260, 400, 900}) {
+            s.choice.resize(width, s.choice.sizeHint().height());
+            test::settle();
+            QMap<int, int> inRow;
+            for (const AvailableColors color : allCases<AvailableColors>())
+                ++inRow[s.swatch(color).y()];
+            QCOMPARE(inRow.values(), (QList<int>{7, 6}));
+        }
+    }
 };
 
 ABISSORA_TEST(tst_ColorChoice);

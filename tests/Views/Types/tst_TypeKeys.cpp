@@ -74,6 +74,43 @@ private Q_SLOTS:
         QTest::keyClick(o.sheet.focusWidget(), Qt::Key_Enter);
         QVERIFY(!o.sheet.isVisible());
     }
+
+    void searchingForAnIconMovesNothing()
+    {
+        RegisterFixture f;
+        TypeForm o(f, boa());
+        auto& search = usable<QLineEdit>(o.sheet, "iconSearch");
+        const auto places = [&] {
+            QList<QRect> found;
+            for (const char* part : {"name", "interval", "iconSearch", "primary"}) {
+                const QWidget& widget = usable(o.sheet, part);
+                found.append(QRect(widget.mapTo(&o.sheet, QPoint()), widget.size()));
+            }
+            return found;
+        };
+        search.setFocus();
+        settle();
+        const QList<QRect> before = places();
+        const QRect sheet = o.sheet.geometry();
+        for (const auto& text : {u"b"_s, u"o"_s, u"mbolaxyz"_s}) {
+            QTest::keyClicks(&search, text);
+            settle();
+            QCOMPARE(places(), before);
+            QCOMPARE(o.sheet.geometry(), sheet);
+        }
+    }
+
+    void theReasonIsInSight()
+    {
+        RegisterFixture f;
+        TypeForm o(f, newType);
+        for (const QSize size : {QSize(1000, 700), QSize(1280, 800)}) {
+            o.window.resize(size);
+            settle();
+            const QWidget& reason = part(o.sheet, "invalidName");
+            QCOMPARE(reason.visibleRegion().boundingRect(), reason.rect());
+        }
+    }
 };
 
 ABISSORA_TEST(tst_TypeKeys);

@@ -80,10 +80,16 @@ private Q_SLOTS:
         QCOMPARE(savedAs(f, boa(), [](TypeForm&) {}), boa());
     }
 
-    void theNameIsStoredAsTyped()
+    /// As the items have it that are of the type.
+    void theNameIsStoredWithoutBlanksAtItsEnds()
     {
         RegisterFixture f;
-        QCOMPARE(savedAs(f, boa(), [](TypeForm& form) { type(form.sheet, "name", u"  Boa  "_s); }).name, u"  Boa  "_s);
+        QCOMPARE(savedAs(f, boa(), [](TypeForm& form) { type(form.sheet, "name", u"  Boa  "_s); }).name, u"Boa"_s);
+        TypeForm form(f, newType);
+        type(form.sheet, "name", u" Boa  gialla "_s);
+        QCOMPARE(usable<QLineEdit>(form.sheet, "name").text(), u" Boa  gialla "_s);
+        QTest::keyClick(form.sheet.focusWidget(), Qt::Key_Tab);
+        QCOMPARE(usable<QLineEdit>(form.sheet, "name").text(), u"Boa  gialla"_s);
     }
 
     void longAndHostileNamesSurvive_data()
