@@ -125,7 +125,6 @@ UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& op
     m_download->setAccessibleDescription(u"Apre "_s + m_offer.host);
     auto* host = named(new ElidedLabel(TextStyle::Caption, &Tokens::secondaryText), u"downloadHost");
     host->setText(m_offer.host);
-    host->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_failure = makeFailure();
 
     auto* icon = new IconView(symbolIcon(u"arrow.down.circle.fill"_s, NamedColor::blue), iconSide);
@@ -138,7 +137,7 @@ UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& op
                         Gap(metrics::spaceS),
                         m_failure,
                         inRow(metrics::spaceM, {Stretch(), later, m_download}),
-                        host},
+                        {host, 0, Qt::AlignRight}},
                        {metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceL}));
     setMinimumWidth(withText(contentWidth, fontMetrics()));
 }

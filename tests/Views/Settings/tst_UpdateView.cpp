@@ -157,6 +157,7 @@ private Q_SLOTS:
         const auto& label = test::part<QLabel>(o.view, "downloadHost");
         QVERIFY(label.y() >= o.button("download").geometry().bottom());
         QCOMPARE(label.geometry().right(), o.button("download").geometry().right());
+        QVERIFY(label.x() >= o.button("download").x()); // where its text begins
     }
 
     void whatWasBeingTypedDoesNothing_data()
