@@ -6,6 +6,7 @@
 #include "EmptyState.h"
 #include "EquipmentTableView.h"
 #include "FilterMenu.h"
+#include "FlowLayout.h"
 #include "Labels.h"
 #include "ListHeader.h"
 #include "Literals.h"
@@ -73,12 +74,9 @@ void EquipmentListView::buildLayout()
     searchRow->addWidget(m_search, 1);
     searchRow->addWidget(m_filterButton);
 
-    auto* counts = new QHBoxLayout;
-    counts->setContentsMargins(metrics::spaceXS, 0, metrics::spaceXS, 0);
-    counts->setSpacing(metrics::spaceL + metrics::spaceXS);
+    auto* counts = new FlowLayout(metrics::spaceL + metrics::spaceXS, 0);
     for (InkLabel* count : {m_shownCount, m_dueCount, m_activeCount})
         counts->addWidget(count);
-    counts->addStretch();
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(usualSideMargin, 0, usualSideMargin, metrics::spaceM);

@@ -2,6 +2,7 @@
 #include "EquipmentTableView.h"
 
 #include "Literals.h"
+#include "Metrics.h"
 #include "TypeScale.h"
 
 #include <QContextMenuEvent>
@@ -200,7 +201,9 @@ void EquipmentTableView::setHover(const QModelIndex& index, bool onActionButton)
 
 void EquipmentTableView::adjustToText()
 {
-    horizontalHeader()->setFont(abissora::font(TextStyle::CaptionSemibold));
+    const QFont heading = abissora::font(TextStyle::CaptionSemibold);
+    horizontalHeader()->setFont(heading);
+    horizontalHeader()->setMinimumHeight(2 * QFontMetrics(heading).height() + metrics::spaceXS);
     m_columns.measure(m_columnTexts);
     layOutColumns();
 }

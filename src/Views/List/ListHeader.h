@@ -13,8 +13,8 @@ class Chip;
 class LookButton;
 class WrapLabel;
 
-/// The title, the chip of the active type filter and the buttons above the register's table. Where the chip has no room
-/// beside the title it stands on a line of its own.
+/// The title, the chip of the active type filter and the buttons above the register's table. What has no room beside
+/// the title stands on a line of its own.
 class ListHeader : public QWidget
 {
     Q_OBJECT
@@ -34,9 +34,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void placeButtons();
     void placeChip();
 
     QHBoxLayout* m_line;
+    QHBoxLayout* m_buttonLine; ///< where they have no room beside the title
     WrapLabel* m_title;
     LookButton* m_refresh;
     LookButton* m_add;

@@ -87,7 +87,8 @@ QSize AbissoraStyle::sizeFromContents(ContentsType type, const QStyleOption* opt
         return {size.width() + 2 * metrics::spaceS, size.height() + metrics::spaceS};
     case CT_HeaderSection: {
         const QSize base = QProxyStyle::sizeFromContents(type, option, size, widget);
-        return {base.width() + metrics::spaceM, std::max(base.height(), withText(32, option->fontMetrics))};
+        return {base.width() + metrics::spaceM,
+                std::max({base.height(), 32, 2 * option->fontMetrics.height() + metrics::spaceXS})};
     }
     default:
         break;

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "ClippedTexts.h"
 #include "EquipmentTableDelegate.h"
+#include "ScaledText.h"
 #include "ShellFixture.h"
 #include "TestRunner.h"
 #include "TypeScale.h"
@@ -77,6 +79,37 @@ private Q_SLOTS:
         QVERIFY(s.sidebar().width() >= 220);
         QCOMPARE(cutTexts(s.table()), QStringList());
         QCOMPARE(s.table().horizontalScrollBar()->maximum(), 0);
+    }
+
+    void largerTextIsNotCut_data()
+    {
+        QTest::addColumn<double>("factor");
+        QTest::addColumn<QSize>("size");
+        for (const double factor : {1.3, 1.6}) {
+            QTest::addRow("%.1f, smallest", factor) << factor << smallest;
+            QTest::addRow("%.1f, usual", factor) << factor << QSize(1280, 800);
+        }
+    }
+
+    void largerTextIsNotCut()
+    {
+        QFETCH(const double, factor);
+        QFETCH(const QSize, size);
+        const ScaledText larger(factor);
+        ShellFixture f;
+        ShownWindow s(f, std::nullopt, size);
+        s.table().selectRow(0);
+        settle();
+        QCOMPARE(s.window.size(), size);
+        QCOMPARE(clippedTexts(s.window.content()), QStringList());
+        // No pane reaches out of the window, and no word of a title is in pieces.
+        const QWidget& pane = part(s.window, u"detailPane"_s);
+        QVERIFY(pane.mapTo(&s.window, pane.rect().bottomRight()).x() < s.window.width());
+        const QLabel& title = part<QLabel>(s.window, u"listTitle"_s);
+        for (const QString& word : title.text().split(u' '))
+            QVERIFY(title.fontMetrics().horizontalAdvance(word) <= title.width());
+        const QHeaderView& header = *s.table().horizontalHeader();
+        QVERIFY(header.height() >= 2 * QFontMetrics(font(TextStyle::CaptionSemibold)).height());
     }
 
     void titlesStandOnOneLine_data()
