@@ -122,8 +122,10 @@ void EquipmentListView::connectControls()
             focusContent();
     });
 
-    connect(m_filterMenu, &QMenu::aboutToShow, this,
-            [this] { m_filterMenu->setEntries(m_types.filteredTypes(), ListContent::isNarrowed(m_equipment)); });
+    connect(m_filterMenu, &QMenu::aboutToShow, this, [this] {
+        m_filterMenu->setEntries(m_types.filteredTypes(), m_equipment.filterTypeName(),
+                                 ListContent::isNarrowed(m_equipment));
+    });
     connect(m_filterMenu, &FilterMenu::allChosen, this, showAllTypes);
     connect(m_filterMenu, &FilterMenu::clearChosen, this, &EquipmentListView::clearFilters);
     connect(m_filterMenu, &FilterMenu::typeChosen, this, [this](const QString& name) {
@@ -217,6 +219,7 @@ void EquipmentListView::redraw()
     if (m_search->text() != m_equipment.searchText())
         m_search->setText(m_equipment.searchText());
     m_header->setFilter(content.filter);
+    m_filterButton->setActiveFilter(content.filter ? content.filter->text : QString());
     m_empty->setButtonText(content.offer);
     showContent(*(content.items.isEmpty() ? static_cast<QWidget*>(m_empty) : m_table));
     m_shownCount->setText(content.shownCount);

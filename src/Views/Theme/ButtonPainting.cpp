@@ -165,7 +165,9 @@ void drawToolButtonPanel(const QStyleOption& option, QPainter& painter, const QW
 {
     const Tokens& tokens = Tokens::of(option.palette);
     const bool enabled = option.state & QStyle::State_Enabled;
-    if (buttonLook(widget, ButtonLook::Borderless) == ButtonLook::Plain) {
+    if (buttonLook(widget, ButtonLook::Borderless) == ButtonLook::Plain && enabled && option.state & QStyle::State_On) {
+        drawPanel(painter, option.rect, metrics::controlRadius, touched(tokens.accentTint, option), tokens.accentInk);
+    } else if (buttonLook(widget, ButtonLook::Borderless) == ButtonLook::Plain) {
         drawPanel(painter, option.rect, metrics::controlRadius,
                   enabled ? touched(tokens.surface, option) : tokens.window,
                   enabled ? tokens.strongBorder : tokens.border);

@@ -39,9 +39,9 @@ private Q_SLOTS:
     void everyTypeHasAnEntry()
     {
         FilterMenu menu;
-        menu.setEntries({type(u"GAV"_s), type(u"Boa"_s)}, false);
+        menu.setEntries({type(u"GAV"_s), type(u"Boa"_s)}, std::nullopt, false);
         QCOMPARE(entries(menu), QStringList({u"Tutti"_s, QString(), u"GAV"_s, u"Boa"_s}));
-        menu.setEntries({type(u"GAV"_s)}, true);
+        menu.setEntries({type(u"GAV"_s)}, std::nullopt, true);
         QCOMPARE(entries(menu), QStringList({u"Tutti"_s, QString(), u"GAV"_s, QString(), u"Cancella filtri"_s}));
     }
 
@@ -58,7 +58,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, name);
         FilterMenu menu;
-        menu.setEntries({type(name)}, false);
+        menu.setEntries({type(name)}, std::nullopt, false);
         QCOMPARE(entries(menu).last(), name);
         QVERIFY(QKeySequence::mnemonic(menu.actions().last()->text()).isEmpty());
         QSignalSpy chosen(&menu, &FilterMenu::typeChosen);
@@ -66,10 +66,62 @@ private Q_SLOTS:
         QCOMPARE(chosen.takeFirst().first().toString(), name);
     }
 
+    void theActiveTypeIsMarked()
+    {
+        const auto marked = [](const FilterMenu& menu) {
+            QStringList texts;
+            for (const QAction* entry : menu.actions()) {
+                if (entry->isChecked())
+                    texts.append(entry->text());
+            }
+            return texts;
+        };
+        FilterMenu menu;
+        menu.setEntries({type(u"GAV"_s), type(u"Boa"_s)}, u"Boa"_s, true);
+        QCOMPARE(marked(menu), QStringList(u"Boa"_s));
+        QVERIFY(!action(menu, u"Cancella filtri"_s)->isCheckable());
+        menu.setEntries({type(u"GAV"_s), type(u"Boa"_s)}, std::nullopt, false);
+        QCOMPARE(marked(menu), QStringList(u"Tutti"_s));
+        menu.setEntries({type(u"GAV"_s)}, u"Un altro"_s, true);
+        QCOMPARE(marked(menu), QStringList());
+    }
+
+    void aLongNameIsBounded()
+    {
+        FilterMenu menu;
+        const QString name(200, u'm');
+        menu.setEntries({type(u"GAV"_s)}, std::nullopt, false);
+        menu.setEntries({type(name)}, std::nullopt, false);
+        QVERIFY(menu.sizeHint().width() < 450);
+        const QAction& entry = *menu.actions().last();
+        QVERIFY(entry.text().endsWith(u'…'));
+        QCOMPARE(entry.toolTip(), name);
+        QSignalSpy chosen(&menu, &FilterMenu::typeChosen);
+        menu.actions().last()->trigger();
+        QCOMPARE(chosen.takeFirst().first().toString(), name);
+    }
+
+    void theButtonSaysThatAFilterIsOn()
+    {
+        FilterMenu menu;
+        FilterButton button(menu);
+        QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(&button);
+        button.resize(30, 30);
+        const QImage off = button.grab().toImage();
+        button.setActiveFilter(u"Filtro: GAV"_s);
+        QCOMPARE(accessible->text(QAccessible::Description), u"Filtro: GAV"_s);
+        QCOMPARE(button.toolTip(), u"Filtro: GAV"_s);
+        QVERIFY(button.grab().toImage() != off);
+        button.setActiveFilter({});
+        QCOMPARE(button.accessibleDescription(), QString());
+        QCOMPARE(button.toolTip(), u"Filtro"_s);
+        QCOMPARE(button.grab().toImage(), off);
+    }
+
     void choosing()
     {
         FilterMenu menu;
-        menu.setEntries({type(u"GAV"_s)}, true);
+        menu.setEntries({type(u"GAV"_s)}, std::nullopt, true);
         QSignalSpy all(&menu, &FilterMenu::allChosen);
         QSignalSpy cleared(&menu, &FilterMenu::clearChosen);
         action(menu, u"Tutti"_s)->trigger();
