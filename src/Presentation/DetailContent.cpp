@@ -46,7 +46,7 @@ MaintenanceRowContent MaintenanceRowContent::of(const Maintenance& record, const
         .isCompleted = record.isCompleted.value_or(true),
         .hasReceipt = isPresent(record.receiptFileName),
         .hasCertificate = isPresent(record.certificateFileName),
-        .whichRecord = date + u", "_s + record.description,
+        .whichRecord = u"%1, %2, %3"_s.arg(rawValue(record.type), date, record.description),
     };
 }
 

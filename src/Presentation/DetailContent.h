@@ -44,7 +44,7 @@ struct MaintenanceRowContent
     bool isCompleted = true;
     bool hasReceipt = false; ///< its file is there, too
     bool hasCertificate = false;
-    QString whichRecord; ///< "14 giu 2026, Tagliando": the buttons of all rows have the same names
+    QString whichRecord; ///< "Riparazione, 14 giu 2026, Cinturino rotto": the buttons of all rows have the same names
 
     [[nodiscard]] static MaintenanceRowContent of(const Maintenance& record, const DateFormat& dates,
                                                   const MaintenanceDocumentStore& documents);

@@ -31,7 +31,8 @@ public:
     [[nodiscard]] QAccessibleInterface* child(int) const override { return nullptr; }
 };
 
-class ChoiceInterface final : public QAccessibleWidget
+/// A button of another role.
+class PressInterface : public QAccessibleWidget
 {
 public:
     using QAccessibleWidget::QAccessibleWidget;
@@ -40,15 +41,6 @@ public:
     {
         const bool isUnnamed = kind == QAccessible::Name && widget()->accessibleName().isEmpty();
         return isUnnamed ? button()->text() : QAccessibleWidget::text(kind);
-    }
-    [[nodiscard]] QAccessible::State state() const override
-    {
-        QAccessible::State state = QAccessibleWidget::state();
-        state.checkable = true;
-        state.checked = button()->isChecked();
-        state.selectable = true;
-        state.selected = button()->isChecked();
-        return state;
     }
     [[nodiscard]] QStringList actionNames() const override
     {
@@ -62,7 +54,7 @@ public:
             QAccessibleWidget::doAction(action);
     }
 
-private:
+protected:
     [[nodiscard]] QAbstractButton* button() const { return static_cast<QAbstractButton*>(object()); }
 };
 
@@ -119,6 +111,22 @@ private:
     [[nodiscard]] QComboBox* picker() const { return static_cast<QComboBox*>(object()); }
 };
 
+class ChoiceInterface final : public PressInterface
+{
+public:
+    using PressInterface::PressInterface;
+
+    [[nodiscard]] QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = true;
+        state.checked = button()->isChecked();
+        state.selectable = true;
+        state.selected = button()->isChecked();
+        return state;
+    }
+};
+
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
 {
     auto* const widget = qobject_cast<QWidget*>(object);
@@ -159,6 +167,11 @@ void setAccessibleChoice(QAbstractButton& button, QAccessible::Role role)
 void setAccessiblePicker(QComboBox& picker)
 {
     setAccessibleInterface<PickerInterface>(picker);
+}
+
+void setAccessibleLink(QAbstractButton& button)
+{
+    setAccessibleMaker(button, [](QWidget* object) { return new PressInterface(object, QAccessible::Link); });
 }
 
 void setAccessibleMaker(QWidget& widget, Maker make)

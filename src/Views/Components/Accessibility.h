@@ -27,6 +27,9 @@ void setAccessibleChoice(QAbstractButton& button, QAccessible::Role role = QAcce
 /// label or its accessible name; its value is the choice.
 void setAccessiblePicker(QComboBox& picker);
 
+/// A button that leads to a page elsewhere.
+void setAccessibleLink(QAbstractButton& button);
+
 void setAccessibleMaker(QWidget& widget, std::function<QAccessibleInterface*(QWidget*)> make);
 
 /// For a widget that needs more than a role: an interface of its own, made from a pointer to the widget.

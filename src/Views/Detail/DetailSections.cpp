@@ -109,6 +109,7 @@ void DetailHeader::setContent(const DetailContent& content)
 TechnicalDetails::TechnicalDetails(QWidget* parent)
     : GroupBox(u"Dettagli Tecnici"_s, u"info.circle"_s, parent)
 {
+    setObjectName(u"technicalDetails"_s);
     content()->setSpacing(metrics::spaceXS / 2);
     content()->addSpacing(metrics::spaceXS);
 }
@@ -123,10 +124,13 @@ void TechnicalDetails::setLines(const QList<DetailContent::Line>& lines)
         value->setAlignment(Qt::AlignRight | Qt::AlignTop);
         content()->addLayout(
             inRow(metrics::spaceS, {{label, 0, Qt::AlignTop}, {value, 1}}, {0, metrics::spaceXS, 0, metrics::spaceXS}));
+        label->setBuddy(value); // the one names the other
         m_values.append(value);
     }
-    for (qsizetype i = 0; i < lines.size(); ++i)
+    for (qsizetype i = 0; i < lines.size(); ++i) {
         m_values.at(i)->setText(lines.at(i).value);
+        m_values.at(i)->setAccessibleName(u"%1: %2"_s.arg(lines.at(i).label, lines.at(i).value));
+    }
 }
 
 SelectableText::SelectableText(QWidget* parent)

@@ -16,6 +16,7 @@ namespace abissora {
 
 DocumentControl::DocumentControl(DocumentSlot slot, Place place, QWidget* parent)
     : QWidget(parent)
+    , m_label(documentLabel(slot))
 {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -67,6 +68,12 @@ void DocumentControl::lookLikeLinks(DocumentSlot slot)
     m_takeIn = named(new LinkButton(u"Carica "_s + label, u"doc.badge.plus"_s), u"upload"_s + name);
     for (LookButton* button : {m_open, m_takeAway, m_takeIn})
         button->setFont(abissora::font(TextStyle::Caption));
+}
+
+void DocumentControl::setRecord(const QString& which)
+{
+    for (LookButton* button : {m_open, m_takeAway, m_takeIn})
+        button->setAccessibleDescription(button == m_takeAway ? m_label + u", "_s + which : which);
 }
 
 void DocumentControl::setPresent(bool present)

@@ -21,6 +21,8 @@ public:
     DocumentControl(DocumentSlot slot, Place place, QWidget* parent = nullptr);
 
     void setPresent(bool present);
+    /// Says of which record it is, as the buttons of all records have the same names.
+    void setRecord(const QString& which);
 
 Q_SIGNALS:
     void openClicked();
@@ -31,6 +33,7 @@ private:
     void lookLikeAForm(DocumentSlot slot);
     void lookLikeLinks(DocumentSlot slot);
 
+    QString m_label;
     QWidget* m_file = nullptr; ///< says that there is one
     LookButton* m_open;
     LookButton* m_takeAway;

@@ -95,6 +95,9 @@ void MaintenanceRow::setRow(const MaintenanceRowContent& row)
     m_dateAndPerformer->setText(row.dateAndPerformer);
     for (IconButton* button : findChildren<IconButton*>())
         button->setAccessibleDescription(row.whichRecord);
+    m_receipt->setRecord(row.whichRecord);
+    m_certificate->setRecord(row.whichRecord);
+    setAccessibleName(row.whichRecord);
     m_completedIcon->setIcon(row.isCompleted ? symbolIcon(u"checkmark.seal.fill"_s, NamedColor::green)
                                              : symbolIcon(u"exclamationmark.circle"_s, NamedColor::orange));
     m_completed->setVisible(row.isCompleted);

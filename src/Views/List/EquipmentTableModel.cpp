@@ -2,6 +2,7 @@
 #include "EquipmentTableModel.h"
 
 #include "Labels.h"
+#include "Literals.h"
 
 namespace abissora {
 
@@ -47,6 +48,8 @@ QVariant EquipmentTableModel::data(const QModelIndex& index, int role) const
     const auto column = static_cast<EquipmentRow::Column>(index.column());
     if (role == Qt::DisplayRole)
         return row(index.row()).text(column);
+    if (role == Qt::AccessibleTextRole && column == ActionsColumn)
+        return u"%1: %2"_s.arg(EquipmentRow::title(column), m_equipment.at(index.row()).name);
     // Texts that a narrow column cuts off are read in full in the tool tip.
     if (role == Qt::ToolTipRole && column <= ModelColumn)
         return toolTipText(row(index.row()).text(column));

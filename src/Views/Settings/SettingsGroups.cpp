@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsGroups.h"
 
+#include "Accessibility.h"
 #include "Assembly.h"
 #include "Buttons.h"
 #include "EquipmentTypeViewModel.h"
@@ -58,6 +59,7 @@ private:
         const QUrl address = m_program.product.websiteURL;
         const QString caption = u"— sito dell'applicazione"_s;
         auto* link = named(new LinkButton(address.host()), u"website");
+        setAccessibleLink(*link);
         link->setAccessibleDescription(caption);
         connect(link, &QAbstractButton::clicked, this, [this, address, &opener] { openPage(address, opener, *this); });
         const Gap ownPadding(-metrics::spaceXS);

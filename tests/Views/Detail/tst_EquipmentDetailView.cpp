@@ -354,6 +354,31 @@ private Q_SLOTS:
                               u"uploadReceipt"_s, u"uploadCertificate"_s}));
     }
 
+    void screenReadersAreToldWhatIsWhat()
+    {
+        Shown s({makeRecord(1, 1, u"Prova"_s)}, 3);
+        QStringList lines;
+        for (const QLabel* label : part(*s.view, u"technicalDetails"_s).findChildren<QLabel*>()) {
+            QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(const_cast<QLabel*>(label));
+            if (label->buddy() != nullptr) {
+                const auto relations = accessible->relations(QAccessible::Labelled);
+                QCOMPARE(relations.size(), 1);
+                lines.append(relations.first().first->text(QAccessible::Name));
+            }
+        }
+        QCOMPARE(lines.size(), 6);
+        QVERIFY(lines.first().startsWith(u"Tipologia: "_s));
+        QVERIFY(lines.last().startsWith(u"Giorni rimanenti: "_s));
+        QAccessibleInterface* const notes = QAccessible::queryAccessibleInterface(&part(*s.view, u"notes"_s));
+        QVERIFY(notes->role() == QAccessible::EditableText);
+        QVERIFY(notes->state().readOnly);
+        QCOMPARE(notes->text(QAccessible::Name), u"Note"_s);
+        QAccessibleInterface* const record = QAccessible::queryAccessibleInterface(&part(*s.view, u"maintenance0"_s));
+        QCOMPARE(record->role(), QAccessible::ListItem);
+        QCOMPARE(record->parent()->role(), QAccessible::List);
+        QVERIFY(record->text(QAccessible::Name).contains(u"Prova"_s));
+    }
+
     void nothingIsCutOff_data()
     {
         QTest::addColumn<qreal>("size");

@@ -78,10 +78,19 @@ private Q_SLOTS:
         Shown s;
         for (const char* name : {"editMaintenance", "deleteMaintenance", "maintenanceMenu"})
             QCOMPARE(part(s.row, name).accessibleDescription(), u"14 giu 2026, Primo stadio"_s);
+        const auto documentsSay = [&](const QString& which) {
+            for (const auto* name : {"openReceipt", "uploadReceipt", "openCertificate", "uploadCertificate"})
+                QCOMPARE(existing(s.row, QLatin1StringView(name)).accessibleDescription(), which);
+            QCOMPARE(existing(s.row, "replaceReceipt").accessibleDescription(), u"Scontrino, "_s + which);
+            QCOMPARE(existing(s.row, "replaceCertificate").accessibleDescription(), u"Certificato, "_s + which);
+            QCOMPARE(s.row.accessibleName(), which);
+        };
+        documentsSay(u"14 giu 2026, Primo stadio"_s);
         MaintenanceRowContent other = content();
         other.whichRecord = u"9 giu 2026, Lavaggio"_s;
         s.row.setRow(other);
         QCOMPARE(part(s.row, "deleteMaintenance").accessibleDescription(), u"9 giu 2026, Lavaggio"_s);
+        documentsSay(u"9 giu 2026, Lavaggio"_s);
     }
 
     void documentsAreOfferedAsTheyAreThere()

@@ -191,7 +191,7 @@ private Q_SLOTS:
         QAccessibleInterface* cellInterface = accessible->tableInterface()->cellAt(0, 3);
         QCOMPARE(cellInterface->role(), QAccessible::Cell);
         QCOMPARE(cellInterface->text(QAccessible::Name), u"30 giugno 2026\nSCADUTO!"_s);
-        QCOMPARE(accessible->tableInterface()->cellAt(1, 5)->text(QAccessible::Name), u"Azioni"_s);
+        QCOMPARE(accessible->tableInterface()->cellAt(1, 5)->text(QAccessible::Name), u"Azioni: GAV Scubapro Hydros"_s);
         QCOMPARE(existing<QToolButton>(view, "filterButton").accessibleName(), u"Filtro"_s);
     }
 };

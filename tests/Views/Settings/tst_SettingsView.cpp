@@ -8,6 +8,7 @@
 #include "TestRunner.h"
 #include "ViewSheet.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QScrollBar>
 
@@ -109,6 +110,13 @@ private Q_SLOTS:
         ShownSettings s(f);
         s.click("website");
         QCOMPARE(f.opener.opened(), QList<QUrl>({QUrl(u"https://abissora.example/"_s)}));
+        QAccessibleInterface* const link = QAccessible::queryAccessibleInterface(&s.button("website"));
+        QCOMPARE(link->role(), QAccessible::Link);
+        QCOMPARE(link->text(QAccessible::Name), u"abissora.example"_s);
+        QVERIFY(!link->state().checkable);
+        link->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        settle();
+        QCOMPARE(f.opener.opened().size(), 2);
     }
 
     void saysWhenNothingOpensTheWebsite()
