@@ -23,7 +23,7 @@ namespace abissora {
 
 namespace {
 
-constexpr int notesHeight = 84;
+constexpr int notesHeight = 74;
 
 } // namespace
 

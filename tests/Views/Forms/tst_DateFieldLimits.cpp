@@ -209,6 +209,26 @@ private Q_SLOTS:
         QCOMPARE(s.field->instant(), firstInstant);
         QCOMPARE(s.edited.size(), 1);
     }
+
+    void theUsualWaysOfWritingADay_data()
+    {
+        QTest::addColumn<QString>("keys");
+        for (const char* keys :
+             {"2024-02-01", "010224", "01022024", "1 feb 2024", "1 febbraio 2024", "1/2/24", "1-2-2024", "1.2.2024"})
+            QTest::newRow(keys) << QString::fromLatin1(keys);
+    }
+
+    void theUsualWaysOfWritingADay()
+    {
+        QFETCH(QString, keys);
+        DateField field(Calendar(QTimeZone::utc()));
+        field.selectAll();
+        const QSignalSpy changed(&field, &DateField::instantChanged);
+        QTest::keyClicks(&field, keys);
+        QVERIFY(!changed.isEmpty());
+        QVERIFY(field.commit());
+        QCOMPARE(field.text(), u"01/02/2024"_s);
+    }
 };
 
 ABISSORA_TEST(tst_DateFieldLimits);
