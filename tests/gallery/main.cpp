@@ -39,7 +39,7 @@ int main(int argc, char** argv)
     else if (!qEnvironmentVariableIsSet(scaleVariable))
         return renderAtEveryScale(argv[0], argument);
 
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" TEST_SCREEN); // as the tests have it
     const QApplication application(argc, argv);
     pinAppearance();
     const bool written =

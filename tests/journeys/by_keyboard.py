@@ -17,14 +17,25 @@ def stored(data):
         return json.load(file)
 
 
+def has_focus(node):
+    return node.get_state_set().contains(Atspi.StateType.FOCUSED)
+
+
 def focused(program):
-    """The node with the focus, in the window that has the keyboard."""
+    """The node with the focus, in the window that has the keyboard; of a table the row that is selected. What hands its
+    focus on is not meant, nor is the current row of a list that has none."""
     for window in program.windows():
         if not window.get_state_set().contains(Atspi.StateType.ACTIVE):
             continue
-        for node in descendants(window):
-            if node.get_state_set().contains(Atspi.StateType.FOCUSED):
+        nodes = [node for node in descendants(window)
+                 if has_focus(node) and node.get_role() not in (Atspi.Role.LIST_ITEM, Atspi.Role.PANEL)]
+        pages = [node for node in descendants(window) if has_focus(node) and node.get_role() == Atspi.Role.PANEL]
+        for node in nodes + pages:
+            if node.get_role() != Atspi.Role.TABLE:
                 return node
+            table = node.get_table_iface()
+            rows = table.get_selected_rows()
+            return table.get_accessible_at(rows[0], 0) if rows else node
     return None
 
 

@@ -73,7 +73,7 @@ def journey(run, data):
     program.press(button(program, cylinder, "Dettagli"))
     sheet = program.find_anywhere(Atspi.Role.DIALOG, "Dettagli Attrezzatura")
     program.find(Atspi.Role.LABEL, "Bombola 12L", sheet)
-    program.find(Atspi.Role.LABEL, "Scaduto", sheet)
+    program.find(Atspi.Role.LABEL, "Giorni rimanenti: Scaduto", sheet)
     program.key("Escape")
     until("the focus back on the button", lambda: has_focus(button(program, cylinder, "Dettagli")))
 

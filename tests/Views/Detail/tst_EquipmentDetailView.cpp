@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Alert.h"
 #include "Buttons.h"
-#include "ClippedTexts.h"
+#include "DetailParts.h"
 #include "DetailSections.h"
-#include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
-#include "Gui.h"
 #include "Literals.h"
 #include "MaintenanceFormView.h"
-#include "MaintenanceRow.h"
-#include "RegisterFixture.h"
-#include "ScaledText.h"
 #include "TestRunner.h"
 #include "ViewSheet.h"
 
-#include <QAccessible>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScrollArea>
@@ -24,54 +18,7 @@
 using namespace abissora;
 using namespace abissora::test;
 
-namespace {
-
-/// One item with the given history, on show.
-struct Shown
-{
-    explicit Shown(const QList<Maintenance>& history = {}, int days = 100)
-        : item(makeItem(1, u"Erogatore di riserva"_s, EquipmentType::regulator, {}))
-    {
-        item.nextServiceDate = f.inDays(days);
-        item.maintenanceHistory = history;
-        f.equipment.addEquipment(item);
-        f.takeLog();
-        view = std::make_unique<EquipmentDetailView>(f.detail(item), f.opener);
-        view->resize(385, 1400);
-        activate(*view);
-    }
-
-    [[nodiscard]] Equipment stored() const
-    {
-        for (const Equipment& candidate : f.equipment.equipment()) {
-            if (candidate.id == item.id)
-                return candidate;
-        }
-        return {};
-    }
-    [[nodiscard]] QStringList descriptions() const
-    {
-        QStringList texts;
-        for (int i = 0; isShown(*view, u"maintenance%1"_s.arg(i)); ++i)
-            texts.append(textOf(row(i), u"maintenanceDescription"_s));
-        return texts;
-    }
-    [[nodiscard]] MaintenanceRow& row(int index) const
-    {
-        return part<MaintenanceRow>(*view, u"maintenance%1"_s.arg(index));
-    }
-
-    RegisterFixture f;
-    Equipment item;
-    std::unique_ptr<EquipmentDetailView> view;
-};
-
-QList<Maintenance> threeRecords()
-{
-    return {makeRecord(1, 20, u"metà"_s), makeRecord(2, 40, u"prima"_s), makeRecord(3, 5, u"ultima"_s)};
-}
-
-} // namespace
+using Shown = ShownDetail;
 
 class tst_EquipmentDetailView : public TestCase
 {
@@ -334,73 +281,6 @@ private Q_SLOTS:
         settle();
         QCOMPARE(s.descriptions(), QStringList(u"Revisione"_s));
         QCOMPARE(s.stored().maintenanceHistory.size(), 1);
-    }
-
-    void everythingThatTakesTheFocusHasANameAndIsReachedByTab()
-    {
-        Shown s(threeRecords());
-        QStringList order;
-        part(*s.view, u"closeDetail"_s).setFocus();
-        for (int i = 0; i < 11; ++i) {
-            QWidget* const focused = QApplication::focusWidget();
-            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(focused);
-            QVERIFY2(!accessible->text(QAccessible::Name).isEmpty(), qPrintable(focused->objectName()));
-            order.append(focused->objectName());
-            QTest::keyClick(focused, Qt::Key_Tab);
-        }
-        QCOMPARE(order,
-                 QStringList({u"closeDetail"_s, u"notes"_s, u"editEquipment"_s, u"addMaintenance"_s, u"toggleActive"_s,
-                              u"deleteEquipment"_s, u"editMaintenance"_s, u"deleteMaintenance"_s, u"maintenanceMenu"_s,
-                              u"uploadReceipt"_s, u"uploadCertificate"_s}));
-    }
-
-    void screenReadersAreToldWhatIsWhat()
-    {
-        Shown s({makeRecord(1, 1, u"Prova"_s)}, 3);
-        QStringList lines;
-        for (const QLabel* label : part(*s.view, u"technicalDetails"_s).findChildren<QLabel*>()) {
-            QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(const_cast<QLabel*>(label));
-            if (label->buddy() != nullptr) {
-                const auto relations = accessible->relations(QAccessible::Labelled);
-                QCOMPARE(relations.size(), 1);
-                lines.append(relations.first().first->text(QAccessible::Name));
-            }
-        }
-        QCOMPARE(lines.size(), 6);
-        QVERIFY(lines.first().startsWith(u"Tipologia: "_s));
-        QVERIFY(lines.last().startsWith(u"Giorni rimanenti: "_s));
-        QAccessibleInterface* const notes = QAccessible::queryAccessibleInterface(&part(*s.view, u"notes"_s));
-        QVERIFY(notes->role() == QAccessible::EditableText);
-        QVERIFY(notes->state().readOnly);
-        QCOMPARE(notes->text(QAccessible::Name), u"Note"_s);
-        QAccessibleInterface* const record = QAccessible::queryAccessibleInterface(&part(*s.view, u"maintenance0"_s));
-        QCOMPARE(record->role(), QAccessible::ListItem);
-        QCOMPARE(record->parent()->role(), QAccessible::List);
-        QVERIFY(record->text(QAccessible::Name).contains(u"Prova"_s));
-    }
-
-    void nothingIsCutOff_data()
-    {
-        QTest::addColumn<qreal>("size");
-        QTest::newRow("usual text") << 1.0;
-        QTest::newRow("larger by a quarter") << 1.25;
-    }
-
-    void nothingIsCutOff()
-    {
-        QFETCH(qreal, size);
-        const ScaledText scaled(size);
-        Maintenance record = makeRecord(1, 1, u"Sostituzione degli anelli di tenuta e prova"_s);
-        record.cost = 1234.5;
-        record.performedBy = QString(60, u'W');
-        Shown s({record}, 3);
-        s.item.name = QString(70, u'W');
-        s.item.serialNumber = QString(50, u'8');
-        s.item.notes = QString(200, u'n');
-        s.f.equipment.updateEquipment(s.item);
-        s.view->resize(s.view->minimumWidth(), 2400);
-        settle();
-        QCOMPARE(clippedTexts(*s.view), QStringList());
     }
 
     void asASheet()
