@@ -20,6 +20,7 @@ SearchField::SearchField(const QString& placeholder, QWidget* parent)
     auto* lens = new QAction(this);
     lens->setIcon(symbolIcon(u"magnifyingglass"_s, NamedColor::secondary));
     connect(lens, &QAction::triggered, this, [this] { setFocus(Qt::MouseFocusReason); });
+    lens->setText(placeholder); // to be read: the toolkit makes a button of it
     addAction(lens, QLineEdit::LeadingPosition);
 
     m_clear->setObjectName(u"clear"_s);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "UpdatesGroup.h"
 
+#include "Accessibility.h"
 #include "Buttons.h"
 #include "IconViews.h"
 #include "Literals.h"
@@ -152,6 +153,7 @@ void UpdatesGroup::setFeedback(const CheckOutcome& outcome)
     m_feedback->setIcon(outcome.isError ? symbolIcon(u"exclamationmark.triangle"_s, NamedColor::red)
                                         : symbolIcon(u"checkmark.circle"_s, NamedColor::green));
     m_feedback->setVisible(!outcome.text.isEmpty());
+    announce(*this, outcome.text);
 }
 
 } // namespace abissora

@@ -63,8 +63,9 @@ QPalette paletteFor(Scheme scheme)
 void applyTheme(QApplication& application, Scheme scheme)
 {
     if (qobject_cast<AbissoraStyle*>(application.style()) == nullptr) {
-        QApplication::setFont(interfaceFont(QApplication::font()));
         QApplication::setStyle(std::make_unique<AbissoraStyle>().release());
+        // Last of all, and for every kind of widget: desktops have menus in another family and size.
+        QApplication::setFont(interfaceFont(QApplication::font()));
     }
     const QPalette palette = paletteFor(scheme);
     QApplication::setPalette(palette);

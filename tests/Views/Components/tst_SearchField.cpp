@@ -105,6 +105,8 @@ void tst_SearchField::itIsReadAsAFieldWithAName()
     QCOMPARE(nameOf(field), u"Cerca attrezzatura..."_s);
     QCOMPARE(nameOf(*clearMark(field)), u"Cancella la ricerca"_s);
     QCOMPARE(clearMark(field)->toolTip(), u"Cancella la ricerca"_s);
+    for (QAbstractButton* button : field.findChildren<QAbstractButton*>())
+        QVERIFY2(!nameOf(*button).isEmpty(), "a nameless button");
 }
 
 ABISSORA_TEST(tst_SearchField);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "Announcements.h"
 #include "EquipmentTypeManagementView.h"
 #include "Literals.h"
 #include "ShownSettings.h"
@@ -67,9 +68,11 @@ private Q_SLOTS:
     {
         RegisterFixture f;
         ShownSettings s(f);
+        const Announcements heard;
         s.click("checkForUpdates");
         f.http.answer(200, current);
         QCOMPARE(s.feedback().text(), u"Hai già l'ultima versione"_s);
+        QCOMPARE(heard.texts(), QStringList{u"Hai già l'ultima versione"_s});
         QVERIFY(s.sheet<ViewSheet>() == nullptr);
         QVERIFY(hasInk(iconOf(s.feedback()), [](const QColor& c) { return c.green() > c.red() + 40; }));
     }

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void inactiveWindowsLookLikeActiveOnes();
     void disabledTextIsPaler();
     void rolesThatWidgetsRelyOn();
+    void menusHaveTheProgramsFont();
 };
 
 void tst_Theme::everyRoleOfEveryGroupIsSet_data()
@@ -68,6 +69,18 @@ void tst_Theme::rolesThatWidgetsRelyOn()
         QCOMPARE(palette.color(QPalette::ToolTipText), tokens.text);
         QCOMPARE(schemeOf(palette), scheme);
     }
+}
+
+void tst_Theme::menusHaveTheProgramsFont()
+{
+    QApplication::setStyle(u"fusion"_s);
+    QFont small = QApplication::font();
+    small.setPointSizeF(small.pointSizeF() / 2);
+    for (const char* kind : {"QMenuBar", "QMenu"})
+        QApplication::setFont(small, kind); // as a desktop does
+    applyTheme(*qApp, Scheme::Light);
+    for (const char* kind : {"QMenuBar", "QMenu"})
+        QCOMPARE(QApplication::font(kind), QApplication::font());
 }
 
 ABISSORA_TEST(tst_Theme);
