@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "ScaledText.h"
 #include "ShellFixture.h"
 #include "TestRunner.h"
 
@@ -116,9 +117,13 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("state");
         QTest::addColumn<QSize>("size");
+        QTest::addColumn<double>("textScale");
         for (int i = 0; i < states.size(); ++i) {
-            for (const QSize size : {QSize(1000, 700), QSize(1280, 800)})
-                QTest::addRow("%s, %d wide", states.at(i).name, size.width()) << i << size;
+            for (const QSize size : {QSize(1000, 700), QSize(1280, 800)}) {
+                for (const double scale : {1.0, 1.3, 1.6})
+                    QTest::addRow("%s, %d wide, text x %.1f", states.at(i).name, size.width(), scale)
+                        << i << size << scale;
+            }
         }
     }
 
@@ -126,6 +131,8 @@ private Q_SLOTS:
     {
         QFETCH(const int, state);
         QFETCH(const QSize, size);
+        QFETCH(const double, textScale);
+        const ScaledText scaled(textScale);
         ShellFixture f(states.at(state).items(TemporaryRegister()));
         ShownWindow s(f, std::nullopt, size);
         states.at(state).prepare(f, s);
@@ -151,18 +158,25 @@ private:
     static void walk(ShownWindow& s, Qt::Key key)
     {
         const QWidget* const first = QApplication::focusWidget();
+        QList<const QWidget*> visited;
         QStringList seen;
         do {
             QWidget* const stop = QApplication::focusWidget();
             QVERIFY2(stop != nullptr, "nothing has the focus");
             const QString judgement = judgeStop(*stop, s.window);
             seen.append(described(*stop));
+            visited.append(stop);
             QVERIFY2(judgement.isEmpty(), qPrintable(seen.join(u" > "_s) + u' ' + judgement));
             QTest::keyClick(stop, key);
             QVERIFY2(QApplication::focusWidget() != stop, qPrintable(seen.join(u" > "_s) + u" keeps the focus"_s));
             QVERIFY2(seen.size() < 120, qPrintable(seen.join(u" > "_s)));
         } while (QApplication::focusWidget() != first);
         QVERIFY(seen.size() > 1);
+        for (const QWidget* widget : s.window.findChildren<QWidget*>()) {
+            const bool isStop = widget->isVisible() && widget->isEnabled() && widget->focusProxy() == nullptr &&
+                                (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
+            QVERIFY2(!isStop || visited.contains(widget), qPrintable(described(*widget) + u" is never visited"_s));
+        }
     }
 };
 

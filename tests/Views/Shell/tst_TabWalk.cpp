@@ -2,15 +2,13 @@
 #include "ShellFixture.h"
 #include "TestRunner.h"
 
-#include <QButtonGroup>
-
 using namespace abissora;
 using namespace abissora::test;
 
 namespace {
 
 /// What the window shows.
-enum class State { EmptyRegister, NothingFound, NothingDue, WithoutHistory, WithHistory, Statistics, Settings };
+enum class State { EmptyRegister, NothingDue, WithoutHistory, WithHistory };
 
 QList<Equipment> itemsOf(State state, const RegisterFixture& f)
 {
@@ -22,24 +20,15 @@ QList<Equipment> itemsOf(State state, const RegisterFixture& f)
     return {item};
 }
 
-void show(State state, ShellFixture& f, ShownWindow& s)
+void show(State state, ShownWindow& s)
 {
     switch (state) {
-    case State::NothingFound:
-        f.equipment.setSearchText(u"niente di niente"_s);
-        break;
     case State::NothingDue:
         s.window.content().setSelectedTab(ContentView::MaintenanceTab);
         break;
     case State::WithoutHistory:
     case State::WithHistory:
         s.table().selectRow(0);
-        break;
-    case State::Statistics:
-        s.window.content().setSelectedTab(ContentView::StatisticsTab);
-        break;
-    case State::Settings:
-        s.sidebar().setSelectedSidebarItem(sidebar::settings);
         break;
     case State::EmptyRegister:
         break;
@@ -80,9 +69,9 @@ private Q_SLOTS:
         QFETCH(const State, state);
         ShellFixture f(itemsOf(State::WithHistory, RegisterFixture()));
         ShownWindow s(f, std::nullopt, {1280, 800});
-        show(State::NothingDue, f, s);
+        show(State::NothingDue, s);
         s.window.content().setSelectedTab(ContentView::ListTab);
-        show(State::WithHistory, f, s);
+        show(State::WithHistory, s);
         Equipment item = f.equipment.equipment().first();
         if (state == State::EmptyRegister) {
             f.equipment.deleteEquipment(item);
@@ -102,43 +91,6 @@ private Q_SLOTS:
         QVERIFY(visited.contains(&s.sidebar()));
         for (const QWidget* stop : visited)
             QVERIFY2(stop->isVisible() && stop->isEnabled(), qPrintable(stop->objectName()));
-    }
-
-    void tabGoesAllTheWayRound_data()
-    {
-        QTest::addColumn<State>("state");
-        QTest::newRow("empty register") << State::EmptyRegister;
-        QTest::newRow("nothing found") << State::NothingFound;
-        QTest::newRow("nothing due") << State::NothingDue;
-        QTest::newRow("item without history") << State::WithoutHistory;
-        QTest::newRow("item with history") << State::WithHistory;
-        QTest::newRow("statistics") << State::Statistics;
-        QTest::newRow("settings") << State::Settings;
-    }
-
-    void tabGoesAllTheWayRound()
-    {
-        QFETCH(const State, state);
-        ShellFixture f(itemsOf(state, RegisterFixture()));
-        ShownWindow s(f, std::nullopt, {1280, 800});
-        show(state, f, s);
-        for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
-            s.sidebar().setFocus(Qt::TabFocusReason);
-            QVERIFY(s.sidebar().hasFocus());
-            const QList<QWidget*> visited = walk(s.window, key);
-            QVERIFY2(s.sidebar().hasFocus(), qPrintable(s.window.focusWidget()->objectName()));
-            for (const QWidget* stop : visited)
-                QVERIFY2(stop->isVisible() && stop->isEnabled(), qPrintable(stop->objectName()));
-            // Whatever is in sight and takes the focus by Tab is visited.
-            for (const QWidget* widget : s.window.findChildren<QWidget*>()) {
-                const bool isStop = widget->isVisible() && widget->isEnabled() && widget->focusProxy() == nullptr &&
-                                    (widget->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
-                const auto* choice = qobject_cast<const QAbstractButton*>(widget);
-                const bool isOneOfSeveral = choice != nullptr && choice->autoExclusive();
-                if (isStop && !isOneOfSeveral && (choice == nullptr || choice->group() == nullptr))
-                    QVERIFY2(visited.contains(widget), qPrintable(widget->objectName()));
-            }
-        }
     }
 };
 
