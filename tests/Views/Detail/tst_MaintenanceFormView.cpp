@@ -3,11 +3,8 @@
 #include "Cards.h"
 #include "ClippedTexts.h"
 #include "CostField.h"
-#include "DateField.h"
-#include "Gui.h"
 #include "Literals.h"
-#include "MaintenanceFormView.h"
-#include "RegisterFixture.h"
+#include "MaintenanceFormParts.h"
 #include "ScaledText.h"
 #include "TestRunner.h"
 #include "ToggleSwitch.h"
@@ -20,50 +17,9 @@
 using namespace abissora;
 using namespace abissora::test;
 
+using Shown = ShownMaintenanceForm;
+
 namespace {
-
-/// The form over a window.
-struct Shown
-{
-    explicit Shown(const std::optional<Maintenance>& editing = std::nullopt)
-    {
-        Equipment item = makeItem(1, u"Articolo"_s, EquipmentType::regulator, f.inDays(100));
-        if (editing)
-            item.maintenanceHistory = {*editing};
-        id = item.id;
-        f.equipment.addEquipment(item);
-        below.resize(1280, 1300);
-        below.show();
-        open(editing);
-    }
-
-    void open(const std::optional<Maintenance>& editing)
-    {
-        form = std::make_unique<MaintenanceFormView>(f.draft(id, editing), f.opener, &below);
-        form->open();
-        settle();
-    }
-    template <typename Field>
-    Field& field(const char* name)
-    {
-        return part<Field>(*form, QLatin1String(name));
-    }
-    void typeDate(const char* name, const QString& text)
-    {
-        auto& date = field<DateField>(name);
-        date.setFocus();
-        date.selectAll();
-        QTest::keyClicks(&date, text);
-        QTest::keyClick(&date, Qt::Key_Tab);
-    }
-    void save() { click(*form, u"primary"_s); }
-    [[nodiscard]] QList<Maintenance> history() const { return f.equipment.equipment().last().maintenanceHistory; }
-
-    RegisterFixture f;
-    QUuid id;
-    QWidget below;
-    std::unique_ptr<MaintenanceFormView> form;
-};
 
 EquipmentTypeModel typeCalled(const QString& name, int days)
 {

@@ -1,11 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "EquipmentFormView.h"
 #include "FormFields.h"
 #include "Gui.h"
+#include "RegisterFixture.h"
 
-/// The picker of the type in a form of an item.
+/// The form of a new item, and the picker of the type in the forms of an item.
 namespace abissora::test {
+
+/// The form over a window of the smallest size.
+struct OpenEquipmentForm
+{
+    explicit OpenEquipmentForm(RegisterFixture& f, QSize size = QSize(1000, 700))
+        : form((window.resize(size), window.show(), f.equipment), f.types, f.almanac, f.ids, std::nullopt, &window)
+    {
+        form.open();
+        activate(form);
+    }
+
+    QWidget window;
+    EquipmentFormView form;
+};
 
 /// With the arrow keys, as a closed picker takes them.
 inline void choose(const QWidget& form, const QString& typeName)

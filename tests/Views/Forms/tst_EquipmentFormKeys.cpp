@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Alert.h"
 #include "DateField.h"
-#include "EquipmentFormView.h"
 #include "FocusInSight.h"
+#include "FormParts.h"
 #include "Literals.h"
-#include "RegisterFixture.h"
 #include "ScrollPane.h"
 #include "TestRunner.h"
 #include "Theme.h"
@@ -16,23 +15,7 @@
 using namespace abissora;
 using namespace abissora::test;
 
-namespace {
-
-/// The form over a window of the smallest size.
-struct Open
-{
-    explicit Open(RegisterFixture& f, QSize size = QSize(1000, 700))
-        : form((window.resize(size), window.show(), f.equipment), f.types, f.almanac, f.ids, std::nullopt, &window)
-    {
-        form.open();
-        activate(form);
-    }
-
-    QWidget window;
-    EquipmentFormView form;
-};
-
-} // namespace
+using Open = OpenEquipmentForm;
 
 class tst_EquipmentFormKeys : public TestCase
 {

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "EquipmentFormView.h"
-#include "Literals.h"
-#include "ScaledText.h"
-
 #include "Alert.h"
 #include "Cards.h"
 #include "ClippedTexts.h"
 #include "DateField.h"
 #include "FormParts.h"
-#include "RegisterFixture.h"
+#include "Literals.h"
+#include "ScaledText.h"
 #include "TestRunner.h"
 #include "Theme.h"
 
@@ -18,21 +15,9 @@
 using namespace abissora;
 using namespace abissora::test;
 
+using Open = OpenEquipmentForm;
+
 namespace {
-
-/// The form over a window of the smallest size.
-struct Open
-{
-    explicit Open(RegisterFixture& f, QSize size = QSize(1000, 700))
-        : form((window.resize(size), window.show(), f.equipment), f.types, f.almanac, f.ids, std::nullopt, &window)
-    {
-        form.open();
-        activate(form);
-    }
-
-    QWidget window;
-    EquipmentFormView form;
-};
 
 QStringList visibleTexts(const QWidget& form)
 {
