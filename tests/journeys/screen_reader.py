@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 """What a screen reader is told while somebody searches and goes through the list: the focus stays in the search,
-what it leaves is counted, the first Down tells its row."""
+what it leaves is counted, the first Down tells its row. In the guide likewise."""
 
 from gi.repository import Atspi, GLib
 
@@ -67,4 +67,18 @@ def journey(run, data):
     ears.wait("the first row", lambda: ears.focused)
     role, name = ears.take_focused()[-1]
     assert role == Atspi.Role.TABLE_CELL and name.startswith("GAV Scubapro Hydros"), (role, name)
+
+    # In the guide the selection follows the search, the focus stays in it.
+    program.key("F1")
+    index = program.find_anywhere(Atspi.Role.TEXT, "Cerca nella guida…")
+    program.key("ctrl+f")
+    ears.wait("the focus in the guide's search", lambda: ("Cerca nella guida…" in [name for _, name in ears.focused]))
+    ears.take_focused()
+    program.type("domande")
+    until("the chapter", lambda: index.get_text(0, -1) == "domande")
+    ears.listen()
+    told = ears.take_focused()
+    assert not told, f"the guide's search lost the focus: {told}"
+    program.key("ctrl+w")
+    until("the end of the guide", lambda: len(program.windows()) == 1)
     program.close()
