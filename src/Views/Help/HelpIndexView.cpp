@@ -9,7 +9,6 @@
 #include "Literals.h"
 #include "Metrics.h"
 #include "Painting.h"
-#include "QuietFocus.h"
 #include "SearchField.h"
 #include "SheetWindow.h"
 #include "SymbolIcon.h"
@@ -68,7 +67,7 @@ HelpIndexView::HelpIndexView(HelpIndex& index, QWidget* parent)
     : QWidget(parent)
     , m_index(index)
     , m_search(new SearchField(u"Cerca nella guida…"_s))
-    , m_list(new QuietFocus<QListView>)
+    , m_list(new QListView)
     , m_noResult(new WrapLabel(TextStyle::Callout, &Tokens::secondaryText))
     , m_pages(new QStackedWidget)
 {

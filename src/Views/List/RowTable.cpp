@@ -28,7 +28,7 @@ void tellPlace(QTableView& table)
 } // namespace
 
 RowTable::RowTable(QWidget* parent)
-    : QuietFocus(parent)
+    : QTableView(parent)
 {
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
@@ -69,7 +69,11 @@ void RowTable::setHasKeyboard(bool has)
 
 void RowTable::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
-    QuietFocus::currentChanged(current, previous);
+    // The table's own tells screen readers that the cell has the focus, whoever has it; a list's does not.
+    if (hasFocus())
+        QTableView::currentChanged(current, previous);
+    else
+        QAbstractItemView::currentChanged(current, previous);
     viewport()->update(); // the ring goes round whole rows
     Q_EMIT placeChanged();
 }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "QuietFocus.h"
-
 #include <QTableView>
 
 namespace abissora {
@@ -10,7 +8,7 @@ namespace abissora {
 /// A table of which the rows are what a person works with: one of them is selected at a time, and the keyboard stands
 /// at one of them, selected or not. Home and End go to the first and the last row; the first Up or Down selects the
 /// row where the keyboard stands. A right click takes the keyboard there and selects nothing.
-class RowTable : public QuietFocus<QTableView>
+class RowTable : public QTableView
 {
     Q_OBJECT
 

@@ -154,7 +154,7 @@ QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QM
 
 SidebarView::SidebarView(EquipmentViewModel& equipment, const EquipmentTypeViewModel& types, Console& console,
                          QWidget* parent)
-    : QuietFocus(parent)
+    : QListView(parent)
     , m_equipment(equipment)
     , m_types(types)
     , m_selection(equipment, console)

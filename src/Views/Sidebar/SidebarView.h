@@ -2,7 +2,6 @@
 #pragma once
 
 #include "EquipmentTypeViewModel.h"
-#include "QuietFocus.h"
 #include "SidebarContent.h"
 #include "VisibleUpdate.h"
 
@@ -28,7 +27,7 @@ public:
 };
 
 /// Shows the selection of what the window is about, and lets the person choose another one.
-class SidebarView : public QuietFocus<QListView>
+class SidebarView : public QListView
 {
     Q_OBJECT
 
