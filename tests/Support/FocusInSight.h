@@ -7,6 +7,14 @@
 
 namespace abissora::test {
 
+/// The column "size": of the smallest window, and of the usual one.
+inline void addWindowSizes()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("smallest window") << QSize(1000, 700);
+    QTest::newRow("usual window") << QSize(1280, 800);
+}
+
 /// The part of the focused widget that a person has to see: the whole, or the cursor's line where it is taller than
 /// what it scrolls in.
 inline bool isFocusInSight(const QWidget& window)

@@ -282,12 +282,7 @@ private Q_SLOTS:
                                      u"lastServiceDate"_s, u"isActive"_s, u"notes"_s, u"cancel"_s, u"primary"_s}));
     }
 
-    void whatHasTheFocusIsInSight_data()
-    {
-        QTest::addColumn<QSize>("size");
-        QTest::newRow("smallest window") << QSize(1000, 700);
-        QTest::newRow("usual window") << QSize(1280, 800);
-    }
+    void whatHasTheFocusIsInSight_data() { addWindowSizes(); }
 
     void whatHasTheFocusIsInSight()
     {

@@ -15,12 +15,7 @@ class tst_TypeKeys : public TestCase
 private Q_SLOTS:
     void initTestCase() { applyTheme(*qApp, Scheme::Light); }
 
-    void whatHasTheFocusIsInSight_data()
-    {
-        QTest::addColumn<QSize>("size");
-        QTest::newRow("smallest window") << QSize(1000, 700);
-        QTest::newRow("usual window") << QSize(1280, 800);
-    }
+    void whatHasTheFocusIsInSight_data() { addWindowSizes(); }
 
     void whatHasTheFocusIsInSight()
     {
