@@ -3,9 +3,13 @@
 
 #include <QString>
 #include <QStringList>
+#include <optional>
 #include <tl/expected.hpp>
 
 namespace abissora {
+
+/// What is done without a window, and so without a screen.
+enum class Command { ListStates, Check, Restore };
 
 struct CommandLine
 {
@@ -13,15 +17,13 @@ struct CommandLine
     bool version = false;
     QString dataDir;  ///< empty when not given
     QString snapshot; ///< empty when not given
-    bool listStates = false;
-    bool check = false;
-    QString restore; ///< empty when not given
-
-    /// What is done without a window, and so without a screen.
-    [[nodiscard]] bool isCommand() const { return listStates || check || !restore.isEmpty(); }
+    std::optional<Command> command;
+    QString operand; ///< of the command: a state, a file; empty for one without
 
     /// `arguments` without the program's name. The error is a sentence for the person.
     [[nodiscard]] static tl::expected<CommandLine, QString> parse(const QStringList& arguments);
+    /// Whether they ask for a command, told before they are understood.
+    [[nodiscard]] static bool nameCommand(const QStringList& arguments);
 
     [[nodiscard]] static QString helpText();
     [[nodiscard]] static QString versionText();

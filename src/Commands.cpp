@@ -2,13 +2,12 @@
 #include "Commands.h"
 
 #include "CommandLine.h"
+#include "ExitStatus.h"
 #include "FolderLock.h"
 #include "Literals.h"
 #include "RegisterCheck.h"
 #include "RegisterStart.h"
 #include "StateContent.h"
-
-#include <cstdlib>
 
 namespace abissora {
 
@@ -61,25 +60,29 @@ public:
             const QString time = m_calendar.local(state.kept).toString(u"yyyy-MM-dd HH:mm"_s);
             say(m_streams.out, state.name + u'\t' + time + u'\t' + counts(readContent(state)));
         }
-        return EXIT_SUCCESS;
+        return exitStatus::done;
     }
 
     int restore(const QString& name)
     {
         if (const auto permitted = m_lock.mayWrite(); !permitted) {
-            const bool isOpen = m_lock.acquire() == FolderLock::Outcome::HeldByAnother;
-            return fail(isOpen ? u"Abissora è aperta su questo registro: va chiusa prima di ripristinare."_s
-                               : u"Il registro non si può modificare: %1"_s.arg(permitted.error().reason));
+            if (m_lock.acquire() == FolderLock::Outcome::HeldByAnother)
+                return fail(exitStatus::tryAgain,
+                            u"Abissora è aperta su questo registro: va chiusa prima di ripristinare."_s);
+            return fail(exitStatus::cannotCreate,
+                        u"Il registro non si può modificare: %1"_s.arg(permitted.error().reason));
         }
         clearUp(m_directories, m_generations);
         const auto state = m_generations.find(name);
         if (!state)
-            return fail(u"Nessuno stato si chiama «%1». Con «--list-states» l'elenco."_s.arg(name));
+            return fail(exitStatus::noInput,
+                        u"Nessuno stato si chiama «%1». Con «--list-states» l'elenco."_s.arg(name));
         if (const auto restored = Restoration(m_directories, m_generations).restore(*state); !restored)
-            return fail(u"Non è stato possibile ripristinare «%1»: %2"_s.arg(name, restored.error().reason));
+            return fail(exitStatus::badData,
+                        u"Non è stato possibile ripristinare «%1»: %2"_s.arg(name, restored.error().reason));
         settleDocuments();
         say(m_streams.out, u"Ripristinato lo stato «%1»."_s.arg(name));
-        return EXIT_SUCCESS;
+        return exitStatus::done;
     }
 
     int check() const
@@ -88,14 +91,14 @@ public:
         for (const QString& problem : report.problems)
             say(m_streams.out, problem);
         say(m_streams.out, (report.problems.isEmpty() ? u"Tutto in ordine: "_s : u"Letti: "_s) + report.summary);
-        return report.problems.isEmpty() ? EXIT_SUCCESS : EXIT_FAILURE;
+        return report.problems.isEmpty() ? exitStatus::done : exitStatus::found;
     }
 
 private:
-    int fail(const QString& sentence) const
+    int fail(int status, const QString& sentence) const
     {
         say(m_streams.error, sentence);
-        return EXIT_FAILURE;
+        return status;
     }
 
     void settleDocuments()
@@ -119,11 +122,15 @@ private:
 int runCommand(const CommandLine& commandLine, const ApplicationDirectories& directories, const CommandStreams& streams)
 {
     Commands commands(directories, streams);
-    if (commandLine.check)
+    switch (commandLine.command.value()) {
+    case Command::Check:
         return commands.check();
-    if (commandLine.listStates)
+    case Command::ListStates:
         return commands.listStates();
-    return commands.restore(commandLine.restore);
+    case Command::Restore:
+        return commands.restore(commandLine.operand);
+    }
+    return exitStatus::usage;
 }
 
 } // namespace abissora

@@ -3,6 +3,7 @@
 
 #include "CommandLine.h"
 #include "Commands.h"
+#include "ExitStatus.h"
 #include "FolderLock.h"
 #include "Literals.h"
 #include "MainWindow.h"
@@ -36,9 +37,6 @@ int fail(const QString& sentence)
     return EXIT_FAILURE;
 }
 
-/// Exit status of a program that found no screen to open its window on.
-constexpr int noDisplayStatus = 69;
-
 QString noDisplayText()
 {
     return u"Abissora non trova uno schermo su cui aprire la finestra; con «--snapshot FILE» la disegna "
@@ -63,7 +61,7 @@ void explainMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/
 {
     if (type == QtFatalMsg) {
         std::fputs(qUtf8Printable(noDisplayText()), stderr);
-        std::_Exit(noDisplayStatus);
+        std::_Exit(exitStatus::unavailable);
     }
     // What the toolkit says on its way there is no help to the person.
     if (!message.contains("qt.qpa"_L1) && !message.contains("platform plugin"_L1) &&
@@ -112,16 +110,10 @@ ApplicationDirectories directoriesFor(const CommandLine& commandLine)
     return chosen.isEmpty() ? ApplicationDirectories::standard() : ApplicationDirectories(chosen, true);
 }
 
-bool asksForCommand(const QStringList& arguments)
-{
-    return std::ranges::any_of(arguments, [](const QString& argument) {
-        return argument == "--check"_L1 || argument == "--list-states"_L1 || argument.startsWith("--restore"_L1);
-    });
-}
-
 int failToParse(const QString& sentence)
 {
-    return fail(sentence + u" Con «--help» l'elenco delle opzioni."_s);
+    fail(sentence + u" Con «--help» l'elenco delle opzioni."_s);
+    return exitStatus::usage;
 }
 
 int runWithoutScreen(const QStringList& arguments)
@@ -199,14 +191,14 @@ int runProgram(int argc, char** argv, const Product& product)
     const QStringList arguments = rawArguments(argc, argv);
     if (answered(arguments))
         return EXIT_SUCCESS;
-    if (asksForCommand(arguments))
+    if (CommandLine::nameCommand(arguments))
         return runWithoutScreen(arguments);
     if (!hasDisplay(arguments)) {
         const bool drawsToFile = std::ranges::any_of(
             arguments, [](const QString& argument) { return argument.startsWith("--snapshot"_L1); });
         if (!drawsToFile) {
             say(stderr, noDisplayText());
-            return noDisplayStatus;
+            return exitStatus::unavailable;
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }

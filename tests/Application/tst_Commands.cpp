@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 #include "Commands.h"
+#include "ExitStatus.h"
 #include "FolderLock.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
@@ -44,7 +45,7 @@ private Q_SLOTS:
         test::TemporaryRegister files;
         const QString name = keepOne(files);
         const Outcome answer = run(files, {u"--list-states"_s});
-        QCOMPARE(answer.status, EXIT_SUCCESS);
+        QCOMPARE(answer.status, exitStatus::done);
         QVERIFY(answer.out.startsWith(name + u'\t'));
         QVERIFY(answer.out.endsWith(u"articoli: 1, manutenzioni: 1\n"_s));
         QCOMPARE(answer.error, QString());
@@ -57,7 +58,7 @@ private Q_SLOTS:
         const QString name = keepOne(files);
         files.documents.deleteDocument(document);
         const Outcome answer = run(files, {u"--restore"_s, name});
-        QCOMPARE(answer.status, EXIT_SUCCESS);
+        QCOMPARE(answer.status, exitStatus::done);
         QCOMPARE(answer.out, u"Ripristinato lo stato «%1».\n"_s.arg(name));
         QCOMPARE(decodeEquipment(files.content(test::registerFile)).value().size(), 1);
         QCOMPARE(files.names(u"MaintenanceDocuments"_s), QStringList{document});
@@ -69,7 +70,7 @@ private Q_SLOTS:
         test::TemporaryRegister files;
         keepOne(files);
         const Outcome answer = run(files, {u"--restore"_s, u"../x"_s});
-        QCOMPARE(answer.status, EXIT_FAILURE);
+        QCOMPARE(answer.status, exitStatus::noInput);
         QVERIFY(answer.error.startsWith(u"Nessuno stato si chiama «../x»."_s));
         QCOMPARE(files.content(test::registerFile), QByteArray("[]"));
     }
@@ -81,10 +82,10 @@ private Q_SLOTS:
         FolderLock lock(files.directories.root());
         QCOMPARE(lock.acquire(), FolderLock::Outcome::Held);
         const Outcome answer = run(files, {u"--restore"_s, name});
-        QCOMPARE(answer.status, EXIT_FAILURE);
+        QCOMPARE(answer.status, exitStatus::tryAgain);
         QVERIFY(answer.error.contains(u"è aperta su questo registro"_s));
         QCOMPARE(files.content(test::registerFile), QByteArray("[]"));
-        QCOMPARE(run(files, {u"--check"_s}).status, EXIT_FAILURE); // reads all the same
+        QCOMPARE(run(files, {u"--check"_s}).status, exitStatus::found); // reads all the same
     }
 
     void aCheckEndsWithWhatItFound()
@@ -92,11 +93,11 @@ private Q_SLOTS:
         test::TemporaryRegister files;
         files.write(test::registerFile, "[]");
         const Outcome well = run(files, {u"--check"_s});
-        QCOMPARE(well.status, EXIT_SUCCESS);
+        QCOMPARE(well.status, exitStatus::done);
         QVERIFY(well.out.startsWith(u"Tutto in ordine: 0 articoli"_s));
         files.write(test::registerFile, "[5]");
         const Outcome ill = run(files, {u"--check"_s});
-        QCOMPARE(ill.status, EXIT_FAILURE);
+        QCOMPARE(ill.status, exitStatus::found);
         QVERIFY(ill.out.startsWith(u"savedEquipment.json: valore danneggiato: [0]: expected an object"_s));
     }
 
@@ -104,8 +105,8 @@ private Q_SLOTS:
     {
         QVERIFY(!CommandLine::parse({u"--check"_s, u"--list-states"_s}));
         QVERIFY(!CommandLine::parse({u"--restore"_s, QString()}));
-        QVERIFY(CommandLine::parse({u"--restore"_s, u"x"_s})->isCommand());
-        QVERIFY(!CommandLine::parse({u"--snapshot"_s, u"x"_s})->isCommand());
+        QCOMPARE(CommandLine::parse({u"--restore"_s, u"x"_s})->command, Command::Restore);
+        QVERIFY(!CommandLine::parse({u"--snapshot"_s, u"x"_s})->command);
     }
 
 private:

@@ -89,8 +89,17 @@ public:
         m_requests.append(request);
         if (m_meanwhile)
             m_meanwhile();
-        return m_answers.isEmpty() ? std::nullopt : m_answers.takeFirst();
+        return next();
     }
+    /// An answer is a path; the format follows its name.
+    [[nodiscard]] std::optional<SaveTarget> pickTarget(const SavePanelRequest& request) override
+    {
+        m_saveRequests.append(request);
+        const std::optional<QString> path = next();
+        return path ? std::optional(saveTarget(*path, request.formats, m_format)) : std::nullopt;
+    }
+    /// The one selected in the panel for a file that is to be written.
+    void selectFormat(qsizetype format) { m_format = format; }
     [[nodiscard]] bool beginAccess(const QString& path) override
     {
         m_begun.append(path);
@@ -99,14 +108,19 @@ public:
     void endAccess(const QString& path) override { m_ended.append(path); }
 
     [[nodiscard]] const QList<FilePanelRequest>& requests() const { return m_requests; }
+    [[nodiscard]] const QList<SavePanelRequest>& saveRequests() const { return m_saveRequests; }
     /// The paths for which access was asked and given back, in order.
     [[nodiscard]] const QStringList& begun() const { return m_begun; }
     [[nodiscard]] const QStringList& ended() const { return m_ended; }
     [[nodiscard]] qsizetype unusedAnswers() const { return m_answers.size(); }
 
 private:
+    std::optional<QString> next() { return m_answers.isEmpty() ? std::nullopt : m_answers.takeFirst(); }
+
     QList<std::optional<QString>> m_answers;
     QList<FilePanelRequest> m_requests;
+    QList<SavePanelRequest> m_saveRequests;
+    qsizetype m_format = 0;
     QStringList m_begun;
     QStringList m_ended;
     std::function<void()> m_meanwhile;

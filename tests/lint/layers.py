@@ -13,6 +13,7 @@ STOREYS = [
     ["Services"],
     ["ViewModels"],
     ["Presentation"],
+    ["Exchange"],
     ["Theme"],
     ["Components"],
     ["Screen", "Desktop"],
@@ -25,8 +26,8 @@ STOREYS = [
 STOREY = {room: number for number, rooms in enumerate(STOREYS) for room in rooms}
 INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)')
 
-# Folders of QtCore's and QtNetwork's headers; lint.py sets them from the command line.
-QT_HEADERS: dict[str, list[Path]] = {"QtCore": [], "QtNetwork": []}
+# Folders of the headers of QtCore, QtGui and QtNetwork; lint.py sets them from the command line.
+QT_HEADERS: dict[str, list[Path]] = {"QtCore": [], "QtGui": [], "QtNetwork": []}
 
 
 def room_of(source):
@@ -55,8 +56,8 @@ def includes(source):
 
 
 @rule("layers", lambda source: source.is_cpp and source.is_under("src"), """
-Includes point downward only: Platform <- Models <- Services <- ViewModels <- Presentation <- Views <- MarevoloApp, and
-within Views Theme <- Components <- Screen, Desktop <- List, Sidebar, Forms, Help, Types <- Detail, Settings <- Overview
+Includes point downward only: Platform <- Models <- Services <- ViewModels <- Presentation <- Exchange <- Views <- MarevoloApp,
+and within Views Theme <- Components <- Screen, Desktop <- List, Sidebar, Forms, Help, Types <- Detail, Settings <- Overview
 <- Shell; rooms of one storey know nothing of one another. They name a header by its plain file name, which is therefore
 unique. What is below can then be understood, tested and reused without what is above. Fix: move the shared part down,
 emit a signal, or let the lower room declare a small interface (as Platform/FilePanel.h) or take a function, which the
@@ -86,7 +87,7 @@ def check_layers(sources):
 
 
 def module_of(header):
-    """The Qt module that provides a header, "other" for one that is neither QtCore nor QtNetwork, None if not Qt's."""
+    """The Qt module that provides a header, "other" for one that is not in QT_HEADERS, None if not Qt's."""
     module, _, name = header.rpartition("/")
     if module.startswith("Qt"):
         return module if module in QT_HEADERS else "other"
@@ -98,8 +99,8 @@ def module_of(header):
 
 
 @rule("qt-modules", is_below_views, """
-Below Views only Qt Core is used, and Qt Network in Platform/*HttpClient* alone: records, services and state objects run
-without a screen, in tests and tools. Fix: name colours and symbols (Models/NamedColor.h) and turn them into a QColor or
+Below Views only Qt Core is used, Qt Network in Platform/*HttpClient* alone, and Qt Gui in Exchange, which sets pages:
+records, services and state objects run without a screen, in tests and tools. Fix: name colours and symbols (Models/NamedColor.h) and turn them into a QColor or
 a picture in Views/Theme; reach the network through Platform/HttpClient.h.
 """)
 def check_qt_modules(sources):
@@ -111,6 +112,8 @@ def check_qt_modules(sources):
                 yield Finding(source.path, number, f"includes <{name}>, which is no header of Qt Core.")
             elif module == "QtNetwork" and not is_http_client:
                 yield Finding(source.path, number, f"includes <{name}> of Qt Network outside Platform/HttpClient.")
+            elif module == "QtGui" and room_of(source) != "Exchange":
+                yield Finding(source.path, number, f"includes <{name}>, which is no header of Qt Core.")
 
 
 pattern_rule("boundaries", is_below_views, """

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""lint.py --root TREE [--qt-core FOLDER...] [--qt-network FOLDER...] RULE: checks one rule, prints what breaks it."""
+"""lint.py --root TREE [--qt-core FOLDER...] [--qt-gui FOLDER...] [--qt-network FOLDER...] RULE: checks one rule, prints what breaks it."""
 
 import argparse
 import sys
@@ -16,9 +16,10 @@ def main():
     parser.add_argument("rule", choices=sorted(RULES))
     parser.add_argument("--root", required=True, type=Path)
     parser.add_argument("--qt-core", nargs="+", default=[], type=Path)
+    parser.add_argument("--qt-gui", nargs="+", default=[], type=Path)
     parser.add_argument("--qt-network", nargs="+", default=[], type=Path)
     options = parser.parse_args()
-    layers.QT_HEADERS.update(QtCore=options.qt_core, QtNetwork=options.qt_network)
+    layers.QT_HEADERS.update(QtCore=options.qt_core, QtGui=options.qt_gui, QtNetwork=options.qt_network)
 
     rule, tree = RULES[options.rule], Tree(options.root)
     if not rule.sources(tree):

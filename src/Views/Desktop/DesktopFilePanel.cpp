@@ -3,6 +3,7 @@
 
 #include "Alert.h"
 #include "Assembly.h"
+#include "Buttons.h"
 #include "DateFormat.h"
 #include "FilePanelModel.h"
 #include "Labels.h"
@@ -28,8 +29,12 @@ constexpr QSize leastSize(820, 540);
 QString filterFor(const QString& contentType)
 {
     const QMimeType type = QMimeDatabase().mimeTypeForName(contentType);
-    const QString name = contentType == "application/pdf"_L1 ? u"Documenti PDF"_s : type.comment();
-    return u"%1 (%2)"_s.arg(name, type.globPatterns().join(u' '));
+    static const QHash<QString, QString> names{
+        {u"application/pdf"_s, u"Documenti PDF"_s}, {u"application/zip"_s, u"Copie del registro"_s},
+        {u"application/json"_s, u"Registri"_s},     {u"text/csv"_s, u"Tabelle CSV"_s},
+        {u"text/plain"_s, u"File di testo"_s},
+    };
+    return u"%1 (%2)"_s.arg(names.value(contentType, type.comment()), type.globPatterns().join(u' '));
 }
 
 bool accepts(const FilePanelRequest& request, const QString& path)
@@ -37,53 +42,35 @@ bool accepts(const FilePanelRequest& request, const QString& path)
     return request.accepts == nullptr || request.accepts(path);
 }
 
-/// Stays open when what was chosen is refused.
-class OpenDialog final : public QFileDialog
+} // namespace
+
+/// The toolkit's dialog with what the program adds to it, or the platform's own.
+class PanelDialog : public QFileDialog
 {
 public:
-    OpenDialog(QWidget* parent, const FilePanelRequest& request)
-        : QFileDialog(parent, request.title)
-        , m_request(request)
+    PanelDialog(QWidget* parent, const QString& title, const QString& message)
+        : QFileDialog(parent, title)
     {
-        QStringList filters;
-        for (const QString& type : request.contentTypes)
-            filters.append(filterFor(type));
-        setAcceptMode(AcceptOpen);
-        setFileMode(ExistingFile);
-        setNameFilters(filters);
-        setLabelText(Accept, request.confirmLabel);
         // A dialog of the platform's own has no line for a message: it is only the description there.
-        setAccessibleDescription(request.message);
+        setAccessibleDescription(message);
         // Files are chosen here, not renamed or deleted.
         setOption(ReadOnly);
         if (isOwn())
-            furnish();
+            furnish(message);
     }
 
 protected:
-    void accept() override
-    {
-        const QStringList files = selectedFiles();
-        const bool chosen = !files.isEmpty() && QFileInfo(files.first()).exists() && !QFileInfo(files.first()).isDir();
-        // A dialog of the platform's own has closed by now.
-        if (isOwn() && chosen && !accepts(m_request, files.first()))
-            Alert::notice(this, windowTitle(), m_request.refusal);
-        else
-            QFileDialog::accept();
-    }
-
-private:
     /// The toolkit's, not the platform's.
     [[nodiscard]] bool isOwn() const { return findChild<QWidget*>(u"fileNameEdit"_s) != nullptr; }
-    void furnish();
-    void addMessage();
 
-    const FilePanelRequest& m_request;
+private:
+    void furnish(const QString& message);
+    void addMessage(const QString& message);
 };
 
-void OpenDialog::furnish()
+void PanelDialog::furnish(const QString& message)
 {
-    addMessage();
+    addMessage(message);
     setProxyModel(new FilePanelModel(DateFormat::userLocale(), this));
     if (auto* list = findChild<QTreeView*>(u"treeView"_s)) {
         list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -97,7 +84,7 @@ void OpenDialog::furnish()
     resize(size().expandedTo(leastSize));
 }
 
-void OpenDialog::addMessage()
+void PanelDialog::addMessage(const QString& message)
 {
     auto* grid = qobject_cast<QGridLayout*>(layout());
     if (grid == nullptr)
@@ -115,11 +102,113 @@ void OpenDialog::addMessage()
         cells.append(cell);
     }
     const int columns = grid->columnCount();
-    auto* message = named(new WrapLabel(TextStyle::BodyMedium, &Tokens::text, m_request.message), u"message");
-    grid->addWidget(message, 0, 0, 1, columns);
+    auto* line = named(new WrapLabel(TextStyle::BodyMedium, &Tokens::text, message), u"message");
+    grid->addWidget(line, 0, 0, 1, columns);
     for (const Cell& cell : cells)
         grid->addItem(cell.item, cell.row + 1, cell.column, cell.rows, cell.columns, cell.item->alignment());
 }
+
+namespace {
+
+/// Stays open when what was chosen is refused.
+class OpenDialog final : public PanelDialog
+{
+public:
+    OpenDialog(QWidget* parent, const FilePanelRequest& request)
+        : PanelDialog(parent, request.title, request.message)
+        , m_request(request)
+    {
+        QStringList filters;
+        for (const QString& type : request.contentTypes)
+            filters.append(filterFor(type));
+        setAcceptMode(AcceptOpen);
+        setFileMode(ExistingFile);
+        setNameFilters(filters);
+        setLabelText(Accept, request.confirmLabel);
+    }
+
+protected:
+    void accept() override
+    {
+        const QStringList files = selectedFiles();
+        const bool chosen = !files.isEmpty() && QFileInfo(files.first()).exists() && !QFileInfo(files.first()).isDir();
+        // A dialog of the platform's own has closed by now.
+        if (isOwn() && chosen && !accepts(m_request, files.first()))
+            Alert::notice(this, windowTitle(), m_request.refusal);
+        else
+            QFileDialog::accept();
+    }
+
+private:
+    const FilePanelRequest& m_request;
+};
+
+/// Asks in the program's own words before a file is replaced.
+class SaveDialog final : public PanelDialog
+{
+public:
+    SaveDialog(QWidget* parent, const SavePanelRequest& request)
+        : PanelDialog(parent, request.title, request.message)
+        , m_formats(request.formats)
+    {
+        for (const SaveFormat& format : m_formats)
+            m_filters.append(u"%1 (*.%2)"_s.arg(format.name, format.suffix));
+        setAcceptMode(AcceptSave);
+        setFileMode(AnyFile);
+        setNameFilters(m_filters);
+        setLabelText(Accept, request.confirmLabel);
+        selectFile(request.suggestedName + u'.' + m_formats.first().suffix);
+        // The platform's own dialogs ask by themselves.
+        setOption(DontConfirmOverwrite, isOwn());
+        connect(this, &QFileDialog::filterSelected, this, &SaveDialog::renameForFormat);
+    }
+
+    [[nodiscard]] SaveTarget target() const
+    {
+        const qsizetype selected = m_filters.indexOf(selectedNameFilter());
+        return saveTarget(selectedFiles().value(0), m_formats, std::max<qsizetype>(selected, 0));
+    }
+
+protected:
+    void accept() override
+    {
+        const QFileInfo chosen(selectedFiles().value(0));
+        const QFileInfo file(target().path);
+        if (!isOwn() || chosen.isDir() || chosen.fileName().isEmpty())
+            QFileDialog::accept();
+        else if (!file.dir().exists())
+            Alert::notice(this, windowTitle(), u"La cartella «%1» non esiste."_s.arg(file.path()));
+        else if (file.isDir())
+            Alert::notice(this, windowTitle(), u"«%1» è una cartella."_s.arg(file.fileName()));
+        else if (file.exists())
+            askToReplace(file.fileName());
+        else
+            QFileDialog::accept();
+    }
+
+private:
+    void askToReplace(const QString& name)
+    {
+        Alert* alert = Alert::ask(this, windowTitle(), u"Esiste già un file di nome «%1». Sostituirlo?"_s.arg(name),
+                                  [this] { QFileDialog::accept(); });
+        alert->destructiveButton()->setText(u"Sostituisci"_s);
+    }
+
+    /// A format that is selected gives the name its suffix in the place of another one's.
+    void renameForFormat(const QString& filter)
+    {
+        const qsizetype format = m_filters.indexOf(filter);
+        const QFileInfo chosen(selectedFiles().value(0));
+        const bool hasOne = std::ranges::any_of(m_formats, [&chosen](const SaveFormat& known) {
+            return chosen.suffix().compare(known.suffix, Qt::CaseInsensitive) == 0;
+        });
+        if (format >= 0 && hasOne)
+            selectFile(chosen.completeBaseName() + u'.' + m_formats.at(format).suffix);
+    }
+
+    QList<SaveFormat> m_formats;
+    QStringList m_filters;
+};
 
 /// Nothing when the person gave up. A dialog of the platform's own opens again for as long as its choice is refused.
 std::optional<QString> choiceOf(OpenDialog& dialog, const FilePanelRequest& request)
@@ -135,9 +224,8 @@ std::optional<QString> choiceOf(OpenDialog& dialog, const FilePanelRequest& requ
 
 } // namespace
 
-std::optional<QString> DesktopFilePanel::pickFile(const FilePanelRequest& request)
+void DesktopFilePanel::openAtLastFolder(PanelDialog& dialog) const
 {
-    OpenDialog dialog(QApplication::activeWindow(), request);
     for (const QString& folder :
          {m_lastFolder, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), QDir::homePath()}) {
         if (!folder.isEmpty() && QFileInfo(folder).isDir()) {
@@ -145,10 +233,26 @@ std::optional<QString> DesktopFilePanel::pickFile(const FilePanelRequest& reques
             break;
         }
     }
+}
+
+std::optional<QString> DesktopFilePanel::pickFile(const FilePanelRequest& request)
+{
+    OpenDialog dialog(QApplication::activeWindow(), request);
+    openAtLastFolder(dialog);
     auto chosen = choiceOf(dialog, request);
     if (chosen)
         m_lastFolder = dialog.directory().path();
     return chosen;
+}
+
+std::optional<SaveTarget> DesktopFilePanel::pickTarget(const SavePanelRequest& request)
+{
+    SaveDialog dialog(QApplication::activeWindow(), request);
+    openAtLastFolder(dialog);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    m_lastFolder = dialog.directory().path();
+    return dialog.target();
 }
 
 } // namespace abissora

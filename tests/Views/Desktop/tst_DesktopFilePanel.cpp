@@ -2,9 +2,11 @@
 #include "DesktopFilePanel.h"
 
 #include "Alert.h"
+#include "Buttons.h"
 #include "ComponentTest.h"
 #include "Literals.h"
 
+#include <QComboBox>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -38,16 +40,16 @@ public:
 
     std::optional<QString> pick(const Steps& steps)
     {
-        QTimer::singleShot(0, &m_window, [&] {
-            QWidget* const modal = QApplication::activeModalWidget();
-            auto* const dialog = qobject_cast<QFileDialog*>(modal);
-            if (dialog == nullptr || !QTest::qWaitForWindowActive(dialog))
-                qFatal("no file dialog");
-            steps(*dialog);
-            if (dialog->isVisible())
-                dialog->reject();
-        });
+        goThrough(steps);
         return m_panel.pickFile(m_request);
+    }
+    std::optional<SaveTarget> save(const Steps& steps)
+    {
+        goThrough([&](QFileDialog& dialog) {
+            dialog.setDirectory(m_folder.path());
+            steps(dialog);
+        });
+        return m_panel.pickTarget(m_saveRequest);
     }
     QString write(const QString& name, const QByteArray& bytes) const
     {
@@ -60,11 +62,29 @@ public:
     FilePanelRequest& request() { return m_request; }
 
 private:
+    void goThrough(const Steps& steps)
+    {
+        QTimer::singleShot(0, &m_window, [steps] {
+            QWidget* const modal = QApplication::activeModalWidget();
+            auto* const dialog = qobject_cast<QFileDialog*>(modal);
+            if (dialog == nullptr || !QTest::qWaitForWindowActive(dialog))
+                qFatal("no file dialog");
+            steps(*dialog);
+            if (dialog->isVisible())
+                dialog->reject();
+        });
+    }
+
     QTemporaryDir m_folder;
     QWidget m_window;
     DesktopFilePanel m_panel;
     FilePanelRequest m_request{u"Scegli"_s,   u"Scegli un file"_s,         u"Allega"_s, {u"application/pdf"_s},
                                beginsWithYes, u"Non è un documento PDF."_s};
+    SavePanelRequest m_saveRequest{u"Esporta"_s,
+                                   u"Scegli dove"_s,
+                                   u"Salva"_s,
+                                   u"registro"_s,
+                                   {{u"Articoli"_s, u"csv"_s}, {u"Calendario"_s, u"ics"_s}}};
 };
 
 void choose(QFileDialog& dialog, const QString& path)
@@ -77,6 +97,11 @@ void choose(QFileDialog& dialog, const QString& path)
         qFatal("the file dialog's field has no focus");
     field.setText(path);
     QTest::keyClick(&field, Qt::Key_Return);
+}
+
+QString nameIn(const QFileDialog& dialog)
+{
+    return existing<QLineEdit>(dialog, u"fileNameEdit"_s).text();
 }
 
 /// Gives the text of the notice and closes it.
@@ -249,6 +274,71 @@ private Q_SLOTS:
             QVERIFY(!isShown(dialog, u"newFolderButton"));
         }));
         QVERIFY(QFile::exists(path));
+    }
+
+    void aNewFileIsNamedAndItsNameTellsTheFormat()
+    {
+        Asked a;
+        QString offered;
+        const auto target = a.save([&](QFileDialog& dialog) {
+            offered = nameIn(dialog);
+            choose(dialog, a.path(u"date.ics"_s));
+        });
+        QCOMPARE(offered, u"registro.csv"_s);
+        QCOMPARE(target, std::optional(SaveTarget{a.path(u"date.ics"_s), 1}));
+    }
+
+    void aSelectedFormatGivesItsSuffix()
+    {
+        Asked a;
+        QString name;
+        const auto target = a.save([&](QFileDialog& dialog) {
+            auto& formats = part<QComboBox>(dialog, u"fileTypeCombo");
+            formats.setFocus();
+            QTest::keyClick(&formats, Qt::Key_Down);
+            name = nameIn(dialog);
+            choose(dialog, a.path(u"senza"_s));
+        });
+        QCOMPARE(name, u"registro.ics"_s);
+        QCOMPARE(target, std::optional(SaveTarget{a.path(u"senza.ics"_s), 1}));
+    }
+
+    void aFileIsReplacedOnlyWhenThePersonSaysSo()
+    {
+        Asked a;
+        a.write(u"registro.csv"_s, "yes");
+        QStringList questions;
+        const auto kept = a.save([&](QFileDialog& dialog) {
+            choose(dialog, a.path(u"registro"_s)); // without the suffix that it gets
+            questions.append(dismissNotice(dialog));
+        });
+        QCOMPARE(kept, std::nullopt);
+        QCOMPARE(questions, QStringList{u"Esiste già un file di nome «registro.csv». Sostituirlo?"_s});
+        const auto replaced = a.save([&](QFileDialog& dialog) {
+            choose(dialog, a.path(u"registro.csv"_s));
+            auto* const question = findDialog<Alert>(dialog);
+            QVERIFY(question != nullptr);
+            QCOMPARE(question->destructiveButton()->text(), u"Sostituisci"_s);
+            QTest::mouseClick(question->destructiveButton(), Qt::LeftButton);
+            settle();
+        });
+        QCOMPARE(replaced, std::optional(SaveTarget{a.path(u"registro.csv"_s), 0}));
+    }
+
+    void aNewFileLiesInAFolderThatExists()
+    {
+        Asked a;
+        QVERIFY(QDir().mkdir(a.path(u"x.csv"_s)));
+        QStringList notices;
+        const auto target = a.save([&](QFileDialog& dialog) {
+            for (const auto& name : {u"nessuna/registro.csv"_s, u"x"_s}) {
+                choose(dialog, a.path(name));
+                notices.append(dismissNotice(dialog));
+            }
+        });
+        QCOMPARE(target, std::nullopt);
+        QCOMPARE(notices, QStringList({u"La cartella «%1» non esiste."_s.arg(a.path(u"nessuna"_s)),
+                                       u"«x.csv» è una cartella."_s}));
     }
 
     void opensWhereTheLastFileWas()
