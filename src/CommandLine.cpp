@@ -5,6 +5,7 @@
 #include "PackageInformation.h"
 
 #include <QCommandLineParser>
+#include <QRegularExpression>
 
 namespace abissora {
 
@@ -20,12 +21,26 @@ struct CommandOption
 const QList<CommandOption>& commandOptions()
 {
     static const QList<CommandOption> all{
-        {Command::ListStates, u"list-states"_s, {}},
-        {Command::Check, u"check"_s, {}},
-        {Command::Restore, u"restore"_s, u"STATO"_s},
+        {Command::ListStates, u"list-states"_s, {}},  {Command::Check, u"check"_s, {}},
+        {Command::Restore, u"restore"_s, u"STATO"_s}, {Command::Export, u"export"_s, u"FILE"_s},
+        {Command::Import, u"import"_s, u"FILE"_s},    {Command::Due, u"due"_s, {}},
     };
     return all;
 }
+
+/// Options that say more of one command.
+const QList<CommandOption>& sideOptions()
+{
+    static const QList<CommandOption> all{
+        {Command::Export, u"what"_s, u"TABELLA"_s},
+        {Command::Import, u"yes"_s, {}},
+        {Command::Due, u"json"_s, {}},
+    };
+    return all;
+}
+
+const QString itemsTable = u"articoli"_s;
+const QString recordsTable = u"manutenzioni"_s;
 
 /// The options of the command line, and what an argument list says with them.
 class Parser
@@ -35,6 +50,8 @@ public:
     {
         m_parser.addOptions({m_help, m_version, m_dataDir, m_snapshot});
         for (const CommandOption& option : commandOptions())
+            m_parser.addOption(QCommandLineOption(option.name, {}, option.operand));
+        for (const CommandOption& option : sideOptions())
             m_parser.addOption(QCommandLineOption(option.name, {}, option.operand));
         m_isUnderstood = m_parser.parse(QStringList{u"abissora"_s} + arguments);
     }
@@ -55,10 +72,18 @@ public:
             if (!option.operand.isEmpty())
                 line.operand = m_parser.value(option.name);
         }
+        line.records = m_parser.value(u"what"_s) == recordsTable;
+        line.yes = m_parser.isSet(u"yes"_s);
+        line.json = m_parser.isSet(u"json"_s);
+        if (const QStringList days = operands(); !days.isEmpty())
+            line.days = days.first().toInt();
         return line;
     }
 
 private:
+    /// What stands beside the options: the days of «--due».
+    [[nodiscard]] QStringList operands() const { return m_parser.positionalArguments(); }
+
     /// Empty when there is none.
     [[nodiscard]] QString firstError() const
     {
@@ -66,8 +91,13 @@ private:
             return u"Opzione sconosciuta: «%1»."_s.arg(unknown.first());
         if (!m_isUnderstood)
             return u"A un'opzione manca il suo valore, o ne ha uno di troppo."_s;
-        if (const QStringList rest = m_parser.positionalArguments(); !rest.isEmpty())
-            return u"Argomento inatteso: «%1»."_s.arg(rest.first());
+        const QStringList rest = operands();
+        const qsizetype allowed = m_parser.isSet(u"due"_s) ? 1 : 0;
+        if (rest.size() > allowed)
+            return u"Argomento inatteso: «%1»."_s.arg(rest.at(allowed));
+        static const QRegularExpression number(u"^[0-9]{1,6}$"_s);
+        if (!rest.isEmpty() && !number.match(rest.first()).hasMatch())
+            return u"«%1» non è un numero di giorni."_s.arg(rest.first());
         for (const QString& name : m_parser.optionNames()) {
             if (m_parser.values(name).contains(QString()))
                 return u"L'opzione «--%1» ha un valore vuoto."_s.arg(name);
@@ -75,6 +105,14 @@ private:
         const auto isSet = [this](const CommandOption& option) { return m_parser.isSet(option.name); };
         if (std::ranges::count_if(commandOptions(), isSet) + (m_parser.isSet(m_snapshot) ? 1 : 0) > 1)
             return u"Due comandi insieme non si possono eseguire."_s;
+        for (const CommandOption& option : sideOptions()) {
+            const auto command = std::ranges::find(commandOptions(), option.command, &CommandOption::command);
+            if (m_parser.isSet(option.name) && !isSet(*command))
+                return u"L'opzione «--%1» va insieme a «--%2»."_s.arg(option.name, command->name);
+        }
+        const QString table = m_parser.value(u"what"_s);
+        if (!table.isEmpty() && table != itemsTable && table != recordsTable)
+            return u"«--what» vuole «%1» o «%2»."_s.arg(itemsTable, recordsTable);
         return {};
     }
 
@@ -121,6 +159,16 @@ QString CommandLine::helpText()
            "                    di adesso\n"
            "  --check           Legge tutto il registro, dice che cosa è danneggiato, manca o\n"
            "                    è di troppo, e termina con 0 o, se c'è qualcosa, con 1\n"
+           "\n"
+           "Senza finestra, scambiare dati:\n"
+           "  --export FILE     Scrive gli articoli in una tabella (FILE.csv), le loro scadenze\n"
+           "                    in un calendario (FILE.ics) o tutto il registro (FILE.json)\n"
+           "    --what TABELLA  Nella tabella gli «articoli» o le «manutenzioni»\n"
+           "  --import FILE     Mostra che cosa verrebbe importato da una tabella o da un registro\n"
+           "    --yes           E lo importa, dopo aver conservato lo stato di adesso\n"
+           "  --due [GIORNI]    Elenca gli articoli attivi con il tagliando entro 30 giorni, o entro\n"
+           "                    GIORNI, e termina con 1 se ce ne sono, altrimenti con 0\n"
+           "    --json          In JSON, per altri programmi\n"
            "\n"
            "Variabili d'ambiente:\n"
            "  ABISSORA_DATA_DIR  Come --data-dir, che se presente vale di più\n"_s;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Equipment.h"
+
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -9,7 +11,7 @@
 namespace abissora {
 
 /// What is done without a window, and so without a screen.
-enum class Command { ListStates, Check, Restore };
+enum class Command { ListStates, Check, Restore, Export, Import, Due };
 
 struct CommandLine
 {
@@ -18,7 +20,11 @@ struct CommandLine
     QString dataDir;  ///< empty when not given
     QString snapshot; ///< empty when not given
     std::optional<Command> command;
-    QString operand; ///< of the command: a state, a file; empty for one without
+    QString operand;                      ///< of the command: a state, a file; empty for one without
+    bool records = false;                 ///< of an export: the records instead of the items
+    bool yes = false;                     ///< of an import: store it
+    bool json = false;                    ///< of what is due: for programs
+    std::int64_t days = dueThresholdDays; ///< of what is due: how far ahead
 
     /// `arguments` without the program's name. The error is a sentence for the person.
     [[nodiscard]] static tl::expected<CommandLine, QString> parse(const QStringList& arguments);

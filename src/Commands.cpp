@@ -2,6 +2,7 @@
 #include "Commands.h"
 
 #include "CommandLine.h"
+#include "ExchangeCommands.h"
 #include "ExitStatus.h"
 #include "FolderLock.h"
 #include "Literals.h"
@@ -12,24 +13,6 @@
 namespace abissora {
 
 namespace {
-
-void say(std::FILE* stream, const QString& line)
-{
-    std::fputs(qUtf8Printable(line + u'\n'), stream);
-}
-
-/// What goes wrong beside the command itself.
-class StreamConsole final : public Console
-{
-public:
-    explicit StreamConsole(std::FILE* stream)
-        : m_stream(stream)
-    {}
-    void print(const QString& text) override { say(m_stream, text); }
-
-private:
-    std::FILE* m_stream;
-};
 
 QString counts(const StateContent& content)
 {
@@ -123,6 +106,12 @@ int runCommand(const CommandLine& commandLine, const ApplicationDirectories& dir
 {
     Commands commands(directories, streams);
     switch (commandLine.command.value()) {
+    case Command::Export:
+        return exportRegister(commandLine, directories, streams);
+    case Command::Import:
+        return importFile(commandLine, directories, streams);
+    case Command::Due:
+        return listDue(commandLine, directories, streams);
     case Command::Check:
         return commands.check();
     case Command::ListStates:

@@ -2,22 +2,14 @@
 #pragma once
 
 #include "ApplicationDirectories.h"
-
-#include <cstdio>
+#include "CommandStreams.h"
 
 namespace abissora {
 
 struct CommandLine;
 
-/// Where the commands say what they have to say.
-struct CommandStreams
-{
-    std::FILE* out = stdout;
-    std::FILE* error = stderr;
-};
-
-/// Lists the earlier states, restores one or checks everything, as the command line says, and gives the exit status.
-/// Only a restoration changes anything; it is refused while another process works on the register.
+/// Does what the command line says and gives the exit status (ExitStatus.h). Only a restoration and an import change
+/// anything; they are refused while another process works on the register.
 [[nodiscard]] int runCommand(const CommandLine& commandLine, const ApplicationDirectories& directories,
                              const CommandStreams& streams = {});
 

@@ -26,14 +26,14 @@ namespace abissora {
 
 namespace {
 
-void say(std::FILE* stream, const QString& text)
+void write(std::FILE* stream, const QString& text)
 {
     std::fputs(qUtf8Printable(text), stream);
 }
 
 int fail(const QString& sentence)
 {
-    say(stderr, sentence + u'\n');
+    write(stderr, sentence + u'\n');
     return EXIT_FAILURE;
 }
 
@@ -80,9 +80,9 @@ QStringList rawArguments(int argc, char** argv)
 bool answered(bool help, bool version)
 {
     if (help)
-        say(stdout, CommandLine::helpText());
+        write(stdout, CommandLine::helpText());
     else if (version)
-        say(stdout, CommandLine::versionText());
+        write(stdout, CommandLine::versionText());
     return help || version;
 }
 
@@ -161,7 +161,7 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
         outcome = instance.acquire();
     }
     if (outcome == SingleInstance::Outcome::CameForward) {
-        say(stderr, u"Abissora è già aperta su questo registro: la sua finestra passa in primo piano.\n"_s);
+        write(stderr, u"Abissora è già aperta su questo registro: la sua finestra passa in primo piano.\n"_s);
         return drawsToFile ? EXIT_FAILURE : EXIT_SUCCESS;
     }
 
@@ -197,7 +197,7 @@ int runProgram(int argc, char** argv, const Product& product)
         const bool drawsToFile = std::ranges::any_of(
             arguments, [](const QString& argument) { return argument.startsWith("--snapshot"_L1); });
         if (!drawsToFile) {
-            say(stderr, noDisplayText());
+            write(stderr, noDisplayText());
             return exitStatus::unavailable;
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -149,6 +149,13 @@ void EquipmentTypeViewModel::addType(const EquipmentTypeModel& type)
     announce(&EquipmentTypeViewModel::typesChanged);
 }
 
+void EquipmentTypeViewModel::importTypes(const QList<EquipmentTypeModel>& types)
+{
+    m_types += types;
+    saveTypes(Occasion::import);
+    announce(&EquipmentTypeViewModel::typesChanged);
+}
+
 void EquipmentTypeViewModel::updateType(const EquipmentTypeModel& type)
 {
     const qsizetype index = indexOf(type.id);

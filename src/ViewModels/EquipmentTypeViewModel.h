@@ -55,6 +55,8 @@ public:
 
     /// Appends it; a name that is already taken is no obstacle.
     void addType(const EquipmentTypeModel& type);
+    /// Appends them and stores the list once, as what comes from outside.
+    void importTypes(const QList<EquipmentTypeModel>& types);
     /// Both find the type by its id and do nothing when there is none.
     void updateType(const EquipmentTypeModel& type);
     void deleteType(const EquipmentTypeModel& type);

@@ -20,7 +20,35 @@ Occasion lossBetween(const Equipment& before, const Equipment& after)
     return documentNames({after}).contains(documentNames({before})) ? Occasion::change : Occasion::deletedDocument;
 }
 
+void recomputeServiceDates(Equipment& item)
+{
+    const auto& history = item.maintenanceHistory;
+    const auto latest = std::ranges::max_element(history, {}, &Maintenance::date);
+    if (latest == history.cend())
+        return;
+    item.lastServiceDate = latest->date;
+    item.nextServiceDate = latest->nextServiceDate;
+}
+
 } // namespace
+
+void addImported(QList<Equipment>& equipment, const ImportedRecords& imported)
+{
+    equipment.reserve(equipment.size() + imported.items.size());
+    for (const Equipment& item : imported.items)
+        equipment.append(storable(item));
+    QHash<QUuid, QList<Maintenance>> records;
+    for (const auto& [item, record] : imported.records)
+        records[item].append(storable(record));
+    if (records.isEmpty())
+        return;
+    for (Equipment& item : equipment) {
+        if (!records.contains(item.id))
+            continue;
+        item.maintenanceHistory += records.take(item.id); // the first of that id, as everywhere
+        recomputeServiceDates(item);
+    }
+}
 
 EquipmentViewModel::EquipmentViewModel(StorageManager storageManager, MaintenanceDocumentStore& documents,
                                        Console& console, const Clock& clock, Calendar calendar, QObject* parent)
@@ -93,6 +121,17 @@ void EquipmentViewModel::deleteEquipment(const Equipment& equipment)
         deleteDocuments(maintenance);
     announce(&EquipmentViewModel::equipmentChanged);
     m_console.print(u"🗑️ Eliminato equipaggiamento: "_s + name);
+}
+
+void EquipmentViewModel::importRecords(const ImportedRecords& imported)
+{
+    addImported(m_equipment, imported);
+    saveAndNotify(Occasion::import);
+    QString log = u"📥 Importati %1 equipaggiamenti e %2 manutenzioni"_s.arg(QString::number(imported.items.size()),
+                                                                            QString::number(imported.records.size()));
+    for (const Equipment& item : imported.items)
+        log += u"\n➕ Aggiunto equipaggiamento: "_s + item.name;
+    m_console.print(log);
 }
 
 void EquipmentViewModel::addMaintenance(const QUuid& to, const Maintenance& maintenance)
@@ -208,16 +247,6 @@ Equipment* EquipmentViewModel::find(const QUuid& id)
 {
     const auto found = std::ranges::find(std::as_const(m_equipment), id, &Equipment::id);
     return found == m_equipment.cend() ? nullptr : &m_equipment[found - m_equipment.cbegin()];
-}
-
-void EquipmentViewModel::recomputeServiceDates(Equipment& item)
-{
-    const auto& history = item.maintenanceHistory;
-    const auto latest = std::ranges::max_element(history, {}, &Maintenance::date);
-    if (latest == history.cend())
-        return;
-    item.lastServiceDate = latest->date;
-    item.nextServiceDate = latest->nextServiceDate;
 }
 
 void EquipmentViewModel::deleteDocuments(const Maintenance& maintenance) const

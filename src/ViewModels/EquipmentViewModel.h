@@ -9,6 +9,27 @@
 
 namespace abissora {
 
+/// Items and records that come from outside, each under an id of its own.
+struct ImportedRecords
+{
+    struct OfItem
+    {
+        QUuid item;
+        Maintenance record;
+
+        friend bool operator==(const OfItem&, const OfItem&) = default;
+    };
+
+    QList<Equipment> items;
+    QList<OfItem> records;
+
+    [[nodiscard]] bool isEmpty() const { return items.isEmpty() && records.isEmpty(); }
+    friend bool operator==(const ImportedRecords&, const ImportedRecords&) = default;
+};
+
+/// Adds them to a register's items, as importRecords() does.
+void addImported(QList<Equipment>& equipment, const ImportedRecords& imported);
+
 /// The one owner of the register. Every verb changes the list, saves it whole, notifies and logs, in this order; an
 /// unknown id makes it do nothing.
 class EquipmentViewModel : public StateObject
@@ -33,6 +54,10 @@ public:
     void updateEquipment(const Equipment& equipment);
     /// Deletes the item's attached documents too. The selection is the screens' business.
     void deleteEquipment(const Equipment& equipment);
+
+    /// What came from outside, items and records of items, added at the end of their lists and stored by one save. An
+    /// item that gets records takes the dates of the latest one. Records of an item that there is not are left out.
+    void importRecords(const ImportedRecords& imported);
 
     /// The item takes the new record's dates, whatever its history holds.
     void addMaintenance(const QUuid& to, const Maintenance& maintenance);
@@ -72,7 +97,6 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] Equipment* find(const QUuid& id);
-    static void recomputeServiceDates(Equipment& item);
     void deleteDocuments(const Maintenance& maintenance) const;
     void saveAndNotify(Occasion occasion = Occasion::change);
 

@@ -3,6 +3,7 @@
 
 #include "Equipment.h"
 #include "EquipmentTypeModel.h"
+#include "RegisterDocument.h"
 #include "UpdateInfo.h"
 
 #include <string_view>
@@ -79,6 +80,19 @@ struct Fields<EquipmentTypeModel>
         Field{"color", &EquipmentTypeModel::color},
         Field{"serviceIntervalDays", &EquipmentTypeModel::serviceIntervalDays},
         Field{"isActive", &EquipmentTypeModel::isActive},
+    };
+};
+
+template <>
+struct Fields<RegisterDocument>
+{
+    static constexpr std::tuple all{
+        Field{"format", &RegisterDocument::format},
+        Field{"version", &RegisterDocument::version},
+        Field{"program", &RegisterDocument::program},
+        Field{"exported", &RegisterDocument::exported},
+        Field{"equipmentTypes", &RegisterDocument::equipmentTypes},
+        Field{"savedEquipment", &RegisterDocument::savedEquipment},
     };
 };
 

@@ -9,12 +9,12 @@ namespace abissora {
 
 namespace {
 
-template <typename Record>
-tl::expected<QByteArray, JsonError> encodeRecords(const QList<Record>& records)
+template <typename Value>
+tl::expected<QByteArray, JsonError> encodeValue(const Value& value)
 {
     try {
         json::RecordWriter writer;
-        writer.write(records);
+        writer.write(value);
         return QByteArray::fromStdString(writer.text());
     } catch (const json::EncodingFailure& failure) {
         return tl::unexpected(failure.error);
@@ -58,12 +58,12 @@ QString JsonError::description() const
 
 tl::expected<QByteArray, JsonError> encode(const QList<Equipment>& equipment)
 {
-    return encodeRecords(equipment);
+    return encodeValue(equipment);
 }
 
 tl::expected<QByteArray, JsonError> encode(const QList<EquipmentTypeModel>& types)
 {
-    return encodeRecords(types);
+    return encodeValue(types);
 }
 
 tl::expected<QList<Equipment>, JsonError> decodeEquipment(const QByteArray& json)
@@ -94,6 +94,16 @@ Salvaged<Equipment> salvageEquipment(const QByteArray& json)
 Salvaged<EquipmentTypeModel> salvageTypes(const QByteArray& json)
 {
     return salvage<EquipmentTypeModel>(json);
+}
+
+tl::expected<QByteArray, JsonError> encode(const RegisterDocument& document)
+{
+    return encodeValue(document);
+}
+
+tl::expected<RegisterDocument, JsonError> decodeRegisterDocument(const QByteArray& json)
+{
+    return decode<RegisterDocument>(json);
 }
 
 tl::expected<UpdateManifest, JsonError> decodeManifest(const QByteArray& json)

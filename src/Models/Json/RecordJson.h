@@ -3,6 +3,7 @@
 
 #include "Equipment.h"
 #include "EquipmentTypeModel.h"
+#include "RegisterDocument.h"
 #include "UpdateInfo.h"
 
 #include <QByteArray>
@@ -56,6 +57,10 @@ struct Salvaged
 
 [[nodiscard]] Salvaged<Equipment> salvageEquipment(const QByteArray& json);
 [[nodiscard]] Salvaged<EquipmentTypeModel> salvageTypes(const QByteArray& json);
+
+/// One JSON object, its lists in the stored form. Reading it says nothing of its format and version.
+[[nodiscard]] tl::expected<QByteArray, JsonError> encode(const RegisterDocument& document);
+[[nodiscard]] tl::expected<RegisterDocument, JsonError> decodeRegisterDocument(const QByteArray& json);
 
 /// One JSON object, read as strictly: the build is a whole number of 64 bits, only the release notes may be missing or
 /// null.
