@@ -2,6 +2,7 @@
 #include "MarevoloApp.h"
 
 #include "AppWindows.h"
+#include "ContentView.h"
 #include "EmergencyCopy.h"
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
@@ -41,6 +42,8 @@ MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories
     , m_dayWatch(m_equipment, m_clock, m_calendar)
     , m_saveRetry(m_preferences, m_console)
     , m_lookedAt(directories.windowStateFile())
+    , m_exchange({m_equipment, m_types, m_settings, m_filePanel, m_work, m_ids, m_almanac,
+                  m_package.value(u"CFBundleShortVersionString"_s).toString()})
 {
     QApplication::setWindowIcon(applicationIcon());
     applyScheme();
@@ -111,6 +114,12 @@ MainWindow& MarevoloApp::mainWindow()
         m_windows->setMainWindow(m_mainWindow.get());
         connect(m_mainWindow.get(), &MainWindow::aboutRequested, m_windows.get(), &AppWindows::openAbout);
         connect(m_mainWindow.get(), &MainWindow::helpRequested, m_windows.get(), &AppWindows::openHelp);
+        connect(m_mainWindow.get(), &MainWindow::importRequested, this,
+                [this] { m_exchange.importFile(m_mainWindow.get()); });
+        connect(&m_mainWindow->content().list(), &EquipmentListView::tableDropped, this,
+                [this](const QString& path) { m_exchange.importPath(path, m_mainWindow.get()); });
+        connect(m_mainWindow.get(), &MainWindow::exportRequested, this,
+                [this] { m_exchange.exportRegister(m_mainWindow.get()); });
         connect(m_mainWindow.get(), &MainWindow::closed, m_windows.get(), &AppWindows::closeAll);
         connect(this, &MarevoloApp::updateOffered, m_windows.get(), &AppWindows::openUpdate);
         connect(m_windows.get(), &AppWindows::updateDismissed, &m_updates,

@@ -9,6 +9,7 @@
 #include "DesktopProgressPanel.h"
 #include "EquipmentTypeViewModel.h"
 #include "EquipmentViewModel.h"
+#include "ExchangeActions.h"
 #include "Generations.h"
 #include "LookedAtStates.h"
 #include "MaintenanceDocumentStore.h"
@@ -102,6 +103,7 @@ private:
     DayWatch m_dayWatch;
     SaveRetry m_saveRetry;
     LookedAtStates m_lookedAt;
+    ExchangeActions m_exchange;
     std::unique_ptr<MainWindow> m_mainWindow;
     std::unique_ptr<AppWindows> m_windows;
     bool m_hasStarted = false;

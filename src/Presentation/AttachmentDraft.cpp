@@ -21,7 +21,7 @@ std::optional<QString> AttachmentDraft::path(DocumentSlot slot) const
     return m_documents.url(name(slot).value_or(QString()));
 }
 
-QCoro::Task<bool> AttachmentDraft::attach(DocumentSlot slot)
+QCoro::Task<bool> AttachmentDraft::attach(DocumentSlot slot, std::optional<QString> path)
 {
     if (isCopying(slot))
         co_return false;
@@ -29,17 +29,21 @@ QCoro::Task<bool> AttachmentDraft::attach(DocumentSlot slot)
     m_copies.insert(slot, copy);
     // The form may be gone by then: the copy was cancelled and nothing is left of it.
     const QPointer<AttachmentDraft> alive(this);
-    const std::optional<QString> picked = co_await m_documents.pickPDFAndStore(std::nullopt, copy);
+    std::optional<QString> stored;
+    if (path)
+        stored = co_await m_documents.store(*path, copy);
+    else
+        stored = co_await m_documents.pickPDFAndStore(std::nullopt, copy);
     // One that was cancelled may end after its successor.
     if (!alive || m_copies.value(slot) != copy)
         co_return false;
     m_copies.remove(slot);
-    if (picked) {
-        m_attached.append(*picked);
-        documentName(m_names, slot) = picked;
+    if (stored) {
+        m_attached.append(*stored);
+        documentName(m_names, slot) = stored;
     }
     Q_EMIT changed();
-    co_return picked.has_value();
+    co_return stored.has_value();
 }
 
 void AttachmentDraft::remove(DocumentSlot slot)

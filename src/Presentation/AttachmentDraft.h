@@ -25,9 +25,9 @@ public:
     /// Where the file lies that the slot names.
     [[nodiscard]] std::optional<QString> path(DocumentSlot slot) const;
 
-    /// Lets the person pick a PDF. False when none came of it and the slot stayed as it was. Does nothing while one is
-    /// being copied for the slot.
-    QCoro::Task<bool> attach(DocumentSlot slot);
+    /// Lets the person pick a PDF, or takes the file that she chose already. False when none came of it and the slot
+    /// stayed as it was. Does nothing while one is being copied for the slot.
+    QCoro::Task<bool> attach(DocumentSlot slot, std::optional<QString> path = std::nullopt);
     /// Cancels a copy for the slot, too.
     void remove(DocumentSlot slot);
     [[nodiscard]] bool isCopying(DocumentSlot slot) const;

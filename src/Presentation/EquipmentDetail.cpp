@@ -92,6 +92,16 @@ void EquipmentDetail::deleteMaintenance(const QUuid& recordId)
 
 QCoro::Task<> EquipmentDetail::uploadDocument(QUuid recordId, DocumentSlot slot)
 {
+    return takeDocument(recordId, slot, std::nullopt);
+}
+
+QCoro::Task<> EquipmentDetail::attachDocument(QUuid recordId, DocumentSlot slot, QString path)
+{
+    return takeDocument(recordId, slot, std::move(path));
+}
+
+QCoro::Task<> EquipmentDetail::takeDocument(QUuid recordId, DocumentSlot slot, std::optional<QString> path)
+{
     const std::pair place(recordId, slot);
     if (const auto copy = m_copies.value(place); !record(recordId) || (copy && !copy->isCancelled()))
         co_return;
@@ -100,12 +110,17 @@ QCoro::Task<> EquipmentDetail::uploadDocument(QUuid recordId, DocumentSlot slot)
     const QUuid itemId = m_item.id;
     // The screen may be gone by then: the copy was cancelled and nothing is left of it.
     const QPointer<EquipmentDetail> alive(this);
-    const std::optional<QString> picked = co_await m_documents.pickPDFAndStore(std::nullopt, copy);
+    std::optional<QString> stored;
+    if (path)
+        stored = co_await m_documents.store(*path, copy);
+    else
+        stored = co_await m_documents.pickPDFAndStore(std::nullopt, copy);
     // One that was cancelled may end after its successor.
     if (!alive || m_copies.value(place) != copy)
         co_return;
     m_copies.remove(place);
-    putDocument(itemId, recordId, slot, picked);
+    if (stored || !path)
+        putDocument(itemId, recordId, slot, stored);
 }
 
 void EquipmentDetail::putDocument(const QUuid& itemId, const QUuid& recordId, DocumentSlot slot,

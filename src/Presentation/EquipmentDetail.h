@@ -45,6 +45,8 @@ public:
     /// Lets the person pick a PDF; whatever comes of it stands in the slot, be another item on show by then. Once the
     /// register has that, the file that stood there is deleted. Does nothing while one is being copied for the slot.
     QCoro::Task<> uploadDocument(QUuid recordId, DocumentSlot slot);
+    /// The same with a file that the person chose already, be it no PDF; the slot stays as it was where none is stored.
+    QCoro::Task<> attachDocument(QUuid recordId, DocumentSlot slot, QString path);
     /// Empties the slot, then deletes its file, to make way for another.
     void replaceDocument(const QUuid& recordId, DocumentSlot slot);
     /// Where the file lies that the slot names.
@@ -61,6 +63,7 @@ Q_SIGNALS:
 private:
     void syncFromModel();
     void store();
+    QCoro::Task<> takeDocument(QUuid recordId, DocumentSlot slot, std::optional<QString> path);
     void putDocument(const QUuid& itemId, const QUuid& recordId, DocumentSlot slot, const std::optional<QString>& name);
     [[nodiscard]] std::optional<Maintenance> record(const QUuid& id) const;
 

@@ -123,10 +123,10 @@ void EquipmentViewModel::deleteEquipment(const Equipment& equipment)
     m_console.print(u"🗑️ Eliminato equipaggiamento: "_s + name);
 }
 
-void EquipmentViewModel::importRecords(const ImportedRecords& imported)
+void EquipmentViewModel::importRecords(const ImportedRecords& imported, Occasion occasion)
 {
     addImported(m_equipment, imported);
-    saveAndNotify(Occasion::import);
+    saveAndNotify(occasion);
     QString log = u"📥 Importati %1 equipaggiamenti e %2 manutenzioni"_s.arg(QString::number(imported.items.size()),
                                                                             QString::number(imported.records.size()));
     for (const Equipment& item : imported.items)

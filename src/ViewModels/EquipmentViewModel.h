@@ -57,7 +57,8 @@ public:
 
     /// What came from outside, items and records of items, added at the end of their lists and stored by one save. An
     /// item that gets records takes the dates of the latest one. Records of an item that there is not are left out.
-    void importRecords(const ImportedRecords& imported);
+    /// `occasion` is another one when the state before was kept already.
+    void importRecords(const ImportedRecords& imported, Occasion occasion = Occasion::import);
 
     /// The item takes the new record's dates, whatever its history holds.
     void addMaintenance(const QUuid& to, const Maintenance& maintenance);

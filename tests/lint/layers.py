@@ -18,7 +18,7 @@ STOREYS = [
     ["Components"],
     ["Screen", "Desktop"],
     ["List", "Sidebar", "Forms", "Help", "Types"],
-    ["Detail", "Settings", "Restore"],
+    ["Detail", "Settings", "Restore", "Import"],
     ["Overview"],
     ["Shell"],
     ["application"],

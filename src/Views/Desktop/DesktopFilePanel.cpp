@@ -37,6 +37,14 @@ QString filterFor(const QString& contentType)
     return u"%1 (%2)"_s.arg(names.value(contentType, type.comment()), type.globPatterns().join(u' '));
 }
 
+QString patternsOf(const QStringList& contentTypes)
+{
+    QStringList patterns;
+    for (const QString& type : contentTypes)
+        patterns += QMimeDatabase().mimeTypeForName(type).globPatterns();
+    return patterns.join(u' ');
+}
+
 bool accepts(const FilePanelRequest& request, const QString& path)
 {
     return request.accepts == nullptr || request.accepts(path);
@@ -121,6 +129,8 @@ public:
         QStringList filters;
         for (const QString& type : request.contentTypes)
             filters.append(filterFor(type));
+        if (filters.size() > 1)
+            filters.prepend(u"Tutti questi (%1)"_s.arg(patternsOf(request.contentTypes)));
         setAcceptMode(AcceptOpen);
         setFileMode(ExistingFile);
         setNameFilters(filters);

@@ -137,6 +137,7 @@ void EquipmentDetailView::connectParts()
     connect(m_history, &MaintenanceHistory::openRequested, this, &EquipmentDetailView::openDocument);
     connect(m_history, &MaintenanceHistory::replaceRequested, detail, &EquipmentDetail::replaceDocument);
     connect(m_history, &MaintenanceHistory::uploadRequested, detail, &EquipmentDetail::uploadDocument);
+    connect(m_history, &MaintenanceHistory::attachRequested, detail, &EquipmentDetail::attachDocument);
 }
 
 void EquipmentDetailView::setEquipment(const Equipment& item)

@@ -9,6 +9,7 @@
 #include "CostField.h"
 #include "DateField.h"
 #include "DocumentControl.h"
+#include "FileDrop.h"
 #include "FormFields.h"
 #include "FormRow.h"
 #include "IconViews.h"
@@ -17,6 +18,7 @@
 #include "Metrics.h"
 #include "OneLine.h"
 #include "Opening.h"
+#include "PdfDocument.h"
 #include "SymbolIcon.h"
 #include "ToggleSwitch.h"
 
@@ -123,17 +125,20 @@ QWidget* MaintenanceFormView::makeDocument(DocumentSlot slot)
     connect(document, &DocumentControl::takeInClicked, this, [this, slot] { attach(slot); });
     connect(&attachments, &AttachmentDraft::changed, document, refresh);
     refresh();
-    return new FormRow(documentLabel(slot), document);
+    auto* row = new FormRow(documentLabel(slot), document);
+    auto* drop = new FileDrop(*row, [](const QString& path, QPoint /*place*/) { return isPdf(path); });
+    connect(drop, &FileDrop::dropped, this, [this, slot](const QString& path) { attach(slot, path); });
+    return row;
 }
 
-QCoro::Task<> MaintenanceFormView::attach(DocumentSlot slot)
+QCoro::Task<> MaintenanceFormView::attach(DocumentSlot slot, std::optional<QString> path)
 {
     AttachmentDraft& attachments = m_draft->attachments();
     if (attachments.isCopying(slot))
         co_return;
     m_savesOnceCopied = false;
     const QPointer<MaintenanceFormView> alive(this);
-    const bool attached = co_await attachments.attach(slot);
+    const bool attached = co_await attachments.attach(slot, path);
     if (!alive)
         co_return;
     const bool saves = std::exchange(m_savesOnceCopied, false);

@@ -37,7 +37,7 @@ private:
     void buildBody();
     [[nodiscard]] QWidget* makeDetails();
     [[nodiscard]] QWidget* makeDocument(DocumentSlot slot);
-    QCoro::Task<> attach(DocumentSlot slot);
+    QCoro::Task<> attach(DocumentSlot slot, std::optional<QString> path = std::nullopt);
     [[nodiscard]] QWidget* makeNextService();
     void connectFields();
     void showState();

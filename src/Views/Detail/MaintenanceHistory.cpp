@@ -43,6 +43,7 @@ private:
         connect(row, &MaintenanceRow::openRequested, &m_history, &MaintenanceHistory::openRequested);
         connect(row, &MaintenanceRow::replaceRequested, &m_history, &MaintenanceHistory::replaceRequested);
         connect(row, &MaintenanceRow::uploadRequested, &m_history, &MaintenanceHistory::uploadRequested);
+        connect(row, &MaintenanceRow::attachRequested, &m_history, &MaintenanceHistory::attachRequested);
         return row;
     }
     void fillRow(QWidget& row, qsizetype index) override

@@ -30,6 +30,7 @@ Q_SIGNALS:
     void openRequested(QUuid id, abissora::DocumentSlot slot);
     void replaceRequested(QUuid id, abissora::DocumentSlot slot);
     void uploadRequested(QUuid id, abissora::DocumentSlot slot);
+    void attachRequested(QUuid id, abissora::DocumentSlot slot, const QString& path);
 
 private:
     class Rows;

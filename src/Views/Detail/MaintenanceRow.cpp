@@ -4,11 +4,13 @@
 #include "Assembly.h"
 #include "Buttons.h"
 #include "DocumentControl.h"
+#include "FileDrop.h"
 #include "FlowLayout.h"
 #include "IconViews.h"
 #include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
+#include "PdfDocument.h"
 #include "SymbolIcon.h"
 #include "TypeScale.h"
 
@@ -57,6 +59,21 @@ MaintenanceRow::MaintenanceRow(QWidget* parent)
          inRow(metrics::spaceXS, {m_completedIcon, {m_completed, 1}, {m_notCompleted, 1}, makeButtons()}), documents});
     setLayout(
         inRow(metrics::spaceM, {{m_tile, 0, Qt::AlignTop}, {texts, 1}}, {0, metrics::spaceXS, 0, metrics::spaceXS}));
+    auto* drop =
+        new FileDrop(*this, [this](const QString& path, QPoint place) { return slotFor(place) && isPdf(path); });
+    connect(drop, &FileDrop::dropped, this,
+            [this](const QString& path, QPoint place) { Q_EMIT attachRequested(m_id, slotFor(place).value(), path); });
+}
+
+std::optional<DocumentSlot> MaintenanceRow::slotFor(QPoint place) const
+{
+    if (m_receipt->geometry().contains(place))
+        return DocumentSlot::Receipt;
+    if (m_certificate->geometry().contains(place))
+        return DocumentSlot::Certificate;
+    if (!m_hasReceipt)
+        return DocumentSlot::Receipt;
+    return m_hasCertificate ? std::nullopt : std::optional(DocumentSlot::Certificate);
 }
 
 QWidget* MaintenanceRow::makeButtons()
@@ -102,6 +119,8 @@ void MaintenanceRow::setRow(const MaintenanceRowContent& row)
                                              : symbolIcon(u"exclamationmark.circle"_s, NamedColor::orange));
     m_completed->setVisible(row.isCompleted);
     m_notCompleted->setVisible(!row.isCompleted);
+    m_hasReceipt = row.hasReceipt;
+    m_hasCertificate = row.hasCertificate;
     m_receipt->setPresent(row.hasReceipt);
     m_certificate->setPresent(row.hasCertificate);
 }

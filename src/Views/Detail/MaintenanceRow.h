@@ -34,6 +34,8 @@ Q_SIGNALS:
     void openRequested(QUuid id, abissora::DocumentSlot slot);
     void replaceRequested(QUuid id, abissora::DocumentSlot slot);
     void uploadRequested(QUuid id, abissora::DocumentSlot slot);
+    /// A PDF that was dropped here.
+    void attachRequested(QUuid id, abissora::DocumentSlot slot, const QString& path);
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -41,11 +43,15 @@ protected:
 private:
     [[nodiscard]] QWidget* makeButtons();
     [[nodiscard]] DocumentControl* makeDocument(DocumentSlot slot);
+    /// Where a document goes that is dropped at this place; nothing where both are taken.
+    [[nodiscard]] std::optional<DocumentSlot> slotFor(QPoint place) const;
     void edit() { Q_EMIT editRequested(m_id); }
     void remove() { Q_EMIT deleteRequested(m_id); }
     void showMenu(QPoint globalPosition);
 
     QUuid m_id;
+    bool m_hasReceipt = false;
+    bool m_hasCertificate = false;
     IconTile* m_tile;
     WrapLabel* m_type;
     ElidedLabel* m_cost;

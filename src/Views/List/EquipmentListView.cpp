@@ -5,6 +5,7 @@
 #include "Alert.h"
 #include "EmptyState.h"
 #include "EquipmentTableView.h"
+#include "FileDrop.h"
 #include "FilterMenu.h"
 #include "FlowLayout.h"
 #include "Labels.h"
@@ -102,6 +103,9 @@ void EquipmentListView::buildRowActions()
 
 void EquipmentListView::connectControls()
 {
+    auto* const drop = new FileDrop(
+        *this, [](const QString& path, QPoint /*place*/) { return path.endsWith(".csv"_L1, Qt::CaseInsensitive); });
+    connect(drop, &FileDrop::dropped, this, [this](const QString& path) { Q_EMIT tableDropped(path); });
     connect(&m_equipment, &EquipmentViewModel::changed, &m_update, &VisibleUpdate::schedule);
     connect(&m_types, &EquipmentTypeViewModel::changed, &m_update, &VisibleUpdate::schedule);
 

@@ -58,6 +58,8 @@ Q_SIGNALS:
     void equipmentSelected(const std::optional<abissora::Equipment>& equipment);
     void editRequested(const abissora::Equipment& equipment);
     void addRequested();
+    /// A table (CSV) was dropped on the list.
+    void tableDropped(const QString& path);
     /// The selected item has a row; or it has none since the search or a filter changed.
     void selectionListed(bool listed);
     /// The keyboard stands at another row, or came or went.

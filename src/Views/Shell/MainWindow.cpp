@@ -146,6 +146,12 @@ void MainWindow::addFileMenu(const ScreenFactory& screens)
         ->setIcon(symbolIcon(u"plus"_s));
     addCommand(file, u"A&ggiorna"_s, QKeySequence::Refresh, &m_content->list(), &EquipmentListView::refresh)
         ->setIcon(symbolIcon(u"arrow.clockwise"_s));
+    file.addSeparator();
+    addCommand(file, u"&Importa…"_s, {}, this, &MainWindow::importRequested)
+        ->setIcon(symbolIcon(u"square.and.arrow.down"_s));
+    addCommand(file, u"Esp&orta…"_s, Qt::CTRL | Qt::Key_E, this, &MainWindow::exportRequested)
+        ->setIcon(symbolIcon(u"square.and.arrow.up"_s));
+    file.addSeparator();
     QAction* restore = addCommand(file, u"&Ripristina…"_s, {}, m_content, &ContentView::openRestore);
     const auto showWhetherToLook = [restore, &screens] {
         restore->setIcon(screens.hasStateToLookAt() ? symbolIcon(u"exclamationmark.triangle.fill"_s, NamedColor::orange)

@@ -25,6 +25,8 @@ public:
 Q_SIGNALS:
     void aboutRequested();
     void helpRequested();
+    void importRequested();
+    void exportRequested();
     /// The window was closed by the person.
     void closed();
 

@@ -87,6 +87,8 @@ void AbissoraStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
         break;
     case PE_PanelButtonTool:
         return buttons::drawToolButtonPanel(*option, *painter, widget);
+    case PE_IndicatorCheckBox:
+        return buttons::drawCheckBox(*option, *painter);
     case PE_FrameDefaultButton:
     case PE_IndicatorHeaderArrow: // part of the header's label
         return;

@@ -111,6 +111,9 @@ int AbissoraStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, c
         return metrics::iconSize;
     case PM_LineEditIconMargin:
         return metrics::spaceS;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+        return buttons::checkBoxExtent;
     case PM_ScrollBarExtent:
         return bars::extent;
     case PM_ScrollBarSliderMin:

@@ -178,4 +178,22 @@ void drawToolButtonPanel(const QStyleOption& option, QPainter& painter, const QW
     }
 }
 
+void drawCheckBox(const QStyleOption& option, QPainter& painter)
+{
+    constexpr int room = 3; // for the ring
+    constexpr int radius = 4;
+    const Tokens& tokens = Tokens::of(option.palette);
+    const bool isEnabled = option.state & QStyle::State_Enabled;
+    const bool isChecked = option.state & QStyle::State_On;
+    const QRect box = option.rect.adjusted(room, room, -room, -room);
+    if (!isEnabled)
+        drawPanel(painter, box, radius, mix(tokens.window, tokens.border, 0.4), tokens.border);
+    else if (isChecked)
+        drawPanel(painter, box, radius, tokens.accentFill, {});
+    else
+        drawPanel(painter, box, radius, touched(tokens.surface, option), tokens.strongBorder);
+    if (isChecked)
+        drawGlyph(painter, box, Glyph::Check, isEnabled ? tokens.onFill : tokens.disabled, 12);
+}
+
 } // namespace abissora::buttons

@@ -15,6 +15,10 @@ void drawPushButtonLabel(const QStyleOptionButton& option, QPainter& painter, co
 
 void drawToolButtonPanel(const QStyleOption& option, QPainter& painter, const QWidget* widget);
 
+/// The side of what a check box is drawn in, its focus ring included.
+inline constexpr int checkBoxExtent = 24;
+void drawCheckBox(const QStyleOption& option, QPainter& painter);
+
 } // namespace abissora::buttons
 
 /// Line edits, text edits, combo boxes, spin boxes.

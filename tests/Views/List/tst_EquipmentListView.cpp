@@ -2,6 +2,7 @@
 #include "EquipmentListView.h"
 
 #include "Chip.h"
+#include "FileDropping.h"
 #include "FilterMenu.h"
 #include "ListParts.h"
 #include "TestRunner.h"
@@ -193,6 +194,17 @@ private Q_SLOTS:
         QCOMPARE(cellInterface->text(QAccessible::Name), u"30 giugno 2026\nSCADUTO!"_s);
         QCOMPARE(accessible->tableInterface()->cellAt(1, 5)->text(QAccessible::Name), u"Azioni: GAV Scubapro Hydros"_s);
         QCOMPARE(existing<QToolButton>(view, "filterButton").accessibleName(), u"Filtro"_s);
+    }
+
+    void aTableThatIsDroppedIsToBeImported()
+    {
+        RegisterFixture f;
+        ShownList view(f);
+        QStringList dropped;
+        connect(&view, &EquipmentListView::tableDropped, [&](const QString& path) { dropped.append(path); });
+        QVERIFY(dropOn(view, {300, 300}, {QUrl::fromLocalFile(u"/tmp/club.CSV"_s)}));
+        QVERIFY(!dropOn(view, {300, 300}, {QUrl::fromLocalFile(u"/tmp/scontrino.pdf"_s)}));
+        QCOMPARE(dropped, QStringList(u"/tmp/club.CSV"_s));
     }
 };
 
