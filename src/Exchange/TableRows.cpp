@@ -134,12 +134,13 @@ public:
             m_cells.complain(ImportField::Date, u"Manca la data"_s);
         const auto date = m_cells.readDay(ImportField::Date);
         const auto next = m_cells.readDay(ImportField::NextService);
+        if (date)
+            m_cells.showDay(ImportField::Date, *date);
         if (m_cells.isFaulty())
             return;
         const std::int64_t interval = serviceInterval::ofType(item->typeName(), m_context.types);
         record.date = *date;
         record.nextServiceDate = next ? *next : m_cells.after(*date, interval);
-        m_cells.showDay(ImportField::Date, record.date);
         m_cells.showDay(ImportField::NextService, record.nextServiceDate);
         if (!m_cells.isFaulty() && isPresent(record, *item))
             m_cells.row().standing = ImportRow::Standing::Present;

@@ -117,9 +117,10 @@ int ColumnHeader::columnWidth(int section) const
 
 void ColumnHeader::paintSection(QPainter* painter, const QRect& rect, int section) const
 {
+    const Tokens& tokens = Tokens::of(palette());
+    drawHorizontalHairline(*painter, rect.left(), rect.right() + 1, rect.bottom(), tokens.divider);
     if (section == 0 || section > m_pickers.size())
         return;
-    const Tokens& tokens = Tokens::of(palette());
     const QRect room = rect.adjusted(ImportDelegate::padding, 0, -ImportDelegate::padding, 0);
     const int picker = controlHeight(fontMetrics());
     if (m_pickers.at(section - 1) == nullptr) {

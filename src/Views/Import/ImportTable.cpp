@@ -73,17 +73,22 @@ void ImportTable::measureColumns()
     m_widths.clear();
     const QStyleOptionViewItem option;
     for (int column = 0; column < m_model.columnCount(); ++column) {
-        int width = m_header->columnWidth(column);
-        for (int row = 0; row < std::min(m_model.rowCount(), measuredRows); ++row)
-            width = std::max(width, m_delegate.sizeHint(option, m_model.index(row, column)).width());
-        m_widths.append(column == 0 ? width : std::clamp(width, leastWidth, mostWidth));
+        Width width{m_header->columnWidth(column), leastWidth};
+        for (int row = 0; row < std::min(m_model.rowCount(), measuredRows); ++row) {
+            const QModelIndex index = m_model.index(row, column);
+            const int hint = m_delegate.sizeHint(option, index).width();
+            width.wanted = std::max(width.wanted, hint);
+            if (column > 0 && !m_model.cell(index).problem.isEmpty())
+                width.least = std::max(width.least, std::min(hint, mostWidth));
+        }
+        m_widths.append(column == 0 ? Width{width.wanted, width.wanted} : width);
     }
 }
 
 int ImportTable::widestThatFits() const
 {
     for (int most = mostWidth; most >= leastOfWide; --most) {
-        const auto add = [most](int sum, int width) { return sum + std::min(width, most); };
+        const auto add = [most](int sum, const Width& width) { return sum + width.within(most); };
         if (std::accumulate(m_widths.cbegin(), m_widths.cend(), 0, add) <= viewport()->width())
             return most;
     }
@@ -93,7 +98,7 @@ int ImportTable::widestThatFits() const
 void ImportTable::layOutColumns()
 {
     const int most = widestThatFits();
-    const auto widthOf = [&](int column) { return std::min(m_widths.at(column), most); };
+    const auto widthOf = [&](int column) { return m_widths.at(column).within(most); };
     int wanted = 0;
     for (int column = 0; column < m_widths.size(); ++column)
         wanted += widthOf(column);

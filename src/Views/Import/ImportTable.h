@@ -36,7 +36,15 @@ private:
     ImportTableModel m_model;
     ImportDelegate m_delegate;
     ColumnHeader* m_header;
-    QList<int> m_widths; ///< that the columns would like to have
+    /// What a column would like to have, and what it must have for its faults to be read.
+    struct Width
+    {
+        int wanted;
+        int least;
+
+        [[nodiscard]] int within(int most) const { return std::max(std::min(wanted, most), least); }
+    };
+    QList<Width> m_widths;
 };
 
 } // namespace abissora
