@@ -112,6 +112,8 @@ private Q_SLOTS:
         QTest::newRow("outside the plane") << u"🤿"_s << QByteArray("\"\xF0\x9F\xA4\xBF\"");
         QTest::newRow("line separator") << QString(QChar(0x2028)) << QByteArray("\"\xE2\x80\xA8\"");
         QTest::newRow("no character") << QString(QChar(0xFFFF)) << QByteArray("\"\xEF\xBF\xBF\"");
+        QTest::newRow("two marks at the beginning")
+            << u"\uFEFF\uFEFFa"_s << QByteArray("\"\xEF\xBB\xBF\xEF\xBB\xBF\x61\"");
         QTest::newRow("empty") << QString() << QByteArray("\"\"");
     }
 

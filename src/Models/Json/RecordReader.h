@@ -6,6 +6,7 @@
 #include "ScalarText.h"
 
 #include <QList>
+#include <QStringDecoder>
 #include <cmath>
 #include <span>
 #include <string>
@@ -62,6 +63,15 @@ inline std::optional<std::int64_t> wholeNumber(double value)
     return isWhole ? std::optional(static_cast<std::int64_t>(value)) : std::nullopt;
 }
 
+/// QString's own reader takes away a U+FEFF at the beginning, which is a text's own here.
+inline QString textFrom(const std::string& utf8)
+{
+    if (!utf8.starts_with("\xEF\xBB\xBF"))
+        return QString::fromStdString(utf8);
+    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom);
+    return decoder(QByteArrayView(utf8.data(), qsizetype(utf8.size())));
+}
+
 template <typename Value>
 struct SlotOf;
 
@@ -69,7 +79,7 @@ template <>
 struct SlotOf<QString>
 {
     static constexpr Slot slot{.expected = "a string", .string = [](void* target, const std::string& text) {
-                                   return take(target, std::optional(QString::fromStdString(text)));
+                                   return take(target, std::optional(textFrom(text)));
                                }};
 };
 
