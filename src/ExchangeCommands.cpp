@@ -6,11 +6,13 @@
 #include "ExitStatus.h"
 #include "Export.h"
 #include "FolderLock.h"
+#include "ForeignText.h"
 #include "ImportPlan.h"
 #include "OutputFile.h"
 #include "PackageInformation.h"
 #include "RecordJson.h"
 #include "RegisterStart.h"
+#include "RegularFile.h"
 #include "StoredRegister.h"
 
 #include <QFileInfo>
@@ -19,7 +21,8 @@ namespace abissora {
 
 namespace {
 
-constexpr qsizetype mostFaults = 20; ///< more say nothing new
+constexpr qsizetype mostFaults = 20;    ///< more say nothing new
+constexpr qsizetype longestCell = 1000; ///< as it is printed
 
 int fail(const CommandStreams& streams, int status, const QString& sentence)
 {
@@ -49,7 +52,7 @@ QString rowText(const ImportPlan& plan, qsizetype row)
     for (qsizetype column = 0; column < content.cells.size(); ++column) {
         const ImportCell& cell = content.cells.at(column);
         if (plan.columns().at(column).field != ImportField::None || plan.table() == nullptr)
-            cells.append((cell.problem.isEmpty() ? cell.text : cell.problem).simplified());
+            cells.append(shownLine(cell.problem.isEmpty() ? cell.text : cell.problem, longestCell));
     }
     return cells.join(u'\t');
 }
@@ -61,7 +64,7 @@ void print(const ImportPlan& plan, const CommandStreams& streams)
         if (column.field != ImportField::None || plan.table() == nullptr)
             titles.append(column.title);
         else if (!column.heading.isEmpty())
-            say(streams.error, u"Colonna che non viene importata: «%1»."_s.arg(column.heading));
+            say(streams.error, u"Colonna che non viene importata: «%1»."_s.arg(shownLine(column.heading, longestCell)));
     }
     QString text = titles.join(u'\t');
     for (qsizetype row = 0; row < plan.rows().size(); ++row)
@@ -149,9 +152,13 @@ int exportRegister(const CommandLine& commandLine, const ApplicationDirectories&
 
 int importFile(const CommandLine& commandLine, const ApplicationDirectories& directories, const CommandStreams& streams)
 {
-    if (!QFileInfo::exists(commandLine.operand))
-        return fail(streams, exitStatus::noInput, u"Il file «%1» non c'è."_s.arg(commandLine.operand));
-    auto source = readImport(commandLine.operand);
+    const QString& path = commandLine.operand;
+    if (!QFileInfo::exists(path))
+        return fail(streams, exitStatus::noInput, u"Il file «%1» non c'è."_s.arg(path));
+    if (const auto readable = RegularFile::beginning(path, 1); !readable)
+        return fail(streams, exitStatus::noInput,
+                    u"Il file «%1» non si può leggere: %2."_s.arg(path, readable.error().reason));
+    auto source = readImport(path);
     if (!source)
         return fail(streams, exitStatus::badData, source.error());
     Writer writer(directories, streams);

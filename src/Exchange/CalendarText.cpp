@@ -7,14 +7,22 @@ namespace abissora {
 
 namespace {
 
+/// In any of the ways that one reader or another splits lines at.
+bool endsLine(QChar c)
+{
+    static const QString ends = u"\n\r\v\f\x85\u2028\u2029"_s;
+    return ends.contains(c);
+}
+
 /// A value of the type TEXT (section 3.3.11). Characters that no text may hold are left out.
 QString escaped(const QString& text)
 {
     QString value;
-    for (const QChar c : QString(text).replace(u"\r\n"_s, u"\n"_s)) {
+    const QString lines = QString(text).replace(u"\r\n"_s, u"\n"_s);
+    for (const QChar c : lines) {
         if (c == u'\\' || c == u';' || c == u',')
             value += u'\\';
-        if (c == u'\n' || c == u'\r')
+        if (endsLine(c))
             value += u"\\n"_s;
         else if (c.category() != QChar::Other_Control || c == u'\t')
             value += c;

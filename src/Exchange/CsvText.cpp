@@ -23,14 +23,14 @@ public:
         , m_separator(separator)
     {}
 
-    tl::expected<QList<Row>, QString> read()
+    void read()
     {
         while (m_error.isEmpty() && !isAtEnd())
             readRow();
-        if (!m_error.isEmpty())
-            return tl::unexpected(m_error);
-        return std::move(m_rows);
     }
+
+    [[nodiscard]] const QString& error() const { return m_error; }
+    [[nodiscard]] QList<Row> takeRows() { return std::move(m_rows); }
 
 private:
     [[nodiscard]] bool isAtEnd() const { return m_at == m_text.size(); }
@@ -38,6 +38,8 @@ private:
     [[nodiscard]] QChar here() const { return m_text[m_at]; }
 
     void fail(const QString& sentence) { m_error = at(m_line, m_row.cells.size() + 1, sentence); }
+    void failAtRow(const QString& sentence) { m_error = at(m_row.line, 1, sentence); }
+    void failAtNull() { fail(u"c'è un carattere nullo: il file è danneggiato o non è un testo."_s); }
 
     void readRow()
     {
@@ -55,8 +57,11 @@ private:
         passLineEnd();
         if (isEmpty)
             return;
+        m_cellCount += m_row.cells.size();
         if (m_rows.size() == mostRows)
-            return fail(u"le righe sono più di %1."_s.arg(mostRows));
+            return failAtRow(u"le righe sono più di %1."_s.arg(mostRows));
+        if (m_cellCount > mostCells)
+            return failAtRow(u"le celle sono più di %1."_s.arg(mostCells));
         m_rows.append(std::move(m_row));
     }
 
@@ -89,8 +94,10 @@ private:
         if (!isAtEnd() && here() == quote)
             return readQuoted();
         while (!isAtCellsEnd()) {
-            if (here().isNull())
-                fail(u"c'è un carattere nullo: il file è danneggiato o non è un testo."_s);
+            if (here().isNull()) {
+                failAtNull();
+                return {};
+            }
             ++m_at;
         }
         return m_text.mid(begin, m_at - begin).trimmed().toString();
@@ -106,7 +113,8 @@ private:
                 if (isAtEnd() || here() != quote)
                     return endQuoted(cell);
             } else if (here().isNull()) {
-                fail(u"c'è un carattere nullo: il file è danneggiato o non è un testo."_s);
+                failAtNull();
+                return {};
             } else if (here() == u'\n' ||
                        (here() == u'\r' && (m_at + 1 == m_text.size() || m_text[m_at + 1] != u'\n'))) {
                 ++m_line;
@@ -132,6 +140,7 @@ private:
     int m_line = 1;
     Row m_row;
     QList<Row> m_rows;
+    qsizetype m_cellCount = 0;
     QString m_error;
 };
 
@@ -160,15 +169,27 @@ QString at(int line, qsizetype column, const QString& sentence)
 
 tl::expected<QList<Row>, QString> read(const QString& text, QChar separator)
 {
-    return Reader(text, separator).read();
+    Reader reader(text, separator);
+    reader.read();
+    if (!reader.error().isEmpty())
+        return tl::unexpected(reader.error());
+    return reader.takeRows();
+}
+
+QList<Row> readable(const QString& text, QChar separator)
+{
+    Reader reader(text, separator);
+    reader.read();
+    return reader.takeRows();
 }
 
 QString line(const QStringList& cells, QChar separator)
 {
     QString line;
-    for (const QString& cell : cells) {
-        if (!line.isEmpty() || &cell != &cells.front())
+    for (qsizetype column = 0; column < cells.size(); ++column) {
+        if (column > 0)
             line += separator;
+        const QString cell = QString(cells.at(column)).remove(QChar(QChar::Null));
         line += needsQuotes(cell) ? quote + QString(cell).replace(quote, u"\"\""_s) + quote : cell;
     }
     return line + u"\r\n"_s;

@@ -10,6 +10,7 @@ namespace abissora::csv {
 
 inline constexpr qsizetype mostColumns = 200;
 inline constexpr qsizetype mostRows = 200'000;
+inline constexpr qsizetype mostCells = 3'000'000; ///< of all rows: what they take of the memory is bounded
 
 struct Row
 {
@@ -27,7 +28,11 @@ struct Row
 /// NUL, more rows or columns than anybody has.
 [[nodiscard]] tl::expected<QList<Row>, QString> read(const QString& text, QChar separator);
 
-/// A line with its end, CR LF. What read() makes of it are the same cells, whatever they hold.
+/// The rows before the first error.
+[[nodiscard]] QList<Row> readable(const QString& text, QChar separator);
+
+/// A line with its end, CR LF. What read() makes of it are the same cells, whatever they hold but NUL, which no table
+/// can hold and which is left out.
 [[nodiscard]] QString line(const QStringList& cells, QChar separator);
 
 /// A text that a spreadsheet would take for a formula, or that looks defused already, with an apostrophe before it.

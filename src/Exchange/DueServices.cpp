@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DueServices.h"
 
+#include "ForeignText.h"
 #include "Literals.h"
 
 #include <QJsonArray>
@@ -23,9 +24,10 @@ QList<DueService> dueServices(const QList<Equipment>& equipment, std::int64_t wi
 
 QString dueLine(const DueService& due, const Almanac& almanac)
 {
-    const QString make = QString(due.item.brand + u' ' + due.item.model).simplified();
+    constexpr qsizetype longest = 200;
+    const QString make = shownLine(due.item.brand + u' ' + due.item.model, longest);
     const QString days = QString::number(due.days) + (std::abs(due.days) == 1 ? u" giorno"_s : u" giorni"_s);
-    const QString name = due.item.name.simplified() + (make.isEmpty() ? QString() : u" (%1)"_s.arg(make));
+    const QString name = shownLine(due.item.name, longest) + (make.isEmpty() ? QString() : u" (%1)"_s.arg(make));
     return QStringList{almanac.dates.longDate(due.item.nextServiceDate), days, name}.join(u'\t');
 }
 

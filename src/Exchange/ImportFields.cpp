@@ -188,6 +188,9 @@ QString titleOf(ImportField field, ImportSubject subject)
 
 ImportSubject subjectOf(const QStringList& headings)
 {
+    // Nobody writes into a list of works when the item was bought.
+    if (fieldsOf(headings, ImportSubject::Items).contains(ImportField::PurchaseDate))
+        return ImportSubject::Items;
     const QList<ImportField> fields = fieldsOf(headings, ImportSubject::Records);
     const auto has = [&fields](ImportField field) { return fields.contains(field); };
     const bool tellsWork = has(ImportField::PerformedBy) || has(ImportField::Cost) || has(ImportField::Outcome) ||

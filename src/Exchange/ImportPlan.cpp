@@ -2,6 +2,7 @@
 #include "ImportPlan.h"
 
 #include "CountText.h"
+#include "DocumentArchive.h"
 #include "ImportValues.h"
 #include "Literals.h"
 
@@ -44,14 +45,24 @@ QString counted(qsizetype count, const QString& one, const QString& many)
     return QString::number(count) + u' ' + (count == 1 ? one : many);
 }
 
-/// Another piece of the same data: the files of its records belong to the first.
+/// Another piece of the same data.
 void makeAnother(Equipment& item, IdGenerator& ids)
 {
     item.id = ids.next();
-    for (Maintenance& record : item.maintenanceHistory) {
+    for (Maintenance& record : item.maintenanceHistory)
         record.id = ids.next();
-        record.receiptFileName.reset();
-        record.certificateFileName.reset();
+}
+
+/// A document belongs to the record that had it first: it goes away with that one.
+void leaveDocuments(Equipment& item, QSet<QString>& taken)
+{
+    for (Maintenance& record : item.maintenanceHistory) {
+        for (std::optional<QString>* name : {&record.receiptFileName, &record.certificateFileName}) {
+            if (*name && taken.contains(**name))
+                name->reset();
+            else if (*name)
+                taken.insert(**name);
+        }
     }
 }
 
@@ -140,8 +151,14 @@ QStringList ImportPlan::faults(qsizetype most) const
     QStringList faults;
     for (const ImportRow& row : m_rows) {
         for (qsizetype column = 0; column < row.cells.size() && faults.size() < most; ++column) {
-            if (const QString& problem = row.cells.at(column).problem; !problem.isEmpty())
-                faults.append(csv::at(row.line, column + 1, problem));
+            const QString& problem = row.cells.at(column).problem;
+            if (problem.isEmpty())
+                continue;
+            // What is counted stands in no column of the file.
+            const bool isInFile = table() != nullptr && column < table()->headings.cells.size();
+            faults.append(
+                isInFile ? csv::at(row.line, column + 1, problem)
+                         : u"Riga %1, %2: %3"_s.arg(QString::number(row.line), m_columns.at(column).title, problem));
         }
     }
     return faults;
@@ -152,6 +169,7 @@ ImportedRecords ImportPlan::records(IdGenerator& ids) const
     QSet<QUuid> taken;
     for (const Equipment& item : m_context.equipment)
         taken.insert(item.id);
+    QSet<QString> documents = documentNames(m_context.equipment);
     ImportedRecords imported;
     for (qsizetype i = 0; i < m_rows.size(); ++i) {
         if (!m_isChosen.at(i))
@@ -164,6 +182,7 @@ ImportedRecords ImportPlan::records(IdGenerator& ids) const
         Equipment item = m_rows.at(i).item;
         if (item.id.isNull() || taken.contains(item.id))
             makeAnother(item, ids);
+        leaveDocuments(item, documents);
         taken.insert(item.id);
         imported.items.append(std::move(item));
     }
@@ -185,7 +204,7 @@ QList<EquipmentTypeModel> ImportPlan::types(IdGenerator& ids) const
     for (EquipmentTypeModel type : document->equipmentTypes) {
         if (names.contains(type.name))
             continue;
-        if (taken.contains(type.id))
+        if (type.id.isNull() || taken.contains(type.id))
             type.id = ids.next();
         names.insert(type.name);
         taken.insert(type.id);

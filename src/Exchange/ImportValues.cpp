@@ -15,7 +15,8 @@ namespace {
 QString withoutTime(const QString& cell)
 {
     static const QRegularExpression time(
-        u"[T\\s]\\s*[0-9]{1,2}[:.][0-9]{2}([:.][0-9]{2}([.,][0-9]+)?)?\\s*(Z|[+-][0-9]{2}:?[0-9]{2})?$"_s);
+        u"[T,\\s]\\s*[0-9]{1,2}[:.][0-9]{2}([:.][0-9]{2}([.,][0-9]+)?)?\\s*([AP]\\.?M\\.?|Z|[+-][0-9]{2}:?[0-9]{2})?$"_s,
+        QRegularExpression::CaseInsensitiveOption);
     QString day = cell.trimmed();
     return day.remove(time).trimmed();
 }
@@ -30,9 +31,24 @@ std::optional<QString> swapped(const QString& cell)
     return match.captured(3) + match.captured(2) + match.captured(1) + match.captured(4);
 }
 
-/// What the cell says by itself.
-DecimalSign signIn(const QString& cell)
+/// "2026/5/12" and "2026.05.12" as "2026-5-12".
+QString withHyphens(const QString& cell)
 {
+    static const QRegularExpression form(u"^([0-9]{4})[/.]([0-9]{1,2})[/.]([0-9]{1,2})$"_s);
+    return QString(cell).replace(form, u"\\1-\\2-\\3"_s);
+}
+
+/// The full stop after a word belongs to it: "Fr. 12,50".
+QString withoutWords(const QString& cell)
+{
+    static const QRegularExpression word(u"\\p{L}+\\.?"_s);
+    return QString(cell).remove(word).trimmed();
+}
+
+/// What the cell says by itself.
+DecimalSign signIn(const QString& words)
+{
+    const QString cell = withoutWords(words);
     static const QRegularExpression decimals(u"([.,])([0-9]*)[^0-9.,]*$"_s);
     const QRegularExpressionMatch match = decimals.match(cell);
     if (!match.hasMatch())
@@ -50,8 +66,13 @@ DecimalSign signIn(const QString& cell)
 
 QString withSignsSwapped(QString cell)
 {
-    for (QChar& c : cell)
-        c = c == u',' ? u'.' : c == u'.' ? QChar(u',') : c;
+    bool isInWord = false;
+    for (QChar& c : cell) {
+        const bool endsWord = isInWord && c == u'.';
+        isInWord = c.isLetter();
+        if (!endsWord)
+            c = c == u',' ? u'.' : c == u'.' ? QChar(u',') : c;
+    }
     return cell;
 }
 
@@ -76,7 +97,7 @@ DayOrder dayOrderOf(const QStringList& cells)
 
 std::optional<QDate> day(const QString& cell, DayOrder order)
 {
-    const QString text = withoutTime(cell);
+    const QString text = withHyphens(withoutTime(cell));
     return dayText::parse(order == DayOrder::MonthFirst ? swapped(text).value_or(text) : text);
 }
 
@@ -84,7 +105,7 @@ DecimalSign decimalSignOf(const QStringList& cells)
 {
     DecimalSign known = DecimalSign::Unknown;
     for (const QString& cell : cells) {
-        const DecimalSign sign = signIn(cell.trimmed());
+        const DecimalSign sign = signIn(cell);
         if (sign == DecimalSign::Unknown || sign == known)
             continue;
         if (known != DecimalSign::Unknown)
@@ -96,9 +117,11 @@ DecimalSign decimalSignOf(const QStringList& cells)
 
 Amount amount(const QString& cell, DecimalSign sign, const QString& currencySymbol)
 {
-    if (sign == DecimalSign::Both && signIn(cell.trimmed()) == DecimalSign::Unknown &&
-        (cell.contains(u',') || cell.contains(u'.')))
-        return {0, AmountFault::Ambiguous};
+    if (sign == DecimalSign::Both && signIn(cell) == DecimalSign::Unknown) {
+        const QString number = withoutWords(cell);
+        if (number.contains(u',') || number.contains(u'.'))
+            return {0, AmountFault::Ambiguous};
+    }
     // The reader takes a lonely comma for the decimals, a lonely full stop before three digits for thousands.
     const QString text = sign == DecimalSign::FullStop ? withSignsSwapped(cell) : cell;
     const auto value = costText::parse(text, {.currencySymbol = currencySymbol, .takesNegative = true});
@@ -130,7 +153,7 @@ std::optional<bool> yesOrNo(const QString& cell)
                                 u"non avvenuta"_s,
                                 u"non completata"_s,
                                 u"not done"_s};
-    const QString word = cell.simplified().toLower();
+    const QString word = cell.normalized(QString::NormalizationForm_C).simplified().toLower();
     if (yes.contains(word))
         return true;
     return no.contains(word) ? std::optional(false) : std::nullopt;

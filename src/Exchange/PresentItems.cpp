@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PresentItems.h"
 
+#include "Literals.h"
+
 namespace abissora {
 
 namespace {
@@ -10,43 +12,58 @@ QString plain(const QString& text)
     return text.simplified().toCaseFolded();
 }
 
-bool agree(const QString& asked, const QString& present)
+/// Plain texts hold no line ends.
+QString make(const QString& name, const QString& brand, const QString& model)
 {
-    return plain(asked).isEmpty() || plain(asked) == plain(present);
+    return QStringList{plain(name), plain(brand), plain(model)}.join(u'\n');
+}
+
+QString make(const Equipment& item)
+{
+    return make(item.name, item.brand, item.model);
+}
+
+/// Whatever a row may say to mean the item.
+QSet<QString> hints(const Equipment& item)
+{
+    return {make(item), make(item.name, item.brand, {}), make(item.name, {}, item.model), make(item.name, {}, {})};
 }
 
 } // namespace
 
 PresentItems::PresentItems(const QList<Equipment>& equipment)
-    : m_equipment(equipment)
 {
     for (qsizetype i = 0; i < equipment.size(); ++i) {
-        if (const QString serial = plain(equipment.at(i).serialNumber); !serial.isEmpty())
+        const Equipment& item = equipment.at(i);
+        const QString serial = plain(item.serialNumber);
+        m_makes.insert(make(item));
+        if (serial.isEmpty())
+            m_unnumbered[make(item)].append(i);
+        else
             m_bySerial[serial].append(i);
-        m_byName[plain(equipment.at(i).name)].append(i);
+        for (const QString& hint : hints(item)) {
+            m_byHint[hint].append(i);
+            if (serial.isEmpty())
+                m_unnumberedHints[hint].append(i);
+        }
     }
 }
 
 bool PresentItems::contains(const Equipment& item) const
 {
-    if (m_bySerial.contains(plain(item.serialNumber)))
-        return true;
-    const QList<qsizetype> named = m_byName.value(plain(item.name));
-    return std::ranges::any_of(named, [&](qsizetype i) {
-        const Equipment& present = m_equipment.at(i);
-        return plain(present.brand) == plain(item.brand) && plain(present.model) == plain(item.model);
-    });
+    return m_bySerial.contains(plain(item.serialNumber)) || m_makes.contains(make(item));
 }
 
 QList<qsizetype> PresentItems::find(const Equipment& item) const
 {
-    if (const auto bySerial = m_bySerial.value(plain(item.serialNumber)); !bySerial.isEmpty())
+    const QString serial = plain(item.serialNumber);
+    if (const auto bySerial = m_bySerial.value(serial); !bySerial.isEmpty())
         return bySerial;
-    QList<qsizetype> found = m_byName.value(plain(item.name));
-    found.removeIf([&](qsizetype i) {
-        const Equipment& present = m_equipment.at(i);
-        return !agree(item.brand, present.brand) || !agree(item.model, present.model);
-    });
+    const QList<qsizetype> found = (serial.isEmpty() ? m_byHint : m_unnumberedHints).value(make(item));
+    if (found.size() > 1) {
+        if (const auto same = m_unnumbered.value(make(item)); same.size() == 1)
+            return same;
+    }
     return found;
 }
 

@@ -4,6 +4,7 @@
 #include "Equipment.h"
 
 #include <QHash>
+#include <QSet>
 
 namespace abissora {
 
@@ -16,13 +17,18 @@ public:
 
     /// Whether there is one; an empty serial number tells nothing.
     [[nodiscard]] bool contains(const Equipment& item) const;
-    /// Their places in the list; without a brand or a model in the row, of any brand or model.
+    /// Their places in the list; without a brand or a model in the row, of any brand or model, and without a serial
+    /// number of any number, unless just one is the same in all of it. Never one of another serial number.
     [[nodiscard]] QList<qsizetype> find(const Equipment& item) const;
 
 private:
-    QHash<QString, QList<qsizetype>> m_bySerial;
-    QHash<QString, QList<qsizetype>> m_byName;
-    QList<Equipment> m_equipment;
+    using Places = QHash<QString, QList<qsizetype>>;
+
+    QSet<QString> m_makes;
+    Places m_bySerial;
+    Places m_byHint;          ///< by every text that may mean the item
+    Places m_unnumbered;      ///< by their make, those without a serial number
+    Places m_unnumberedHints; ///< the same by every text that may mean them
 };
 
 } // namespace abissora

@@ -17,8 +17,9 @@ public:
     TableWriter(ImportSubject subject, const Calendar& calendar, const QLocale& locale)
         : m_subject(subject)
         , m_calendar(calendar)
-        , m_decimalPoint(locale.decimalPoint())
-        , m_separator(m_decimalPoint == u"," ? u';' : u',')
+        // No others are understood everywhere.
+        , m_decimalPoint(locale.decimalPoint() == u"," ? u',' : u'.')
+        , m_separator(m_decimalPoint == u',' ? u';' : u',')
     {
         QStringList titles;
         for (const ImportField field : fieldsOf(subject))
@@ -41,7 +42,12 @@ private:
 
     [[nodiscard]] QString amount(double value) const
     {
-        return QString::number(value, 'f', QLocale::FloatingPointShortest).replace(u'.', m_decimalPoint);
+        constexpr qsizetype group = 3;
+        QString text = QString::number(value, 'f', QLocale::FloatingPointShortest);
+        const qsizetype point = text.indexOf(u'.');
+        if (point >= 0 && text.size() - point - 1 == group)
+            text += u'0'; // "1.234" might be a thousand and more
+        return text.replace(u'.', m_decimalPoint);
     }
 
     [[nodiscard]] QString cell(const Equipment& item, ImportField field) const
@@ -100,7 +106,7 @@ private:
 
     ImportSubject m_subject;
     Calendar m_calendar;
-    QString m_decimalPoint;
+    QChar m_decimalPoint;
     QChar m_separator;
     QString m_text;
 };

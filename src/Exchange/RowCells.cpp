@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RowCells.h"
 
+#include "ForeignText.h"
 #include "Literals.h"
 
 #include <QTime>
@@ -66,7 +67,9 @@ void RowCells::showDay(ImportField field, Instant instant)
 void RowCells::complain(ImportField field, const QString& problem)
 {
     m_row.standing = ImportRow::Standing::Faulty;
-    m_row.cells[m_columnOf.value(field, 0)].problem = problem;
+    // The file's own words stand in it.
+    constexpr qsizetype longest = 120;
+    m_row.cells[m_columnOf.value(field, 0)].problem = shownLine(problem, longest);
 }
 
 std::optional<Instant> RowCells::readDay(ImportField field)

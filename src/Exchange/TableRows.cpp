@@ -8,6 +8,8 @@
 #include "RowCells.h"
 #include "ServiceInterval.h"
 
+#include <QSet>
+
 namespace abissora {
 
 namespace {
@@ -61,16 +63,27 @@ public:
 private:
     void readType(Equipment& item)
     {
-        const QString name = m_cells.text(ImportField::Type);
-        item.type = caseNamed<EquipmentType>(name).value_or(EquipmentType::other);
-        if (!caseNamed<EquipmentType>(name) && !name.trimmed().isEmpty()) {
-            const QList<EquipmentTypeModel>& types = m_context.types.types();
-            const auto known = std::ranges::find_if(types, [&name](const EquipmentTypeModel& type) {
-                return type.name.compare(name, Qt::CaseInsensitive) == 0;
-            });
-            item.customTypeName = known != types.end() ? known->name : name;
-        }
+        const QString name = knownType(m_cells.text(ImportField::Type).trimmed());
+        const auto builtIn = fromRawValue<EquipmentType>(name);
+        item.type = builtIn.value_or(EquipmentType::other);
+        if (!builtIn && !name.isEmpty())
+            item.customTypeName = name;
         m_cells.show(ImportField::Type, item.displayTypeName());
+    }
+
+    /// As the catalogue or the program writes it; one of just that name before those in other letters.
+    [[nodiscard]] QString knownType(const QString& name) const
+    {
+        const QList<EquipmentTypeModel>& types = m_context.types.types();
+        if (fromRawValue<EquipmentType>(name) ||
+            std::ranges::find(types, name, &EquipmentTypeModel::name) != types.end())
+            return name;
+        if (const auto builtIn = caseNamed<EquipmentType>(name))
+            return rawValue(*builtIn);
+        const auto known = std::ranges::find_if(types, [&name](const EquipmentTypeModel& type) {
+            return type.name.compare(name, Qt::CaseInsensitive) == 0;
+        });
+        return known != types.end() ? known->name : name;
     }
 
     void readDates(Equipment& item)
@@ -138,7 +151,7 @@ public:
             m_cells.showDay(ImportField::Date, *date);
         if (m_cells.isFaulty())
             return;
-        const std::int64_t interval = serviceInterval::ofType(item->typeName(), m_context.types);
+        const std::int64_t interval = serviceInterval::ofItem(*item, m_context.types);
         record.date = *date;
         record.nextServiceDate = next ? *next : m_cells.after(*date, interval);
         m_cells.showDay(ImportField::NextService, record.nextServiceDate);
@@ -151,26 +164,29 @@ private:
     const Equipment* findItem()
     {
         m_cells.row().item = itemIn(m_cells);
-        const QList<qsizetype> found = m_present.find(m_cells.row().item);
+        const bool isTold = !m_cells.isEmpty(ImportField::Name) || !m_cells.isEmpty(ImportField::SerialNumber);
+        const QList<qsizetype> found = isTold ? m_present.find(m_cells.row().item) : QList<qsizetype>();
         if (found.size() == 1) {
             const Equipment& item = m_context.equipment.at(found.first());
             m_cells.row().ofItem = item.id;
             return &item;
         }
-        const ImportField place = m_cells.has(ImportField::Name) ? ImportField::Name : ImportField::SerialNumber;
-        m_cells.complain(
-            place,
-            (found.isEmpty() ? u"Nessun articolo così: %1"_s : u"Più articoli così: %1"_s).arg(m_cells.text(place)));
+        const bool isNamed = m_cells.has(ImportField::Name) && !m_cells.isEmpty(ImportField::Name);
+        const ImportField place =
+            isNamed || !m_cells.has(ImportField::SerialNumber) ? ImportField::Name : ImportField::SerialNumber;
+        m_cells.complain(place, m_cells.isEmpty(place) ? u"Manca l'articolo"_s
+                                : found.isEmpty()      ? u"Nessun articolo così: %1"_s.arg(m_cells.text(place))
+                                                       : u"Più articoli così: %1"_s.arg(m_cells.text(place)));
         return nullptr;
     }
 
     /// A kind of other words is part of what was done, so that it is not lost.
     void readKind(Maintenance& record)
     {
-        const QString kind = m_cells.text(ImportField::Kind);
+        const QString kind = m_cells.text(ImportField::Kind).trimmed();
         const auto known = caseNamed<MaintenanceType>(kind);
         record.type = known.value_or(MaintenanceType::other);
-        if (!known && !kind.trimmed().isEmpty()) {
+        if (!known && !kind.isEmpty()) {
             record.description = record.description.isEmpty() ? kind : kind + u": "_s + record.description;
             m_cells.show(ImportField::Description, record.description);
         }
@@ -202,19 +218,28 @@ private:
             m_cells.show(ImportField::Outcome, *record.isCompleted ? u"Avvenuta"_s : u"Non avvenuta"_s);
     }
 
-    [[nodiscard]] bool isPresent(const Maintenance& record, const Equipment& item) const
+    [[nodiscard]] bool isPresent(const Maintenance& record, const Equipment& item)
     {
-        const Calendar& calendar = m_context.almanac.calendar;
-        return std::ranges::any_of(item.maintenanceHistory, [&](const Maintenance& other) {
-            return other.type == record.type && other.description == record.description &&
-                   calendar.local(other.date).date() == calendar.local(record.date).date();
-        });
+        if (!m_histories.contains(item.id)) {
+            QSet<QString>& history = m_histories[item.id];
+            for (const Maintenance& other : item.maintenanceHistory)
+                history.insert(gist(other));
+        }
+        return m_histories.value(item.id).contains(gist(record));
+    }
+
+    /// What two records that are the same work have in common.
+    [[nodiscard]] QString gist(const Maintenance& record) const
+    {
+        return QStringList{shownDay(record.date, m_context.almanac.calendar), rawValue(record.type), record.description}
+            .join(u'\n');
     }
 
     RowCells& m_cells;
     const ImportContext& m_context;
     PresentItems m_present;
     importValues::DecimalSign m_decimalSign;
+    QHash<QUuid, QSet<QString>> m_histories; ///< of the items that rows name
 };
 
 template <typename Reader>

@@ -34,8 +34,8 @@ std::optional<QString> decodedAs(QStringConverter::Encoding encoding, const QByt
     QString text = decoder.decode(bytes);
     if (decoder.hasError())
         return std::nullopt;
-    // Half a character at the end is no error to the decoder, which waits for the rest.
-    if (encoding != QStringConverter::Utf8 && bytes.size() % 2 != 0)
+    // Half a character at the end is no error to the decoder, which waits for the rest; nor is half a pair.
+    if ((encoding != QStringConverter::Utf8 && bytes.size() % 2 != 0) || !text.isValidUtf16())
         return std::nullopt;
     return text;
 }
@@ -54,12 +54,17 @@ std::optional<QStringConverter::Encoding> looksLikeUtf16(const QByteArray& bytes
     return isMost(zeros[0]) ? QStringConverter::Utf16BE : QStringConverter::Utf16LE;
 }
 
+tl::expected<DecodedText, QString> unlessEmpty(DecodedText decoded)
+{
+    if (QStringView(decoded.text).trimmed().isEmpty())
+        return tl::unexpected(u"Il file è vuoto."_s);
+    return decoded;
+}
+
 } // namespace
 
 tl::expected<DecodedText, QString> decodeText(const QByteArray& bytes)
 {
-    if (bytes.trimmed().isEmpty())
-        return tl::unexpected(u"Il file è vuoto."_s);
     if (bytes.startsWith("%PDF-"))
         return tl::unexpected(u"Il file non è una tabella: è un documento PDF."_s);
     if (bytes.startsWith("PK\x03\x04"))
@@ -70,12 +75,12 @@ tl::expected<DecodedText, QString> decodeText(const QByteArray& bytes)
     const auto wide = marked && *marked != QStringConverter::Utf8 ? marked : looksLikeUtf16(bytes);
     if (wide) {
         const auto text = decodedAs(*wide, bytes);
-        if (!text || text->contains(QChar(QChar::ReplacementCharacter)))
+        if (!text)
             return tl::unexpected(u"Il file è danneggiato: non è un testo UTF-16 intero."_s);
-        return DecodedText{*text, u"UTF-16"_s};
+        return unlessEmpty({*text, u"UTF-16"_s});
     }
     if (const auto text = decodedAs(QStringConverter::Utf8, bytes))
-        return DecodedText{*text, u"UTF-8"_s};
+        return unlessEmpty({*text, u"UTF-8"_s});
     return DecodedText{fromWindows(bytes), u"Windows-1252"_s};
 }
 

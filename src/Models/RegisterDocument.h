@@ -23,4 +23,14 @@ struct RegisterDocument
     friend bool operator==(const RegisterDocument&, const RegisterDocument&) = default;
 };
 
+/// What every version says of such a text, whatever else it holds.
+struct RegisterHead
+{
+    QString format;
+    std::int64_t version = 0;
+    std::optional<QString> program;
+
+    friend bool operator==(const RegisterHead&, const RegisterHead&) = default;
+};
+
 } // namespace abissora

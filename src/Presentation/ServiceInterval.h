@@ -40,18 +40,22 @@ inline constexpr std::int64_t ofComputers = 730;
     return type ? type->serviceIntervalDays : usual;
 }
 
-/// For the form of a maintenance record, of the item in the register: at least one day; without such a type the one of
-/// computers or the usual one, which also stands for an item that is gone.
+/// For a maintenance record of the item: at least one day; without such a type the one of computers or the usual one.
+[[nodiscard]] inline std::int64_t ofItem(const Equipment& item, const EquipmentTypeViewModel& types)
+{
+    if (const auto type = types.getTypeByName(item.typeName()))
+        return std::max<std::int64_t>(type->serviceIntervalDays, 1);
+    return item.type == EquipmentType::computer ? ofComputers : usual;
+}
+
+/// For the form of a maintenance record, of the item in the register: as ofItem() above; the usual one for an item that
+/// is gone.
 [[nodiscard]] inline std::int64_t ofItem(const QUuid& id, const EquipmentViewModel& equipment,
                                          const EquipmentTypeViewModel& types)
 {
     const QList<Equipment>& items = equipment.equipment();
     const auto item = std::ranges::find(items, id, &Equipment::id);
-    if (item == items.end())
-        return usual;
-    if (const auto type = types.getTypeByName(item->typeName()))
-        return std::max<std::int64_t>(type->serviceIntervalDays, 1);
-    return item->type == EquipmentType::computer ? ofComputers : usual;
+    return item == items.end() ? usual : ofItem(*item, types);
 }
 
 } // namespace abissora::serviceInterval

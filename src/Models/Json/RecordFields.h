@@ -97,6 +97,16 @@ struct Fields<RegisterDocument>
 };
 
 template <>
+struct Fields<RegisterHead>
+{
+    static constexpr std::tuple all{
+        Field{"format", &RegisterHead::format},
+        Field{"version", &RegisterHead::version},
+        Field{"program", &RegisterHead::program},
+    };
+};
+
+template <>
 struct Fields<UpdateManifest>
 {
     static constexpr std::tuple all{

@@ -106,6 +106,11 @@ tl::expected<RegisterDocument, JsonError> decodeRegisterDocument(const QByteArra
     return decode<RegisterDocument>(json);
 }
 
+tl::expected<RegisterHead, JsonError> decodeRegisterHead(const QByteArray& json)
+{
+    return decode<RegisterHead>(json);
+}
+
 tl::expected<UpdateManifest, JsonError> decodeManifest(const QByteArray& json)
 {
     return decode<UpdateManifest>(json);

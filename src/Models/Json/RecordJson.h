@@ -61,6 +61,7 @@ struct Salvaged
 /// One JSON object, its lists in the stored form. Reading it says nothing of its format and version.
 [[nodiscard]] tl::expected<QByteArray, JsonError> encode(const RegisterDocument& document);
 [[nodiscard]] tl::expected<RegisterDocument, JsonError> decodeRegisterDocument(const QByteArray& json);
+[[nodiscard]] tl::expected<RegisterHead, JsonError> decodeRegisterHead(const QByteArray& json);
 
 /// One JSON object, read as strictly: the build is a whole number of 64 bits, only the release notes may be missing or
 /// null.
