@@ -27,9 +27,9 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE "${ABISSORA_BUILD_NUMBER}")
 set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# What the program takes from the system without linking it: what the check for updates loads when it begins, fonts and
-# the toolkit's Italian texts.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libcurl4 | libcurl3-gnutls, fonts-inter, fonts-noto-color-emoji, qt6-translations-l10n")
+# What the program takes from the system without linking it: what the check for updates and copies of the register load
+# when they begin, fonts and the toolkit's Italian texts.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libcurl4 | libcurl3-gnutls, libarchive13, fonts-inter, fonts-noto-color-emoji, qt6-translations-l10n")
 # xdg-open shows documents and pages; the check for updates trusts the system's certificates.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils, ca-certificates")
 include(CPack)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "ArchiveProperties.h"
 #include "GuideProperties.h"
 #include "ManifestProperties.h"
 #include "RecordProperties.h"
@@ -10,7 +11,8 @@
 
 using namespace abissora;
 
-/// Every file is read as each kind of record, as a manifest and as a guide, whichever it was kept for.
+/// Every file is read as each kind of record, as a manifest, as a guide and as a copy of a register, whichever it was
+/// kept for.
 class tst_FuzzCorpus : public test::TestCase
 {
     Q_OBJECT
@@ -37,6 +39,7 @@ private Q_SLOTS:
         QCOMPARE(test::faultWithTypes(text), QString());
         QCOMPARE(test::faultWithManifest(text), QString());
         QCOMPARE(test::faultWithGuide(text), QString());
+        QCOMPARE(test::faultWithArchive(text), QString());
     }
 };
 
