@@ -21,9 +21,13 @@ struct CommandOption
 const QList<CommandOption>& commandOptions()
 {
     static const QList<CommandOption> all{
-        {Command::ListStates, u"list-states"_s, {}},  {Command::Check, u"check"_s, {}},
-        {Command::Restore, u"restore"_s, u"STATO"_s}, {Command::Export, u"export"_s, u"FILE"_s},
-        {Command::Import, u"import"_s, u"FILE"_s},    {Command::Due, u"due"_s, {}},
+        {Command::ListStates, u"list-states"_s, {}},
+        {Command::Check, u"check"_s, {}},
+        {Command::Restore, u"restore"_s, u"STATO"_s},
+        {Command::Backup, u"backup"_s, u"FILE"_s},
+        {Command::Export, u"export"_s, u"FILE"_s},
+        {Command::Import, u"import"_s, u"FILE"_s},
+        {Command::Due, u"due"_s, {}},
     };
     return all;
 }
@@ -157,6 +161,10 @@ QString CommandLine::helpText()
            "  --list-states     Elenca gli stati precedenti del registro, uno per riga\n"
            "  --restore STATO   Ripristina lo stato di quel nome, dopo aver conservato quello\n"
            "                    di adesso\n"
+           "  --backup FILE     Scrive in FILE, che termina in .zip, una copia di tutto il\n"
+           "                    registro, documenti compresi; anche mentre il programma è aperto\n"
+           "  --restore FILE    Controlla tutta la copia FILE, che termina in .zip, e la mette al\n"
+           "                    posto del registro, dopo aver conservato lo stato di adesso\n"
            "  --check           Legge tutto il registro, dice che cosa è danneggiato, manca o\n"
            "                    è di troppo, e termina con 0 o, se c'è qualcosa, con 1\n"
            "\n"

@@ -11,7 +11,7 @@
 namespace abissora {
 
 /// What is done without a window, and so without a screen.
-enum class Command { ListStates, Check, Restore, Export, Import, Due };
+enum class Command { ListStates, Check, Restore, Backup, Export, Import, Due };
 
 struct CommandLine
 {

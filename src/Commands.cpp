@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Commands.h"
 
+#include "ArchiveCommands.h"
 #include "CommandLine.h"
 #include "ExchangeCommands.h"
 #include "ExitStatus.h"
@@ -56,6 +57,12 @@ public:
                         u"Il registro non si può modificare: %1"_s.arg(permitted.error().reason));
         }
         clearUp(m_directories, m_generations);
+        if (isArchiveOperand(name)) {
+            const int status = restoreArchive(name, m_directories, m_generations, m_lock, m_streams);
+            if (status == exitStatus::done)
+                settleDocuments();
+            return status;
+        }
         const auto state = m_generations.find(name);
         if (!state)
             return fail(exitStatus::noInput,
@@ -118,6 +125,8 @@ int runCommand(const CommandLine& commandLine, const ApplicationDirectories& dir
         return commands.listStates();
     case Command::Restore:
         return commands.restore(commandLine.operand);
+    case Command::Backup:
+        return backUp(commandLine.operand, directories, streams);
     }
     return exitStatus::usage;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ArchiveManifest.h"
 
+#include "CountText.h"
 #include "EarlierState.h"
 #include "Literals.h"
 
@@ -80,6 +81,14 @@ IoResult<ArchivedFile> readFile(const Json& object)
 }
 
 } // namespace
+
+QString ArchiveCounts::text() const
+{
+    const QString documentsText = documents == 0   ? u"nessun documento"_s
+                                  : documents == 1 ? u"1 documento"_s
+                                                   : u"%1 documenti"_s.arg(documents);
+    return QStringList{itemsText(items), recordsText(records), typesText(types), documentsText}.join(u", "_s);
+}
 
 bool isArchivedName(const QString& name)
 {

@@ -27,6 +27,9 @@ struct ArchiveCounts
     qsizetype types = 0;
     qsizetype documents = 0;
 
+    /// "12 articoli, 31 manutenzioni, 16 tipologie, 4 documenti"
+    [[nodiscard]] QString text() const;
+
     friend bool operator==(const ArchiveCounts&, const ArchiveCounts&) = default;
 };
 
