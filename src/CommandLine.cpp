@@ -21,13 +21,10 @@ struct CommandOption
 const QList<CommandOption>& commandOptions()
 {
     static const QList<CommandOption> all{
-        {Command::ListStates, u"list-states"_s, {}},
-        {Command::Check, u"check"_s, {}},
-        {Command::Restore, u"restore"_s, u"STATO"_s},
-        {Command::Backup, u"backup"_s, u"FILE"_s},
-        {Command::Export, u"export"_s, u"FILE"_s},
-        {Command::Import, u"import"_s, u"FILE"_s},
-        {Command::Due, u"due"_s, {}},
+        {Command::ListStates, u"list-states"_s, {}},  {Command::Check, u"check"_s, {}},
+        {Command::Restore, u"restore"_s, u"STATO"_s}, {Command::Backup, u"backup"_s, u"FILE"_s},
+        {Command::Print, u"print"_s, u"FILE"_s},      {Command::Export, u"export"_s, u"FILE"_s},
+        {Command::Import, u"import"_s, u"FILE"_s},    {Command::Due, u"due"_s, {}},
     };
     return all;
 }
@@ -38,6 +35,7 @@ const QList<CommandOption>& sideOptions()
     static const QList<CommandOption> all{
         {Command::Export, u"what"_s, u"TABELLA"_s},
         {Command::Import, u"yes"_s, {}},
+        {Command::Print, u"item"_s, u"NOME"_s},
         {Command::Due, u"json"_s, {}},
     };
     return all;
@@ -69,6 +67,7 @@ public:
         line.version = m_parser.isSet(m_version);
         line.dataDir = m_parser.value(m_dataDir);
         line.snapshot = m_parser.value(m_snapshot);
+        line.item = m_parser.value(u"item"_s);
         for (const CommandOption& option : commandOptions()) {
             if (!m_parser.isSet(option.name))
                 continue;
@@ -174,6 +173,9 @@ QString CommandLine::helpText()
            "    --what TABELLA  Nella tabella gli «articoli» o le «manutenzioni»\n"
            "  --import FILE     Mostra che cosa verrebbe importato da una tabella o da un registro\n"
            "    --yes           E lo importa, dopo aver conservato lo stato di adesso\n"
+           "  --print FILE      Stampa nel file PDF FILE l'elenco di tutta l'attrezzatura\n"
+           "    --item NOME     O la scheda di manutenzione dell'articolo che si chiama NOME, o di\n"
+           "                    tutti quelli che si chiamano così\n"
            "  --due [GIORNI]    Elenca gli articoli attivi con il tagliando entro 30 giorni, o entro\n"
            "                    GIORNI, e termina con 1 se ce ne sono, altrimenti con 0\n"
            "    --json          In JSON, per altri programmi\n"

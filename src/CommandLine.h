@@ -11,7 +11,7 @@
 namespace abissora {
 
 /// What is done without a window, and so without a screen.
-enum class Command { ListStates, Check, Restore, Backup, Export, Import, Due };
+enum class Command { ListStates, Check, Restore, Backup, Export, Import, Print, Due };
 
 struct CommandLine
 {
@@ -25,6 +25,7 @@ struct CommandLine
     bool yes = false;                     ///< of an import: store it
     bool json = false;                    ///< of what is due: for programs
     std::int64_t days = dueThresholdDays; ///< of what is due: how far ahead
+    QString item;                         ///< of printing: the name of the items; empty when not given
 
     /// `arguments` without the program's name. The error is a sentence for the person.
     [[nodiscard]] static tl::expected<CommandLine, QString> parse(const QStringList& arguments);

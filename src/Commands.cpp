@@ -7,6 +7,7 @@
 #include "ExitStatus.h"
 #include "FolderLock.h"
 #include "Literals.h"
+#include "PrintCommand.h"
 #include "RegisterCheck.h"
 #include "RegisterStart.h"
 #include "StateContent.h"
@@ -111,6 +112,8 @@ private:
 
 int runCommand(const CommandLine& commandLine, const ApplicationDirectories& directories, const CommandStreams& streams)
 {
+    if (commandLine.command == Command::Print)
+        return printCommand(commandLine, directories, streams);
     Commands commands(directories, streams);
     switch (commandLine.command.value()) {
     case Command::Export:
@@ -127,6 +130,8 @@ int runCommand(const CommandLine& commandLine, const ApplicationDirectories& dir
         return commands.restore(commandLine.operand);
     case Command::Backup:
         return backUp(commandLine.operand, directories, streams);
+    case Command::Print:
+        break;
     }
     return exitStatus::usage;
 }

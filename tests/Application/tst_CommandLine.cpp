@@ -22,6 +22,10 @@ private Q_SLOTS:
         QVERIFY(CommandLine::parse({u"-v"_s})->version);
         QVERIFY(CommandLine::parse({u"--help"_s})->help);
         QVERIFY(CommandLine::parse({}).has_value());
+        const auto printed = CommandLine::parse({u"--print"_s, u"a.pdf"_s, u"--item"_s, u"GAV"_s});
+        QCOMPARE(printed->command, Command::Print);
+        QCOMPARE(printed->operand, u"a.pdf"_s);
+        QCOMPARE(printed->item, u"GAV"_s);
     }
 
     void errors_data()
@@ -33,6 +37,8 @@ private Q_SLOTS:
                                   << u"A un'opzione manca il suo valore, o ne ha uno di troppo."_s;
         QTest::newRow("empty value") << QStringList(u"--data-dir="_s)
                                      << u"L'opzione «--data-dir» ha un valore vuoto."_s;
+        QTest::newRow("item without print")
+            << QStringList{u"--check"_s, u"--item=GAV"_s} << u"L'opzione «--item» va insieme a «--print»."_s;
         QTest::newRow("stray") << QStringList(u"registro"_s) << u"Argomento inatteso: «registro»."_s;
     }
 
@@ -47,7 +53,8 @@ private Q_SLOTS:
 
     void helpNamesEveryOption()
     {
-        for (const char* option : {"--data-dir", "--snapshot", "--version", "--help", "ABISSORA_DATA_DIR"})
+        for (const char* option :
+             {"--data-dir", "--snapshot", "--version", "--help", "--print", "--item", "ABISSORA_DATA_DIR"})
             QVERIFY(CommandLine::helpText().contains(QLatin1String(option)));
         QVERIFY(CommandLine::versionText().startsWith("Abissora "_L1));
     }

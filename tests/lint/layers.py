@@ -18,7 +18,7 @@ STOREYS = [
     ["Components"],
     ["Screen", "Desktop"],
     ["List", "Sidebar", "Forms", "Help", "Types"],
-    ["Detail", "Settings", "Restore", "Import"],
+    ["Detail", "Settings", "Restore", "Import", "Print"],
     ["Overview"],
     ["Shell"],
     ["application"],
