@@ -18,11 +18,6 @@ bool always(qint64 /*done*/, qint64 /*whole*/)
     return true;
 }
 
-void say(std::FILE* stream, const QString& line)
-{
-    std::fputs(qUtf8Printable(line + u'\n'), stream);
-}
-
 int fail(int status, const IoError& error, const CommandStreams& streams)
 {
     say(streams.error, error.reason);

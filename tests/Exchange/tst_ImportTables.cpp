@@ -136,26 +136,26 @@ private Q_SLOTS:
         add("the usual", usual, u"Muta;1/3/26;Lavata"_s, u"Muta|01/03/2026|Lavata|01/03/2027"_s);
         add("no date", usual, u"Muta;;Lavata"_s, u"Muta|!Manca la data|Lavata|"_s);
         add("no day", usual, u"Muta;31/04/2026;Lavata"_s, u"Muta|!Data non valida: 31/04/2026|Lavata|"_s);
-        add("an unknown item", usual, u"Boa;1/3/26;Lavata"_s, u"!Nessun articolo così: Boa|1/3/26|Lavata|"_s);
-        add("no item", usual, u";1/3/26;Lavata"_s, u"!Manca l'articolo|1/3/26|Lavata|"_s);
-        add("one of several items", usual, u"Pinne;1/3/26;x"_s, u"!Più articoli così: Pinne|1/3/26|x|"_s);
+        add("an unknown item", usual, u"Boa;1/3/26;Lavata"_s, u"!Nessun articolo così: Boa|01/03/2026|Lavata|"_s);
+        add("no item", usual, u";1/3/26;Lavata"_s, u"!Manca l'articolo|01/03/2026|Lavata|"_s);
+        add("one of several items", usual, u"Pinne;1/3/26;x"_s, u"!Più articoli così: Pinne|01/03/2026|x|"_s);
         const QString numbered = u"Seriale;Data;Descrizione"_s;
         add("by its number", numbered, u"sn-01;1/3/26;x"_s, u"sn-01|01/03/2026|x|01/03/2027"_s);
-        add("an unknown number", numbered, u"SN-9;1/3/26;x"_s, u"!Nessun articolo così: SN-9|1/3/26|x|"_s);
+        add("an unknown number", numbered, u"SN-9;1/3/26;x"_s, u"!Nessun articolo così: SN-9|01/03/2026|x|"_s);
         add("another number", u"Articolo;Seriale;Data;Esito"_s, u"Muta;SN-9;1/3/26;"_s,
-            u"!Nessun articolo così: Muta|SN-9|1/3/26||"_s);
+            u"!Nessun articolo così: Muta|SN-9|01/03/2026||"_s);
         add("a computer's interval", usual, u"Suunto;1/3/26;x"_s, u"Suunto|01/03/2026|x|29/02/2028"_s);
         add("a next service", u"Articolo;Data;Esito;Scadenza"_s, u"Muta;1/3/26;sì;5/6/2026"_s,
             u"Muta|01/03/2026|Avvenuta|05/06/2026"_s);
         add("an unknown outcome", u"Articolo;Data;Esito"_s, u"Muta;1/3/26;boh"_s,
-            u"Muta|1/3/26|!Esito sconosciuto: boh|"_s);
+            u"Muta|01/03/2026|!Esito sconosciuto: boh|"_s);
         add("a kind in other letters", u"Articolo;Data;Tipo;Descrizione"_s, u"Muta;1/3/26;PULIZIA;x"_s,
             u"Muta|01/03/2026|Pulizia|x|01/03/2027"_s);
         add("a kind of other words", u"Articolo;Data;Tipo;Descrizione"_s, u"Muta;1/3/26;Collaudo;x"_s,
             u"Muta|01/03/2026|Altro|Collaudo: x|01/03/2027"_s);
         add("an amount", u"Articolo;Data;Costo"_s, u"Muta;1/3/26;€ 1.234,5"_s, u"Muta|01/03/2026|1234,50|01/03/2027"_s);
         add("no amount", u"Articolo;Data;Costo"_s, u"Muta;1/3/26;gratis"_s,
-            u"Muta|1/3/26|!Importo non valido: gratis|"_s);
+            u"Muta|01/03/2026|!Importo non valido: gratis|"_s);
     }
 
     void records()
