@@ -96,6 +96,8 @@ public:
     IoResult<void> store(QList<Equipment> items, const ImportPlan& plan)
     {
         PreferencesStore preferences(m_directories.preferences(), m_generations);
+        if (auto seen = see(preferences); !seen)
+            return seen;
         // Known before anything is written: an earlier state is kept, once.
         const QList<EquipmentTypeModel> types = plan.types(m_ids);
         if (!types.isEmpty()) {
@@ -108,6 +110,16 @@ public:
     }
 
 private:
+    /// What was not read by the store that writes would count as another program's.
+    static IoResult<void> see(PreferencesStore& preferences)
+    {
+        return preferences.data(registerKey).map([&preferences](const std::optional<QByteArray>& bytes) {
+            const auto stored = bytes ? readEquipment(*bytes) : Decoded<Equipment>();
+            if (stored && stored->hasUnknownMembers)
+                preferences.keepUnknownMembers(registerKey);
+        });
+    }
+
     ApplicationDirectories m_directories;
     SystemClock m_clock;
     FolderLock m_lock;
