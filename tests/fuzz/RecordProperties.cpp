@@ -48,4 +48,9 @@ QString faultWithTypes(const QByteArray& json)
     return fault(json, decodeTypes);
 }
 
+QString faultWithRegister(const QByteArray& json)
+{
+    return fault(json, decodeRegisterDocument);
+}
+
 } // namespace abissora::test

@@ -10,5 +10,6 @@ namespace abissora::test {
 /// of one short line, or decodes to records whose encoding decodes to the same records and is encoded the same again.
 [[nodiscard]] QString faultWithEquipment(const QByteArray& json);
 [[nodiscard]] QString faultWithTypes(const QByteArray& json);
+[[nodiscard]] QString faultWithRegister(const QByteArray& json);
 
 } // namespace abissora::test

@@ -3,6 +3,7 @@
 #include "GuideProperties.h"
 #include "ManifestProperties.h"
 #include "RecordProperties.h"
+#include "TableProperties.h"
 #include "TestRunner.h"
 
 #include <QDirIterator>
@@ -11,8 +12,8 @@
 
 using namespace abissora;
 
-/// Every file is read as each kind of record, as a manifest, as a guide and as a copy of a register, whichever it was
-/// kept for.
+/// Every file is read as each kind of record, as a register, a table, a manifest, a guide and a copy of a register,
+/// whichever it was kept for.
 class tst_FuzzCorpus : public test::TestCase
 {
     Q_OBJECT
@@ -37,6 +38,8 @@ private Q_SLOTS:
         const QByteArray text = file.readAll();
         QCOMPARE(test::faultWithEquipment(text), QString());
         QCOMPARE(test::faultWithTypes(text), QString());
+        QCOMPARE(test::faultWithRegister(text), QString());
+        QCOMPARE(test::faultWithImport(text), QString());
         QCOMPARE(test::faultWithManifest(text), QString());
         QCOMPARE(test::faultWithGuide(text), QString());
         QCOMPARE(test::faultWithArchive(text), QString());

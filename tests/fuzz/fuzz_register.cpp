@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#include "RecordProperties.h"
+
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const QByteArray json(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    if (const QString fault = abissora::test::faultWithRegister(json); !fault.isEmpty())
+        qFatal("%s", qPrintable(fault));
+    return 0;
+}
