@@ -2,6 +2,7 @@
 #include "MarevoloApp.h"
 
 #include "AppWindows.h"
+#include "ArchiveRestoration.h"
 #include "ContentView.h"
 #include "EmergencyCopy.h"
 #include "EquipmentDetailView.h"
@@ -44,6 +45,8 @@ MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories
     , m_lookedAt(directories.windowStateFile())
     , m_exchange({m_equipment, m_types, m_settings, m_filePanel, m_work, m_ids, m_almanac,
                   m_package.value(u"CFBundleShortVersionString"_s).toString()})
+    , m_copies({m_filePanel, m_work, directories, m_almanac, [this] { settleSaves(); },
+                [this, &permission](const UnpackedArchive& copy) { return restoreCopy(copy, permission); }})
 {
     QApplication::setWindowIcon(applicationIcon());
     applyScheme();
@@ -85,6 +88,15 @@ IoResult<void> MarevoloApp::restore(const EarlierState& state)
     });
 }
 
+IoResult<void> MarevoloApp::restoreCopy(const UnpackedArchive& copy, WritePermission& permission)
+{
+    settleSaves();
+    return ArchiveRestoration(m_directories, m_generations, permission, m_clock.now()).restore(copy).map([this] {
+        m_isOver = true;
+        Q_EMIT restored();
+    });
+}
+
 void MarevoloApp::settleSaves()
 {
     if (m_isOver || m_saveRetry.retry())
@@ -120,6 +132,8 @@ MainWindow& MarevoloApp::mainWindow()
                 [this](const QString& path) { m_exchange.importPath(path, m_mainWindow.get()); });
         connect(m_mainWindow.get(), &MainWindow::exportRequested, this,
                 [this] { m_exchange.exportRegister(m_mainWindow.get()); });
+        connect(m_mainWindow.get(), &MainWindow::copyRequested, this,
+                [this] { m_copies.createCopy(m_mainWindow.get()); });
         connect(m_mainWindow.get(), &MainWindow::closed, m_windows.get(), &AppWindows::closeAll);
         connect(this, &MarevoloApp::updateOffered, m_windows.get(), &AppWindows::openUpdate);
         connect(m_windows.get(), &AppWindows::updateDismissed, &m_updates,
@@ -185,7 +199,7 @@ ViewSheet* MarevoloApp::makeRestore(QWidget* over)
 {
     return RestoreView::makeSheet(
         {m_generations, m_archive, m_equipment, m_types, m_settings, m_almanac}, m_lookedAt,
-        [this](const EarlierState& state) { return restore(state); }, over);
+        [this](const EarlierState& state) { return restore(state); }, over, &m_copies);
 }
 
 bool MarevoloApp::hasStateToLookAt() const

@@ -3,6 +3,7 @@
 
 #include "Almanac.h"
 #include "ApplicationDirectories.h"
+#include "CopyActions.h"
 #include "DayWatch.h"
 #include "DesktopFilePanel.h"
 #include "DesktopOpener.h"
@@ -62,6 +63,7 @@ Q_SIGNALS:
 private:
     QCoro::Task<> checkForUpdatesAtStart();
     void comeForward();
+    [[nodiscard]] IoResult<void> restoreCopy(const UnpackedArchive& copy, WritePermission& permission);
     [[nodiscard]] std::unique_ptr<EquipmentDetail> detail(const Equipment& equipment);
     void applyScheme();
 
@@ -104,6 +106,7 @@ private:
     SaveRetry m_saveRetry;
     LookedAtStates m_lookedAt;
     ExchangeActions m_exchange;
+    CopyActions m_copies;
     std::unique_ptr<MainWindow> m_mainWindow;
     std::unique_ptr<AppWindows> m_windows;
     bool m_hasStarted = false;

@@ -48,7 +48,19 @@ EarlierStateRow RestoreContent::row(qsizetype index) const
 
 RestorePreview RestoreContent::preview(qsizetype index) const
 {
-    const EarlierState& state = m_states.at(index);
+    return preview(m_states.at(index), m_sources.archive.archived());
+}
+
+RestorePreview RestoreContent::previewOfCopy(const EarlierState& copy, const QSet<QString>& documents) const
+{
+    RestorePreview preview =
+        this->preview(copy, (m_sources.archive.archived() + documents) - m_sources.archive.present());
+    preview.title = u"Copia del "_s + preview.title;
+    return preview;
+}
+
+RestorePreview RestoreContent::preview(const EarlierState& state, const QSet<QString>& documents) const
+{
     const Almanac& almanac = m_sources.almanac;
     const StateContent content = readContent(state);
     RestorePreview preview{
@@ -58,18 +70,19 @@ RestorePreview RestoreContent::preview(qsizetype index) const
         .canBeRestored = abissora::canBeRestored(content),
     };
     if (preview.canBeRestored) {
-        preview.groups = differences(state, content);
+        preview.groups = differences(state, content, documents);
         preview.subtitle = preview.groups.isEmpty() ? u"Uguale ad adesso"_s : u"Che cosa cambia rispetto ad adesso"_s;
     }
     return preview;
 }
 
-QList<DifferenceGroup> RestoreContent::differences(const EarlierState& state, const StateContent& content) const
+QList<DifferenceGroup> RestoreContent::differences(const EarlierState& state, const StateContent& content,
+                                                   const QSet<QString>& documents) const
 {
     StateComparison comparison(m_sources.types, m_sources.almanac.dates);
     if (content.equipment.isStored) {
         comparison.compareEquipment(m_equipment, content.equipment.records);
-        comparison.addDocuments(content.equipment.records, m_sources.archive.archived());
+        comparison.addDocuments(content.equipment.records, documents);
     }
     // Types of which nothing can be read stay as they are.
     if (content.types.isStored && (!content.types.error || !content.types.records.isEmpty()))

@@ -42,11 +42,16 @@ public:
     [[nodiscard]] QString groupTitleAbove(qsizetype index) const;
     [[nodiscard]] EarlierStateRow row(qsizetype index) const;
     [[nodiscard]] RestorePreview preview(qsizetype index) const;
+    /// Of a state that comes from elsewhere, with these documents.
+    [[nodiscard]] RestorePreview previewOfCopy(const EarlierState& copy, const QSet<QString>& documents) const;
     /// The rows that were asked for so far.
     [[nodiscard]] qsizetype readRows() const { return m_rows.size(); }
 
 private:
-    [[nodiscard]] QList<DifferenceGroup> differences(const EarlierState& state, const StateContent& content) const;
+    [[nodiscard]] RestorePreview preview(const EarlierState& state, const QSet<QString>& documents) const;
+    /// `documents` are those that could come back.
+    [[nodiscard]] QList<DifferenceGroup> differences(const EarlierState& state, const StateContent& content,
+                                                     const QSet<QString>& documents) const;
     [[nodiscard]] QList<FieldDifference> settingsDifferences(const EarlierState& state) const;
 
     Sources m_sources;

@@ -62,26 +62,45 @@ RestoreView::RestoreView(const RestoreContent::Sources& sources, LookedAtStates&
     , m_error(named(new WrapLabel(TextStyle::Callout, &Tokens::danger), u"restoreError"))
     , m_cancel(named(new PlainButton(u"Annulla"_s), u"cancel"))
     , m_restoreButton(named(new PrimaryButton(u"Ripristina"_s), u"restore"))
+    , m_fromFile(named(new PlainButton(u"Da un file…"_s), u"fromFile"))
 {
     setObjectName(u"restoreView"_s);
     setLayout(inColumn(0, {makeHeader(), new Separator, {makeBody(), 1}, new Separator, makeFooter()}, {1, 1, 1, 1}));
     // No default button: Return on a state restores nothing.
-    for (LookButton* button : std::initializer_list<LookButton*>{m_cancel, m_restoreButton}) {
+    for (LookButton* button : std::initializer_list<LookButton*>{m_fromFile, m_cancel, m_restoreButton}) {
         for (const int key : {Qt::Key_Return, Qt::Key_Enter})
             connect(new QShortcut(key, button, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, button,
                     &QAbstractButton::click);
     }
     connect(m_cancel, &QAbstractButton::clicked, this, &RestoreView::closed);
     connect(m_restoreButton, &QAbstractButton::clicked, this, &RestoreView::restoreChosen);
-    connect(m_states, &StateList::chosenChanged, this, &RestoreView::showState);
+    connect(m_fromFile, &QAbstractButton::clicked, this, &RestoreView::chooseCopy);
+    connect(m_states, &StateList::chosenChanged, this, [this](qsizetype index) {
+        if (index >= 0)
+            showState(index);
+    });
     if (!m_content.states().isEmpty())
         showState(0);
 }
 
+RestoreView::~RestoreView()
+{
+    if (m_work)
+        m_work->cancel();
+}
+
+void RestoreView::offerCopies(CopyActions& copies)
+{
+    m_copies = &copies;
+    m_fromFile->show();
+}
+
 ViewSheet* RestoreView::makeSheet(const RestoreContent::Sources& sources, LookedAtStates& lookedAt, Restore restore,
-                                  QWidget* over)
+                                  QWidget* over, CopyActions* copies)
 {
     auto* view = new RestoreView(sources, lookedAt, std::move(restore));
+    if (copies != nullptr)
+        view->offerCopies(*copies);
     const QFontMetrics metrics = view->fontMetrics();
     auto* sheet = new ViewSheet(
         {.view = view,
@@ -109,13 +128,14 @@ QLayout* RestoreView::makeBody()
     column->addStretch();
     m_states->area().setFixedWidth(withText(listWidth, fontMetrics()));
 
-    auto* nothing = named(new EmptyState(u"clock.arrow.circlepath"_s, u"Nessuno stato precedente"_s), u"noStates");
+    m_nothing = named(new EmptyState(u"clock.arrow.circlepath"_s, u"Nessuno stato precedente"_s), u"noStates");
     const bool any = !m_content.states().isEmpty();
-    nothing->setVisible(!any);
+    m_nothing->setVisible(!any);
     auto* border = new Border;
     for (QWidget* part : std::initializer_list<QWidget*>{&m_states->area(), border, m_page})
         part->setVisible(any);
-    return inRow(0, {&m_states->area(), border, {m_page, 1}, {nothing, 1}});
+    m_withState.append(m_page);
+    return inRow(0, {&m_states->area(), border, {m_page, 1}, {m_nothing, 1}});
 }
 
 QLayout* RestoreView::makeFooter()
@@ -125,12 +145,15 @@ QLayout* RestoreView::makeFooter()
                           u"promise");
     promise->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     promise->setVisible(!m_content.states().isEmpty());
+    m_withState.append(promise);
+    m_fromFile->hide();
     m_restoreButton->setEnabled(false);
     setAccessibleRole(*m_error, QAccessible::AlertMessage);
     m_error->hide();
-    auto* buttons = inRow(metrics::spaceS + 2, {{promise, 1}, Gap{metrics::spaceS}, m_cancel, m_restoreButton});
+    auto* buttons =
+        inRow(metrics::spaceS + 2, {m_fromFile, {promise, 1}, Gap{metrics::spaceS}, m_cancel, m_restoreButton});
     if (m_content.states().isEmpty())
-        buttons->insertStretch(0, 1);
+        buttons->insertStretch(1, 1);
     return inColumn(metrics::spaceS, {m_error, buttons},
                     {sideMargin, metrics::spaceM + 2, sideMargin, metrics::spaceM + 2});
 }
@@ -143,8 +166,19 @@ QWidget* RestoreView::firstFocus() const
 
 void RestoreView::showState(qsizetype index)
 {
+    m_copy.reset();
     const EarlierState& state = m_content.states().at(index);
-    const RestorePreview preview = m_content.preview(index);
+    showPreview(m_content.preview(index));
+    if (wantsAttention(state)) {
+        QStringList names;
+        for (const EarlierState& existing : m_content.states())
+            names.append(existing.name);
+        m_lookedAt.add(state.name, names);
+    }
+}
+
+void RestoreView::showPreview(const RestorePreview& preview)
+{
     m_title->setText(preview.title);
     m_subtitle->setText(preview.subtitle);
     delete std::exchange(m_card, nullptr);
@@ -155,15 +189,70 @@ void RestoreView::showState(qsizetype index)
     m_page->verticalScrollBar()->setValue(0);
     m_restoreButton->setEnabled(preview.canBeRestored);
     showError({});
-    if (wantsAttention(state)) {
-        QStringList names;
-        for (const EarlierState& existing : m_content.states())
-            names.append(existing.name);
-        m_lookedAt.add(state.name, names);
-    }
 }
 
 void RestoreView::restoreChosen()
+{
+    if (m_work)
+        return;
+    if (m_copy)
+        restoreCopy();
+    else
+        restoreState();
+}
+
+void RestoreView::chooseCopy()
+{
+    if (m_work || !m_copies)
+        return;
+    const QPointer<RestoreView> alive(this);
+    const auto path = m_copies->pickCopy();
+    // The panel runs the event loop.
+    if (path && alive && m_copies)
+        openCopy(*path);
+}
+
+QCoro::Task<> RestoreView::openCopy(QString path)
+{
+    const QPointer<RestoreView> alive(this);
+    const auto progress = std::make_shared<WorkProgress>();
+    m_work = progress;
+    const IoResult<OpenedCopy> opened = co_await m_copies->open(path, progress);
+    if (!alive)
+        co_return;
+    m_work.reset();
+    if (!opened) {
+        showError(progress->isCancelled() ? QString() : opened.error().reason);
+        co_return;
+    }
+    m_states->choose(-1);
+    m_copy = *opened;
+    m_nothing->hide();
+    for (QWidget* part : std::as_const(m_withState))
+        part->show();
+    const RestorePreview preview = m_content.previewOfCopy(m_copy->state, m_copy->documents);
+    showPreview(preview);
+    announce(*m_title, preview.title + u": "_s + preview.subtitle);
+}
+
+QCoro::Task<> RestoreView::restoreCopy()
+{
+    const QPointer<RestoreView> alive(this);
+    const auto progress = std::make_shared<WorkProgress>();
+    m_work = progress;
+    const QPointer<CopyActions> copies = m_copies;
+    const IoResult<void> restored =
+        copies ? co_await copies->restore(m_copy->path, progress) : tl::unexpected(IoError::fromErrno(ECANCELED));
+    if (!alive)
+        co_return;
+    m_work.reset();
+    if (restored)
+        Q_EMIT closed();
+    else
+        showError(progress->isCancelled() ? QString() : restored.error().reason);
+}
+
+void RestoreView::restoreState()
 {
     const QPointer<RestoreView> alive(this);
     const EarlierState state = m_content.states().at(m_states->chosen());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "IoError.h"
+#include "CopyActions.h"
 #include "RestoreContent.h"
 
 #include <QWidget>
@@ -31,10 +31,14 @@ public:
     /// What the sources refer to, and `lookedAt`, must outlive it.
     RestoreView(const RestoreContent::Sources& sources, LookedAtStates& lookedAt, Restore restore,
                 QWidget* parent = nullptr);
+    ~RestoreView() override;
+
+    /// Lets the person choose a copy of a register as well; `copies` may go away first.
+    void offerCopies(CopyActions& copies);
 
     /// In a sheet titled "Ripristina" over the window of `over`.
     [[nodiscard]] static ViewSheet* makeSheet(const RestoreContent::Sources& sources, LookedAtStates& lookedAt,
-                                              Restore restore, QWidget* over);
+                                              Restore restore, QWidget* over, CopyActions* copies = nullptr);
 
 Q_SIGNALS:
     /// The person wants no more of it, or has what she wanted.
@@ -46,7 +50,12 @@ private:
     [[nodiscard]] QLayout* makeFooter();
     [[nodiscard]] QWidget* firstFocus() const;
     void showState(qsizetype index);
+    void showPreview(const RestorePreview& preview);
     void restoreChosen();
+    void restoreState();
+    void chooseCopy();
+    QCoro::Task<> openCopy(QString path);
+    QCoro::Task<> restoreCopy();
     void showError(const QString& text);
 
     RestoreContent m_content;
@@ -60,6 +69,12 @@ private:
     WrapLabel* m_error;
     PlainButton* m_cancel;
     PrimaryButton* m_restoreButton;
+    PlainButton* m_fromFile;
+    QList<QWidget*> m_withState; ///< what is shown only beside a state
+    QWidget* m_nothing = nullptr;
+    QPointer<CopyActions> m_copies;
+    std::optional<OpenedCopy> m_copy;     ///< chosen instead of a state
+    std::shared_ptr<WorkProgress> m_work; ///< under way
 };
 
 /// Whether there is a state that holds what could not be read or stored, and that nobody has looked at.

@@ -65,7 +65,7 @@ void StateList::choose(qsizetype index)
 QWidget* StateList::chosenButton() const
 {
     for (const StateRow* row : rowsAs<StateRow>()) {
-        if (indexOf(*row) == m_chosen)
+        if (m_chosen >= 0 && indexOf(*row) == m_chosen)
             return &row->button();
     }
     return nullptr;

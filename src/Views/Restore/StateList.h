@@ -23,6 +23,7 @@ public:
     [[nodiscard]] QWidget& area() const;
 
     [[nodiscard]] qsizetype chosen() const { return m_chosen; }
+    /// -1 for none.
     void choose(qsizetype index);
     /// The chosen one's button; null when there are no states.
     [[nodiscard]] QWidget* chosenButton() const;

@@ -152,6 +152,7 @@ void MainWindow::addFileMenu(const ScreenFactory& screens)
     addCommand(file, u"Esp&orta…"_s, Qt::CTRL | Qt::Key_E, this, &MainWindow::exportRequested)
         ->setIcon(symbolIcon(u"square.and.arrow.up"_s));
     file.addSeparator();
+    addCommand(file, u"Crea &una copia…"_s, {}, this, &MainWindow::copyRequested)->setIcon(symbolIcon(u"doc.on.doc"_s));
     QAction* restore = addCommand(file, u"&Ripristina…"_s, {}, m_content, &ContentView::openRestore);
     const auto showWhetherToLook = [restore, &screens] {
         restore->setIcon(screens.hasStateToLookAt() ? symbolIcon(u"exclamationmark.triangle.fill"_s, NamedColor::orange)

@@ -27,6 +27,7 @@ Q_SIGNALS:
     void helpRequested();
     void importRequested();
     void exportRequested();
+    void copyRequested();
     /// The window was closed by the person.
     void closed();
 
