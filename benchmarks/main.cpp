@@ -4,7 +4,9 @@
 // compared. Build it with the preset "release".
 #include "DayWatch.h"
 #include "EquipmentViewModel.h"
+#include "Export.h"
 #include "Generations.h"
+#include "ImportPlan.h"
 #include "Literals.h"
 #include "RecordJson.h"
 #include "Register.h"
@@ -25,10 +27,17 @@ public:
     void print(const QString& text) override { sink = static_cast<std::size_t>(text.size()); }
 };
 
+class AnySymbol final : public SymbolLibrary
+{
+public:
+    [[nodiscard]] bool contains(const QString& /*name*/) const override { return true; }
+};
+
 class NoPanel final : public FilePanel
 {
 public:
     [[nodiscard]] std::optional<QString> pickFile(const FilePanelRequest& /*request*/) override { return {}; }
+    [[nodiscard]] std::optional<SaveTarget> pickTarget(const SavePanelRequest& /*request*/) override { return {}; }
 };
 
 class NoWork final : public LongWork
@@ -83,6 +92,43 @@ private:
     std::optional<EquipmentViewModel> m_viewModel;
 };
 
+void measureExchange(const Report& report, const QList<Equipment>& equipment, const Clock& clock)
+{
+    QTemporaryDir folder;
+    SilentConsole console;
+    RandomIdGenerator ids;
+    AnySymbol symbols;
+    KeepNothing keeper;
+    PreferencesStore preferences(folder.path(), keeper);
+    const EquipmentTypeViewModel types(preferences, symbols, console, ids);
+    const QLocale locale(QLocale::Italian, QLocale::Italy);
+    const Almanac almanac{clock, Calendar(), DateFormat(locale, Calendar())};
+    const ExportSource source{equipment, types.types(), almanac, locale, u"1"_s};
+    const auto measureExport = [&](const char* name, ExportForm form) {
+        report.measure(name, 11, [&] { sink = static_cast<std::size_t>(exported(form, source).size()); });
+    };
+    measureExport("export, 10,000 items, table of items", ExportForm::Items);
+    measureExport("export, 10,000 items, table of 40,000 records", ExportForm::Records);
+    measureExport("export, 10,000 items, calendar", ExportForm::Calendar);
+    measureExport("export, 10,000 items of 4 records, register", ExportForm::Register);
+
+    const auto measureImport = [&](const char* name, ExportForm form, const QList<Equipment>& present) {
+        const QByteArray text = exported(form, source);
+        report.measure(name, 5, [&] {
+            const ImportPlan plan(parseImport(u"a"_s, text).value(), {present, types, almanac, u"€"_s});
+            const ImportedRecords records = plan.records(ids);
+            sink = static_cast<std::size_t>(records.items.size() + records.records.size());
+        });
+    };
+    measureImport("import, 10,000 items from a table", ExportForm::Items, {});
+    measureImport("import, 10,000 items from a table, all there already", ExportForm::Items, equipment);
+    QList<Equipment> withoutRecords = equipment;
+    for (Equipment& item : withoutRecords)
+        item.maintenanceHistory.clear();
+    measureImport("import, 40,000 records from a table", ExportForm::Records, withoutRecords);
+    measureImport("import, 10,000 items of 4 records from a register", ExportForm::Register, {});
+}
+
 void measureLists(const Report& report, Catalogue& catalogue)
 {
     const auto measure = [&](const char* name) {
@@ -130,6 +176,8 @@ int main(int argc, char** argv)
     measureDays(report, large, clock.now(), "daysBetween, 10,000 times, system's zone", Calendar());
     measureDays(report, large, clock.now(), "daysBetween, 10,000 times, Europe/Rome",
                 Calendar(QTimeZone("Europe/Rome")));
+
+    measureExchange(report, large, clock);
 
     Catalogue catalogue(large, clock, Calendar());
     measureLists(report, catalogue);
