@@ -171,6 +171,19 @@ private Q_SLOTS:
         }
     }
 
+    void aSettingThatIsNewMeanwhileIsInTheCopy()
+    {
+        bool isNew = false;
+        const auto manifest = copy([&](qint64 done, qint64 whole) {
+            if (!isNew && done > whole / 2) {
+                isNew = true;
+                m_files->write(u"preferences/currency.json"_s, "\"€\"");
+            }
+            return true;
+        });
+        QVERIFY(isNew && manifest && namesIn(*manifest).contains(u"preferences/currency.json"_s));
+    }
+
     void aDocumentThatIsArchivedMeanwhileIsInTheCopy()
     {
         bool isMoved = false;
