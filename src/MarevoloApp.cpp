@@ -10,6 +10,8 @@
 #include "EquipmentListView.h"
 #include "MainWindow.h"
 #include "MaintenanceOverviewView.h"
+#include "PrintView.h"
+#include "PrinterOutput.h"
 #include "Restoration.h"
 #include "RestoreView.h"
 #include "SettingsView.h"
@@ -193,6 +195,11 @@ EquipmentFormView* MarevoloApp::makeFormForNew(const std::optional<Equipment>& l
 EditEquipmentView* MarevoloApp::makeFormFor(const Equipment& equipment, QWidget* over)
 {
     return new EditEquipmentView(m_equipment, m_types, m_almanac, equipment, over);
+}
+
+ViewSheet* MarevoloApp::makePrint(const std::optional<Equipment>& item, QWidget* over)
+{
+    return PrintView::makeSheet({m_equipment, m_types, m_almanac, m_filePanel, m_work, openPrintDialog}, item, over);
 }
 
 ViewSheet* MarevoloApp::makeRestore(QWidget* over)

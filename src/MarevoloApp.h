@@ -75,6 +75,7 @@ private:
     QWidget* makeSettings() override;
     EquipmentFormView* makeFormForNew(const std::optional<Equipment>& like, QWidget* over) override;
     EditEquipmentView* makeFormFor(const Equipment& equipment, QWidget* over) override;
+    ViewSheet* makePrint(const std::optional<Equipment>& item, QWidget* over) override;
     ViewSheet* makeRestore(QWidget* over) override;
     bool hasStateToLookAt() const override;
 

@@ -10,6 +10,7 @@
 #include "LookedAtStates.h"
 #include "MainWindow.h"
 #include "MaintenanceOverviewView.h"
+#include "PrintView.h"
 #include "RegisterFixture.h"
 #include "RestoreView.h"
 #include "ScreenFactory.h"
@@ -51,6 +52,10 @@ public:
     {
         return new EditEquipmentView(equipment, types, almanac, item, over);
     }
+    ViewSheet* makePrint(const std::optional<Equipment>& item, QWidget* over) override
+    {
+        return PrintView::makeSheet({equipment, types, almanac, panel, work, print}, item, over);
+    }
     ViewSheet* makeRestore(QWidget* over) override
     {
         return RestoreView::makeSheet(
@@ -59,6 +64,8 @@ public:
     }
     bool hasStateToLookAt() const override { return abissora::hasStateToLookAt(generations.list(), lookedAt); }
 
+    /// What takes the place of the system's print dialog.
+    PrintView::Print print = [](const PrintedPaper&, const QPageSize&, QWidget*, const std::function<void(bool)>&) {};
     /// What takes the place of a restoration.
     RestoreView::Restore restore = [](const EarlierState&) { return IoResult<void>(); };
     LookedAtStates lookedAt{directories.windowStateFile()};

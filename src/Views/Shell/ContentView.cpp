@@ -137,6 +137,12 @@ void ContentView::editEquipment(const Equipment& equipment)
     openForm(form);
 }
 
+void ContentView::openPrint()
+{
+    if (!isFormOpen())
+        openForm(m_factory.makePrint(selectedEquipment() ? item() : std::nullopt, window()));
+}
+
 void ContentView::openRestore()
 {
     if (!isFormOpen())

@@ -57,6 +57,8 @@ public:
     void duplicateEquipment(const Equipment& equipment);
     /// Selects the item and opens the form for it.
     void editEquipment(const Equipment& equipment);
+    /// Opens the way to paper over the window, with the selected item; does nothing while a form is open.
+    void openPrint();
     /// Opens the way back to an earlier state over the window; does nothing while a form is open.
     void openRestore();
 

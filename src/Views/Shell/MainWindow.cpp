@@ -151,6 +151,8 @@ void MainWindow::addFileMenu(const ScreenFactory& screens)
         ->setIcon(symbolIcon(u"square.and.arrow.down"_s));
     addCommand(file, u"Esp&orta…"_s, Qt::CTRL | Qt::Key_E, this, &MainWindow::exportRequested)
         ->setIcon(symbolIcon(u"square.and.arrow.up"_s));
+    addCommand(file, u"&Stampa…"_s, QKeySequence::Print, m_content, &ContentView::openPrint)
+        ->setIcon(symbolIcon(u"printer"_s));
     file.addSeparator();
     addCommand(file, u"Crea &una copia…"_s, {}, this, &MainWindow::copyRequested)->setIcon(symbolIcon(u"doc.on.doc"_s));
     QAction* restore = addCommand(file, u"&Ripristina…"_s, {}, m_content, &ContentView::openRestore);

@@ -32,6 +32,9 @@ public:
     [[nodiscard]] virtual EquipmentFormView* makeFormForNew(const std::optional<Equipment>& like, QWidget* over) = 0;
     [[nodiscard]] virtual EditEquipmentView* makeFormFor(const Equipment& equipment, QWidget* over) = 0;
 
+    /// What is printed and how, over a window; the item can be printed, too.
+    [[nodiscard]] virtual ViewSheet* makePrint(const std::optional<Equipment>& item, QWidget* over) = 0;
+
     /// The way back to an earlier state, over a window.
     [[nodiscard]] virtual ViewSheet* makeRestore(QWidget* over) = 0;
     /// Whether a person should look there: something could not be read or stored, and nobody has looked at it.
