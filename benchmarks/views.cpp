@@ -5,12 +5,17 @@
 #include "EquipmentTableView.h"
 #include "Literals.h"
 #include "MainWindow.h"
+#include "PagePainter.h"
+#include "PaperLook.h"
+#include "PaperSize.h"
+#include "PrintedList.h"
 #include "Register.h"
 #include "Report.h"
 #include "ShellFixture.h"
 #include "Theme.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -96,6 +101,20 @@ void measureOverview(const Report& report, test::ShellFixture& fixture, const Ov
     report.measure(titles.statistics, 21, [&] { open(fixture.makeStatistics()); });
 }
 
+void measurePaper(const Report& report, const test::ShellFixture& fixture)
+{
+    const PrintedPaper list = PrintedList::listOf(fixture.equipment.equipment(), {}, fixture.types, fixture.almanac);
+    const QSizeF size = pageSize(PaperSize::A4).size(QPageSize::Point);
+    report.measure("list of 10,000 items laid out on paper", 5, [&] { PageLayout(list, size); });
+    const PageLayout layout(list, size);
+    report.measure("list of 10,000 items as PDF", 3, [&] {
+        QBuffer file;
+        file.open(QIODevice::WriteOnly);
+        WorkProgress progress;
+        static_cast<void>(PagePainter::writePdf(file, {layout}, paperInk(), progress));
+    });
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -109,6 +128,7 @@ int main(int argc, char** argv)
                     {"overview opened, 10,000 items, about half of them due", "overview redrawn, 10,000 items",
                      "overview scrolled by a page, 10,000 items, one frame",
                      "overview scrolled from end to end, 10,000 items, one frame", "statistics opened, 10,000 items"});
+    measurePaper(report, fixture);
     test::ShellFixture small(registerOf(300, test::FixedClock().now()));
     measureOverview(report, small,
                     {"overview opened, 300 items, about half of them due", "overview redrawn, 300 items",

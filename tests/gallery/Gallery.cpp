@@ -39,8 +39,9 @@ bool render(const QList<Scene>& scenes, const QDir& folder)
 
 QList<Scene> allScenes()
 {
-    return controlScenes() + componentScenes() + sheetScenes() + restoreScenes() + importScenes() + screenScenes() +
-           detailScenes() + typeScenes() + helpScenes() + overviewScenes() + settingsScenes() + updateScenes();
+    return controlScenes() + componentScenes() + sheetScenes() + restoreScenes() + importScenes() + printScenes() +
+           screenScenes() + detailScenes() + typeScenes() + helpScenes() + overviewScenes() + settingsScenes() +
+           updateScenes();
 }
 
 Scene sceneNamed(const QString& name)

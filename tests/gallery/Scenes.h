@@ -17,6 +17,7 @@ namespace abissora::gallery {
 [[nodiscard]] QList<Scene> updateScenes();
 [[nodiscard]] QList<Scene> restoreScenes();
 [[nodiscard]] QList<Scene> importScenes();
+[[nodiscard]] QList<Scene> printScenes();
 
 [[nodiscard]] QList<Scene> allScenes();
 /// Ends the program when there is no scene of that name.

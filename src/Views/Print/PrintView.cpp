@@ -19,7 +19,6 @@
 #include "ViewSheet.h"
 
 #include <QPointer>
-#include <QShortcut>
 #include <cerrno>
 
 namespace abissora {
@@ -105,11 +104,6 @@ PrintView::PrintView(Sources sources, std::optional<Equipment> item, QWidget* pa
     m_size->addSegment(u"Letter"_s);
     m_size->setCurrentIndex(usualPaperSize(DateFormat::userLocale()) == PaperSize::A4 ? 0 : 1);
     setLayout(inColumn(0, {makeHeader(), new Separator, {makeBody(), 1}, new Separator, makeFooter()}, {1, 1, 1, 1}));
-    for (LookButton* button : std::initializer_list<LookButton*>{m_cancel, m_save, m_print}) {
-        for (const int key : {Qt::Key_Return, Qt::Key_Enter})
-            connect(new QShortcut(key, button, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, button,
-                    &QAbstractButton::click);
-    }
     connect(m_what, &SegmentedControl::activated, this, &PrintView::layOut);
     connect(m_size, &SegmentedControl::activated, this, &PrintView::layOut);
     connect(m_cancel, &QAbstractButton::clicked, this, &PrintView::closed);

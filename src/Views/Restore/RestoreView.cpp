@@ -19,7 +19,6 @@
 #include <QPainter>
 #include <QPointer>
 #include <QScrollBar>
-#include <QShortcut>
 
 namespace abissora {
 
@@ -66,12 +65,6 @@ RestoreView::RestoreView(const RestoreContent::Sources& sources, LookedAtStates&
 {
     setObjectName(u"restoreView"_s);
     setLayout(inColumn(0, {makeHeader(), new Separator, {makeBody(), 1}, new Separator, makeFooter()}, {1, 1, 1, 1}));
-    // No default button: Return on a state restores nothing.
-    for (LookButton* button : std::initializer_list<LookButton*>{m_fromFile, m_cancel, m_restoreButton}) {
-        for (const int key : {Qt::Key_Return, Qt::Key_Enter})
-            connect(new QShortcut(key, button, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, button,
-                    &QAbstractButton::click);
-    }
     connect(m_cancel, &QAbstractButton::clicked, this, &RestoreView::closed);
     connect(m_restoreButton, &QAbstractButton::clicked, this, &RestoreView::restoreChosen);
     connect(m_fromFile, &QAbstractButton::clicked, this, &RestoreView::chooseCopy);
