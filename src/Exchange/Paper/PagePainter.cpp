@@ -75,8 +75,13 @@ private:
     void paintPicture(double top)
     {
         m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        m_painter.drawImage(QRectF(m_area.right() - pictureSize, top + pictureDrop, pictureSize, pictureSize),
-                            m_paper.picture);
+        const QRectF place(m_area.right() - pictureSize, top + pictureDrop, pictureSize, pictureSize);
+        const QSize pixels = m_painter.deviceTransform().mapRect(place).size().toSize();
+        // The painter itself would drop pixels of a picture that becomes much smaller, as in a preview.
+        const bool shrinks = !pixels.isEmpty() && pixels.width() < m_paper.picture.width();
+        m_painter.drawImage(place, shrinks
+                                       ? m_paper.picture.scaled(pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                                       : m_paper.picture);
     }
 
     void paintClosing(double top)

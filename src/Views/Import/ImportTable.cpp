@@ -18,12 +18,13 @@ constexpr int measuredRows = 100; ///< the first ones; what is wider ends in dot
 
 } // namespace
 
-ImportTable::ImportTable(ImportPlan& plan, const EquipmentTypeViewModel& types, QWidget* parent)
-    : RowTable(parent)
+ImportTable::ImportTable(ImportPlan& plan, const EquipmentTypeViewModel& types, QWidget& pane)
+    : RowTable(&pane)
     , m_plan(plan)
     , m_model(plan, types)
     , m_delegate(m_model)
     , m_header(new ColumnHeader(this))
+    , m_bar(new ColumnBar(*m_header, &pane))
 {
     setObjectName(u"importTable"_s);
     setAccessibleName(u"Righe da importare"_s);
@@ -36,19 +37,21 @@ ImportTable::ImportTable(ImportPlan& plan, const EquipmentTypeViewModel& types, 
     setCornerButtonEnabled(false);
     setWordWrap(false);
     verticalHeader()->hide();
-    connect(m_header, &ColumnHeader::allChosen, &m_model, &ImportTableModel::setNewChosen);
+    connect(m_bar, &ColumnBar::allChosen, &m_model, &ImportTableModel::setNewChosen);
     // Later: the picker that asked for it is made anew.
     connect(
-        m_header, &ColumnHeader::fieldChosen, this,
+        m_bar, &ColumnBar::fieldChosen, this,
         [this](int section, ImportField field) {
             m_model.setField(section, field);
-            m_header->findChild<QWidget*>(u"column%1"_s.arg(section - 1))->setFocus();
+            orderTabs();
+            m_bar->focusPicker(section - 1);
         },
         Qt::QueuedConnection);
-    connect(m_header, &ColumnHeader::reached, this, [this](int section) {
+    connect(m_bar, &ColumnBar::reached, this, [this](int section) {
         if (m_model.rowCount() > 0)
             scrollTo(m_model.index(std::max(0, rowAt(0)), section));
     });
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, m_bar, &ColumnBar::place);
     connect(&m_model, &ImportTableModel::choiceChanged, this, &ImportTable::showChoices);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &ImportTable::showColumns);
     showColumns();
@@ -58,13 +61,14 @@ ImportTable::ImportTable(ImportPlan& plan, const EquipmentTypeViewModel& types, 
 void ImportTable::showColumns()
 {
     m_header->showColumns(m_plan);
+    m_bar->showColumns(m_plan);
     measureColumns();
     layOutColumns();
 }
 
 void ImportTable::showChoices()
 {
-    m_header->showAllChosen(m_plan.areNewChosen(), m_plan.count(ImportRow::Standing::New) > 0);
+    m_bar->showAllChosen(m_plan.areNewChosen(), m_plan.count(ImportRow::Standing::New) > 0);
 }
 
 void ImportTable::measureColumns()
@@ -73,7 +77,7 @@ void ImportTable::measureColumns()
     m_widths.clear();
     const QStyleOptionViewItem option;
     for (int column = 0; column < m_model.columnCount(); ++column) {
-        Width width{m_header->columnWidth(column), leastWidth};
+        Width width{column == 0 ? 0 : m_header->columnWidth(column), leastWidth};
         for (int row = 0; row < std::min(m_model.rowCount(), measuredRows); ++row) {
             const QModelIndex index = m_model.index(row, column);
             const int hint = m_delegate.sizeHint(option, index).width();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ColumnBar.h"
 #include "ColumnHeader.h"
 #include "ImportDelegate.h"
 #include "RowTable.h"
@@ -13,10 +14,12 @@ class ImportTable : public RowTable
     Q_OBJECT
 
 public:
-    /// Both must outlive it.
-    ImportTable(ImportPlan& plan, const EquipmentTypeViewModel& types, QWidget* parent = nullptr);
+    /// In `pane`, above whose other children stands what its columns are. Plan and types must outlive it.
+    ImportTable(ImportPlan& plan, const EquipmentTypeViewModel& types, QWidget& pane);
 
     [[nodiscard]] ImportTableModel& importModel() { return m_model; }
+    /// Once the pane is in its window.
+    void orderTabs() { m_bar->orderTabs(*this); }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -36,6 +39,7 @@ private:
     ImportTableModel m_model;
     ImportDelegate m_delegate;
     ColumnHeader* m_header;
+    ColumnBar* m_bar;
     /// What a column would like to have, and what it must have for its faults to be read.
     struct Width
     {

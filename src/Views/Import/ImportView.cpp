@@ -29,7 +29,8 @@ ImportView::ImportView(ImportPlan plan, const EquipmentTypeViewModel& types, Imp
     , m_plan(std::move(plan))
     , m_import(std::move(import))
     , m_format(named(new ElidedLabel(TextStyle::Callout, &Tokens::secondaryText), u"format"))
-    , m_table(new ImportTable(m_plan, types))
+    , m_pane(new QWidget)
+    , m_table(new ImportTable(m_plan, types, *m_pane))
     , m_summary(named(new InkLabel(TextStyle::Body, &Tokens::text), u"summary"))
     , m_faults(named(new InkLabel(TextStyle::Body, &Tokens::danger), u"faults"))
     , m_cancel(named(new PlainButton(u"Annulla"_s), u"cancel"))
@@ -39,9 +40,11 @@ ImportView::ImportView(ImportPlan plan, const EquipmentTypeViewModel& types, Imp
     auto* title = new InkLabel(TextStyle::Headline, &Tokens::text, u"Importa"_s);
     title->setAlignment(Qt::AlignCenter);
     title->setContentsMargins(sideMargin, metrics::spaceL, sideMargin, metrics::spaceL);
-    auto* body = inColumn(metrics::spaceM, {makeFileCard(), {m_table, 1}},
+    m_pane->setLayout(inColumn(0, {m_table}));
+    auto* body = inColumn(metrics::spaceM, {makeFileCard(), {m_pane, 1}},
                           {sideMargin, metrics::spaceL - 2, sideMargin, metrics::spaceL - 2});
     setLayout(inColumn(0, {title, new Separator, {body, 1}, new Separator, makeFooter()}, {1, 1, 1, 1}));
+    m_table->orderTabs();
     connect(m_cancel, &QAbstractButton::clicked, this, &ImportView::closed);
     connect(m_importButton, &QAbstractButton::clicked, this, &ImportView::importChosen);
     connect(&m_table->importModel(), &ImportTableModel::choiceChanged, this, &ImportView::showCounts);
@@ -78,6 +81,7 @@ QWidget* ImportView::makeFileCard()
         subject->setCurrentIndex(m_plan.subject() == ImportSubject::Items ? 0 : 1);
         connect(subject, &SegmentedControl::activated, this, [this](int index) {
             m_table->importModel().setSubject(index == 0 ? ImportSubject::Items : ImportSubject::Records);
+            m_table->orderTabs();
         });
         row->addWidget(subject);
     }

@@ -43,6 +43,7 @@ private:
     ImportPlan m_plan;
     Import m_import;
     ElidedLabel* m_format;
+    QWidget* m_pane;
     ImportTable* m_table;
     InkLabel* m_summary;
     InkLabel* m_faults;

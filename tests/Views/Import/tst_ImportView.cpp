@@ -91,11 +91,15 @@ private Q_SLOTS:
     {
         ImportRegister f;
         const ShownImport s(f, clubTable);
+        const auto order = [&s] {
+            s.table().setFocus(Qt::TabFocusReason);
+            QStringList stops = tabOrder(*s.sheet);
+            stops.removeAll(QString()); // the segments of what the file contains: one stop
+            return stops;
+        };
+        QCOMPARE(order().first(3), QStringList({u"importTable"_s, u"cancel"_s, u"import"_s}));
         s.choose(6, u"Note"_s); // pickers are made anew
-        s.table().setFocus(Qt::TabFocusReason);
-        QStringList order = tabOrder(*s.sheet);
-        order.removeAll(QString()); // the segments of what the file contains: one stop
-        QCOMPARE(order,
+        QCOMPARE(order(),
                  QStringList({u"importTable"_s, u"cancel"_s, u"import"_s, u"allRows"_s, u"column0"_s, u"column1"_s,
                               u"column2"_s, u"column3"_s, u"column4"_s, u"column5"_s, u"column6"_s}));
     }
@@ -169,6 +173,8 @@ private Q_SLOTS:
     {
         ImportRegister f;
         const ShownImport s(f, clubTable);
+        // Not inside the table, whose parts are its cells alone.
+        QVERIFY(!s.table().isAncestorOf(&s.picker(4)));
         QCOMPARE(nameOf(s.picker(4)), u"matricola: Numero Seriale"_s);
         QCOMPARE(nameOf(part(*s.sheet, u"allRows")), u"Importa tutte le righe nuove"_s);
         QCOMPARE(s.table().accessibleName(), u"Righe da importare"_s);
