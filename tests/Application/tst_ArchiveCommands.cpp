@@ -1,39 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "CommandLine.h"
-#include "Commands.h"
+#include "CommandRun.h"
 #include "ExitStatus.h"
 #include "FolderLock.h"
-#include "TemporaryRegister.h"
 #include "TestRunner.h"
 
 #include <QTest>
 
 using namespace abissora;
-
-namespace {
-
-struct Outcome
-{
-    int status = -1;
-    QString out;
-    QString error;
-};
-
-Outcome run(const test::TemporaryRegister& files, const QStringList& arguments)
-{
-    const auto content = [](std::FILE* file) {
-        std::rewind(file);
-        QByteArray text(100'000, '\0');
-        text.truncate(qsizetype(std::fread(text.data(), 1, std::size_t(text.size()), file)));
-        std::fclose(file);
-        return QString::fromUtf8(text);
-    };
-    const CommandStreams streams{std::tmpfile(), std::tmpfile()};
-    const int status = runCommand(CommandLine::parse(arguments).value(), files.directories, streams);
-    return {status, content(streams.out), content(streams.error)};
-}
-
-} // namespace
+using test::Outcome;
+using test::run;
 
 class tst_ArchiveCommands : public test::TestCase
 {

@@ -58,10 +58,10 @@ private Q_SLOTS:
         QTest::addColumn<int>("status");
         QTest::addColumn<QString>("said");
         QTest::newRow("an unknown form")
-            << QStringList{u"--export=/tmp/a.xls"_s} << exitStatus::usage
-            << u"Il nome «/tmp/a.xls» non dice il formato: finisce in .csv, .ics o .json.\n"_s;
+            << QStringList{u"--export=/home/anna/a.xls"_s} << exitStatus::usage
+            << u"Il nome «/home/anna/a.xls» non dice il formato: finisce in .csv, .ics o .json.\n"_s;
         QTest::newRow("records in a calendar")
-            << QStringList{u"--export=/tmp/a.ics"_s, u"--what=manutenzioni"_s} << exitStatus::usage
+            << QStringList{u"--export=/home/anna/a.ics"_s, u"--what=manutenzioni"_s} << exitStatus::usage
             << u"«--what» sceglie fra le tabelle: il file deve finire in .csv.\n"_s;
         QTest::newRow("no such folder") << QStringList{u"--export=/nowhere/a.csv"_s} << exitStatus::cannotCreate
                                         << u"Non è stato possibile scrivere «/nowhere/a.csv»: "_s;
@@ -84,7 +84,7 @@ private Q_SLOTS:
     {
         const test::TemporaryRegister files;
         const QString sentence = u"In «%1» non c'è un registro.\n"_s.arg(files.directories.root());
-        for (const QStringList& arguments : {QStringList{u"--export=/tmp/a.csv"_s}, QStringList{u"--due"_s}}) {
+        for (const QStringList& arguments : {QStringList{u"--export=/home/anna/a.csv"_s}, QStringList{u"--due"_s}}) {
             const Outcome answer = run(files, arguments);
             QCOMPARE(answer.status, exitStatus::noInput);
             QCOMPARE(answer.error, sentence);
@@ -98,7 +98,7 @@ private Q_SLOTS:
         files.write(test::registerFile, "[{}");
         const QString table = files.write(u"in/a.csv"_s, "Nome\nMuta\n");
         for (const QStringList& arguments :
-             {QStringList{u"--export=/tmp/a.csv"_s}, QStringList{u"--due"_s}, QStringList{u"--import"_s, table},
+             {QStringList{u"--export=/home/anna/a.csv"_s}, QStringList{u"--due"_s}, QStringList{u"--import"_s, table},
               QStringList{u"--import"_s, table, u"--yes"_s}}) {
             const Outcome answer = run(files, arguments);
             QCOMPARE(answer.status, exitStatus::noInput);

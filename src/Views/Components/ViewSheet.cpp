@@ -4,6 +4,7 @@
 #include "Assembly.h"
 #include "Buttons.h"
 #include "Cards.h"
+#include "Labels.h"
 #include "Literals.h"
 #include "Metrics.h"
 
@@ -29,6 +30,14 @@ ViewSheet::ViewSheet(const Content& content, QWidget* parent)
 QSize ViewSheet::preferredSize() const
 {
     return m_preferredSize.isEmpty() ? sizeHint() : m_preferredSize;
+}
+
+QWidget* sheetTitle(const QString& title)
+{
+    auto* label = new InkLabel(TextStyle::Headline, &Tokens::text, title);
+    label->setAlignment(Qt::AlignCenter);
+    label->setContentsMargins(metrics::spaceL + 2, metrics::spaceL, metrics::spaceL + 2, metrics::spaceL);
+    return label;
 }
 
 } // namespace abissora

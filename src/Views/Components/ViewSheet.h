@@ -35,4 +35,7 @@ private:
     QPointer<QWidget> m_firstFocus;
 };
 
+/// What stands above a view that fills its sheet, in its middle.
+[[nodiscard]] QWidget* sheetTitle(const QString& title);
+
 } // namespace abissora

@@ -37,13 +37,11 @@ ImportView::ImportView(ImportPlan plan, const EquipmentTypeViewModel& types, Imp
     , m_importButton(named(new PrimaryButton(u"Importa"_s), u"import"))
 {
     setObjectName(u"importView"_s);
-    auto* title = new InkLabel(TextStyle::Headline, &Tokens::text, u"Importa"_s);
-    title->setAlignment(Qt::AlignCenter);
-    title->setContentsMargins(sideMargin, metrics::spaceL, sideMargin, metrics::spaceL);
     m_pane->setLayout(inColumn(0, {m_table}));
     auto* body = inColumn(metrics::spaceM, {makeFileCard(), {m_pane, 1}},
                           {sideMargin, metrics::spaceL - 2, sideMargin, metrics::spaceL - 2});
-    setLayout(inColumn(0, {title, new Separator, {body, 1}, new Separator, makeFooter()}, {1, 1, 1, 1}));
+    setLayout(
+        inColumn(0, {sheetTitle(u"Importa"_s), new Separator, {body, 1}, new Separator, makeFooter()}, {1, 1, 1, 1}));
     m_table->orderTabs();
     connect(m_cancel, &QAbstractButton::clicked, this, &ImportView::closed);
     connect(m_importButton, &QAbstractButton::clicked, this, &ImportView::importChosen);

@@ -103,7 +103,8 @@ PrintView::PrintView(Sources sources, std::optional<Equipment> item, QWidget* pa
     m_size->addSegment(u"A4"_s);
     m_size->addSegment(u"Letter"_s);
     m_size->setCurrentIndex(usualPaperSize(DateFormat::userLocale()) == PaperSize::A4 ? 0 : 1);
-    setLayout(inColumn(0, {makeHeader(), new Separator, {makeBody(), 1}, new Separator, makeFooter()}, {1, 1, 1, 1}));
+    setLayout(inColumn(0, {sheetTitle(u"Stampa"_s), new Separator, {makeBody(), 1}, new Separator, makeFooter()},
+                       {1, 1, 1, 1}));
     connect(m_what, &SegmentedControl::activated, this, &PrintView::layOut);
     connect(m_size, &SegmentedControl::activated, this, &PrintView::layOut);
     connect(m_cancel, &QAbstractButton::clicked, this, &PrintView::closed);
@@ -130,14 +131,6 @@ ViewSheet* PrintView::makeSheet(const Sources& sources, const std::optional<Equi
         over);
     connect(view, &PrintView::closed, sheet, &QDialog::reject);
     return sheet;
-}
-
-QWidget* PrintView::makeHeader()
-{
-    auto* title = new InkLabel(TextStyle::Headline, &Tokens::text, u"Stampa"_s);
-    title->setAlignment(Qt::AlignCenter);
-    title->setContentsMargins(sideMargin, metrics::spaceL, sideMargin, metrics::spaceL);
-    return title;
 }
 
 QLayout* PrintView::makeBody()

@@ -56,7 +56,6 @@ Q_SIGNALS:
 private:
     enum What { List, Due, Item };
 
-    [[nodiscard]] QWidget* makeHeader();
     [[nodiscard]] QLayout* makeBody();
     [[nodiscard]] QLayout* makeFooter();
     [[nodiscard]] PrintedPaper chosenPaper() const;

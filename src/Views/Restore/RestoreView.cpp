@@ -64,7 +64,8 @@ RestoreView::RestoreView(const RestoreContent::Sources& sources, LookedAtStates&
     , m_fromFile(named(new PlainButton(u"Da un file…"_s), u"fromFile"))
 {
     setObjectName(u"restoreView"_s);
-    setLayout(inColumn(0, {makeHeader(), new Separator, {makeBody(), 1}, new Separator, makeFooter()}, {1, 1, 1, 1}));
+    setLayout(inColumn(0, {sheetTitle(u"Ripristina"_s), new Separator, {makeBody(), 1}, new Separator, makeFooter()},
+                       {1, 1, 1, 1}));
     connect(m_cancel, &QAbstractButton::clicked, this, &RestoreView::closed);
     connect(m_restoreButton, &QAbstractButton::clicked, this, &RestoreView::restoreChosen);
     connect(m_fromFile, &QAbstractButton::clicked, this, &RestoreView::chooseCopy);
@@ -103,14 +104,6 @@ ViewSheet* RestoreView::makeSheet(const RestoreContent::Sources& sources, Looked
         over);
     connect(view, &RestoreView::closed, sheet, &QDialog::reject);
     return sheet;
-}
-
-QWidget* RestoreView::makeHeader()
-{
-    auto* title = new InkLabel(TextStyle::Headline, &Tokens::text, u"Ripristina"_s);
-    title->setAlignment(Qt::AlignCenter);
-    title->setContentsMargins(sideMargin, metrics::spaceL, sideMargin, metrics::spaceL);
-    return title;
 }
 
 QLayout* RestoreView::makeBody()

@@ -45,7 +45,6 @@ Q_SIGNALS:
     void closed();
 
 private:
-    [[nodiscard]] QWidget* makeHeader();
     [[nodiscard]] QLayout* makeBody();
     [[nodiscard]] QLayout* makeFooter();
     [[nodiscard]] QWidget* firstFocus() const;

@@ -20,9 +20,9 @@ private Q_SLOTS:
         FileDrop drop(target,
                       [](const QString& path, QPoint place) { return path.endsWith(".csv"_L1) && place.x() < 100; });
         QSignalSpy dropped(&drop, &FileDrop::dropped);
-        QVERIFY(dropOn(target, {20, 10}, {QUrl::fromLocalFile(u"/tmp/a.csv"_s)}));
+        QVERIFY(dropOn(target, {20, 10}, {QUrl::fromLocalFile(u"/home/anna/a.csv"_s)}));
         QCOMPARE(dropped.size(), 1);
-        QCOMPARE(dropped.first().first().toString(), u"/tmp/a.csv"_s);
+        QCOMPARE(dropped.first().first().toString(), u"/home/anna/a.csv"_s);
         QCOMPARE(dropped.first().last().toPoint(), QPoint(20, 10));
     }
 
@@ -31,9 +31,9 @@ private Q_SLOTS:
         QTest::addColumn<QList<QUrl>>("urls");
         QTest::addColumn<QPoint>("place");
         QTest::addColumn<Qt::DropActions>("actions");
-        const QUrl table = QUrl::fromLocalFile(u"/tmp/a.csv"_s);
+        const QUrl table = QUrl::fromLocalFile(u"/home/anna/a.csv"_s);
         const Qt::DropActions copy = Qt::CopyAction;
-        QTest::newRow("another file") << QList{QUrl::fromLocalFile(u"/tmp/a.pdf"_s)} << QPoint(1, 1) << copy;
+        QTest::newRow("another file") << QList{QUrl::fromLocalFile(u"/home/anna/a.pdf"_s)} << QPoint(1, 1) << copy;
         QTest::newRow("two files") << QList{table, table} << QPoint(1, 1) << copy;
         QTest::newRow("a page") << QList{QUrl(u"https://abissora.example/a.csv"_s)} << QPoint(1, 1) << copy;
         QTest::newRow("no file") << QList<QUrl>() << QPoint(1, 1) << copy;

@@ -202,9 +202,9 @@ private Q_SLOTS:
         ShownList view(f);
         QStringList dropped;
         connect(&view, &EquipmentListView::tableDropped, [&](const QString& path) { dropped.append(path); });
-        QVERIFY(dropOn(view, {300, 300}, {QUrl::fromLocalFile(u"/tmp/club.CSV"_s)}));
-        QVERIFY(!dropOn(view, {300, 300}, {QUrl::fromLocalFile(u"/tmp/scontrino.pdf"_s)}));
-        QCOMPARE(dropped, QStringList(u"/tmp/club.CSV"_s));
+        QVERIFY(dropOn(view, {300, 300}, {QUrl::fromLocalFile(u"/home/anna/club.CSV"_s)}));
+        QVERIFY(!dropOn(view, {300, 300}, {QUrl::fromLocalFile(u"/home/anna/scontrino.pdf"_s)}));
+        QCOMPARE(dropped, QStringList(u"/home/anna/club.CSV"_s));
     }
 };
 
