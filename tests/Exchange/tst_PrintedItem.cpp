@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "PaperParts.h"
 #include "PrintedItem.h"
 #include "RegisterFixture.h"
 #include "TestRunner.h"
@@ -13,14 +14,6 @@ PrintedPaper sheetOf(RegisterFixture& f, const Equipment& item)
     return PrintedItem::sheetOf(item, f.types, f.almanac, [](const QString&, int pixels) {
         return QImage(pixels, pixels, QImage::Format_ARGB32);
     });
-}
-
-QStringList cellsOf(const PrintedRow& row)
-{
-    QStringList cells;
-    for (const PrintedCell& cell : row.cells)
-        cells.append(cell.text);
-    return cells;
 }
 
 } // namespace

@@ -1,22 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "PaperParts.h"
 #include "PrintedList.h"
 #include "RegisterFixture.h"
 #include "TestRunner.h"
 
 using namespace abissora;
 using namespace abissora::test;
-
-namespace {
-
-QStringList cellsOf(const PrintedRow& row)
-{
-    QStringList cells;
-    for (const PrintedCell& cell : row.cells)
-        cells.append(cell.text);
-    return cells;
-}
-
-} // namespace
 
 class tst_PrintedList : public TestCase
 {

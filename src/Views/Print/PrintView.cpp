@@ -15,6 +15,7 @@
 #include "PaperLook.h"
 #include "PrintedItem.h"
 #include "PrintedList.h"
+#include "Reason.h"
 #include "SegmentedControl.h"
 #include "ViewSheet.h"
 
@@ -178,7 +179,7 @@ QPageSize PrintView::chosenSize() const
 
 void PrintView::layOut()
 {
-    showError({});
+    showReason(*m_error, {});
     if (m_progress)
         m_progress->cancel();
     m_progress = std::make_shared<WorkProgress>();
@@ -221,7 +222,7 @@ void PrintView::showPages(const std::optional<PageLayout>& layout)
 QCoro::Task<> PrintView::savePdf()
 {
     const QPointer<PrintView> alive(this);
-    showError({});
+    showReason(*m_error, {});
     const PageLayout layout = *m_layout;
     const auto target = m_sources.filePanel.pickTarget(requestFor(layout.paper()));
     if (!alive || !target)
@@ -236,31 +237,20 @@ QCoro::Task<> PrintView::savePdf()
     if (written)
         Q_EMIT closed();
     else if (written.error() != IoError::fromErrno(ECANCELED))
-        showError(OutputFile::failure(path, written.error()));
+        showReason(*m_error, OutputFile::failure(path, written.error()));
 }
 
 void PrintView::print()
 {
-    showError({});
+    showReason(*m_error, {});
     m_sources.print(m_layout->paper(), chosenSize(), window(), [alive = QPointer(this)](bool isPrinted) {
         if (!alive)
             return;
         if (isPrinted)
             Q_EMIT alive->closed();
         else
-            alive->showError(u"Non è stato possibile stampare."_s);
+            showReason(*alive->m_error, u"Non è stato possibile stampare."_s);
     });
-}
-
-void PrintView::showError(const QString& text)
-{
-    m_error->setText(text);
-    m_error->setAccessibleName(text);
-    m_error->setVisible(!text.isEmpty());
-    if (text.isEmpty())
-        return;
-    QAccessibleEvent announcement(m_error, QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
 }
 
 } // namespace abissora

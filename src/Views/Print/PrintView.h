@@ -65,7 +65,6 @@ private:
     void showPages(const std::optional<PageLayout>& layout);
     QCoro::Task<> savePdf();
     void print();
-    void showError(const QString& text);
 
     Sources m_sources;
     std::optional<Equipment> m_item;

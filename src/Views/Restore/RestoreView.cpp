@@ -12,6 +12,7 @@
 #include "LookedAtStates.h"
 #include "Metrics.h"
 #include "Painting.h"
+#include "Reason.h"
 #include "ScreenPage.h"
 #include "StateList.h"
 #include "ViewSheet.h"
@@ -174,7 +175,7 @@ void RestoreView::showPreview(const RestorePreview& preview)
     }
     m_page->verticalScrollBar()->setValue(0);
     m_restoreButton->setEnabled(preview.canBeRestored);
-    showError({});
+    showReason(*m_error, {});
 }
 
 void RestoreView::restoreChosen()
@@ -208,7 +209,7 @@ QCoro::Task<> RestoreView::openCopy(QString path)
         co_return;
     m_work.reset();
     if (!opened) {
-        showError(progress->isCancelled() ? QString() : opened.error().reason);
+        showReason(*m_error, progress->isCancelled() ? QString() : opened.error().reason);
         co_return;
     }
     m_states->choose(-1);
@@ -235,7 +236,7 @@ QCoro::Task<> RestoreView::restoreCopy()
     if (restored)
         Q_EMIT closed();
     else
-        showError(progress->isCancelled() ? QString() : restored.error().reason);
+        showReason(*m_error, progress->isCancelled() ? QString() : restored.error().reason);
 }
 
 void RestoreView::restoreState()
@@ -249,18 +250,7 @@ void RestoreView::restoreState()
     if (restored)
         Q_EMIT closed();
     else
-        showError(u"Non è stato possibile ripristinare: "_s + restored.error().reason);
-}
-
-void RestoreView::showError(const QString& text)
-{
-    m_error->setText(text);
-    m_error->setAccessibleName(text);
-    m_error->setVisible(!text.isEmpty());
-    if (text.isEmpty())
-        return;
-    QAccessibleEvent announcement(m_error, QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
+        showReason(*m_error, u"Non è stato possibile ripristinare: "_s + restored.error().reason);
 }
 
 bool hasStateToLookAt(const QList<EarlierState>& states, const LookedAtStates& lookedAt)

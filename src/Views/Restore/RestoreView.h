@@ -55,7 +55,6 @@ private:
     void chooseCopy();
     QCoro::Task<> openCopy(QString path);
     QCoro::Task<> restoreCopy();
-    void showError(const QString& text);
 
     RestoreContent m_content;
     LookedAtStates& m_lookedAt;
