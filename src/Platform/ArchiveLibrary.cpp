@@ -7,13 +7,13 @@ namespace abissora {
 
 namespace {
 
-constexpr int abiVersion = 13;
+constexpr int archiveAbiVersion = 13;
 
 } // namespace
 
 tl::expected<ArchiveLibrary, QString> ArchiveLibrary::load()
 {
-    QLibrary library(u"archive"_s, abiVersion);
+    QLibrary library(u"archive"_s, archiveAbiVersion);
     bool complete = library.load();
     const auto resolve = [&](const char* name, auto& function) {
         function = reinterpret_cast<std::remove_reference_t<decltype(function)>>(library.resolve(name));

@@ -7,16 +7,16 @@ namespace abissora {
 
 namespace {
 
-constexpr int abiVersion = 4;
+constexpr int curlAbiVersion = 4;
 
 } // namespace
 
 tl::expected<CurlLibrary, QString> CurlLibrary::load()
 {
-    QLibrary library(u"curl"_s, abiVersion);
+    QLibrary library(u"curl"_s, curlAbiVersion);
     bool complete = library.load();
     if (!complete) { // the same functions over another library for encryption
-        library.setFileNameAndVersion(u"curl-gnutls"_s, abiVersion);
+        library.setFileNameAndVersion(u"curl-gnutls"_s, curlAbiVersion);
         complete = library.load();
     }
     const auto resolve = [&](const char* name, auto& function) {

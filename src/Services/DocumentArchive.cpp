@@ -18,12 +18,12 @@ constexpr std::chrono::days leastStay{30};
 constexpr qsizetype uuidLength = 36;
 
 /// "20261121T184205.123Z-"
-const QString stampPattern = u"yyyyMMddTHHmmss.zzz"_s;
+const QString timeOfDeletion = u"yyyyMMddTHHmmss.zzz"_s;
 constexpr qsizetype stampLength = 19;
 
 QString stamp(Instant instant)
 {
-    return QDateTime::fromMSecsSinceEpoch(instant.time_since_epoch().count(), Qt::UTC).toString(stampPattern);
+    return QDateTime::fromMSecsSinceEpoch(instant.time_since_epoch().count(), Qt::UTC).toString(timeOfDeletion);
 }
 
 QStringList filesIn(const QString& folder)
@@ -138,7 +138,7 @@ QHash<QString, DocumentArchive::Entry> DocumentArchive::entries() const
     QHash<QString, Entry> found;
     const QString folder = m_directories.archivedDocuments();
     for (const QString& file : filesIn(folder)) {
-        QDateTime time = QDateTime::fromString(file.left(stampLength), stampPattern);
+        QDateTime time = QDateTime::fromString(file.left(stampLength), timeOfDeletion);
         time.setTimeSpec(Qt::UTC);
         const QString name = file.mid(stampLength + 2);
         if (time.isValid() && file.mid(stampLength, 2) == "Z-"_L1 && !name.isEmpty())

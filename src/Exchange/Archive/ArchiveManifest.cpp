@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ArchiveManifest.h"
 
+#include "ArchiveTerms.h"
 #include "CountText.h"
 #include "EarlierState.h"
 #include "Literals.h"
@@ -60,23 +61,18 @@ QString text(const Json& object, const char* key)
     return found != object.end() && found->is_string() ? QString::fromStdString(found->get<std::string>()) : QString();
 }
 
-tl::unexpected<IoError> refused(const QString& sentence)
-{
-    return tl::unexpected(IoError{sentence});
-}
-
-const QString damaged = u"L'elenco all'inizio della copia è danneggiato."_s;
+const QString damagedList = u"L'elenco all'inizio della copia è danneggiato."_s;
 
 IoResult<ArchivedFile> readFile(const Json& object)
 {
     if (!object.is_object())
-        return refused(damaged);
+        return archived::refused(damagedList);
     ArchivedFile file{text(object, "name"), number(object, "size"),
                       QByteArray::fromHex(text(object, "sha256").toLatin1())};
     if (file.name.isEmpty() || file.size < 0 || file.sum.size() != sumSize)
-        return refused(damaged);
+        return archived::refused(damagedList);
     if (!isArchivedName(file.name))
-        return refused(u"La copia contiene un file con un nome che non è ammesso."_s);
+        return archived::refused(u"La copia contiene un file con un nome che non è ammesso."_s);
     return file;
 }
 
@@ -127,11 +123,12 @@ IoResult<ArchiveManifest> ArchiveManifest::fromJson(const QByteArray& bytes)
 {
     const Json json = Json::parse(bytes.begin(), bytes.end(), nullptr, false);
     if (!json.is_object() || text(json, "kind") != kind)
-        return refused(u"Questo file zip non è una copia di un registro."_s);
+        return archived::refused(u"Questo file zip non è una copia di un registro."_s);
     const qint64 format = number(json, "format");
     if (format > newestFormat)
-        return refused(u"La copia è stata fatta con una versione più nuova di Abissora: per leggerla va aggiornato il "
-                       "programma."_s);
+        return archived::refused(
+            u"La copia è stata fatta con una versione più nuova di Abissora: per leggerla va aggiornato il "
+            "programma."_s);
     QDateTime time = QDateTime::fromString(text(json, "created"), u"yyyy-MM-ddTHH:mm:ss'Z'"_s);
     time.setTimeSpec(Qt::UTC);
     ArchiveManifest manifest;
@@ -142,7 +139,7 @@ IoResult<ArchiveManifest> ArchiveManifest::fromJson(const QByteArray& bytes)
     const auto files = json.find("files");
     if (format < 1 || !time.isValid() || std::min({counts.items, counts.records, counts.types, counts.documents}) < 0 ||
         files == json.end() || !files->is_array())
-        return refused(damaged);
+        return archived::refused(damagedList);
     manifest.created = Instant(std::chrono::milliseconds(time.toMSecsSinceEpoch()));
 
     QSet<QString> names;
@@ -151,13 +148,13 @@ IoResult<ArchiveManifest> ArchiveManifest::fromJson(const QByteArray& bytes)
         if (!file)
             return tl::unexpected(file.error());
         if (names.contains(file->name.toCaseFolded()))
-            return refused(u"La copia contiene due file con lo stesso nome."_s);
+            return archived::refused(u"La copia contiene due file con lo stesso nome."_s);
         names.insert(file->name.toCaseFolded());
         manifest.files.append(*std::move(file));
     }
     if (std::ranges::none_of(manifest.files,
                              [](const ArchivedFile& file) { return file.name == archived::registerFile; }))
-        return refused(u"Nella copia manca il registro."_s);
+        return archived::refused(u"Nella copia manca il registro."_s);
     return manifest;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ArchiveReader.h"
 
+#include "ArchiveTerms.h"
 #include "Literals.h"
 #include "ZipReader.h"
 
@@ -13,26 +14,20 @@ namespace abissora {
 
 namespace {
 
-constexpr qsizetype blockSize = 256 * 1024;
 constexpr QByteArrayView zipBeginning("PK\3\4");
 
 /// So much more than its own size may a file hold: JSON becomes a tenth, texts that repeat themselves much less.
 constexpr qint64 mostRatio = 200;
 constexpr qint64 alwaysAllowed = qint64{64} * 1024 * 1024;
 
-tl::unexpected<IoError> refused(const QString& sentence)
-{
-    return tl::unexpected(IoError{sentence});
-}
-
 tl::unexpected<IoError> damaged()
 {
-    return refused(u"La copia è incompleta o danneggiata."_s);
+    return archived::refused(u"La copia è incompleta o danneggiata."_s);
 }
 
 tl::unexpected<IoError> noCopy()
 {
-    return refused(u"Questo file non è una copia di un registro."_s);
+    return archived::refused(u"Questo file non è una copia di un registro."_s);
 }
 
 /// One reading of one file.
@@ -58,9 +53,9 @@ private:
         if (!first)
             return damaged();
         if (!*first || (*first)->name != ArchiveManifest::entryName || !(*first)->isPlainFile)
-            return refused(u"Questo file zip non è una copia di un registro."_s);
+            return archived::refused(u"Questo file zip non è una copia di un registro."_s);
         if ((*first)->isEncrypted)
-            return refused(u"La copia contiene un file cifrato."_s);
+            return archived::refused(u"La copia contiene un file cifrato."_s);
         QByteArray json;
         const auto read = readEntry(ArchiveManifest::mostBytes, [&json](const char* bytes, qsizetype size) {
             json.append(bytes, size);
@@ -74,7 +69,7 @@ private:
         m_manifest = *std::move(manifest);
         m_whole = m_manifest.totalSize();
         if (m_whole > alwaysAllowed && (m_whole - alwaysAllowed) / mostRatio > m_zipSize)
-            return refused(u"La copia annuncia più dati di quanti ne può contenere."_s);
+            return archived::refused(u"La copia annuncia più dati di quanti ne può contenere."_s);
         return m_target != nullptr ? m_target->open(m_manifest) : IoResult<void>();
     }
 
@@ -90,17 +85,18 @@ private:
             if (!*entry)
                 break;
             if (!(*entry)->isPlainFile)
-                return refused(u"La copia contiene qualcosa che non è un file, come un collegamento."_s);
+                return archived::refused(u"La copia contiene qualcosa che non è un file, come un collegamento."_s);
             if ((*entry)->isEncrypted)
-                return refused(u"La copia contiene un file cifrato."_s);
+                return archived::refused(u"La copia contiene un file cifrato."_s);
             const ArchivedFile* const file = awaited.take((*entry)->name);
             if (file == nullptr)
-                return refused(u"La copia contiene un file che il suo elenco non nomina, o due volte lo stesso."_s);
+                return archived::refused(
+                    u"La copia contiene un file che il suo elenco non nomina, o due volte lo stesso."_s);
             if (auto read = readFile(*file); !read)
                 return read;
         }
         if (!awaited.isEmpty())
-            return refused(u"Nella copia manca «%1»."_s.arg((*awaited.cbegin())->name));
+            return archived::refused(u"Nella copia manca «%1»."_s.arg((*awaited.cbegin())->name));
         return {};
     }
 
@@ -118,7 +114,7 @@ private:
         if (!read)
             return tl::unexpected(read.error());
         if (*read != file.size || sum.result() != file.sum)
-            return refused(u"«%1» nella copia è danneggiato."_s.arg(file.name));
+            return archived::refused(u"«%1» nella copia è danneggiato."_s.arg(file.name));
         return m_target != nullptr ? m_target->end() : IoResult<void>();
     }
 
@@ -126,7 +122,7 @@ private:
     template <typename Take>
     IoResult<qint64> readEntry(qint64 most, Take take)
     {
-        QByteArray block(blockSize, Qt::Uninitialized);
+        QByteArray block(archived::blockSize, Qt::Uninitialized);
         qint64 size = 0;
         while (m_goesOn(m_done, m_whole)) {
             const auto count = m_zip.read(block);
@@ -136,7 +132,7 @@ private:
                 return size;
             size += *count;
             if (size > most)
-                return refused(u"La copia contiene un file più grande di quanto annuncia."_s);
+                return archived::refused(u"La copia contiene un file più grande di quanto annuncia."_s);
             if (auto taken = take(block.constData(), *count); !taken)
                 return tl::unexpected(taken.error());
         }
@@ -164,7 +160,7 @@ IoResult<ArchiveManifest> ArchiveReader::read(const QString& path, const GoesOn&
 {
     const auto beginning = RegularFile::beginning(path, zipBeginning.size());
     if (!beginning)
-        return refused(u"Non è stato possibile leggere «%1»: %2"_s.arg(path, beginning.error().reason));
+        return archived::refused(u"Non è stato possibile leggere «%1»: %2"_s.arg(path, beginning.error().reason));
     if (*beginning != zipBeginning)
         return noCopy();
     const auto library = loadLibrary();

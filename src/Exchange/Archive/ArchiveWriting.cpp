@@ -2,6 +2,7 @@
 #include "ArchiveWriting.h"
 
 #include "ArchiveReader.h"
+#include "ArchiveTerms.h"
 #include "AtomicFile.h"
 #include "OutputFile.h"
 #include "PackageInformation.h"
@@ -16,8 +17,6 @@
 namespace abissora {
 
 namespace {
-
-constexpr qsizetype blockSize = 256 * 1024;
 
 tl::unexpected<ArchiveWriting::Trouble> failed(const IoError& error)
 {
@@ -196,10 +195,10 @@ ArchiveWriting::Result<qint64> ArchiveWriting::readAll(const QString& path, Take
             return hasChanged(); // gone since it was listed
         return unreadable(path, file.errorString());
     }
-    QByteArray block(blockSize, Qt::Uninitialized);
+    QByteArray block(archived::blockSize, Qt::Uninitialized);
     qint64 size = 0;
     while (m_goesOn(std::min(m_done, m_whole), m_whole)) {
-        const qint64 count = file.read(block.data(), blockSize);
+        const qint64 count = file.read(block.data(), archived::blockSize);
         if (count < 0)
             return unreadable(path, file.errorString());
         if (count == 0)

@@ -2,6 +2,7 @@
 #include "RegisterArchive.h"
 
 #include "ArchiveReader.h"
+#include "ArchiveTerms.h"
 #include "ArchiveWriting.h"
 #include "OutputFile.h"
 #include "StateFiles.h"
@@ -16,17 +17,14 @@ namespace {
 
 constexpr int attempts = 5;
 
-tl::unexpected<IoError> refused(const QString& sentence)
-{
-    return tl::unexpected(IoError{sentence});
-}
-
 IoResult<QString> checkedTarget(const QString& chosen, const QString& root)
 {
     const QFileInfo link(chosen);
     const QString path = link.isSymLink() ? link.symLinkTarget() : link.absoluteFilePath();
     const QFileInfo info(path);
-    const auto fail = [&path](int error) { return refused(OutputFile::failure(path, IoError::fromErrno(error))); };
+    const auto fail = [&path](int error) {
+        return archived::refused(OutputFile::failure(path, IoError::fromErrno(error)));
+    };
     if (info.isDir())
         return fail(EISDIR);
     if (info.exists() && !info.isFile())
@@ -36,7 +34,7 @@ IoResult<QString> checkedTarget(const QString& chosen, const QString& root)
         return fail(ENOENT);
     const QString own = QFileInfo(root).canonicalFilePath();
     if (folder == own || folder.startsWith(own + u'/'))
-        return refused(u"La copia non può stare nella cartella del registro: va messa altrove."_s);
+        return archived::refused(u"La copia non può stare nella cartella del registro: va messa altrove."_s);
     return folder + u'/' + info.fileName();
 }
 
@@ -49,13 +47,13 @@ RegisterArchive::RegisterArchive(ApplicationDirectories directories)
 IoResult<ArchiveManifest> RegisterArchive::write(const QString& target, Instant now, const GoesOn& goesOn) const
 {
     if (!QFileInfo(storedFiles(m_directories.preferences()).value(registerKey)).isFile())
-        return refused(u"In «%1» non c'è un registro."_s.arg(m_directories.root()));
+        return archived::refused(u"In «%1» non c'è un registro."_s.arg(m_directories.root()));
     const auto path = checkedTarget(target, m_directories.root());
     if (!path)
         return tl::unexpected(path.error());
     const auto library = ArchiveLibrary::load();
     if (!library)
-        return refused(u"Per le copie serve la libreria libarchive: "_s + library.error());
+        return archived::refused(u"Per le copie serve la libreria libarchive: "_s + library.error());
 
     ArchiveWriting writing(m_directories, *library, now, goesOn);
     for (int i = 0; i < attempts; ++i) {
@@ -63,7 +61,7 @@ IoResult<ArchiveManifest> RegisterArchive::write(const QString& target, Instant 
         if (written || !written.error().isChange)
             return written.map_error([](const ArchiveWriting::Trouble& trouble) { return trouble.error; });
     }
-    return refused(u"Il registro continua a cambiare mentre se ne fa la copia: va riprovato più tardi."_s);
+    return archived::refused(u"Il registro continua a cambiare mentre se ne fa la copia: va riprovato più tardi."_s);
 }
 
 } // namespace abissora

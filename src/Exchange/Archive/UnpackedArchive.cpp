@@ -24,8 +24,10 @@ bool holds(const QString& path, const ArchivedFile& file)
     return sum.addData(&present) && sum.result() == file.sum;
 }
 
+} // namespace
+
 /// Writes the files of a copy that are wanted, each on the disk before the next one begins.
-class Writing : public ArchiveReader::Target
+class UnpackedArchive::Writing : public ArchiveReader::Target
 {
 public:
     explicit Writing(QString folder)
@@ -79,7 +81,7 @@ private:
     std::optional<SyncedFile> m_file;
 };
 
-class PreferencesOnly final : public Writing
+class UnpackedArchive::PreferencesOnly final : public Writing
 {
 public:
     using Writing::Writing;
@@ -87,8 +89,6 @@ public:
 private:
     bool wants(const ArchivedFile& file) override { return file.name.startsWith(archived::preferences); }
 };
-
-} // namespace
 
 class UnpackedArchive::Unpacking final : public Writing
 {

@@ -33,6 +33,8 @@ public:
     [[nodiscard]] const QStringList& newDocuments() const { return m_newDocuments; }
 
 private:
+    class Writing;
+    class PreferencesOnly;
     class Unpacking;
 
     explicit UnpackedArchive(QString folder);

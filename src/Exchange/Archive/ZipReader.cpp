@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ZipReader.h"
 
+#include "ArchiveTerms.h"
+
 #include <QFile>
 
 namespace abissora {
 
-namespace {
-
-constexpr std::size_t blockSize = std::size_t{256} * 1024;
-
-} // namespace
+namespace {} // namespace
 
 ZipReader::ZipReader(const ArchiveLibrary& library)
     : m_library(library)
@@ -26,7 +24,7 @@ ZipReader::~ZipReader()
 
 bool ZipReader::openFile(const QString& path)
 {
-    return m_library.openFile(m_reader, QFile::encodeName(path).constData(), blockSize) == ARCHIVE_OK;
+    return m_library.openFile(m_reader, QFile::encodeName(path).constData(), archived::blockSize) == ARCHIVE_OK;
 }
 
 bool ZipReader::openBytes(const QByteArray& bytes)

@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ZipWriter.h"
 
+#include "ArchiveTerms.h"
+
 #include <cerrno>
 
 namespace abissora {
 
-namespace {
-
-constexpr int blockSize = 256 * 1024;
-
-} // namespace
+namespace {} // namespace
 
 ZipWriter::ZipWriter(const ArchiveLibrary& library, SyncedFile& file)
     : m_library(library)
@@ -18,7 +16,7 @@ ZipWriter::ZipWriter(const ArchiveLibrary& library, SyncedFile& file)
 {
     m_library.writeZip(m_writer);
     m_library.setWriterOptions(m_writer, "zip:hdrcharset=UTF-8");
-    m_library.setBlockSize(m_writer, blockSize);
+    m_library.setBlockSize(m_writer, archived::blockSize);
     m_library.setLastBlockSize(m_writer, 1); // no padding
     m_library.openWriter(m_writer, this, nullptr, &ZipWriter::take, nullptr);
 }

@@ -18,7 +18,7 @@ namespace abissora {
 
 namespace {
 
-constexpr int distanceToEdge = metrics::spaceL;
+constexpr int distanceToScreen = metrics::spaceL;
 
 /// Dims a window for as long as it exists.
 class Scrim final : public QWidget
@@ -118,7 +118,7 @@ void SheetWindow::place()
 {
     const QWidget* const below = mainWindow();
     const QRect room = below != nullptr ? below->geometry() : screen()->availableGeometry();
-    const QSize most(room.width() - 2 * distanceToEdge, room.height() - 2 * distanceToEdge);
+    const QSize most(room.width() - 2 * distanceToScreen, room.height() - 2 * distanceToScreen);
     ensurePolished();
     resize(preferredSize().boundedTo(most).expandedTo(minimumSizeHint()));
     QRect frame(QPoint(), size());

@@ -21,7 +21,7 @@ namespace abissora {
 
 namespace {
 
-constexpr int tileSide = 34;
+constexpr int rowTileSide = 34;
 constexpr int widestCost = 150;
 
 QFont medium(QFont font)
@@ -34,7 +34,7 @@ QFont medium(QFont font)
 
 MaintenanceRow::MaintenanceRow(QWidget* parent)
     : QWidget(parent)
-    , m_tile(new IconTile(tileSide))
+    , m_tile(new IconTile(rowTileSide))
     , m_type(named(new WrapLabel(TextStyle::Headline, &Tokens::text), "maintenanceType"))
     , m_cost(named(new ElidedLabel(TextStyle::Caption, &Tokens::secondaryText), "maintenanceCost"))
     , m_description(named(new WrapLabel(TextStyle::Body, &Tokens::text), "maintenanceDescription"))

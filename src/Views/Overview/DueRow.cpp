@@ -16,7 +16,7 @@ namespace abissora {
 namespace {
 
 constexpr int tileSide = 38;
-constexpr int gap = metrics::spaceM + 2;
+constexpr int iconGap = metrics::spaceM + 2;
 
 } // namespace
 
@@ -42,7 +42,7 @@ DueRow::DueRow(QWidget* parent)
     texts->addStretch();
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(metrics::spaceL, metrics::spaceM, metrics::spaceL, metrics::spaceM);
-    layout->setSpacing(gap);
+    layout->setSpacing(iconGap);
     layout->addWidget(m_tile);
     layout->addLayout(texts, 1);
     for (QAbstractButton* button : {m_add, m_details}) {

@@ -27,7 +27,7 @@ namespace {
 
 constexpr QSize preferredSize(860, 600);
 constexpr int listWidth = 300;
-constexpr int sideMargin = 18;
+constexpr int windowMargin = 18;
 
 /// A hairline from top to bottom.
 class Border final : public QFrame
@@ -110,7 +110,7 @@ ViewSheet* RestoreView::makeSheet(const RestoreContent::Sources& sources, Looked
 QLayout* RestoreView::makeBody()
 {
     QVBoxLayout* const column = m_page->column();
-    column->setContentsMargins(sideMargin, metrics::spaceL - 2, sideMargin, sideMargin);
+    column->setContentsMargins(windowMargin, metrics::spaceL - 2, windowMargin, windowMargin);
     column->addLayout(inColumn(2, {m_title, m_subtitle}));
     column->addStretch();
     m_states->area().setFixedWidth(withText(listWidth, fontMetrics()));
@@ -142,7 +142,7 @@ QLayout* RestoreView::makeFooter()
     if (m_content.states().isEmpty())
         buttons->insertStretch(1, 1);
     return inColumn(metrics::spaceS, {m_error, buttons},
-                    {sideMargin, metrics::spaceM + 2, sideMargin, metrics::spaceM + 2});
+                    {windowMargin, metrics::spaceM + 2, windowMargin, metrics::spaceM + 2});
 }
 
 QWidget* RestoreView::firstFocus() const

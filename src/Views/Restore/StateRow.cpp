@@ -18,7 +18,7 @@ namespace abissora {
 
 namespace {
 
-constexpr int sideMargin = metrics::spaceS;
+constexpr int dayMargin = metrics::spaceS;
 constexpr int padding = 10;
 constexpr int symbolSide = 12;
 constexpr std::array styles{TextStyle::BodyMedium, TextStyle::Callout, TextStyle::Caption};
@@ -155,7 +155,7 @@ StateRow::StateRow(QWidget* parent)
 {
     m_title->setContentsMargins(padding, metrics::spaceS + 2, padding, metrics::spaceXS + 1);
     m_title->hide();
-    setLayout(inColumn(0, {m_title, m_button}, {sideMargin, 0, sideMargin, 0}));
+    setLayout(inColumn(0, {m_title, m_button}, {dayMargin, 0, dayMargin, 0}));
 }
 
 void StateRow::setGroupTitle(const QString& title)

@@ -19,8 +19,8 @@ namespace abissora {
 
 namespace {
 
-constexpr int contentWidth = 400;
-constexpr int iconSide = 104;
+constexpr int aboutWidth = 400;
+constexpr int aboutIconSide = 104;
 
 // Parts of the icon's side; its picture is a rounded square with a little air around it.
 constexpr qreal air = 6.0 / 128;
@@ -92,7 +92,7 @@ AboutView::AboutView(const ProgramFacts& program, QWidget* parent)
     auto* subtitle =
         new InkLabel(TextStyle::Body, &Tokens::secondaryText, u"Gestione attrezzatura subacquea e manutenzioni"_s);
     setLayout(inColumn(metrics::spaceXS,
-                       {{new ShadowedIcon(iconSide), 0, Qt::AlignHCenter},
+                       {{new ShadowedIcon(aboutIconSide), 0, Qt::AlignHCenter},
                         Gap(metrics::spaceXS),
                         {name, 0, Qt::AlignHCenter},
                         {subtitle, 0, Qt::AlignHCenter},
@@ -100,7 +100,7 @@ AboutView::AboutView(const ProgramFacts& program, QWidget* parent)
                         makeRows(program),
                         Stretch()},
                        {metrics::spaceXL, metrics::spaceL, metrics::spaceXL, metrics::spaceXL}));
-    setMinimumWidth(withText(contentWidth, fontMetrics()));
+    setMinimumWidth(withText(aboutWidth, fontMetrics()));
 }
 
 void AboutView::showEvent(QShowEvent* event)

@@ -25,8 +25,8 @@ namespace abissora {
 
 namespace {
 
-constexpr int contentWidth = 480;
-constexpr int iconSide = 52;
+constexpr int updateWidth = 480;
+constexpr int updateIconSide = 52;
 constexpr int fewestLines = 3;
 constexpr int mostLines = 12;
 constexpr int longestMeasured = 4'000; ///< characters of a paragraph; more fill the lines anyway
@@ -127,7 +127,7 @@ UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& op
     host->setText(m_offer.host);
     m_failure = makeFailure();
 
-    auto* icon = new IconView(symbolIcon(u"arrow.down.circle.fill"_s, NamedColor::blue), iconSide);
+    auto* icon = new IconView(symbolIcon(u"arrow.down.circle.fill"_s, NamedColor::blue), updateIconSide);
     setLayout(inColumn(metrics::spaceS,
                        {{icon, 0, Qt::AlignHCenter},
                         {title, 0, Qt::AlignHCenter},
@@ -139,7 +139,7 @@ UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& op
                         inRow(metrics::spaceM, {Stretch(), later, m_download}),
                         {host, 0, Qt::AlignRight}},
                        {metrics::spaceXL, metrics::spaceXL, metrics::spaceXL, metrics::spaceL}));
-    setMinimumWidth(withText(contentWidth, fontMetrics()));
+    setMinimumWidth(withText(updateWidth, fontMetrics()));
 }
 
 void UpdateView::showEvent(QShowEvent* event)

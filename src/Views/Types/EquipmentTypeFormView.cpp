@@ -29,8 +29,8 @@ namespace abissora {
 
 namespace {
 
-constexpr int preferredWidth = 820;
-constexpr int preferredHeight = 600;
+constexpr int formWidth = 820;
+constexpr int formHeight = 600;
 constexpr int previewWidth = 210;
 constexpr int previewTileSide = 72;
 constexpr int labelColumn = 140;
@@ -143,7 +143,7 @@ EquipmentTypeFormView::EquipmentTypeFormView(EquipmentTypeViewModel& types, IdGe
     , m_preview(new Preview)
 {
     setPrimaryText(u"Salva"_s, u'S');
-    setPreferredSize({withText(preferredWidth, fontMetrics()), withText(preferredHeight, fontMetrics())});
+    setPreferredSize({withText(formWidth, fontMetrics()), withText(formHeight, fontMetrics())});
     makeColumns();
     setState(editingType ? EquipmentTypeFormState::of(*editingType) : EquipmentTypeFormState());
     connectFields();
