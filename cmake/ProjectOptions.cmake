@@ -8,7 +8,9 @@ set(CMAKE_AUTOMOC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-option(ABISSORA_WARNINGS_AS_ERRORS "Treat warnings as errors" ON)
+# Only while developing: a newer compiler that knows another warning still builds a release.
+option(ABISSORA_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
+option(ABISSORA_HARDENING "Stack, control flow and library calls are guarded (GCC and clang, not in Debug builds)" ON)
 option(ABISSORA_TIDY "Run clang-tidy on every translation unit" OFF)
 set(ABISSORA_SANITIZERS "" CACHE STRING "Sanitizers for -fsanitize=, e.g. address,undefined")
 
@@ -45,6 +47,8 @@ else()
     target_compile_options(abissora_options INTERFACE "SHELL:-Xclang -fno-pch-timestamp")
   endif()
 endif()
+
+include(Hardening)
 
 if(ABISSORA_SANITIZERS)
   target_compile_options(abissora_options INTERFACE
