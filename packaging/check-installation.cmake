@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# cmake -DBUILD=folder -DVERSION=x.y.z -P check-installation.cmake: installs into a folder of its own and checks
-# that everything is where a desktop looks for it.
+# cmake -DBUILD=folder -DVERSION=x.y.z -DID=org.example.Program -P check-installation.cmake: installs into a folder of
+# its own and checks that everything is where a desktop looks for it.
 set(prefix "${BUILD}/packaging/installation")
 file(REMOVE_RECURSE "${prefix}")
 execute_process(COMMAND ${CMAKE_COMMAND} --install "${BUILD}" --prefix "${prefix}" --component Unspecified
@@ -8,12 +8,12 @@ execute_process(COMMAND ${CMAKE_COMMAND} --install "${BUILD}" --prefix "${prefix
 
 foreach(file IN ITEMS
     bin/abissora
-    share/applications/abissora.desktop
+    share/applications/${ID}.desktop
     share/doc/abissora/copyright
-    share/icons/hicolor/scalable/apps/abissora.svg
-    share/icons/hicolor/symbolic/apps/abissora-symbolic.svg
+    share/icons/hicolor/scalable/apps/${ID}.svg
+    share/icons/hicolor/symbolic/apps/${ID}-symbolic.svg
     share/man/man1/abissora.1
-    share/metainfo/abissora.metainfo.xml)
+    share/metainfo/${ID}.metainfo.xml)
   if(NOT EXISTS "${prefix}/${file}")
     message(SEND_ERROR "Not installed: ${file}. cmake/Packaging.cmake installs it.")
   endif()
@@ -31,9 +31,9 @@ if(found EQUAL -1)
   message(SEND_ERROR "abissora --version answers \"${answer}\", without ${VERSION}.")
 endif()
 
-file(STRINGS "${prefix}/share/metainfo/abissora.metainfo.xml" releases REGEX "<release ")
+file(STRINGS "${prefix}/share/metainfo/${ID}.metainfo.xml" releases REGEX "<release ")
 list(GET releases 0 newest)
 string(FIND "${newest}" "\"${VERSION}\"" found)
 if(found EQUAL -1)
-  message(SEND_ERROR "The newest release in packaging/abissora.metainfo.xml is not ${VERSION}: add an entry for it.")
+  message(SEND_ERROR "The newest release in packaging/abissora.metainfo.xml.in is not ${VERSION}: add an entry for it.")
 endif()

@@ -204,7 +204,7 @@ int runProgram(int argc, char** argv, const Product& product)
     }
 
     QCoreApplication::setApplicationName(u"abissora"_s);
-    QGuiApplication::setDesktopFileName(u"abissora"_s);
+    QGuiApplication::setDesktopFileName(QStringLiteral(ABISSORA_APPLICATION_ID));
     qInstallMessageHandler(explainMissingDisplay);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
