@@ -16,10 +16,15 @@ install(SCRIPT "${PROJECT_SOURCE_DIR}/cmake/InstalledFolders.cmake")
 install(TARGETS abissora RUNTIME)
 install(FILES "${desktop_entry}" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
 install(FILES "${metainfo}" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
+set(icon_theme "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
 install(FILES "${application_icons}/abissora.svg"
-  DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps" RENAME "${ABISSORA_APPLICATION_ID}.svg")
+  DESTINATION "${icon_theme}/scalable/apps" RENAME "${ABISSORA_APPLICATION_ID}.svg")
 install(FILES "${application_icons}/abissora-symbolic.svg"
-  DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/symbolic/apps" RENAME "${ABISSORA_APPLICATION_ID}-symbolic.svg")
+  DESTINATION "${icon_theme}/symbolic/apps" RENAME "${ABISSORA_APPLICATION_ID}-symbolic.svg")
+foreach(side 16 22 24 32 48 64 128 256 512)
+  install(FILES "${packaging}/icons/abissora-${side}.png"
+    DESTINATION "${icon_theme}/${side}x${side}/apps" RENAME "${ABISSORA_APPLICATION_ID}.png")
+endforeach()
 install(FILES "${manual}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}" RENAME copyright)
 install(DIRECTORY "${packaging}/licenses/" DESTINATION "${CMAKE_INSTALL_DOCDIR}/licenses")

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 """The desktop finds the entry, and with it name and icon, that a window belongs to: on X11 by the class that the entry
-names, on Wayland by the entry's own file name."""
+names, on Wayland by the entry's own file name. On X11 a window brings its icon, in the sizes of panels and switchers."""
 
 import configparser
 import contextlib
@@ -12,16 +12,26 @@ from pathlib import Path
 from program import until
 
 SOCKET = "abissora-journey"
+PANEL_SIDES = {16, 22, 24, 32, 48}  # pixels
 
 
-def window_class(pid):
-    """The class of the program's main window on X11."""
+def main_window(pid):
+    """The number of the program's main window on X11."""
     found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(pid), "--name", "Abissora"],
                            capture_output=True, text=True, check=False).stdout.split()
-    if len(found) != 1:
-        return None
-    shown = subprocess.run(["xprop", "-id", found[0], "WM_CLASS"], capture_output=True, text=True, check=True).stdout
-    return re.fullmatch(r'WM_CLASS\(STRING\) = "[^"]*", "([^"]*)"\n', shown)[1]
+    return found[0] if len(found) == 1 else None
+
+
+def shown_property(window, name):
+    return subprocess.run(["xprop", "-id", window, name], capture_output=True, text=True, check=True).stdout
+
+
+def window_class(window):
+    return re.fullmatch(r'WM_CLASS\(STRING\) = "[^"]*", "([^"]*)"\n', shown_property(window, "WM_CLASS"))[1]
+
+
+def icon_sides(window):
+    return {int(side) for side in re.findall(r"Icon \((\d+) x \1\)", shown_property(window, "_NET_WM_ICON"))}
 
 
 @contextlib.contextmanager
@@ -56,9 +66,11 @@ def journey(run, data):
     entry.read_string(path.read_text(encoding="utf-8"))
 
     program = run()
-    found = until("the main window", lambda: window_class(program.process.pid))
+    window = until("the main window", lambda: main_window(program.process.pid))
+    found = window_class(window)
     wanted = entry["Desktop Entry"]["StartupWMClass"]
     assert found == wanted, f"the window's class is {found}, the entry asks for {wanted}"
+    assert icon_sides(window) >= PANEL_SIDES, f"the window has its icon in {icon_sides(window)}"
     program.close()
     with wayland():
         found = application_id(program.path, data)

@@ -101,6 +101,10 @@ private Q_SLOTS:
     void aMenuGetsABitmapAtScaleTwo();
     void aMenuGetsOtherSymbolsAsTheyAre();
     void theApplicationHasAPictureInItsOwnColours();
+    void theSmallDrawingsOfTheApplicationAreSharp_data();
+    void theSmallDrawingsOfTheApplicationAreSharp();
+    void aSmallDrawingKeepsItsSizeWhereLittleRoomIsLeft();
+    void windowSystemsGetTheApplicationAtEveryUsualSize();
 };
 
 void tst_SymbolIcon::anUnknownSymbolIsNullAndPaintsNothing_data()
@@ -285,6 +289,51 @@ void tst_SymbolIcon::theApplicationHasAPictureInItsOwnColours()
     const QColor frame = image.pixelColor(11, 32);
     QVERIFY(top.blue() > top.red());
     QCOMPARE(frame, QColor(Qt::white));
+}
+
+void tst_SymbolIcon::theSmallDrawingsOfTheApplicationAreSharp_data()
+{
+    QTest::addColumn<int>("side");
+    QTest::addColumn<int>("frame"); // left edge of the mask's frame
+    QTest::addColumn<int>("width"); // its breadth
+    QTest::newRow("16") << 16 << 1 << 1;
+    QTest::newRow("22") << 22 << 2 << 2;
+    QTest::newRow("32") << 32 << 3 << 3;
+}
+
+// Beside a straight edge there is no pixel of a colour in between.
+void tst_SymbolIcon::theSmallDrawingsOfTheApplicationAreSharp()
+{
+    QFETCH(int, side);
+    QFETCH(int, frame);
+    QFETCH(int, width);
+    const QImage image = imageOf(applicationIcon(), {side, side});
+    const int middle = side / 2;
+    const QColor glass = image.pixelColor(frame + width, middle);
+    for (int x = 0; x < width; ++x) {
+        QCOMPARE(image.pixelColor(frame + x, middle), QColor(Qt::white));
+        QCOMPARE(image.pixelColor(side - 1 - frame - x, middle), QColor(Qt::white));
+    }
+    QVERIFY(image.pixelColor(frame - 1, middle).lightness() < 120);
+    QVERIFY(glass.lightness() < 60);
+    QCOMPARE(image.pixelColor(side - 1 - frame - width, middle), glass);
+}
+
+void tst_SymbolIcon::aSmallDrawingKeepsItsSizeWhereLittleRoomIsLeft()
+{
+    const QImage picture = imageOf(applicationIcon(), {24, 24});
+    QCOMPARE(boundsOfInk(picture), QRect(1, 1, 22, 22));
+    QCOMPARE(picture.copy(1, 1, 22, 22), imageOf(applicationIcon(), {22, 22}));
+    QCOMPARE(boundsOfInk(imageOf(applicationIcon(), {20, 20})), QRect(0, 0, 20, 20));
+    QVERIFY(imageOf(applicationIcon(), {0, 0}).isNull());
+}
+
+// Without a list of sizes a window would get four pictures, none of them for a panel of 22 or 24 pixels.
+void tst_SymbolIcon::windowSystemsGetTheApplicationAtEveryUsualSize()
+{
+    const QList<QSize> sizes = applicationIcon().availableSizes();
+    for (const int side : {16, 22, 24, 32, 48, 64, 128})
+        QVERIFY2(sizes.contains(QSize(side, side)), QByteArray::number(side).constData());
 }
 
 ABISSORA_TEST(tst_SymbolIcon);
