@@ -45,6 +45,13 @@ QString patternsOf(const QStringList& contentTypes)
     return patterns.join(u' ');
 }
 
+/// Whether a sandbox shows the file at this path because the person chose it. It shows that one name and no other.
+bool isGranted(const QString& path)
+{
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return path.startsWith("/run/flatpak/doc/"_L1) || (!runtime.isEmpty() && path.startsWith(runtime + "/doc/"_L1));
+}
+
 bool accepts(const FilePanelRequest& request, const QString& path)
 {
     return request.accepts == nullptr || request.accepts(path);
@@ -176,7 +183,12 @@ public:
     [[nodiscard]] SaveTarget target() const
     {
         const qsizetype selected = m_filters.indexOf(selectedNameFilter());
-        return saveTarget(selectedFiles().value(0), m_formats, std::max<qsizetype>(selected, 0));
+        const QString chosen = selectedFiles().value(0);
+        SaveTarget target = saveTarget(chosen, m_formats, std::max<qsizetype>(selected, 0));
+        // With a suffix it would be a name that the person never gets to see.
+        if (isGranted(chosen))
+            target.path = chosen;
+        return target;
     }
 
 protected:

@@ -23,9 +23,25 @@ constexpr char answer = '\1';
 
 #ifdef Q_OS_LINUX
 
-// Makes nothing on the disk, leaves nothing behind and works where the temporary folder is full or missing.
-constexpr QLocalServer::SocketOption serverOption = QLocalServer::AbstractNamespaceOption;
-constexpr QLocalSocket::SocketOption socketOption = QLocalSocket::AbstractNamespaceOption;
+/// What a sandbox shares among all starts of an application; empty outside of one.
+QString sharedFolder()
+{
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    const QString id = qEnvironmentVariable("FLATPAK_ID");
+    return runtime.isEmpty() || id.isEmpty() ? QString() : runtime + "/app/"_L1 + id + u'/';
+}
+
+// A name without a file makes nothing on the disk, leaves nothing behind and works where the temporary folder is full
+// or missing. A sandbox without a network keeps such names from its other starts.
+QLocalServer::SocketOptions serverOptions()
+{
+    return sharedFolder().isEmpty() ? QLocalServer::AbstractNamespaceOption : QLocalServer::UserAccessOption;
+}
+
+QLocalSocket::SocketOptions socketOptions()
+{
+    return sharedFolder().isEmpty() ? QLocalSocket::AbstractNamespaceOption : QLocalSocket::NoOptions;
+}
 
 /// Names without a file have no permissions: anybody on this computer may call.
 bool mayCall(const QLocalSocket& caller)
@@ -38,8 +54,20 @@ bool mayCall(const QLocalSocket& caller)
 
 #else
 
-constexpr QLocalServer::SocketOption serverOption = QLocalServer::UserAccessOption;
-constexpr QLocalSocket::SocketOption socketOption = QLocalSocket::NoOptions;
+QString sharedFolder()
+{
+    return {};
+}
+
+QLocalServer::SocketOptions serverOptions()
+{
+    return QLocalServer::UserAccessOption;
+}
+
+QLocalSocket::SocketOptions socketOptions()
+{
+    return QLocalSocket::NoOptions;
+}
 
 bool mayCall(const QLocalSocket& /*caller*/)
 {
@@ -55,7 +83,7 @@ SingleInstance::SingleInstance(FolderLock& lock, std::chrono::milliseconds patie
     , m_lock(lock)
     , m_patience(patience)
 {
-    m_server.setSocketOptions(serverOption);
+    m_server.setSocketOptions(serverOptions());
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answerCallers);
 }
 
@@ -97,7 +125,7 @@ bool SingleInstance::anotherComesForward(const QDeadlineTimer& deadline) const
 {
     const auto left = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
     QLocalSocket socket;
-    socket.setSocketOptions(socketOption);
+    socket.setSocketOptions(socketOptions());
     socket.connectToServer(serverName());
     char answered = 0;
     return socket.waitForConnected(left()) && socket.waitForReadyRead(left()) && socket.getChar(&answered) &&
@@ -109,7 +137,7 @@ QString SingleInstance::serverName() const
     // Socket names are short; the register's folder need not be.
     const QString folder = QFileInfo(m_lock.folder()).canonicalFilePath();
     const QByteArray hash = QCryptographicHash::hash(folder.toUtf8(), QCryptographicHash::Sha256);
-    return u"abissora-"_s + QString::fromLatin1(hash.toHex().left(24));
+    return sharedFolder() + u"abissora-"_s + QString::fromLatin1(hash.toHex().left(24));
 }
 
 } // namespace abissora

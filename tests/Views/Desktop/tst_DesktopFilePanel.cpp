@@ -4,6 +4,7 @@
 #include "Alert.h"
 #include "Buttons.h"
 #include "ComponentTest.h"
+#include "EnvironmentValue.h"
 #include "Literals.h"
 
 #include <QComboBox>
@@ -301,6 +302,21 @@ private Q_SLOTS:
         });
         QCOMPARE(name, u"registro.ics"_s);
         QCOMPARE(target, std::optional(SaveTarget{a.path(u"senza.ics"_s), 1}));
+    }
+
+    // A sandbox grants the one name that was chosen; whatever is written beside it vanishes.
+    void aFileThatASandboxGrantsKeepsItsName()
+    {
+        Asked a;
+        const EnvironmentValue runtime("XDG_RUNTIME_DIR", QFile::encodeName(a.path(u"run"_s)));
+        const QString granted = a.path(u"run/doc/1a2b3c"_s);
+        QVERIFY(QDir().mkpath(granted));
+        const auto plain = a.save([&](QFileDialog& dialog) { choose(dialog, granted + u"/senza"_s); });
+        QCOMPARE(plain, std::optional(SaveTarget{granted + u"/senza"_s, 0}));
+        const auto named = a.save([&](QFileDialog& dialog) { choose(dialog, granted + u"/tagliandi.ics"_s); });
+        QCOMPARE(named, std::optional(SaveTarget{granted + u"/tagliandi.ics"_s, 1}));
+        const auto other = a.save([&](QFileDialog& dialog) { choose(dialog, a.path(u"run/senza"_s)); });
+        QCOMPARE(other, std::optional(SaveTarget{a.path(u"run/senza.csv"_s), 0}));
     }
 
     void aFileIsReplacedOnlyWhenThePersonSaysSo()

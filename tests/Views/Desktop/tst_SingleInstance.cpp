@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "EnvironmentValue.h"
 #include "FolderLock.h"
 #include "Literals.h"
 #include "SingleInstance.h"
@@ -31,6 +32,11 @@ int countAndLock(int descriptor, int operation)
 {
     ++attempts;
     return ::flock(descriptor, operation);
+}
+
+QStringList socketsIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::System | QDir::Files);
 }
 
 /// A second start on a thread of its own, so that the first can go on meanwhile.
@@ -93,6 +99,27 @@ private Q_SLOTS:
             QCOMPARE(second.outcome(), Outcome::CameForward);
             QCOMPARE(asked.size(), times);
         }
+    }
+
+    // A start in another sandbox of the application has its own names without files.
+    void inASandboxTheFirstIsFoundInTheSharedFolder()
+    {
+        const QTemporaryDir runtime;
+        const QString shared = runtime.filePath(u"app/org.example.Program"_s);
+        QVERIFY(QDir().mkpath(shared));
+        const test::EnvironmentValue folder("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
+        const test::EnvironmentValue id("FLATPAK_ID", "org.example.Program");
+        {
+            SingleInstance first(*m_lock);
+            QCOMPARE(first.acquire(), Outcome::Ours);
+            QCOMPARE(socketsIn(shared).size(), 1);
+            const QSignalSpy asked(&first, &SingleInstance::activationRequested);
+            const SecondStart second(m_folder->path(), longPatience);
+            QTRY_VERIFY(second.isOver());
+            QCOMPARE(second.outcome(), Outcome::CameForward);
+            QCOMPARE(asked.size(), 1);
+        }
+        QCOMPARE(socketsIn(shared), QStringList());
     }
 
     void aFirstThatDoesNothingDoesNotAnswer()
