@@ -11,6 +11,9 @@ set(desktop_entry "${PROJECT_BINARY_DIR}/packaging/${ABISSORA_APPLICATION_ID}.de
 configure_file("${packaging}/abissora.desktop.in" "${desktop_entry}" @ONLY)
 set(metainfo "${PROJECT_BINARY_DIR}/packaging/${ABISSORA_APPLICATION_ID}.metainfo.xml")
 configure_file("${packaging}/abissora.metainfo.xml.in" "${metainfo}" @ONLY)
+# Not installed: flatpak-builder reads it beside the source archive.
+configure_file("${packaging}/flatpak/abissora.yml.in"
+  "${PROJECT_BINARY_DIR}/packaging/flatpak/${ABISSORA_APPLICATION_ID}.yml" @ONLY)
 
 install(SCRIPT "${PROJECT_SOURCE_DIR}/cmake/InstalledFolders.cmake")
 install(TARGETS abissora RUNTIME)
