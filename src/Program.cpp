@@ -183,7 +183,7 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
 
 } // namespace
 
-int runProgram(int argc, char** argv, const Product& product)
+int runProgram(int argc, char** argv, const Product& product, const HttpLimits& limits)
 {
     ProcessSetup::openStandardStreams();
     // Whoever reads the log may leave at any time.
@@ -218,7 +218,7 @@ int runProgram(int argc, char** argv, const Product& product)
     if (answered(commandLine->help, commandLine->version)) // "-hv"
         return EXIT_SUCCESS;
 
-    NetworkHttpClient http;
+    NetworkHttpClient http(limits);
     const int status = run(application, *commandLine, product, http);
     if (http.isBusy())
         endAtOnce(status);

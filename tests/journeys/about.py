@@ -22,10 +22,9 @@ def open_about(program):
 def journey(run, data):
     program = run()
     window = open_about(program)
-    texts = [node.get_name() for node in descendants(window)]
     for text in ("Abissora", "Gestione attrezzatura subacquea e manutenzioni", "Versione", "Data Build",
                  "Sviluppato da", "Copyright"):
-        assert text in texts, f"{text!r} is not in {texts}"
+        until(f"the text {text!r}", lambda: text in [node.get_name() for node in descendants(window)])
     program.key("Escape")
     until("the window to close", lambda: not about_windows(program))
     open_about(program)

@@ -11,12 +11,13 @@ import subprocess
 import sys
 import tempfile
 
-from desktop import Desktop
+from desktop import Desktop, NoDesktop, start_bus_of_readers
 
 INSIDE = "--inside"
 
 
 def travel(program_path, name):
+    start_bus_of_readers()
     from program import Program
     data = os.path.join(os.environ["HOME"], "registro")
     os.mkdir(data)
@@ -53,4 +54,7 @@ def main():
                                   check=False).returncode
 
 
-sys.exit(main())
+try:
+    sys.exit(main())
+except NoDesktop as missing:
+    sys.exit(f"There is no desktop for the journey, the program was not asked: {missing}.")

@@ -1,37 +1,30 @@
 # SPDX-License-Identifier: MIT
-"""The real program, read and driven from outside through the accessibility bus. Everything polls; nothing sleeps for a
-fixed time."""
+"""The real program, read and driven from outside through the accessibility bus."""
 
 import os
 import subprocess
 import threading
-import time
 from datetime import datetime, timezone
 from zoneinfo import ZoneInfo
 
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi  # noqa: E402
+from gi.repository import Atspi, GLib  # noqa: E402
+
+import patience  # noqa: E402
+from patience import PATIENCE  # noqa: E402
 
 ZONE = "Europe/Rome"
-PATIENCE = 30.0
-POLL_INTERVAL = 0.02
+
+# Milliseconds for an answer of the program. The library's own patience, 800 of them, ends before a busy machine gives
+# the program its turn: a name is then empty, an action fails.
+Atspi.set_timeout(int(PATIENCE * 1000), int(PATIENCE * 1000))
 
 
 def until(what, condition):
-    """Polls until `condition` gives something true, and gives that."""
-    deadline = time.monotonic() + PATIENCE
-    while True:
-        try:
-            found = condition()
-        except gi.repository.GLib.Error:
-            found = None  # the object went away while it was being read
-        if found:
-            return found
-        if time.monotonic() > deadline:
-            raise AssertionError("waited in vain for " + what)
-        threading.Event().wait(POLL_INTERVAL)  # poll
+    """As patience.until; an object that went away while it was being read is a no."""
+    return patience.until(what, condition, passing=GLib.Error)
 
 
 def local(instant):
@@ -91,6 +84,7 @@ class Program:
         self.window = until(f"the {role.value_nick}", lambda: self._find_window(role))
 
     def _find_window(self, role):
+        assert self.process.poll() is None, f"the program ended with {self.process.returncode} before it had a window"
         for application in children(Atspi.get_desktop(0)):
             if application.get_process_id() != self.process.pid:
                 continue
