@@ -111,7 +111,7 @@ void MarevoloApp::settleSaves()
 
 QCoro::Task<> MarevoloApp::checkForUpdatesAtStart()
 {
-    if (!m_settings.checkForUpdatesOnLaunch())
+    if (!m_settings.checkForUpdatesOnLaunch() || m_product.manifestURL.isEmpty())
         co_return;
     const QPointer<MarevoloApp> alive(this);
     co_await m_updates.checkForUpdates(CheckReason::Start);

@@ -7,7 +7,6 @@
 #include "FolderLock.h"
 #include "Literals.h"
 #include "MainWindow.h"
-#include "NetworkHttpClient.h"
 #include "NoAnswerAlert.h"
 #include "ProcessSetup.h"
 #include "Session.h"
@@ -183,7 +182,7 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
 
 } // namespace
 
-int runProgram(int argc, char** argv, const Product& product, const HttpLimits& limits)
+int runProgram(int argc, char** argv, Product product, const OpenUpdateSource& openUpdateSource)
 {
     ProcessSetup::openStandardStreams();
     // Whoever reads the log may leave at any time.
@@ -218,9 +217,14 @@ int runProgram(int argc, char** argv, const Product& product, const HttpLimits& 
     if (answered(commandLine->help, commandLine->version)) // "-hv"
         return EXIT_SUCCESS;
 
-    NetworkHttpClient http(limits);
-    const int status = run(application, *commandLine, product, http);
-    if (http.isBusy())
+    const std::optional<UpdateSource> updates = openUpdateSource();
+    if (!updates) {
+        NoHttpClient nobody;
+        return run(application, *commandLine, product, nobody);
+    }
+    product.manifestURL = updates->manifestURL;
+    const int status = run(application, *commandLine, product, *updates->http);
+    if (updates->isBusy())
         endAtOnce(status);
     return status;
 }

@@ -11,9 +11,9 @@ struct Product
 {
     QString author;
     QUrl websiteURL;  ///< https, ends in "/"
-    QUrl manifestURL; ///< the newest release in JSON; a constant of its own, not derived from the website
+    QUrl manifestURL; ///< the newest release in JSON, not derived from the website; empty: it is never looked for
 
-    /// Ends the program when an address is none.
+    /// Without the manifest's address (NetworkUpdates.h). Ends the program when an address is none.
     [[nodiscard]] static Product builtIn();
 };
 

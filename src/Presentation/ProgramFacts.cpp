@@ -16,4 +16,12 @@ QList<ProgramFact> ProgramFacts::all() const
     };
 }
 
+QList<HelpSection> ProgramFacts::guide() const
+{
+    const QStringList ofUpdates{u"Aggiornamenti"_s, u"Controlla aggiornamenti all'avvio"_s,
+                                u"Controlla aggiornamenti ora"_s};
+    const QList<HelpSection> whole = HelpLoader::load();
+    return looksForUpdates() ? whole : HelpLoader::without(ofUpdates, whole);
+}
+
 } // namespace abissora

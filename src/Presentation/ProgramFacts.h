@@ -2,6 +2,7 @@
 #pragma once
 
 #include "AppInfo.h"
+#include "HelpLoader.h"
 #include "Product.h"
 
 namespace abissora {
@@ -20,6 +21,10 @@ struct ProgramFacts
 
     /// Version, date of the build, author and copyright, as they are at the moment of the call.
     [[nodiscard]] QList<ProgramFact> all() const;
+    /// Whether this program can look for newer releases at all.
+    [[nodiscard]] bool looksForUpdates() const { return !product.manifestURL.isEmpty(); }
+    /// The guide, without what this program does not have.
+    [[nodiscard]] QList<HelpSection> guide() const;
 };
 
 } // namespace abissora

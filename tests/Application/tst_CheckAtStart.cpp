@@ -5,6 +5,7 @@
 #include "MainWindow.h"
 #include "MarevoloApp.h"
 #include "NetworkHttpClient.h"
+#include "NetworkUpdates.h"
 #include "ScriptedHttpClient.h"
 #include "SidebarView.h"
 #include "TestRunner.h"
@@ -71,6 +72,38 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&m_app->mainWindow()));
         settle();
         QCOMPARE(m_http->requested(), QList<QUrl>());
+    }
+
+    void asksNobodyWhereThereIsNobodyToAsk()
+    {
+        wantCheckAtStart(true);
+        start(productAt({}));
+        m_app->showMainWindow();
+        QVERIFY(QTest::qWaitForWindowExposed(&m_app->mainWindow()));
+        settle();
+        QCOMPARE(m_http->requested(), QList<QUrl>());
+    }
+
+    void thatNobodyAnswers()
+    {
+        NoHttpClient nobody;
+        std::optional<HttpResult> answer;
+        const auto ask = [&]() -> QCoro::Task<> { answer = co_await nobody.get(product.manifestURL); };
+        ask();
+        QVERIFY(answer && !*answer);
+        QCOMPARE(answer->error().kind, HttpError::Kind::Transfer);
+    }
+
+    void theProgramsOwnManifestIsOnTheWeb()
+    {
+        const UpdateSource updates = networkUpdates();
+        QCOMPARE(updates.manifestURL.scheme(), u"https"_s);
+        QVERIFY(!updates.manifestURL.host().isEmpty());
+        QVERIFY(!updates.isBusy());
+        const auto ask = [&]() -> QCoro::Task<> { co_await updates.http->get(QUrl(u"http://127.0.0.1:1/"_s)); };
+        ask();
+        QVERIFY(updates.isBusy());
+        QTRY_VERIFY(!updates.isBusy());
     }
 
     void asksOnceWhenTheWindowIsFirstShown()
@@ -200,7 +233,7 @@ private Q_SLOTS:
 private:
     [[nodiscard]] ApplicationDirectories directories() const { return ApplicationDirectories(m_folder->path(), true); }
 
-    void start() { m_app.emplace(*qApp, directories(), product, *m_http, m_permission); }
+    void start(const Product& known = product) { m_app.emplace(*qApp, directories(), known, *m_http, m_permission); }
 
     [[nodiscard]] SidebarView& sidebar() { return part<SidebarView>(m_app->mainWindow(), u"sidebar"_s); }
 

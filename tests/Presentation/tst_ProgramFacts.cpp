@@ -48,6 +48,27 @@ private Q_SLOTS:
         QCOMPARE(lines(f).mid(0, 2), QStringList({u"Versione=— (build —)"_s, u"Data Build=—"_s}));
     }
 
+    void aGuideSaysNothingOfACheckThatIsNotThere()
+    {
+        RegisterFixture f;
+        const ProgramFacts program{f.info, f.product};
+        const auto lineAboutUpdates = [&program] {
+            for (const HelpSection& section : program.guide())
+                for (const QString& line : QStringList{section.title} + section.body.split(u'\n'))
+                    if (line.contains("aggiornament"_L1, Qt::CaseInsensitive))
+                        return line;
+            return QString();
+        };
+        QVERIFY(program.looksForUpdates());
+        QCOMPARE(program.guide(), HelpLoader::load());
+        QVERIFY(!lineAboutUpdates().isEmpty());
+
+        f.product.manifestURL.clear();
+        QVERIFY(!program.looksForUpdates());
+        QCOMPARE(lineAboutUpdates(), QString());
+        QCOMPARE(program.guide().size(), HelpLoader::load().size() - 1);
+    }
+
     void factsAreThoseOfTheMoment()
     {
         RegisterFixture f;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The program as it is, except that ABISSORA_JOURNEY_MANIFEST names where the update check looks and waits there for as
 // long as a journey does, and that with ABISSORA_JOURNEY_NO_NAMES nobody ever answers what address a name has.
+#include "NetworkUpdates.h"
 #include "Program.h"
 
 #include <QtGlobal>
@@ -24,11 +25,13 @@ extern "C" int getaddrinfo(const char* name, const char* service, const addrinfo
 
 int main(int argc, char** argv)
 {
-    abissora::Product product = abissora::Product::builtIn();
-    if (const QString address = qEnvironmentVariable("ABISSORA_JOURNEY_MANIFEST"); !address.isEmpty())
-        product.manifestURL = QUrl(address);
-    // The journey's server keeps the answer back until it has typed, on a busy machine for more than a minute.
-    abissora::HttpLimits limits;
-    limits.time = std::chrono::hours(1);
-    return abissora::runProgram(argc, argv, product, limits);
+    return abissora::runProgram(argc, argv, abissora::Product::builtIn(), [] {
+        // The journey's server keeps the answer back until it has typed, on a busy machine for more than a minute.
+        abissora::HttpLimits limits;
+        limits.time = std::chrono::hours(1);
+        abissora::UpdateSource updates = abissora::networkUpdatesWithin(limits);
+        if (const QString address = qEnvironmentVariable("ABISSORA_JOURNEY_MANIFEST"); !address.isEmpty())
+            updates.manifestURL = QUrl(address);
+        return updates;
+    });
 }

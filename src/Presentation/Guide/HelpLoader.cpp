@@ -105,4 +105,21 @@ QList<HelpSection> HelpLoader::parse(const QString& document)
     return sections.all();
 }
 
+QList<HelpSection> HelpLoader::without(const QStringList& texts, const QList<HelpSection>& sections)
+{
+    const auto quotesOne = [&texts](const QString& line) {
+        return std::ranges::any_of(texts,
+                                   [&line](const QString& text) { return line.contains(u"**"_s + text + "**"_L1); });
+    };
+    QList<HelpSection> left;
+    for (const HelpSection& section : sections) {
+        if (texts.contains(section.title))
+            continue;
+        QStringList lines = section.body.split(u'\n');
+        lines.removeIf(quotesOne);
+        left.append({section.id, section.title, lines.join(u'\n')});
+    }
+    return left;
+}
+
 } // namespace abissora

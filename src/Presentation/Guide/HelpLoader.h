@@ -3,7 +3,7 @@
 
 #include <QHashFunctions>
 #include <QList>
-#include <QString>
+#include <QStringList>
 
 namespace abissora {
 
@@ -32,6 +32,10 @@ public:
     /// One section for each level-two heading. A hand-written table of contents and sections without a text are left
     /// out; what stands before the first heading becomes the introduction.
     [[nodiscard]] static QList<HelpSection> parse(const QString& document);
+
+    /// For a program whose screens lack these texts: leaves out the sections that they are titles of and the lines that
+    /// quote them in strong emphasis.
+    [[nodiscard]] static QList<HelpSection> without(const QStringList& texts, const QList<HelpSection>& sections);
 };
 
 } // namespace abissora

@@ -5,7 +5,6 @@
 #include "Cards.h"
 #include "EmptyState.h"
 #include "HelpIndexView.h"
-#include "HelpLoader.h"
 #include "HelpPage.h"
 #include "IconViews.h"
 #include "Labels.h"
@@ -25,10 +24,6 @@ constexpr int bookSide = 26;
 constexpr int headerMargin = 18;
 
 } // namespace
-
-HelpView::HelpView(Opener& opener, QWidget* parent)
-    : HelpView(HelpLoader::load(), opener, parent)
-{}
 
 HelpView::HelpView(QList<HelpSection> sections, Opener& opener, QWidget* parent)
     : QWidget(parent)

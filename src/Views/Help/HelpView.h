@@ -20,8 +20,7 @@ class HelpView : public QWidget
     Q_OBJECT
 
 public:
-    /// Shows the program's guide; links are opened through `opener`, which outlives the view.
-    explicit HelpView(Opener& opener, QWidget* parent = nullptr);
+    /// Links are opened through `opener`, which outlives the view.
     HelpView(QList<HelpSection> sections, Opener& opener, QWidget* parent = nullptr);
 
 private:

@@ -35,7 +35,7 @@ SettingsView::SettingsView(SettingsViewModel& settings, EquipmentTypeViewModel& 
     , m_program(program)
     , m_ids(ids)
     , m_opener(opener)
-    , m_updatesGroup(new UpdatesGroup(settings, updates))
+    , m_updatesGroup(program.looksForUpdates() ? new UpdatesGroup(settings, updates) : nullptr)
 {
     setObjectName(u"settings"_s);
     setAccessibleName(u"Impostazioni"_s);
@@ -71,7 +71,8 @@ void SettingsView::addGroups(QVBoxLayout* groups)
 {
     groups->addWidget(makeTypesGroup(m_types, [this] { manageTypes(); }));
     groups->addWidget(makeNotificationsGroup(m_settings));
-    groups->addWidget(m_updatesGroup);
+    if (m_updatesGroup != nullptr)
+        groups->addWidget(m_updatesGroup);
     groups->addWidget(makeGeneralGroup(m_settings));
     groups->addWidget(makeAppearanceGroup(m_settings));
     groups->addWidget(makeHelpGroup([this] { showHelp(); }));
@@ -99,7 +100,7 @@ void SettingsView::manageTypes()
 
 void SettingsView::showHelp()
 {
-    auto* view = new HelpView(m_opener);
+    auto* view = new HelpView(m_program.guide(), m_opener);
     openSheet(new ViewSheet({.view = view,
                              .title = u"Aiuto"_s,
                              .margins = {1, metrics::spaceS, 1, 1},
@@ -149,7 +150,7 @@ void SettingsView::showEvent(QShowEvent* event)
 
 void SettingsView::hideEvent(QHideEvent* event)
 {
-    if (!event->spontaneous())
+    if (!event->spontaneous() && m_updatesGroup != nullptr)
         m_updatesGroup->forgetFeedback();
     ScrollPane::hideEvent(event);
 }

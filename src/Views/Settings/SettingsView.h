@@ -49,7 +49,7 @@ private:
     ProgramFacts m_program;
     IdGenerator& m_ids;
     Opener& m_opener;
-    UpdatesGroup* m_updatesGroup;
+    UpdatesGroup* m_updatesGroup; ///< null in a program that does not look for updates
     QPointer<SheetWindow> m_sheet;
 };
 

@@ -49,14 +49,14 @@ protected:
 };
 
 /// The guide in a window of its own. It deletes itself when it closes, so that it opens afresh.
-QWidget* makeHelpWindow(Opener& opener)
+QWidget* makeHelpWindow(const ProgramFacts& program, Opener& opener)
 {
     auto* window = new HelpWindow;
     window->setObjectName(u"helpWindow"_s);
     window->setWindowTitle(u"Aiuto"_s);
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->setMinimumSize(leastHelpSize);
-    window->setCentralWidget(new HelpView(opener));
+    window->setCentralWidget(new HelpView(program.guide(), opener));
     closeByKeyboard(*window);
     return window;
 }
@@ -173,7 +173,7 @@ void AppWindows::openAbout()
 void AppWindows::openHelp()
 {
     if (!m_help)
-        m_help = makeHelpWindow(m_opener);
+        m_help = makeHelpWindow(m_program, m_opener);
     bringForward(*m_help, m_mainWindow);
 }
 

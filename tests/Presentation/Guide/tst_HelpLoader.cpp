@@ -35,6 +35,7 @@ private Q_SLOTS:
     void saysThatTheGuideIsMissing();
     void aDocumentWithoutSectionsIsAnEmptyList();
     void sectionsAreValues();
+    void leavesOutWhatAProgramLacks();
 
 private:
     QString written(const QByteArray& bytes) const;
@@ -147,6 +148,16 @@ void tst_HelpLoader::sectionsAreValues()
     other.body = u"B"_s;
     QVERIFY(!(one == other));
     QCOMPARE((QSet<HelpSection>{one, other, one}.size()), qsizetype(2));
+}
+
+void tst_HelpLoader::leavesOutWhatAProgramLacks()
+{
+    const QList<HelpSection> whole = HelpLoader::parse(u"## Stampa\nCon **Stampa** si stampa.\n## Altro\n- **Apri**\n"
+                                                       "- **Stampa** e **Apri**\n- Stampa\n- **Stampato**\n"_s);
+    QCOMPARE(HelpLoader::without({u"Stampa"_s}, whole),
+             (QList<HelpSection>{{u"sezione-1"_s, u"Altro"_s, u"- **Apri**\n- Stampa\n- **Stampato**"_s}}));
+    QCOMPARE(HelpLoader::without({u"Apri"_s, u"Stampa"_s}, whole).first().body, u"- Stampa\n- **Stampato**"_s);
+    QCOMPARE(HelpLoader::without({}, whole), whole);
 }
 
 QString tst_HelpLoader::written(const QByteArray& bytes) const

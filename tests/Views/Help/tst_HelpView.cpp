@@ -34,7 +34,6 @@ private Q_SLOTS:
     void everyNewViewStartsAfresh();
     void aMissingGuideIsExplained();
     void anEmptyGuideShowsTheEmptyState();
-    void theProgramsGuideIsShown();
     void controlFGoesToTheSearch();
     void escapeClearsTheSearchAndThenGoesOn();
     void downGoesFromTheSearchToTheFirstResult();
@@ -228,15 +227,6 @@ void tst_HelpView::anEmptyGuideShowsTheEmptyState()
     QVERIFY(visibleLabels(shown.view).contains(u"Seleziona un argomento"_s));
     type(shown.view, u"helpSearch", u"a"_s);
     QVERIFY(visibleLabels(shown.view).contains(u"Nessun risultato per\n\"a\""_s));
-}
-
-void tst_HelpView::theProgramsGuideIsShown()
-{
-    RecordingOpener opener;
-    HelpView view(opener);
-    activate(view);
-    const auto* const list = view.findChild<QListView*>(u"helpSections"_s);
-    QCOMPARE(list->model()->rowCount(), static_cast<int>(HelpLoader::load().size()));
 }
 
 void tst_HelpView::controlFGoesToTheSearch()

@@ -6,6 +6,8 @@
 #include "TestRunner.h"
 #include "ViewSheet.h"
 
+#include <QListView>
+
 using namespace abissora;
 using namespace abissora::test;
 
@@ -205,6 +207,25 @@ private Q_SLOTS:
         f.updates.clearAvailableUpdate();
         settle();
         QVERIFY(s.sheet<ViewSheet>() == nullptr);
+    }
+
+    void aProgramThatDoesNotLookSaysNothing()
+    {
+        RegisterFixture f;
+        f.product.manifestURL.clear();
+        ShownSettings s(f);
+        for (const QString& text : s.texts())
+            QVERIFY2(!text.contains("aggiornament"_L1, Qt::CaseInsensitive), qPrintable(text));
+        QCOMPARE(s.view->findChildren<SettingsGroupBox*>().size(), 7);
+        QVERIFY(s.information().first().startsWith("Versione: "_L1));
+        s.view->hide();
+        s.view->show();
+        s.click("openHelp");
+        const auto* sections = s.sheet<ViewSheet>()->findChild<QListView*>(u"helpSections"_s);
+        QCOMPARE(sections->model()->rowCount(), int(HelpLoader::load().size()) - 1);
+        s.sheet<ViewSheet>()->reject();
+        s.click("resetSettings");
+        QCOMPARE(f.http.requested(), QList<QUrl>());
     }
 
     void anOfferWaitsForAnotherSheet()

@@ -11,6 +11,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QListView>
 #include <QPointer>
 #include <QSignalSpy>
 
@@ -60,6 +61,19 @@ private Q_SLOTS:
         windows.openAbout();
         QCOMPARE(windowsOf<AboutView>(), QList<QWidget*>({about}));
         QVERIFY(!about->isMinimized());
+    }
+
+    void theGuideIsTheProgramsOwn()
+    {
+        RegisterFixture f;
+        for (const bool looksForUpdates : {true, false}) {
+            if (!looksForUpdates)
+                f.product.manifestURL.clear();
+            AppWindows windows({f.info, f.product}, f.opener);
+            windows.openHelp();
+            const auto* sections = windowsOf<HelpView>().first()->findChild<QListView*>(u"helpSections"_s);
+            QCOMPARE(sections->model()->rowCount(), int(HelpLoader::load().size()) - (looksForUpdates ? 0 : 1));
+        }
     }
 
     void thereIsOneHelpWindow()
