@@ -29,6 +29,18 @@ const QList<CommandOption>& commandOptions()
     return all;
 }
 
+struct WishOption
+{
+    Wish wish;
+    QString name;
+};
+
+const QList<WishOption>& wishOptions()
+{
+    static const QList<WishOption> all{{Wish::NewItem, u"new-item"_s}, {Wish::ShowDue, u"show-due"_s}};
+    return all;
+}
+
 /// Options that say more of one command.
 const QList<CommandOption>& sideOptions()
 {
@@ -51,6 +63,8 @@ public:
     explicit Parser(const QStringList& arguments)
     {
         m_parser.addOptions({m_help, m_version, m_dataDir, m_snapshot});
+        for (const WishOption& option : wishOptions())
+            m_parser.addOption(QCommandLineOption(option.name));
         for (const CommandOption& option : commandOptions())
             m_parser.addOption(QCommandLineOption(option.name, {}, option.operand));
         for (const CommandOption& option : sideOptions())
@@ -68,6 +82,10 @@ public:
         line.dataDir = m_parser.value(m_dataDir);
         line.snapshot = m_parser.value(m_snapshot);
         line.item = m_parser.value(u"item"_s);
+        for (const WishOption& option : wishOptions()) {
+            if (m_parser.isSet(option.name))
+                line.wish = option.wish;
+        }
         for (const CommandOption& option : commandOptions()) {
             if (!m_parser.isSet(option.name))
                 continue;
@@ -105,8 +123,10 @@ private:
             if (m_parser.values(name).contains(QString()))
                 return u"L'opzione «--%1» ha un valore vuoto."_s.arg(name);
         }
-        const auto isSet = [this](const CommandOption& option) { return m_parser.isSet(option.name); };
-        if (std::ranges::count_if(commandOptions(), isSet) + (m_parser.isSet(m_snapshot) ? 1 : 0) > 1)
+        const auto isSet = [this](const auto& option) { return m_parser.isSet(option.name); };
+        if (std::ranges::count_if(commandOptions(), isSet) + std::ranges::count_if(wishOptions(), isSet) +
+                (m_parser.isSet(m_snapshot) ? 1 : 0) >
+            1)
             return u"Due comandi insieme non si possono eseguire."_s;
         for (const CommandOption& option : sideOptions()) {
             const auto command = std::ranges::find(commandOptions(), option.command, &CommandOption::command);
@@ -144,6 +164,17 @@ bool CommandLine::nameCommand(const QStringList& arguments)
     });
 }
 
+QString CommandLine::wordFor(Wish wish)
+{
+    return std::ranges::find(wishOptions(), wish, &WishOption::wish)->name;
+}
+
+std::optional<Wish> CommandLine::wishFor(const QString& word)
+{
+    const auto option = std::ranges::find(wishOptions(), word, &WishOption::name);
+    return option == wishOptions().end() ? std::nullopt : std::optional(option->wish);
+}
+
 QString CommandLine::helpText()
 {
     return u"Uso: abissora [OPZIONI]\n"
@@ -152,6 +183,9 @@ QString CommandLine::helpText()
            "Opzioni:\n"
            "  --data-dir DIR    Tiene tutti i dati, documenti compresi, nella cartella DIR:\n"
            "                    per provare il programma o per un secondo registro\n"
+           "  --new-item        Apre la finestra con il modulo di un nuovo articolo\n"
+           "  --show-due        Apre la finestra sulla pagina «Manutenzione»; come --new-item, se il\n"
+           "                    programma è già aperto lo chiede alla finestra che c'è\n"
            "  --snapshot FILE   Disegna la finestra principale nel file PNG FILE e termina\n"
            "  -v, --version     Mostra la versione e termina\n"
            "  -h, --help        Mostra questo aiuto e termina\n"

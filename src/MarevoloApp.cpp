@@ -73,6 +73,9 @@ void MarevoloApp::showMainWindow()
         return;
     }
     bringForward(window);
+    // The keyboard stays with what stands over it.
+    if (QWidget* sheet = QApplication::activeModalWidget(); sheet != nullptr)
+        bringForward(*sheet);
 }
 
 void MarevoloApp::comeForward()

@@ -43,7 +43,7 @@ public:
     ~MarevoloApp() override;
 
     /// Shows the main window at the first call, which begins the check for updates if the person wants one at start,
-    /// and brings it forward at every other.
+    /// and brings it forward at every other, with the sheet over it.
     void showMainWindow();
     /// Created at the first call.
     [[nodiscard]] MainWindow& mainWindow();

@@ -151,13 +151,14 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
     const bool drawsToFile = !commandLine.snapshot.isEmpty();
     FolderLock lock(directories.root());
     SingleInstance instance(lock);
-    auto outcome = instance.acquire();
+    const QString wish = commandLine.wish ? CommandLine::wordFor(*commandLine.wish) : QString();
+    auto outcome = instance.acquire(wish);
     while (outcome == SingleInstance::Outcome::NoAnswer) {
         if (drawsToFile)
             return fail(NoAnswerAlert::sentence());
         if (!wantsToTryAgain(application, directories))
             return EXIT_FAILURE;
-        outcome = instance.acquire();
+        outcome = instance.acquire(wish);
     }
     if (outcome == SingleInstance::Outcome::CameForward) {
         write(stderr, u"Abissora è già aperta su questo registro: la sua finestra passa in primo piano.\n"_s);
@@ -166,8 +167,15 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
 
     Session session(application, directories, product, http, lock);
     QObject::connect(&instance, &SingleInstance::activationRequested, &session, &Session::showMainWindow);
+    QObject::connect(&instance, &SingleInstance::wished, &session, [&session](const QString& word) {
+        if (const auto theirs = CommandLine::wishFor(word))
+            session.fulfil(*theirs);
+    });
     if (!drawsToFile) {
         session.showMainWindow();
+        if (commandLine.wish) // once the window stands
+            QMetaObject::invokeMethod(
+                &session, [&] { session.fulfil(*commandLine.wish); }, Qt::QueuedConnection);
         return QApplication::exec();
     }
     Snapshot snapshot(session.mainWindow(), commandLine.snapshot);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Session.h"
 
+#include "ContentView.h"
 #include "MainWindow.h"
 #include "MarevoloApp.h"
 #include "RegisterStart.h"
@@ -31,6 +32,22 @@ void Session::showMainWindow()
 MainWindow& Session::mainWindow()
 {
     return m_app->mainWindow();
+}
+
+void Session::fulfil(Wish wish)
+{
+    if (QApplication::activeModalWidget() != nullptr)
+        return;
+    ContentView& content = mainWindow().content();
+    switch (wish) {
+    case Wish::NewItem:
+        content.addEquipment();
+        break;
+    case Wish::ShowDue:
+        content.showTab(ContentView::MaintenanceTab);
+        break;
+    }
+    showMainWindow(); // with what stands over it now
 }
 
 void Session::clearUpAfterOthers()

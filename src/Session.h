@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ApplicationDirectories.h"
+#include "CommandLine.h"
 #include "FolderLock.h"
 #include "HttpClient.h"
 #include "Product.h"
@@ -31,6 +32,8 @@ public:
     /// As MarevoloApp's.
     void showMainWindow();
     [[nodiscard]] MainWindow& mainWindow();
+    /// As the person would in the main window. Nothing happens over a sheet, an alert or a file panel that is open.
+    void fulfil(Wish wish);
     [[nodiscard]] MarevoloApp& app() { return *m_app; }
 
 private:

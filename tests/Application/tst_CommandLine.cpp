@@ -43,6 +43,14 @@ private Q_SLOTS:
                                       << u"Due comandi insieme non si possono eseguire."_s;
         QTest::newRow("a command and a picture")
             << QStringList{u"--due"_s, u"--snapshot=a.png"_s} << u"Due comandi insieme non si possono eseguire."_s;
+        QTest::newRow("two wishes") << QStringList{u"--new-item"_s, u"--show-due"_s}
+                                    << u"Due comandi insieme non si possono eseguire."_s;
+        QTest::newRow("a wish and a picture")
+            << QStringList{u"--show-due"_s, u"--snapshot=a.png"_s} << u"Due comandi insieme non si possono eseguire."_s;
+        QTest::newRow("a wish and a command")
+            << QStringList{u"--new-item"_s, u"--check"_s} << u"Due comandi insieme non si possono eseguire."_s;
+        QTest::newRow("a wish with a value")
+            << QStringList{u"--new-item=GAV"_s} << u"A un'opzione manca il suo valore, o ne ha uno di troppo."_s;
         QTest::newRow("no file") << QStringList(u"--import"_s)
                                  << u"A un'opzione manca il suo valore, o ne ha uno di troppo."_s;
         QTest::newRow("an empty file") << QStringList{u"--export"_s, QString()}
@@ -92,6 +100,18 @@ private Q_SLOTS:
         QVERIFY(due.json);
         QCOMPARE(CommandLine::parse({u"--due"_s})->days, 30);
         QCOMPARE(CommandLine::parse({u"--due"_s, u"0"_s})->days, 0);
+    }
+
+    void wishesAreUnderstood()
+    {
+        QCOMPARE(CommandLine::parse({u"--new-item"_s})->wish, Wish::NewItem);
+        QCOMPARE(CommandLine::parse({u"--show-due"_s})->wish, Wish::ShowDue);
+        QVERIFY(!CommandLine::parse({})->wish);
+        QVERIFY(!CommandLine::nameCommand({u"--new-item"_s, u"--show-due"_s})); // they need a screen
+        for (const Wish wish : {Wish::NewItem, Wish::ShowDue})
+            QCOMPARE(CommandLine::wishFor(CommandLine::wordFor(wish)), wish);
+        for (const QString& word : {u"--new-item"_s, u"new-items"_s, u"check"_s, QString()})
+            QVERIFY(!CommandLine::wishFor(word));
     }
 
     void helpNamesEveryOption()

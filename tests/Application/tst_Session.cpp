@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "ContentView.h"
+#include "EquipmentFormView.h"
 #include "EquipmentTableView.h"
 #include "Generations.h"
 #include "Gui.h"
@@ -11,6 +13,7 @@
 #include "TestRunner.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QTest>
 
 using namespace abissora;
@@ -116,6 +119,49 @@ private Q_SLOTS:
         QVERIFY(m_files->content(test::registerFile).contains("Uno"));
         QVERIFY(m_files->names(u"preferences"_s).contains(u".abissora-0123456789abcdef.tmp"_s));
         QVERIFY(!QFileInfo::exists(m_files->path(u"backups"_s)));
+    }
+
+    void aWishIsFulfilledAsThePersonWould()
+    {
+        start();
+        ContentView& content = m_session->mainWindow().content();
+        content.showSettings();
+        m_session->fulfil(Wish::ShowDue);
+        QVERIFY(!content.isShowingSettings());
+        QCOMPARE(content.selectedTab(), int(ContentView::MaintenanceTab));
+        m_session->fulfil(Wish::NewItem);
+        test::settle();
+        QVERIFY(content.showingAddSheet());
+        QCOMPARE(content.selectedTab(), int(ContentView::MaintenanceTab));
+    }
+
+    void aWishDoesNotDisturbAnOpenSheet()
+    {
+        start();
+        ContentView& content = m_session->mainWindow().content();
+        m_session->fulfil(Wish::NewItem);
+        test::settle();
+        test::type(test::openDialog(m_session->mainWindow()), u"name"_s, u"Torcia"_s);
+        m_session->fulfil(Wish::ShowDue);
+        m_session->fulfil(Wish::NewItem);
+        test::settle();
+        QCOMPARE(content.selectedTab(), int(ContentView::ListTab));
+        QCOMPARE(m_session->mainWindow().findChildren<EquipmentFormView*>().size(), 1);
+        QCOMPARE(test::part<QLineEdit>(test::openDialog(m_session->mainWindow()), u"name"_s).text(), u"Torcia"_s);
+    }
+
+    void aWishDoesNotDisturbAQuestion()
+    {
+        start();
+        table().setFocus();
+        table().selectRow(0);
+        QTest::keyClick(&table(), Qt::Key_Delete);
+        m_session->fulfil(Wish::ShowDue);
+        m_session->fulfil(Wish::NewItem);
+        test::settle();
+        QCOMPARE(m_session->mainWindow().content().selectedTab(), int(ContentView::ListTab));
+        QVERIFY(!m_session->mainWindow().content().showingAddSheet());
+        test::press(test::openDialog(m_session->mainWindow()), u"Annulla"_s);
     }
 
 private:

@@ -8,7 +8,7 @@ import subprocess
 
 from gi.repository import Atspi
 
-from program import PATIENCE
+from program import PATIENCE, until
 
 NO_ANSWER = "Abissora è già aperta su questo registro, ma non risponde."
 
@@ -21,6 +21,27 @@ def journey(run, data):
     assert "è già aperta" in second.stderr, second.stderr
     assert second.stdout == "", second.stdout
     assert first.process.poll() is None
+
+    # What the second was started for, the first does; a form that is open stays as it is.
+    def start_again(*arguments):
+        subprocess.run([*command, *arguments], capture_output=True, text=True, timeout=PATIENCE, check=True)
+
+    start_again("--show-due")
+    first.find(Atspi.Role.LABEL, "Panoramica Manutenzione")
+    start_again("--new-item")
+    name = first.find_anywhere(Atspi.Role.TEXT, "Nome*")
+    until("the focus in the form", lambda: name.get_state_set().contains(Atspi.StateType.FOCUSED))
+    first.type("Torcia")
+    start_again("--new-item")
+    start_again("--show-due")
+    start_again()
+    first.type(" di riserva")
+    text = name.get_text_iface()
+    until("the whole name", lambda: text.get_text(0, text.get_character_count()) == "Torcia di riserva")
+    first.key("ctrl+a", "BackSpace", "Escape")
+    until("the main window alone", lambda: len(first.windows()) == 1)
+    first.key("ctrl+1")
+    first.wait_for_rows(["Computer Suunto EON Core", "GAV Scubapro Hydros", "Erogatore Apeks XTX50"])
 
     # The first does nothing any more.
     first.process.send_signal(signal.SIGSTOP)
@@ -59,4 +80,11 @@ def journey(run, data):
     second.wait_for_window(Atspi.Role.FRAME)
     second.wait_for_rows(["Computer Suunto EON Core", "GAV Scubapro Hydros", "Erogatore Apeks XTX50"])
     second.close()
+
+    # Started for something, the first start does it too.
+    asked = run("--new-item")
+    asked.find_anywhere(Atspi.Role.TEXT, "Nome*")
+    asked.key("Escape")
+    until("the main window alone", lambda: len(asked.windows()) == 1)
+    asked.close()
     assert "abissora.lock" not in os.listdir(data)

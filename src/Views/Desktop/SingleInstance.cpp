@@ -21,6 +21,10 @@ namespace {
 constexpr unsigned long pause = 20; ///< ms before a process that does not listen yet, or no more, is asked again
 constexpr char answer = '\1';
 
+// A caller may say one line: the number of this form and words, of which the first is its wish.
+constexpr const char* lineForm = "1";
+constexpr qint64 longestLine = 256; ///< bytes
+
 #ifdef Q_OS_LINUX
 
 /// What a sandbox shares among all starts of an application; empty outside of one.
@@ -87,11 +91,11 @@ SingleInstance::SingleInstance(FolderLock& lock, std::chrono::milliseconds patie
     connect(&m_server, &QLocalServer::newConnection, this, &SingleInstance::answerCallers);
 }
 
-SingleInstance::Outcome SingleInstance::acquire()
+SingleInstance::Outcome SingleInstance::acquire(const QString& wish)
 {
     const QDeadlineTimer deadline(m_patience);
     while (m_lock.acquire() == FolderLock::Outcome::HeldByAnother) {
-        if (anotherComesForward(deadline))
+        if (anotherComesForward(deadline, wish))
             return Outcome::CameForward;
         if (deadline.hasExpired())
             return Outcome::NoAnswer;
@@ -112,24 +116,47 @@ void SingleInstance::listen()
 void SingleInstance::answerCallers()
 {
     while (QLocalSocket* caller = m_server.nextPendingConnection()) {
-        caller->deleteLater();
-        if (!mayCall(*caller))
+        if (!mayCall(*caller)) {
+            caller->deleteLater();
             continue;
+        }
+        caller->setReadBufferSize(longestLine);
+        connect(caller, &QLocalSocket::readyRead, this, [this, caller] { hear(caller); });
+        connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
         caller->putChar(answer);
         caller->flush();
         Q_EMIT activationRequested();
+        hear(caller);
     }
 }
 
-bool SingleInstance::anotherComesForward(const QDeadlineTimer& deadline) const
+void SingleInstance::hear(QLocalSocket* caller)
+{
+    if (!caller->canReadLine()) {
+        if (caller->bytesAvailable() >= longestLine)
+            caller->abort();
+        return;
+    }
+    const QList<QByteArray> words = caller->readLine().trimmed().split(' ');
+    caller->disconnectFromServer();
+    if (words.size() >= 2 && words.at(0) == lineForm)
+        Q_EMIT wished(QString::fromUtf8(words.at(1)));
+}
+
+bool SingleInstance::anotherComesForward(const QDeadlineTimer& deadline, const QString& wish) const
 {
     const auto left = [&deadline] { return static_cast<int>(deadline.remainingTime()); };
     QLocalSocket socket;
     socket.setSocketOptions(socketOptions());
     socket.connectToServer(serverName());
+    if (!socket.waitForConnected(left()))
+        return false;
+    if (!wish.isEmpty()) {
+        socket.write(QByteArray(lineForm) + ' ' + wish.toUtf8() + '\n');
+        socket.waitForBytesWritten(left());
+    }
     char answered = 0;
-    return socket.waitForConnected(left()) && socket.waitForReadyRead(left()) && socket.getChar(&answered) &&
-           answered == answer;
+    return socket.waitForReadyRead(left()) && socket.getChar(&answered) && answered == answer;
 }
 
 QString SingleInstance::serverName() const

@@ -6,6 +6,7 @@
 #include <chrono>
 
 class QDeadlineTimer;
+class QLocalSocket;
 
 namespace abissora {
 
@@ -33,22 +34,26 @@ public:
     explicit SingleInstance(FolderLock& lock, std::chrono::milliseconds patience = usualPatience,
                             QObject* parent = nullptr);
 
-    /// Waits for another process's answer, or for its end, without an event loop. May be called again.
-    [[nodiscard]] Outcome acquire();
+    /// Waits for another process's answer, or for its end, without an event loop. May be called again. The other
+    /// process is told the wish, one word or nothing.
+    [[nodiscard]] Outcome acquire(const QString& wish = {});
 
 Q_SIGNALS:
     /// Another process was started on the same register.
     void activationRequested();
+    /// That process brought a word along, which may be of another release; follows activationRequested().
+    void wished(const QString& wish);
 
 private:
     void listen();
     void answerCallers();
-    [[nodiscard]] bool anotherComesForward(const QDeadlineTimer& deadline) const;
+    void hear(QLocalSocket* caller);
+    [[nodiscard]] bool anotherComesForward(const QDeadlineTimer& deadline, const QString& wish) const;
     [[nodiscard]] QString serverName() const;
 
     FolderLock& m_lock;
     std::chrono::milliseconds m_patience;
-    QLocalServer m_server;
+    QLocalServer m_server{this};
 };
 
 } // namespace abissora

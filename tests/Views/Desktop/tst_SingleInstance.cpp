@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLocalSocket>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -45,11 +46,12 @@ class SecondStart
 public:
     /// `prepare` runs on that thread beforehand.
     SecondStart(
-        const QString& folder, std::chrono::milliseconds patience, const std::function<void()>& prepare = [] {})
-        : m_thread(QThread::create([this, folder, patience, prepare] {
+        const QString& folder, std::chrono::milliseconds patience, const std::function<void()>& prepare = [] {},
+        const QString& wish = {})
+        : m_thread(QThread::create([this, folder, patience, prepare, wish] {
             prepare();
             FolderLock lock(folder, countAndLock);
-            m_outcome = SingleInstance(lock, patience).acquire();
+            m_outcome = SingleInstance(lock, patience).acquire(wish);
         }))
     {
         m_thread->start();
@@ -120,6 +122,69 @@ private Q_SLOTS:
             QCOMPARE(asked.size(), 1);
         }
         QCOMPARE(socketsIn(shared), QStringList());
+    }
+
+    void theFirstIsToldTheWish()
+    {
+        SingleInstance first(*m_lock);
+        QCOMPARE(first.acquire(u"nobody hears this"_s), Outcome::Ours);
+        QStringList heard;
+        connect(&first, &SingleInstance::activationRequested, &first, [&heard] { heard.append(u"come"_s); });
+        connect(&first, &SingleInstance::wished, &first, [&heard](const QString& wish) { heard.append(wish); });
+        {
+            const SecondStart second(
+                m_folder->path(), longPatience, [] {}, u"novità"_s);
+            QTRY_COMPARE(heard, QStringList({u"come"_s, u"novità"_s}));
+            QTRY_VERIFY(second.isOver());
+            QCOMPARE(second.outcome(), Outcome::CameForward);
+        }
+        const SecondStart third(m_folder->path(), longPatience);
+        QTRY_VERIFY(third.isOver());
+        QTRY_COMPARE(heard, QStringList({u"come"_s, u"novità"_s, u"come"_s}));
+    }
+
+    void whatIsNotUnderstoodIsNoWish_data()
+    {
+        QTest::addColumn<QByteArrayList>("pieces");
+        QTest::addColumn<QStringList>("wishes");
+        QTest::newRow("nothing") << QByteArrayList{} << QStringList();
+        QTest::newRow("no end") << QByteArrayList{"1 new-item"} << QStringList();
+        QTest::newRow("in pieces") << QByteArrayList{"1 new", "-it", "em\n"} << QStringList{u"new-item"_s};
+        QTest::newRow("more words") << QByteArrayList{"1 new-item like 7\n"} << QStringList{u"new-item"_s};
+        QTest::newRow("another form") << QByteArrayList{"2 new-item\n"} << QStringList();
+        QTest::newRow("one word") << QByteArrayList{"1\n"} << QStringList();
+        QTest::newRow("an empty line") << QByteArrayList{"\n"} << QStringList();
+        QTest::newRow("more lines") << QByteArrayList{"1 a\n1 b\n"} << QStringList{u"a"_s};
+        QTest::newRow("no text") << QByteArrayList{QByteArray("1 \xff\0\n", 5)}
+                                 << QStringList{QString::fromUtf8("\xff\0", 2)};
+        QTest::newRow("endless") << QByteArrayList{QByteArray(100'000, 'x')} << QStringList();
+    }
+
+    void whatIsNotUnderstoodIsNoWish()
+    {
+        QFETCH(const QByteArrayList, pieces);
+        QFETCH(const QStringList, wishes);
+        SingleInstance first(*m_lock);
+        QCOMPARE(first.acquire(), Outcome::Ours);
+        QStringList heard;
+        connect(&first, &SingleInstance::wished, &first, [&heard](const QString& wish) { heard.append(wish); });
+        QLocalSocket caller;
+        caller.setSocketOptions(QLocalSocket::AbstractNamespaceOption);
+        caller.connectToServer(first.findChild<QLocalServer*>()->fullServerName());
+        QVERIFY(caller.waitForConnected());
+        QTRY_COMPARE(caller.bytesAvailable(), 1);
+        for (const QByteArray& piece : pieces) {
+            caller.write(piece);
+            QTRY_COMPARE(caller.bytesToWrite() == 0 || caller.state() != QLocalSocket::ConnectedState, true);
+        }
+        caller.disconnectFromServer();
+        QTRY_COMPARE(caller.state(), QLocalSocket::UnconnectedState);
+        // Whoever comes next is heard after it.
+        const SecondStart second(
+            m_folder->path(), longPatience, [] {}, u"end"_s);
+        QTRY_VERIFY(heard.contains(u"end"_s));
+        QCOMPARE(heard, wishes + QStringList{u"end"_s});
+        QTRY_COMPARE(first.findChildren<QLocalSocket*>().size(), 0);
     }
 
     void aFirstThatDoesNothingDoesNotAnswer()
