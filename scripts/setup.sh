@@ -11,6 +11,16 @@ die() {
   exit 1
 }
 
+# The version of CMakeLists.txt.
+product_version() {
+  sed -n 's/^project(abissora VERSION \([0-9.]*\).*/\1/p' "$root/CMakeLists.txt"
+}
+
+# Seconds since 1970 of the last commit, for whatever carries a time; the environment may give another one.
+source_date() {
+  printf '%s\n' "${SOURCE_DATE_EPOCH:-$(git -C "$root" log -1 --format=%ct)}"
+}
+
 # Prints the packages of the given lists that are not installed.
 missing_packages() {
   local list package command installed wanted=()
@@ -38,17 +48,59 @@ install_packages() {
   mapfile -t packages < <(missing_packages "$@")
   ((${#packages[@]})) || return 0
 
-  local by_hand="apt-get install --no-install-recommends ${packages[*]}"
+  local by_hand="apt-get update && apt-get install --no-install-recommends ${packages[*]}"
   if ((EUID != 0)); then
     command -v sudo >/dev/null ||
       die "Mancano dei pacchetti e sudo non c'è. Eseguire come amministratore:" $'\n'"  $by_hand"
+    sudo --validate ||
+      die "Mancano dei pacchetti e sudo non ha dato il permesso. Eseguire come amministratore:" $'\n'"  $by_hand"
     as_root=(sudo)
   fi
-  say "Installo i pacchetti mancanti (può volerci qualche minuto): ${packages[*]}"
-  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -y -o DPkg::Lock::Timeout=120)
-  "${apt[@]}" update >/dev/null || say "L'elenco dei pacchetti non si aggiorna: provo con quello che c'è."
-  "${apt[@]}" install --no-install-recommends "${packages[@]}" </dev/null >/dev/null ||
+  say "Installo ${#packages[@]} pacchetti e ciò che a loro volta richiedono: ${packages[*]}"
+  local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive LC_ALL=C apt-get -qq -y -o DPkg::Lock::Timeout=120)
+  saying_while "Aspetto l'elenco dei pacchetti ($(package_servers))…" "${apt[@]}" update ||
+    say "L'elenco dei pacchetti non si aggiorna: provo con quello che c'è."
+  # The exit status is that of apt-get, the last one that failed in the pipe.
+  "${apt[@]}" -o APT::Status-Fd=1 install --no-install-recommends "${packages[@]}" </dev/null | show_progress ||
     die "L'installazione non è riuscita. Eseguire come amministratore:" $'\n'"  $by_hand"
+}
+
+# The servers that packages come from, as apt's lists name them.
+package_servers() {
+  local servers
+  servers=$(apt-get indextargets --format '$(SITE)' 2>/dev/null | sort -u | paste -sd ' ')
+  printf '%s\n' "${servers:-i server dei pacchetti}"
+}
+
+# show_progress reads what apt-get writes to APT::Status-Fd and tells every tenth of downloading and installing.
+show_progress() {
+  local kind percent told='' step rest
+  while IFS=: read -r kind rest percent rest; do
+    case $kind in
+      dlstatus) kind="Scarico i pacchetti" ;;
+      pmstatus) kind="Installo i pacchetti" ;;
+      *) continue ;;
+    esac
+    step="$kind: $((${percent%%.*} / 10 * 10)) %"
+    [[ $step == "$told" ]] || say "  $step"
+    told=$step
+  done
+}
+
+# saying_while SENTENCE COMMAND...   says the sentence whenever another ten seconds have gone by; the status is that of
+# the command.
+saying_while() {
+  local sentence=$1 answer status=1 read_status
+  shift
+  exec {answer}< <("$@" >&2 </dev/null && status=0 || status=$?; printf '%s\n' "$status")
+  while true; do
+    read -r -t "${ABISSORA_PATIENCE:-10}" -u "$answer" status && break
+    read_status=$?
+    ((read_status > 128)) || break # the command was killed and left no answer
+    say "$sentence"
+  done
+  exec {answer}<&-
+  return "$status"
 }
 
 # The icon sets in exactly the versions of package-lock.json. A copy of the lock file says what is installed;
@@ -56,8 +108,11 @@ install_packages() {
 install_icon_sets() {
   local lock=$root/package-lock.json installed=$root/node_modules/.installed-lock.json
   cmp -s "$lock" "$installed" && return
+  local registry
+  registry=$(cd "$root" && npm config get registry 2>/dev/null || true)
   say "Scarico le icone…"
-  (cd "$root" && npm ci --ignore-scripts --no-audit --no-fund --loglevel=error >&2 </dev/null) ||
+  (cd "$root" && saying_while "Aspetto le icone ($registry)…" \
+    npm ci --ignore-scripts --no-audit --no-fund --loglevel=error) ||
     die "Le icone non sono state installate; la ragione è scritta qui sopra."
   cp "$lock" "$installed"
 }
