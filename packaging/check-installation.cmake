@@ -12,6 +12,7 @@ foreach(file IN ITEMS
     share/doc/abissora/copyright
     share/icons/hicolor/scalable/apps/${ID}.svg
     share/icons/hicolor/symbolic/apps/${ID}-symbolic.svg
+    share/man/it/man1/abissora.1
     share/man/man1/abissora.1
     share/metainfo/${ID}.metainfo.xml)
   if(NOT EXISTS "${prefix}/${file}")
