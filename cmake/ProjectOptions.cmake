@@ -11,7 +11,6 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 # Only while developing: a newer compiler that knows another warning still builds a release.
 option(ABISSORA_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 option(ABISSORA_HARDENING "Stack, control flow and library calls are guarded (GCC and clang, not in Debug builds)" ON)
-option(ABISSORA_TIDY "Run clang-tidy on every translation unit" OFF)
 set(ABISSORA_SANITIZERS "" CACHE STRING "Sanitizers for -fsanitize=, e.g. address,undefined")
 
 find_program(CCACHE_PROGRAM ccache)
@@ -54,9 +53,4 @@ if(ABISSORA_SANITIZERS)
   target_compile_options(abissora_options INTERFACE
     -fsanitize=${ABISSORA_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(abissora_options INTERFACE -fsanitize=${ABISSORA_SANITIZERS})
-endif()
-
-if(ABISSORA_TIDY)
-  find_program(CLANG_TIDY_PROGRAM NAMES clang-tidy REQUIRED)
-  set(CMAKE_CXX_CLANG_TIDY ${CLANG_TIDY_PROGRAM} --warnings-as-errors=*)
 endif()

@@ -1,0 +1,59 @@
+# SPDX-License-Identifier: MIT
+"""What is known about the tools that look at sources: their programs, options and versions."""
+
+import re
+import shutil
+import subprocess
+from pathlib import Path
+
+# Level 1 contains level 0.
+CLAZY_CHECKS = "level1"
+
+
+class Missing(Exception):
+    pass
+
+
+def program(*names):
+    for name in names:
+        if found := shutil.which(name):
+            return found
+    raise Missing(f"{names[0]} is needed: apt-get install {names[0]}")
+
+
+def version_of(path):
+    return subprocess.run([path, "--version"], capture_output=True, text=True, check=True).stdout
+
+
+def compiler_of_version(version):
+    """The compiler that reads headers as the tool does, which names its major version."""
+    major = re.search(r"version (\d+)", version, re.IGNORECASE)[1]
+    return program(f"clang++-{major}", "clang++")
+
+
+class Tidy:
+    """clang-tidy; 22 passes over the toolkit's headers, which older versions do not, and so takes a third of the time."""
+
+    name = "tidy"
+
+    def __init__(self, root):
+        path = program("clang-tidy-22", "clang-tidy")
+        version = version_of(path)
+        self.compiler = compiler_of_version(version)
+        settings = root / ".clang-tidy"
+        self.command = [path, "--quiet", f"--config-file={settings}", f"--header-filter=^{root}/(src|tests|benchmarks)/"]
+        self.identity = "\0".join([version, *self.command, settings.read_text(encoding="utf-8")])
+
+
+class Clazy:
+    name = "clazy"
+
+    def __init__(self, root):
+        path = program("clazy-standalone")
+        version = version_of(path)
+        self.compiler = program("clang++-14", "clang++")
+        self.command = [path, f"--checks={CLAZY_CHECKS}", f"--header-filter=^{root}/(src|tests|benchmarks)/"]
+        self.identity = "\0".join([version, *self.command])
+
+
+TOOLS = {tool.name: tool for tool in (Tidy, Clazy)}
