@@ -63,7 +63,7 @@ struct RawValues<DivingIcons>
 {
     struct Entry
     {
-        DivingIcons value;
+        DivingIcons value{};
         QStringView rawValue;
         QStringView displayName;
     };

@@ -140,7 +140,7 @@ std::optional<QString> normalized(const QString& amount)
 /// Half a cent goes to the even one, as the exact value of the number lies; the toolkit would round it up.
 QString withTwoDecimals(double cost)
 {
-    std::array<char, 400> text; // long enough for every finite number
+    std::array<char, 400> text{}; // long enough for every finite number
     const auto end = std::to_chars(text.begin(), text.end(), cost, std::chars_format::fixed, 2);
     return QString::fromLatin1(text.data(), end.ptr - text.data());
 }

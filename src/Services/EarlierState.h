@@ -29,8 +29,8 @@ struct EarlierState
 
 struct StateName
 {
-    Instant kept;
-    Occasion occasion;
+    Instant kept{};
+    Occasion occasion = Occasion::change;
 };
 /// Nothing for any other text. An occasion that this version does not know is Occasion::change.
 [[nodiscard]] std::optional<StateName> parseStateName(const QString& name);

@@ -16,7 +16,7 @@ struct UpdateCheckError
 {
     enum class Case { network, invalidResponse, invalidManifest };
 
-    Case which;
+    Case which = Case::network;
     std::optional<HttpError> underlying{}; ///< of Case::network
 
     [[nodiscard]] QString errorDescription() const;

@@ -15,8 +15,8 @@ namespace {
 struct DefaultType
 {
     QStringView name;
-    DivingIcons icon;
-    AvailableColors color;
+    DivingIcons icon{};
+    AvailableColors color{};
     std::int64_t serviceIntervalDays = 365;
 };
 

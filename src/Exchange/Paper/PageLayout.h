@@ -33,7 +33,7 @@ public:
     /// A band on a page, or those of its lines that have room there.
     struct Piece
     {
-        Band band;
+        Band band{};
         qsizetype index = 0; ///< of the row, or of the line of facts
         double top = 0;
         double height = 0;
@@ -73,7 +73,7 @@ public:
 private:
     struct Strip
     {
-        Band band;
+        Band band{};
         qsizetype index = 0;
         bool keepsNext = false;
     };
