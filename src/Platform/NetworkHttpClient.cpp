@@ -51,7 +51,7 @@ HttpProxy proxyFor(const QUrl& url)
 class Request : public QObject
 {
 public:
-    Request(QUrl url, const HttpLimits& limits, QObject* parent);
+    Request(const QUrl& url, const HttpLimits& limits, QObject* parent);
 
     void cancel() { finish(tl::unexpected(HttpError::cancelled())); }
 
@@ -71,7 +71,7 @@ private:
     Answer<HttpResult> m_answer;
 };
 
-Request::Request(QUrl url, const HttpLimits& limits, QObject* parent)
+Request::Request(const QUrl& url, const HttpLimits& limits, QObject* parent)
     : QObject(parent)
     , m_limits(limits)
 {

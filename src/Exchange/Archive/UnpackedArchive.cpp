@@ -126,7 +126,7 @@ IoResult<std::shared_ptr<UnpackedArchive>> UnpackedArchive::unpack(const QString
                                                                    const ApplicationDirectories& directories,
                                                                    const ArchiveReader::GoesOn& goesOn)
 {
-    const std::shared_ptr<UnpackedArchive> unpacked(
+    std::shared_ptr<UnpackedArchive> unpacked(
         new UnpackedArchive(directories.backups() + u'/' + AtomicFile::temporaryName()));
     if (const auto made = AtomicFile::makeFolder(unpacked->m_folder); !made)
         return tl::unexpected(IoError{OutputFile::failure(directories.backups(), made.error())});

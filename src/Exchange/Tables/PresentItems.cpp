@@ -59,7 +59,7 @@ QList<qsizetype> PresentItems::find(const Equipment& item) const
     const QString serial = plain(item.serialNumber);
     if (const auto bySerial = m_bySerial.value(serial); !bySerial.isEmpty())
         return bySerial;
-    const QList<qsizetype> found = (serial.isEmpty() ? m_byHint : m_unnumberedHints).value(make(item));
+    QList<qsizetype> found = (serial.isEmpty() ? m_byHint : m_unnumberedHints).value(make(item));
     if (found.size() > 1) {
         if (const auto same = m_unnumbered.value(make(item)); same.size() == 1)
             return same;

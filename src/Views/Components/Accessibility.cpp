@@ -174,10 +174,10 @@ void setAccessibleLink(QAbstractButton& button)
     setAccessibleMaker(button, [](QWidget* object) { return new PressInterface(object, QAccessible::Link); });
 }
 
-void setAccessibleMaker(QWidget& widget, Maker make)
+void setAccessibleMaker(QWidget& widget, const Maker& make)
 {
     QAccessible::installFactory(makeInterface); // does nothing when it is there
-    widget.setProperty(makerProperty, QVariant::fromValue(std::move(make)));
+    widget.setProperty(makerProperty, QVariant::fromValue(make));
 }
 
 void announce(QWidget& widget, const QString& text)

@@ -30,7 +30,7 @@ void setAccessiblePicker(QComboBox& picker);
 /// A button that leads to a page elsewhere.
 void setAccessibleLink(QAbstractButton& button);
 
-void setAccessibleMaker(QWidget& widget, std::function<QAccessibleInterface*(QWidget*)> make);
+void setAccessibleMaker(QWidget& widget, const std::function<QAccessibleInterface*(QWidget*)>& make);
 
 /// For a widget that needs more than a role: an interface of its own, made from a pointer to the widget.
 template <typename Interface, typename Widget>
