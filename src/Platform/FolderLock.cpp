@@ -81,6 +81,7 @@ IoResult<posix::Descriptor> openOrMake(const QString& path)
 /// What file systems without such locks answer, those of the network among them.
 bool isRefusal(int error)
 {
+    // EOPNOTSUPP and ENOTSUP are one number here and two elsewhere. NOLINTNEXTLINE(misc-redundant-expression)
     return error == ENOLCK || error == EOPNOTSUPP || error == ENOTSUP || error == ENOSYS || error == EINVAL ||
            error == EBADF;
 }

@@ -181,8 +181,8 @@ TextRuler::TextRuler()
     for (const StyleRow& row : styleRows) {
         const QFontMetricsF metrics(paperFont(row.style));
         Advances advances;
-        for (char16_t c = u' '; c < advances.widths.size(); ++c)
-            advances.widths.at(c) = metrics.horizontalAdvance(QChar(c));
+        for (std::size_t c = u' '; c < advances.widths.size(); ++c)
+            advances.widths.at(c) = metrics.horizontalAdvance(QChar(static_cast<char16_t>(c)));
         m_advances.insert(row.style, advances);
     }
 }

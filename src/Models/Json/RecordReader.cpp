@@ -30,7 +30,7 @@ std::optional<JsonError> readInto(void* target, const Slot& slot, const QByteArr
 qsizetype salvageInto(void* target, const Slot& slot, const QByteArray& json, QList<JsonError>& errors)
 {
     // Files end in NUL bytes where a disk gave up.
-    const qsizetype begin = json.startsWith(byteOrderMark) ? qsizetype(byteOrderMark.size()) : 0;
+    const qsizetype begin = json.startsWith(byteOrderMark) ? byteOrderMark.size() : 0;
     const qsizetype end = json.indexOf('\0', begin);
     Receiver receiver(target, slot, true);
     Parser::sax_parse(json.constData() + begin, json.constData() + (end < 0 ? json.size() : end), &receiver);

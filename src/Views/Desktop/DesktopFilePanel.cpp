@@ -196,13 +196,12 @@ protected:
     {
         const QFileInfo chosen(selectedFiles().value(0));
         const QFileInfo file(target().path);
-        if (!isOwn() || chosen.isDir() || chosen.fileName().isEmpty())
-            QFileDialog::accept();
-        else if (!file.dir().exists())
+        const bool isTaken = isOwn() && !chosen.isDir() && !chosen.fileName().isEmpty(); // by us, else by the dialog
+        if (isTaken && !file.dir().exists())
             Alert::notice(this, windowTitle(), u"La cartella «%1» non esiste."_s.arg(file.path()));
-        else if (file.isDir())
+        else if (isTaken && file.isDir())
             Alert::notice(this, windowTitle(), u"«%1» è una cartella."_s.arg(file.fileName()));
-        else if (file.exists())
+        else if (isTaken && file.exists())
             askToReplace(file.fileName());
         else
             QFileDialog::accept();
@@ -236,7 +235,7 @@ private:
 std::optional<QString> choiceOf(OpenDialog& dialog, const FilePanelRequest& request)
 {
     while (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty()) {
-        const QString path = dialog.selectedFiles().first();
+        QString path = dialog.selectedFiles().constFirst();
         if (accepts(request, path))
             return path;
         Alert(Alert::Kind::Notice, request.title, request.refusal, QApplication::activeWindow()).exec();
