@@ -4,6 +4,7 @@
 import argparse
 import sys
 import time
+from functools import partial
 from pathlib import Path
 
 from batches import Sources, is_ours
@@ -49,13 +50,12 @@ def main():
     started = time.monotonic()
     tool = TOOLS[given.tool](ROOT)
     sources = Sources(ROOT, given.build.resolve())
-    runner = Runner(tool, given.build.resolve() / "analysis" / tool.name)
+    runner = Runner(tool, given.build.resolve() / "analysis" / tool.name, say=partial(print, flush=True))
     if files is None:
         if lines := missed(runner, sources):
             return "\n".join([f"{tool.name} no longer finds what is planted for it:", *lines])
         files = sources.all()
     runner.run(sources.batches(files, SIZE))
-    print(*sorted(runner.findings), sep="\n", end="\n" if runner.findings else "")
     for batch in runner.parted:
         print("Looked at in two parts, as names clash:", *(file.relative_to(ROOT) for file in batch.files))
     print(f"{tool.name}: {len(files)} files, {runner.looked_at} of them not known to be clean; "

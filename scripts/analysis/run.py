@@ -7,6 +7,7 @@ import re
 import subprocess
 import sys
 from concurrent.futures import ThreadPoolExecutor
+from threading import Lock
 
 DIAGNOSTIC = re.compile(r"^(?P<path>/[^:\n]+):(?P<line>\d+):\d+: (?P<kind>warning|(?:fatal )?error): "
                         r".*?(?:\[(?P<checks>[^\[\]]+)\])?$", re.MULTILINE)
@@ -18,9 +19,9 @@ class ToolFailed(Exception):
 
 
 class Runner:
-    """Findings are lines of text. A batch whose sources clash, as their names are visible to one another, is parted."""
+    """Findings are lines of text, which `say` hears at once. A batch whose names clash is looked at in parts."""
 
-    def __init__(self, tool, work):
+    def __init__(self, tool, work, say=lambda finding: None):
         self.tool = tool
         self.work = work
         self.remembered = work / "clean"
@@ -28,6 +29,8 @@ class Runner:
         self.findings = set()
         self.looked_at = 0
         self.parted = []
+        self.say = say
+        self.lock = Lock()
 
     def source(self, batch):
         """A single source is itself the unit: some checks look at nothing else than the unit's own file."""
@@ -83,5 +86,8 @@ class Runner:
         if errors and len(batch.files) > 1:
             return "\n".join(sorted(errors))
         self.looked_at += len(batch.files)
-        self.findings |= {complaint[0] for complaint in found}
+        with self.lock:
+            for finding in sorted({complaint[0] for complaint in found} - self.findings):
+                self.findings.add(finding)
+                self.say(finding)
         return "" if found else CLEAN

@@ -173,7 +173,8 @@ class Running(Folder):
     def run_over(self, *files):
         """The runner, and which sources the tool looked at in each unit."""
         self.tool.log.write_text("", encoding="utf-8")
-        runner = Runner(self.tool, self.build / "analysis")
+        self.said = []
+        runner = Runner(self.tool, self.build / "analysis", self.said.append)
         runner.run([Batch(("-x",), files)])
         return runner, self.tool.log.read_text(encoding="utf-8").splitlines()
 
@@ -214,6 +215,7 @@ class Running(Folder):
         runner, looked_at = self.run_over(*files)
         self.assertEqual(looked_at, ["A.cpp B.cpp C.cpp", "A.cpp", "B.cpp C.cpp", "B.cpp", "C.cpp"])
         self.assertEqual(len(runner.findings), 3)
+        self.assertEqual(set(self.said), runner.findings)
 
     def test_an_error_in_one_source_is_a_finding(self):
         file = self.write("src/A.cpp", "name x\nname x")
