@@ -46,7 +46,8 @@ class Runner:
         """What the tool says of a batch, looked at anew: matches of DIAGNOSTIC."""
         made = subprocess.run([*self.tool.command, self.source(batch), "--", *batch.flags], capture_output=True, text=True,
                               errors="replace", check=False)
-        found = list(DIAGNOSTIC.finditer(made.stdout + made.stderr))
+        found = [complaint for complaint in DIAGNOSTIC.finditer(made.stdout + made.stderr)
+                 if complaint["kind"] != "warning" or (complaint["checks"] or "").startswith(self.tool.checks)]
         if made.returncode and not found:
             raise ToolFailed(f"{' '.join(map(str, batch.files))}:\n{made.stdout}{made.stderr}")
         return found

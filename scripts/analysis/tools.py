@@ -35,6 +35,7 @@ class Tidy:
     """clang-tidy; 22 passes over the toolkit's headers, which older versions do not, and so takes a third of the time."""
 
     name = "tidy"
+    checks = ""
 
     def __init__(self, root):
         path = program("clang-tidy-22", "clang-tidy")
@@ -47,6 +48,7 @@ class Tidy:
 
 class Clazy:
     name = "clazy"
+    checks = "-Wclazy-"  # not the compiler's own warnings: a name may well hide one of another source
 
     def __init__(self, root):
         path = program("clazy-standalone")

@@ -32,6 +32,8 @@ for path in included:
     for number, line in enumerate(open(path).read().splitlines(), start=1):
         if line.startswith("bad"):
             print(f"{path}:{number}:1: warning: bad [check-bad]")
+        if line.startswith("remark"):
+            print(f"{path}:{number}:1: warning: remark [-Wremark]")
         if line.startswith("name"):
             if line in names:
                 print(f"{path}:{number}:1: error: redefinition [diagnostic]")
@@ -152,6 +154,7 @@ class Changes(Folder):
 
 class FakeTool:
     name = "fake"
+    checks = "check-"
     identity = "fake 1"
 
     def __init__(self, folder):
@@ -192,6 +195,9 @@ class Running(Folder):
         self.assertEqual(self.run_over(file)[1], ["A.cpp"])
         self.tool.identity = "fake 2"
         self.assertEqual(self.run_over(file)[1], ["A.cpp"])
+
+    def test_only_the_tools_own_warnings_count(self):
+        self.assertEqual(self.run_over(self.write("src/A.cpp", "remark"))[0].findings, set())
 
     def test_what_was_not_clean_is_looked_at_again(self):
         file = self.write("src/A.cpp", "good\nbad")
