@@ -118,7 +118,8 @@ QHash<QString, QByteArray> PreferencesStore::pending() const
 QStringList PreferencesStore::retry()
 {
     QStringList written;
-    for (const QString& key : m_pending.keys()) {
+    const QStringList keys = m_pending.keys();
+    for (const QString& key : keys) {
         if (write(key, m_pending.value(key)))
             written.append(key);
     }

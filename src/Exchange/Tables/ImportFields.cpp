@@ -117,7 +117,8 @@ const Words& wordsOf(ImportSubject subject)
 QString plain(const QString& heading)
 {
     QString letters;
-    for (const QChar c : heading.toLower())
+    const QString small = heading.toLower();
+    for (const QChar c : small)
         letters += c.isLetterOrNumber() && c != u'°' && c != u'º' ? c : QChar(u' ');
     return letters.simplified();
 }

@@ -41,7 +41,8 @@ PresentItems::PresentItems(const QList<Equipment>& equipment)
             m_unnumbered[make(item)].append(i);
         else
             m_bySerial[serial].append(i);
-        for (const QString& hint : hints(item)) {
+        const auto hintsOfItem = hints(item);
+        for (const QString& hint : hintsOfItem) {
             m_byHint[hint].append(i);
             if (serial.isEmpty())
                 m_unnumberedHints[hint].append(i);

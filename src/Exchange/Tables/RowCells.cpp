@@ -11,7 +11,10 @@ namespace abissora {
 namespace {
 
 /// A day that came without a time of day: at noon it is the same day in most of the world.
-const QTime timeOfDay(12, 0);
+QTime timeOfDay()
+{
+    return {12, 0};
+}
 
 } // namespace
 
@@ -77,7 +80,7 @@ std::optional<Instant> RowCells::readDay(ImportField field)
     if (isEmpty(field))
         return std::nullopt;
     const auto day = importValues::day(text(field), m_dayOrders.value(field));
-    const auto instant = day ? m_context.almanac.calendar.instant(*day, timeOfDay) : std::nullopt;
+    const auto instant = day ? m_context.almanac.calendar.instant(*day, timeOfDay()) : std::nullopt;
     if (!instant)
         complain(field, u"Data non valida: %1"_s.arg(text(field)));
     return instant;
@@ -87,7 +90,7 @@ Instant RowCells::today() const
 {
     const Calendar& calendar = m_context.almanac.calendar;
     const Instant now = m_context.almanac.now();
-    return calendar.instant(calendar.local(now).date(), timeOfDay).value_or(now);
+    return calendar.instant(calendar.local(now).date(), timeOfDay()).value_or(now);
 }
 
 Instant RowCells::after(Instant day, std::int64_t days)

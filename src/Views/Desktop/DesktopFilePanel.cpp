@@ -148,7 +148,7 @@ protected:
     void accept() override
     {
         const QStringList files = selectedFiles();
-        const bool chosen = !files.isEmpty() && QFileInfo(files.first()).exists() && !QFileInfo(files.first()).isDir();
+        const bool chosen = !files.isEmpty() && QFileInfo::exists(files.first()) && !QFileInfo(files.first()).isDir();
         // A dialog of the platform's own has closed by now.
         if (isOwn() && chosen && !accepts(m_request, files.first()))
             Alert::notice(this, windowTitle(), m_request.refusal);
