@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What an installation consists of, and the Debian package made from it (cpack in the build folder).
-# Included by the root CMakeLists.txt once the target abissora exists.
+# What an installation consists of; the folder debian makes a package of it. Included by the root CMakeLists.txt once the
+# target abissora exists.
 include(GNUInstallDirs)
 
 set(packaging "${PROJECT_SOURCE_DIR}/packaging")
@@ -31,21 +31,6 @@ install(FILES "${manual_english}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 install(FILES "${manual_italian}" DESTINATION "${CMAKE_INSTALL_MANDIR}/it/man1")
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}" RENAME copyright)
 install(DIRECTORY "${packaging}/licenses/" DESTINATION "${CMAKE_INSTALL_DOCDIR}/licenses")
-
-set(CPACK_GENERATOR DEB)
-set(CPACK_PACKAGE_CONTACT "Gli autori di Abissora")
-set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
-set(CPACK_STRIP_FILES ON)
-set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_RELEASE "${ABISSORA_BUILD_NUMBER}")
-set(CPACK_DEBIAN_PACKAGE_SECTION utils)
-set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# What the program takes from the system without linking it: what the check for updates and copies of the register load
-# when they begin, fonts and the toolkit's Italian texts.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libcurl4 | libcurl3-gnutls, libarchive13, fonts-inter, fonts-noto-color-emoji, qt6-translations-l10n")
-# xdg-open shows documents and pages; the check for updates trusts the system's certificates.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils, ca-certificates")
-include(CPack)
 
 if(ABISSORA_TESTS)
   find_program(DESKTOP_FILE_VALIDATE_PROGRAM desktop-file-validate REQUIRED)
