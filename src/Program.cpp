@@ -85,13 +85,16 @@ bool answered(bool help, bool version)
     return help || version;
 }
 
-/// --help and --version are answered without a screen, and so before the toolkit looks for one.
+/// --help and --version are answered without a screen, and so before the toolkit looks for one, and whatever else is
+/// asked.
 bool answered(const QStringList& arguments)
 {
     const auto asks = [&](const char* brief, const char* full) {
         return arguments.contains(QLatin1String(brief)) || arguments.contains(QLatin1String(full));
     };
-    return answered(asks("-h", "--help"), asks("-v", "--version"));
+    const auto commandLine = CommandLine::parse(arguments); // knows "-hv"
+    return answered(asks("-h", "--help") || (commandLine && commandLine->help),
+                    asks("-v", "--version") || (commandLine && commandLine->version));
 }
 
 /// A name that is being looked up cannot be given up, and the toolkit would wait for the answer before it ends: many

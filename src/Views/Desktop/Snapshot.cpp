@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Snapshot.h"
 
+#include <QBuffer>
 #include <QEvent>
-#include <QImageWriter>
+#include <QFile>
 #include <QPixmap>
 #include <QWidget>
 
@@ -28,11 +29,13 @@ bool Snapshot::eventFilter(QObject* watched, QEvent* event)
 
 void Snapshot::take()
 {
-    QImageWriter writer(m_file, "png");
-    if (writer.write(m_window.grab().toImage()))
+    QBuffer picture;
+    m_window.grab().save(&picture, "PNG");
+    QFile file(m_file);
+    if (file.open(QIODevice::WriteOnly) && file.write(picture.data()) == picture.size() && file.flush())
         Q_EMIT taken();
     else
-        Q_EMIT failed(writer.errorString());
+        Q_EMIT failed(file.errorString());
 }
 
 } // namespace abissora

@@ -20,7 +20,7 @@ public:
 
 Q_SIGNALS:
     void taken();
-    /// The reason, in the words of whoever refused the file.
+    /// The reason, in the words of the system.
     void failed(const QString& reason);
 
 private:

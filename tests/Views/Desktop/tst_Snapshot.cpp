@@ -37,7 +37,19 @@ private Q_SLOTS:
         QSignalSpy failed(&taker, &Snapshot::failed);
         window.show();
         QTRY_COMPARE(failed.size(), 1);
-        QVERIFY(!failed.first().first().toString().isEmpty());
+        QCOMPARE(failed.first().first().toString(), u"No such file or directory"_s);
+    }
+
+    void ontoAFullDisk()
+    {
+        if (!QFileInfo::exists(u"/dev/full"_s))
+            QSKIP("this system has no disk that is always full");
+        QLabel window(u"Testo"_s);
+        Snapshot taker(window, u"/dev/full"_s);
+        QSignalSpy failed(&taker, &Snapshot::failed);
+        window.show();
+        QTRY_COMPARE(failed.size(), 1);
+        QCOMPARE(failed.first().first().toString(), u"No space left on device"_s);
     }
 };
 
