@@ -15,20 +15,23 @@ configure_file("${packaging}/flatpak/abissora.yml.in"
   "${PROJECT_BINARY_DIR}/packaging/flatpak/${ABISSORA_APPLICATION_ID}.yml" @ONLY)
 
 install(SCRIPT "${PROJECT_SOURCE_DIR}/cmake/InstalledFolders.cmake")
-install(TARGETS abissora RUNTIME)
-install(FILES "${desktop_entry}" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
-install(FILES "${metainfo}" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
-set(icon_theme "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
-install(FILES "${application_icons}/abissora.svg"
-  DESTINATION "${icon_theme}/scalable/apps" RENAME "${ABISSORA_APPLICATION_ID}.svg")
-install(FILES "${application_icons}/abissora-symbolic.svg"
-  DESTINATION "${icon_theme}/symbolic/apps" RENAME "${ABISSORA_APPLICATION_ID}-symbolic.svg")
-foreach(side 16 22 24 32 48 64 128 256 512)
-  install(FILES "${packaging}/icons/abissora-${side}.png"
-    DESTINATION "${icon_theme}/${side}x${side}/apps" RENAME "${ABISSORA_APPLICATION_ID}.png")
-endforeach()
-install(FILES "${manual_english}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
-install(FILES "${manual_italian}" DESTINATION "${CMAKE_INSTALL_MANDIR}/it/man1")
+install(TARGETS abissora RUNTIME BUNDLE DESTINATION .)
+# macOS and Windows have all that within the program (Platforms.cmake).
+if(NOT APPLE AND NOT WIN32)
+  install(FILES "${desktop_entry}" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+  install(FILES "${metainfo}" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
+  set(icon_theme "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
+  install(FILES "${application_icons}/abissora.svg"
+    DESTINATION "${icon_theme}/scalable/apps" RENAME "${ABISSORA_APPLICATION_ID}.svg")
+  install(FILES "${application_icons}/abissora-symbolic.svg"
+    DESTINATION "${icon_theme}/symbolic/apps" RENAME "${ABISSORA_APPLICATION_ID}-symbolic.svg")
+  foreach(side 16 22 24 32 48 64 128 256 512)
+    install(FILES "${packaging}/icons/abissora-${side}.png"
+      DESTINATION "${icon_theme}/${side}x${side}/apps" RENAME "${ABISSORA_APPLICATION_ID}.png")
+  endforeach()
+  install(FILES "${manual_english}" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+  install(FILES "${manual_italian}" DESTINATION "${CMAKE_INSTALL_MANDIR}/it/man1")
+endif()
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}" RENAME copyright)
 install(DIRECTORY "${packaging}/licenses/" DESTINATION "${CMAKE_INSTALL_DOCDIR}/licenses")
 

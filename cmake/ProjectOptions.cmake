@@ -38,7 +38,9 @@ else()
     target_compile_options(abissora_options INTERFACE -Werror)
   endif()
   # Programs too are compiled as the libraries are: a precompiled header fits only where these options are the same.
-  target_compile_options(abissora_options INTERFACE -fPIC)
+  if(NOT WIN32) # where all code is, and the compiler warns of the option
+    target_compile_options(abissora_options INTERFACE -fPIC)
+  endif()
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # ccache needs it to cache uses of a precompiled header.
     target_compile_options(abissora_options INTERFACE -fpch-preprocess)

@@ -15,6 +15,12 @@ tl::expected<ArchiveLibrary, QString> ArchiveLibrary::load()
 {
     QLibrary library(u"archive"_s, archiveAbiVersion);
     bool complete = library.load();
+#ifdef Q_OS_WIN
+    if (!complete) { // where names of libraries begin as they like
+        library.setFileName(u"libarchive"_s);
+        complete = library.load();
+    }
+#endif
     const auto resolve = [&](const char* name, auto& function) {
         function = reinterpret_cast<std::remove_reference_t<decltype(function)>>(library.resolve(name));
         complete = complete && function != nullptr;

@@ -15,8 +15,12 @@ tl::expected<CurlLibrary, QString> CurlLibrary::load()
 {
     QLibrary library(u"curl"_s, curlAbiVersion);
     bool complete = library.load();
-    if (!complete) { // the same functions over another library for encryption
-        library.setFileNameAndVersion(u"curl-gnutls"_s, curlAbiVersion);
+    if (!complete) {
+#ifdef Q_OS_WIN
+        library.setFileName(u"libcurl"_s); // where names of libraries begin as they like
+#else
+        library.setFileNameAndVersion(u"curl-gnutls"_s, curlAbiVersion); // the same functions over other encryption
+#endif
         complete = library.load();
     }
     const auto resolve = [&](const char* name, auto& function) {

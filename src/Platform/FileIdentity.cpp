@@ -24,7 +24,9 @@ std::optional<FileIdentity> FileIdentity::of(const QString& path)
     const timespec& time = status.st_mtim;
 #endif
     constexpr qint64 nanoseconds = 1'000'000'000;
-    return FileIdentity{status.st_dev, status.st_ino, status.st_size, time.tv_sec * nanoseconds + time.tv_nsec};
+    // Whatever types the system has for them.
+    return FileIdentity{static_cast<quint64>(status.st_dev), static_cast<quint64>(status.st_ino),
+                        static_cast<qint64>(status.st_size), qint64{time.tv_sec} * nanoseconds + time.tv_nsec};
 #else
     const QFileInfo info(path);
     if (!info.exists())

@@ -15,7 +15,7 @@ struct IoError
 
     [[nodiscard]] static IoError fromErrno(int error)
     {
-#if defined(__GLIBC__) && __GLIBC_PREREQ(2, 32)
+#if defined(__GLIBC__) && (__GLIBC__ > 2 || (__GLIBC__ == 2 && __GLIBC_MINOR__ >= 32))
         // Unlike strerror(), never translated: the log reads the same on every desktop.
         if (const char* description = strerrordesc_np(error))
             return {QString::fromLatin1(description)};

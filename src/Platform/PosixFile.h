@@ -163,7 +163,8 @@ constexpr mode_t ownersFolder = 0700;
     struct stat status
     {};
     if (::stat(name.constData(), &status) == 0 && (status.st_mode & ownersFolder) != ownersFolder)
-        uninterrupted([&] { return ::chmod(name.constData(), (status.st_mode & 07777) | ownersFolder); });
+        uninterrupted(
+            [&] { return ::chmod(name.constData(), static_cast<mode_t>((status.st_mode & 07777) | ownersFolder)); });
     return {};
 }
 

@@ -7,6 +7,9 @@
 #include <clocale>
 #include <locale.h>
 #endif
+#if defined(Q_OS_DARWIN)
+#include <xlocale.h>
+#endif
 
 namespace abissora {
 
@@ -17,7 +20,7 @@ class ZipLocale
 public:
 #if defined(Q_OS_UNIX)
     ZipLocale()
-        : m_locale(::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr))
+        : m_locale(::newlocale(LC_CTYPE_MASK, utf8, nullptr))
         , m_before(m_locale != nullptr ? ::uselocale(m_locale) : nullptr)
     {}
     ~ZipLocale()
@@ -34,6 +37,11 @@ public:
 
 #if defined(Q_OS_UNIX)
 private:
+#if defined(Q_OS_DARWIN)
+    static constexpr const char* utf8 = "UTF-8";
+#else
+    static constexpr const char* utf8 = "C.UTF-8";
+#endif
     locale_t m_locale;
     locale_t m_before;
 #endif
