@@ -1,7 +1,9 @@
 # SPDX-License-Identifier: MIT
-"""entry.py DESKTOP_ENTRY: the desktop entry speaks English, and Italian where a person chose that; its actions are
-there and start the program itself."""
+"""entry.py DESKTOP_ENTRY PROGRAM: the desktop entry speaks English, and Italian where a person chose that; its actions
+are there and start the program with options that it has."""
 
+import re
+import subprocess
 import sys
 
 from installed import desktop_entry
@@ -18,7 +20,12 @@ def untranslated(group, keys):
             yield f"[{group.name}] needs {key} in English and {key}[it] in Italian, found {english!r} and {italian!r}."
 
 
-def complaints(entry):
+def options_of(program):
+    shown = subprocess.run([program, "--help"], capture_output=True, text=True, encoding="utf-8", check=True).stdout
+    return set(re.findall(r"(?<![\w-])--[a-z][a-z-]*", shown))
+
+
+def complaints(entry, known):
     main = entry[MAIN]
     yield from untranslated(main, TRANSLATED)
     for key in REFUSED:
@@ -34,10 +41,10 @@ def complaints(entry):
         yield from untranslated(group, ["Name"])
         program, *options = group.get("Exec", "").split()
         commands.append(options)
-        if program != main["Exec"] or len(options) != 1 or not options[0].startswith("--"):
-            yield f"[{group.name}] starts {group.get('Exec')!r} instead of {main['Exec']} with one option."
+        if program != main["Exec"] or len(options) != 1 or options[0] not in known:
+            yield f"[{group.name}] starts {group.get('Exec')!r} instead of {main['Exec']} with one of its options."
     if len(set(map(tuple, commands))) != len(commands):
         yield f"two actions do the same: {commands}."
 
 
-sys.exit("\n".join(complaints(desktop_entry(sys.argv[1]))) or 0)
+sys.exit("\n".join(complaints(desktop_entry(sys.argv[1]), options_of(sys.argv[2]))) or 0)

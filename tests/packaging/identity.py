@@ -11,7 +11,7 @@ from pathlib import Path
 from installed import desktop_entry, installation, metainfo, only_file
 
 WRITTEN_IN = Path("cmake/Product.cmake")
-NOT_OURS = {"build", "node_modules", ".git", "__pycache__"}
+NOT_OURS = {"build", "dist", "node_modules", ".git", ".cache", "__pycache__"}  # and what packages are made in
 FORMER_IDS = ("it." + "abissora",)  # in two pieces, or this file would name one
 
 
@@ -36,7 +36,8 @@ def installed_names(usr, name):
 
 def sources(root):
     for folder, folders, names in os.walk(root):
-        folders[:] = [inner for inner in folders if inner not in NOT_OURS]
+        is_package = Path(folder) == root / "debian"
+        folders[:] = [inner for inner in folders if not (inner in NOT_OURS or is_package or inner.startswith("obj-"))]
         yield from (Path(folder, name) for name in names if not Path(folder, name).is_symlink())
 
 
@@ -57,7 +58,8 @@ def main():
         complaints = [f"{what} is {found!r} instead of {wanted!r}."
                       for what, found, wanted in installed_names(usr, options.id) if found != wanted]
     default = re.search(r'ABISSORA_APPLICATION_ID "([^"]+)"', (options.source / WRITTEN_IN).read_text())[1]
-    for path in places_of([default], options.source) - {WRITTEN_IN}:
+    places = places_of([default], options.source) - {WRITTEN_IN}
+    for path in (place for place in places if place.suffix != ".md"):  # what people read may name it
         complaints.append(f"{path} writes {default} down; {WRITTEN_IN} alone does, others take ABISSORA_APPLICATION_ID.")
     for path in places_of(FORMER_IDS, options.source):
         complaints.append(f"{path} names an id that may be somebody else's.")
