@@ -89,8 +89,9 @@ class Sources:
     def batches(self, files, size):
         groups = defaultdict(list)
         for file in sorted(files):
-            groups[self.flags(file)].append(file)
-        for flags, members in groups.items():
+            # One that is not compiled may be another system's version of one that is.
+            groups[self.flags(file), file if file not in self.flags_by_file else None].append(file)
+        for (flags, _), members in groups.items():
             count = -(-len(members) // size)
             length = -(-len(members) // count)
             for start in range(0, len(members), length):
