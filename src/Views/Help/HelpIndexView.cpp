@@ -142,7 +142,7 @@ QWidget* HelpIndexView::makeNoResult()
     m_noResult->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     auto* page = new QWidget;
     auto* icon = new IconView(symbolIcon(u"magnifyingglass"_s, NamedColor::secondary), largeIconSide);
-    page->setLayout(inColumn(metrics::spaceM, {Stretch(1), {icon, 0, Qt::AlignHCenter}, m_noResult, Stretch(2)},
+    page->setLayout(inColumn(metrics::spaceM, {Stretch{1}, {icon, 0, Qt::AlignHCenter}, m_noResult, Stretch{2}},
                              {0, metrics::spaceXL, 0, metrics::spaceXL}));
     return page;
 }

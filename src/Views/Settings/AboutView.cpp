@@ -93,10 +93,10 @@ AboutView::AboutView(const ProgramFacts& program, QWidget* parent)
         new InkLabel(TextStyle::Body, &Tokens::secondaryText, u"Gestione attrezzatura subacquea e manutenzioni"_s);
     setLayout(inColumn(metrics::spaceXS,
                        {{new ShadowedIcon(aboutIconSide), 0, Qt::AlignHCenter},
-                        Gap(metrics::spaceXS),
+                        Gap{metrics::spaceXS},
                         {name, 0, Qt::AlignHCenter},
                         {subtitle, 0, Qt::AlignHCenter},
-                        Gap(metrics::spaceL),
+                        Gap{metrics::spaceL},
                         makeRows(program),
                         Stretch()},
                        {metrics::spaceXL, metrics::spaceL, metrics::spaceXL, metrics::spaceXL}));

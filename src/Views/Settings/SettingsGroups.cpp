@@ -62,7 +62,7 @@ private:
         setAccessibleLink(*link);
         link->setAccessibleDescription(caption);
         connect(link, &QAbstractButton::clicked, this, [this, address, &opener] { openPage(address, opener, *this); });
-        const Gap ownPadding(-metrics::spaceXS);
+        const Gap ownPadding{-metrics::spaceXS};
         return inRow(0, {ownPadding, link, {new InkLabel(TextStyle::Body, &Tokens::secondaryText, caption), 1}});
     }
 

@@ -49,7 +49,7 @@ SettingsView::SettingsView(SettingsViewModel& settings, EquipmentTypeViewModel& 
     addGroups(groups);
     groups->addStretch();
 
-    widget()->setLayout(inRow(0, {Stretch(1), {column, 1000}, Stretch(1)}, {metrics::spaceXL, 0, metrics::spaceXL, 0}));
+    widget()->setLayout(inRow(0, {Stretch{1}, {column, 1000}, Stretch{1}}, {metrics::spaceXL, 0, metrics::spaceXL, 0}));
     connect(&updates, &UpdateCheckerViewModel::availableUpdateChanged, this, &SettingsView::offerUpdate);
 }
 

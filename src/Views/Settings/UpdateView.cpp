@@ -132,9 +132,9 @@ UpdateView::UpdateView(const UpdateInfo& update, const QUrl& website, Opener& op
                        {{icon, 0, Qt::AlignHCenter},
                         {title, 0, Qt::AlignHCenter},
                         version,
-                        Gap(metrics::spaceS),
+                        Gap{metrics::spaceS},
                         {makeNotes(), 1},
-                        Gap(metrics::spaceS),
+                        Gap{metrics::spaceS},
                         m_failure,
                         inRow(metrics::spaceM, {Stretch(), later, m_download}),
                         {host, 0, Qt::AlignRight}},
@@ -166,7 +166,7 @@ QWidget* UpdateView::makeFailure()
     connect(copy, &QAbstractButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(m_offer.page.toString(QUrl::FullyEncoded)); });
     auto* failure = new QWidget;
-    failure->setLayout(inColumn(metrics::spaceS, {text, inRow(0, {copy, Stretch()}), Gap(metrics::spaceS)}));
+    failure->setLayout(inColumn(metrics::spaceS, {text, inRow(0, {copy, Stretch()}), Gap{metrics::spaceS}}));
     failure->hide();
     return failure;
 }

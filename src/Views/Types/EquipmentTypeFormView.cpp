@@ -110,7 +110,7 @@ public:
         setAccessibleName(title->text());
         for (WrapLabel* label : {title, m_name, m_interval})
             label->setAlignment(Qt::AlignCenter);
-        const Gap gap(metrics::spaceXS);
+        const Gap gap{metrics::spaceXS};
         content()->addLayout(
             inColumn(metrics::spaceXS, {title, gap, {m_tile, 0, Qt::AlignHCenter}, gap, m_name, m_interval}));
     }
