@@ -88,7 +88,8 @@ void DocumentArchive::settle(const QSet<QString>& named) const
         if (named.contains(entry.key()) && AtomicFile::makeFolder(folder))
             static_cast<void>(AtomicFile::move(entry->path, folder + u'/' + entry.key()));
     }
-    for (const QString& name : present()) {
+    const QSet<QString> names = present();
+    for (const QString& name : names) {
         if (!named.contains(name))
             archive(name);
     }

@@ -115,13 +115,13 @@ QWidget* MaintenanceFormView::makeDocument(DocumentSlot slot)
     auto* document = new DocumentControl(slot, DocumentControl::Place::Form);
     AttachmentDraft& attachments = m_draft->attachments();
     const auto refresh = [document, slot, &attachments] { document->setPresent(attachments.path(slot).has_value()); };
-    connect(document, &DocumentControl::openClicked, this, [this, slot, &attachments, refresh] {
-        if (const auto path = attachments.path(slot))
+    connect(document, &DocumentControl::openClicked, this, [this, slot, refresh] {
+        if (const auto path = m_draft->attachments().path(slot))
             openDocument(*path, m_opener, *this);
         else
             refresh();
     });
-    connect(document, &DocumentControl::takeAwayClicked, this, [slot, &attachments] { attachments.remove(slot); });
+    connect(document, &DocumentControl::takeAwayClicked, this, [this, slot] { m_draft->attachments().remove(slot); });
     connect(document, &DocumentControl::takeInClicked, this, [this, slot] { attach(slot); });
     connect(&attachments, &AttachmentDraft::changed, document, refresh);
     refresh();

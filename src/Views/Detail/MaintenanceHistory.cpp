@@ -31,7 +31,7 @@ public:
             ids.append(row.id);
         showItems(ids);
         if (focusGoes)
-            rowsAs<MaintenanceRow>().last()->takeFocus();
+            rowsAs<MaintenanceRow>().constLast()->takeFocus();
     }
 
 private:
