@@ -17,7 +17,6 @@ class BlockParser
 public:
     explicit BlockParser(const QString& body)
         : m_lines(help::lines(body))
-        , m_number(u"^\\d+\\.\\s"_s, QRegularExpression::UseUnicodePropertiesOption)
     {
         for (QString& line : m_lines)
             line = help::withoutBlanks(line);
@@ -31,8 +30,9 @@ public:
     }
 
 private:
-    [[nodiscard]] LineKind kindOf(const QString& line) const
+    [[nodiscard]] static LineKind kindOf(const QString& line)
     {
+        static const QRegularExpression number(u"^\\d+\\.\\s"_s, QRegularExpression::UseUnicodePropertiesOption);
         if (line.isEmpty())
             return LineKind::Empty;
         if (line == "---"_L1)
@@ -45,7 +45,7 @@ private:
             return LineKind::Quote;
         if (line.startsWith("- "_L1))
             return LineKind::Bullet;
-        return m_number.match(line).hasMatch() ? LineKind::Number : LineKind::Plain;
+        return number.match(line).hasMatch() ? LineKind::Number : LineKind::Plain;
     }
 
     void takeBlock()
@@ -111,7 +111,6 @@ private:
     }
 
     QStringList m_lines;
-    QRegularExpression m_number;
     qsizetype m_at = 0;
     QList<HelpBlock> m_blocks;
 };
