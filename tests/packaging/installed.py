@@ -13,9 +13,10 @@ STRICT_UMASK = 0o077
 
 
 @contextlib.contextmanager
-def installation(build):
-    """Gives the folder that stands for /usr."""
+def installation(build, prepare=lambda usr: None):
+    """Gives the folder that stands for /usr; `prepare` gets it beforehand, when it is not there yet."""
     with tempfile.TemporaryDirectory() as folder:
+        prepare(Path(folder, "usr"))
         subprocess.run(["cmake", "--install", build, "--prefix", "/usr", "--component", "Unspecified"],
                        env=dict(os.environ, DESTDIR=folder), umask=STRICT_UMASK, stdout=subprocess.DEVNULL, check=True)
         yield Path(folder, "usr")
