@@ -42,8 +42,6 @@ private Q_SLOTS:
 
     void ontoAFullDisk()
     {
-        if (!QFileInfo::exists(u"/dev/full"_s))
-            QSKIP("this system has no disk that is always full");
         QLabel window(u"Testo"_s);
         Snapshot taker(window, u"/dev/full"_s);
         QSignalSpy failed(&taker, &Snapshot::failed);
