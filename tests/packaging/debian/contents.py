@@ -36,7 +36,7 @@ def complaints(package):
             if not (member.isdir() or member.isfile()):
                 yield f"{name} is neither a file nor a folder."
         for page in (name for name in members if name.startswith("usr/share/man/") and name.endswith(".gz")):
-            if package.version not in gzip.decompress(tar.extractfile(page).read()).decode():
+            if package.version not in gzip.decompress(tar.extractfile(members[page]).read()).decode():
                 yield f"{page} is not about the version {package.version}."
 
 
