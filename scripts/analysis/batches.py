@@ -78,9 +78,13 @@ class Sources:
         return sorted(file for folder in FOLDERS for file in (self.root / folder).rglob("*.cpp") if is_ours(self.root, file))
 
     def flags(self, file):
-        """A file that is not compiled by itself is read as the first source in the nearest folder that has one."""
+        """A file that is not compiled by itself is read as a source that includes it, or as the nearest one."""
         if file in self.flags_by_file:
             return self.flags_by_file[file]
+        include = f'#include "{file.name}"'
+        for source in sorted(self.flags_by_file):
+            if source.exists() and include in source.read_text(encoding="utf-8"):
+                return self.flags_by_file[source]
         for folder in file.parents:
             if neighbours := [source for source in self.flags_by_file if source.is_relative_to(folder)]:
                 return self.flags_by_file[min(neighbours)]
@@ -89,8 +93,9 @@ class Sources:
     def batches(self, files, size):
         groups = defaultdict(list)
         for file in sorted(files):
-            # One that is not compiled may be another system's version of one that is.
-            groups[self.flags(file), file if file not in self.flags_by_file else None].append(file)
+            # A source that is not compiled may be another system's version of one that is.
+            is_alone = file.suffix == ".cpp" and file not in self.flags_by_file
+            groups[self.flags(file), file if is_alone else None].append(file)
         for (flags, _), members in groups.items():
             count = -(-len(members) // size)
             length = -(-len(members) // count)

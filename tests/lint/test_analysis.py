@@ -99,11 +99,14 @@ class Batches(Folder):
         self.assertEqual(sources.flags(self.root / "src/Room/Portable.cpp"), ("-Iy",))
         self.assertEqual(sources.flags(self.root / "src/Room/Deeper/C.h"), ("-Iy",))
         self.assertEqual(sources.flags(self.root / "src/D.h"), ("-Ix",))
+        self.write("src/Room/B.cpp", '#include "D.h"\n')
+        self.assertEqual(sources.flags(self.root / "src/D.h"), ("-Iy",))
 
     def test_what_is_not_compiled_is_not_looked_at_with_others(self):
         sources = self.sources(**{"src/A.cpp": "x", "src/B.cpp": "x"})
         files = [self.write(f"src/{name}.cpp") for name in ("A", "B", "Portable")]
-        self.assertEqual([len(batch.files) for batch in sources.batches(files, 9)], [2, 1])
+        files.append(self.write("src/C.h"))
+        self.assertEqual([len(batch.files) for batch in sources.batches(files, 9)], [3, 1])
 
 
 class Changes(Folder):
