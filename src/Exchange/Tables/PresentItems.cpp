@@ -7,7 +7,7 @@ namespace abissora {
 
 namespace {
 
-QString plain(const QString& text)
+QString comparable(const QString& text)
 {
     return text.simplified().toCaseFolded();
 }
@@ -15,7 +15,7 @@ QString plain(const QString& text)
 /// Plain texts hold no line ends.
 QString make(const QString& name, const QString& brand, const QString& model)
 {
-    return QStringList{plain(name), plain(brand), plain(model)}.join(u'\n');
+    return QStringList{comparable(name), comparable(brand), comparable(model)}.join(u'\n');
 }
 
 QString make(const Equipment& item)
@@ -35,7 +35,7 @@ PresentItems::PresentItems(const QList<Equipment>& equipment)
 {
     for (qsizetype i = 0; i < equipment.size(); ++i) {
         const Equipment& item = equipment.at(i);
-        const QString serial = plain(item.serialNumber);
+        const QString serial = comparable(item.serialNumber);
         m_makes.insert(make(item));
         if (serial.isEmpty())
             m_unnumbered[make(item)].append(i);
@@ -52,12 +52,12 @@ PresentItems::PresentItems(const QList<Equipment>& equipment)
 
 bool PresentItems::contains(const Equipment& item) const
 {
-    return m_bySerial.contains(plain(item.serialNumber)) || m_makes.contains(make(item));
+    return m_bySerial.contains(comparable(item.serialNumber)) || m_makes.contains(make(item));
 }
 
 QList<qsizetype> PresentItems::find(const Equipment& item) const
 {
-    const QString serial = plain(item.serialNumber);
+    const QString serial = comparable(item.serialNumber);
     if (const auto bySerial = m_bySerial.value(serial); !bySerial.isEmpty())
         return bySerial;
     QList<qsizetype> found = (serial.isEmpty() ? m_byHint : m_unnumberedHints).value(make(item));

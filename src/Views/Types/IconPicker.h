@@ -58,7 +58,7 @@ protected:
 private:
     struct Section
     {
-        InkLabel* title;
+        InkLabel* title = nullptr;
         QList<DivingIconButton*> cells;
         QList<DivingIconButton*> shown;
     };
