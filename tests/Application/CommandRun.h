@@ -16,18 +16,21 @@ struct Outcome
     QString error;
 };
 
+/// What was written into the file, which is closed.
+inline QString contentOf(std::FILE* file)
+{
+    QByteArray text(100'000, '\0');
+    const bool isAtStart = std::fseek(file, 0, SEEK_SET) == 0;
+    text.truncate(isAtStart ? qsizetype(std::fread(text.data(), 1, std::size_t(text.size()), file)) : 0);
+    std::fclose(file);
+    return QString::fromUtf8(text);
+}
+
 inline Outcome run(const TemporaryRegister& files, const QStringList& arguments)
 {
-    const auto content = [](std::FILE* file) {
-        std::rewind(file);
-        QByteArray text(100'000, '\0');
-        text.truncate(qsizetype(std::fread(text.data(), 1, std::size_t(text.size()), file)));
-        std::fclose(file);
-        return QString::fromUtf8(text);
-    };
     const CommandStreams streams{std::tmpfile(), std::tmpfile()};
     const int status = runCommand(CommandLine::parse(arguments).value(), files.directories, streams);
-    return {status, content(streams.out), content(streams.error)};
+    return {status, contentOf(streams.out), contentOf(streams.error)};
 }
 
 /// Days from now, which the commands take from the system's clock.

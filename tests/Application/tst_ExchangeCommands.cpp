@@ -154,7 +154,8 @@ private Q_SLOTS:
         const Outcome json = run(files, QStringList{u"--due"_s} + days + QStringList{u"--json"_s});
         QTEST(json.status, "status");
         names.clear();
-        for (const QJsonValue& value : QJsonDocument::fromJson(json.out.toUtf8()).array())
+        const QJsonArray values = QJsonDocument::fromJson(json.out.toUtf8()).array();
+        for (const auto& value : values)
             names.append(value[u"name"_s].toString());
         QTEST(names.join(u'|'), "names");
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Builders.h"
 #include "CommandLine.h"
+#include "CommandRun.h"
 #include "Commands.h"
 #include "ExitStatus.h"
 #include "TemporaryRegister.h"
@@ -27,11 +28,7 @@ public:
         const CommandStreams streams{stdout, std::tmpfile()};
         const auto line = CommandLine::parse(QStringList{u"--print"_s, path} + item);
         const int status = runCommand(line.value(), files.directories, streams);
-        std::rewind(streams.error);
-        QByteArray text(10'000, '\0');
-        text.truncate(qsizetype(std::fread(text.data(), 1, std::size_t(text.size()), streams.error)));
-        std::fclose(streams.error);
-        error = QString::fromUtf8(text);
+        error = test::contentOf(streams.error);
         return status;
     }
 

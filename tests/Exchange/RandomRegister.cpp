@@ -139,7 +139,8 @@ QList<Equipment> randomRegister(QRandomGenerator& random, const EquipmentTypeVie
             almanac.calendar.instant(QDate(2000, 1, 1).addDays(upTo(random, 9000)), QTime(9, 30)).value();
         for (int records = upTo(random, 4); records > 0; --records)
             item.maintenanceHistory.append(randomRecord(
-                random, ++id, almanac.calendar.addDays(first, 3 * records * (1 + upTo(random, 1) * 7)).value()));
+                random, ++id,
+                almanac.calendar.addDays(first, std::int64_t{3} * records * (1 + upTo(random, 1) * 7)).value()));
         const auto latest = std::ranges::max_element(item.maintenanceHistory, {}, &Maintenance::date);
         if (latest != item.maintenanceHistory.end()) {
             item.lastServiceDate = latest->date;

@@ -97,7 +97,7 @@ private Q_SLOTS:
         Maintenance record = test::maintenance(3);
         record.cost = infinity;
         const Equipment item = withRecord(record);
-        const Equipment copy = item; // shares the history
+        const Equipment copy = item; // shares the history, NOLINT(performance-unnecessary-copy-initialization)
         QVERIFY(storable(copy) != item);
         QCOMPARE(item.maintenanceHistory.at(1).cost, infinity);
     }

@@ -246,7 +246,7 @@ private Q_SLOTS:
         // What was kept follows by itself.
         const QByteArray expected = lines.join(u'\n').toUtf8() + '\n';
         QByteArray received;
-        QTRY_COMPARE((received += channel.readWhatIsThere()).size(), expected.size());
+        QTRY_COMPARE(received.append(channel.readWhatIsThere()).size(), expected.size());
         QVERIFY(received == expected);
         output.print(u"fine"_s);
         QCOMPARE(channel.read(), QByteArray("fine\n"));
@@ -285,7 +285,7 @@ private Q_SLOTS:
             output.print(text);
 
         QByteArray received;
-        QTRY_VERIFY((received += pipe.readWhatIsThere()).contains("passo\n"));
+        QTRY_VERIFY(received.append(pipe.readWhatIsThere()).contains("passo\n"));
         output.print(u"dopo"_s);
         received += pipe.read();
         QStringList passed = QString::fromUtf8(received).split(u'\n', Qt::SkipEmptyParts);
@@ -306,7 +306,7 @@ private Q_SLOTS:
         output.print(u"omessa"_s);
         const QByteArray expected = line.toUtf8() + "\n… 1 riga omessa: chi legge non tiene il passo\n";
         QByteArray received;
-        QTRY_COMPARE((received += pipe.readWhatIsThere()).size(), expected.size());
+        QTRY_COMPARE(received.append(pipe.readWhatIsThere()).size(), expected.size());
         QCOMPARE(received, expected);
     }
 

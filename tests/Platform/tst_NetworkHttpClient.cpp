@@ -227,7 +227,7 @@ private Q_SLOTS:
     void aPackedBodyCountsUnpacked()
     {
         // 4 MiB of zeros in 4 KiB.
-        QByteArray packed = qCompress(QByteArray(4 * 1024 * 1024, '\0'), 9).mid(4);
+        QByteArray packed = qCompress(QByteArray(qsizetype{4} * 1024 * 1024, '\0'), 9).mid(4);
         LocalServer server;
         server.next(LocalServer::answers("200 OK", packed, "Content-Encoding: deflate\r\n"));
         const HttpResult result = get(server, patient);

@@ -108,7 +108,7 @@ public:
         return [=](QTcpSocket& socket) {
             socket.write(head + piece);
             QObject::connect(&socket, &QTcpSocket::bytesWritten, &socket, [&socket, piece] {
-                while (socket.bytesToWrite() < 64 * 1024)
+                while (socket.bytesToWrite() < qint64{64} * 1024)
                     socket.write(piece);
             });
         };

@@ -117,7 +117,7 @@ private:
     }
 
     template <typename Verb>
-    void hindered(Verb verb)
+    void hindered(const Verb& verb)
     {
         std::optional<FileSizeLimit> limit;
         if (m_hindrance == Hindrance::noSpace)
@@ -135,7 +135,7 @@ private:
 
     /// A verb that writes this key, with what it notifies and logs after the error that there may be.
     template <typename Verb>
-    QString verb(const QString& key, Verb verb, QStringList log)
+    QString verb(const QString& key, const Verb& verb, QStringList log)
     {
         m_place.console.clear();
         hindered(verb);
@@ -156,13 +156,13 @@ private:
     }
 
     template <typename Verb>
-    QString registerVerb(Verb what, const QStringList& log = {})
+    QString registerVerb(const Verb& what, const QStringList& log = {})
     {
         return verb(registerKey, what, QStringList{u"<equipmentChanged>"_s, u"<changed>"_s} + log);
     }
 
     template <typename Verb>
-    QString typesVerb(Verb what)
+    QString typesVerb(const Verb& what)
     {
         return verb(typesKey, what, {u"<typesChanged>"_s, u"<changed>"_s});
     }

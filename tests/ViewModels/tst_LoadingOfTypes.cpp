@@ -20,7 +20,7 @@ struct Row
     QStringView name;
     QStringView icon;
     QStringView color;
-    std::int64_t days;
+    std::int64_t days = 0;
 };
 
 constexpr std::array standard{

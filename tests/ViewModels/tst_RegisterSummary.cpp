@@ -68,7 +68,7 @@ private Q_SLOTS:
         QTest::addColumn<qint64>("minutesLeft");
         QTest::addColumn<bool>("isActive");
         QTest::addColumn<Figures>("expected");
-        constexpr qint64 day = 24 * 60;
+        constexpr qint64 day = qint64{24} * 60;
         const auto row = [](const char* name, qint64 left, bool isActive, const Figures& expected) {
             QTest::newRow(name) << left << isActive << expected;
         };

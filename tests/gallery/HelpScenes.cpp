@@ -61,7 +61,7 @@ QList<HelpSection> everyKindOfBlock()
 }
 
 template <typename Setup>
-Scene help(const QString& name, QSize size, QList<HelpSection> sections, Setup setup)
+Scene help(const QString& name, QSize size, const QList<HelpSection>& sections, Setup setup)
 {
     return {name, [=] {
                 auto view = std::make_unique<Help>(sections);

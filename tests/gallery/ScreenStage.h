@@ -68,7 +68,7 @@ public:
 
 /// A form over the items; `make` is given the fixture.
 template <typename Make>
-Scene form(const QString& name, Make make)
+Scene form(const QString& name, const Make& make)
 {
     return {name, [make] {
                 auto state = std::make_unique<KeptState>(items());

@@ -33,7 +33,7 @@ struct Decision
 /// What a call is known by. Without a path it is one on a descriptor.
 struct Call
 {
-    const char* name;
+    const char* name = nullptr;
     bool changes = true;
     const char* path = nullptr;
     int descriptor = AT_FDCWD; ///< beside a path: the folder where a relative one begins

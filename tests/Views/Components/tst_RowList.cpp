@@ -163,7 +163,7 @@ private Q_SLOTS:
         for (int i = 0; i <= 20; ++i) {
             s.scrollTo(i / 20.0);
             QVERIFY(isWellPlaced(*s.list));
-            QVERIFY(s.list->findChildren<QPushButton*>().size() < 2 * 30);
+            QVERIFY(s.list->findChildren<QPushButton*>().size() < qsizetype{2} * 30);
         }
         QVERIFY(s.isInSight(s.list->row(u"9998"_s)));
     }

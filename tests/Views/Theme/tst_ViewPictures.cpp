@@ -38,7 +38,7 @@ private Q_SLOTS:
         const QColor veil = mix(tokens().surface, tokens().text, 0.06);
         const struct
         {
-            SelectionLook look;
+            SelectionLook look{};
             QStyle::State state;
             QColor fill;
             QColor ink;
