@@ -221,7 +221,7 @@ private Q_SLOTS:
     void theUsualWaysOfWritingADay()
     {
         QFETCH(QString, keys);
-        DateField field(Calendar(QTimeZone::utc()));
+        DateField field{Calendar(QTimeZone::utc())};
         field.selectAll();
         const QSignalSpy changed(&field, &DateField::instantChanged);
         QTest::keyClicks(&field, keys);

@@ -103,7 +103,7 @@ private Q_SLOTS:
         const struct
         {
             QStyle::State state;
-            int hoveredRow;
+            int hoveredRow = -1;
             QColor ground;
         } looks[]{{{}, -1, tokens().surface},
                   {QStyle::State_Selected, -1, tokens().selection},

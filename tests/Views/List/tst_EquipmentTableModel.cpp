@@ -28,7 +28,7 @@ struct Filled
     /// A tool tip as it is read: markup is drawn, not shown.
     [[nodiscard]] QString toolTip(int row, int column) const
     {
-        const QString tip = data(row, column, Qt::ToolTipRole).toString();
+        QString tip = data(row, column, Qt::ToolTipRole).toString();
         if (!Qt::mightBeRichText(tip))
             return tip;
         QTextDocument drawn;
