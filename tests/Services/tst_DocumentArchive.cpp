@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "FailingCalls.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
 
@@ -94,6 +95,23 @@ private Q_SLOTS:
         files.clock.advance(1ms);
         files.archive.purge();
         QCOMPARE(files.archive.archived(), QSet{other});
+    }
+
+    /// It may name any of them.
+    void aStateThatCannotBeReadKeepsAll()
+    {
+        test::TemporaryRegister files;
+        files.write(in(folder, name), "one");
+        files.archive.archive(name);
+        files.write(u"backups/20260615T100000.000Z-deleted-record/savedEquipment.json"_s, "[]");
+        files.clock.advance(24h * 100);
+        {
+            const test::FailingCalls calls("read@1+=EIO", files.path(u"backups"_s));
+            files.archive.purge();
+        }
+        QCOMPARE(files.archive.archived(), QSet{name});
+        files.archive.purge();
+        QCOMPARE(files.archive.archived(), QSet<QString>());
     }
 
     void theRegisterItselfKeepsItsDocuments()

@@ -321,6 +321,28 @@ private Q_SLOTS:
         QCOMPARE(menu.bare(menu.rect(), tokens().surface), fine);
     }
 
+    void whoUsesThePointerSeesNoRing()
+    {
+        constexpr QStyle::State held = usual | QStyle::State_HasFocus;
+        const auto ringOf = [](QStyle::State state) {
+            auto option = optionFor<QStyleOptionButton>({120, 30}, state);
+            const Picture picture = control(QStyle::CE_PushButton, option, tokens().window);
+            return picture.amount(picture.rect(), tokens().accentInk);
+        };
+        QVERIFY(ringOf(held | QStyle::State_KeyboardFocusChange) > 200);
+        QCOMPARE(ringOf(held), 0);
+    }
+
+    void aBarStaysWithinItself()
+    {
+        auto option = optionFor<QStyleOptionProgressBar>({100, 20}, usual);
+        option.maximum = 100;
+        option.progress = 150;
+        const Picture picture = control(QStyle::CE_ProgressBarContents, option, tokens().window);
+        QCOMPARE(picture.contained(), fine);
+        QCOMPARE(picture.filled(QRect(6, 8, 88, 4), tokens().accentFill, 1), fine);
+    }
+
     void roundedWindowsLoseTheirCorners()
     {
         const QRegion region = roundedRegion(QRect(0, 0, 40, 20), 8);
