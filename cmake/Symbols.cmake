@@ -17,6 +17,10 @@ function(abissora_add_symbols target)
   set(stamp "${output}/all-inputs.sha256")
   set(extracted "${PROJECT_SOURCE_DIR}/src/Resources/extracted")
 
+  if(NOT IS_DIRECTORY "${sets}" AND NOT EXISTS "${extracted}/symbols.qrc")
+    message(FATAL_ERROR "The icon sets are missing. Fetch them with\n  npm ci --ignore-scripts\nin ${PROJECT_SOURCE_DIR}.")
+  endif()
+
   # Contents, not times: npm gives every file of a package the same time, whatever its version.
   file(GLOB inputs CONFIGURE_DEPENDS "${drawings}/*.svg")
   list(APPEND inputs "${script}" "${table}")
@@ -26,15 +30,13 @@ function(abissora_add_symbols target)
 
   if(IS_DIRECTORY "${sets}")
     abissora_draw_symbols()
-  elseif(EXISTS "${extracted}/symbols.qrc")
+  else()
     file(READ "${extracted}/inputs.sha256" known)
     if(NOT known STREQUAL sums)
       message(FATAL_ERROR "The symbols in ${extracted} were drawn from another table. Fetch the icon sets with\n"
         "  npm ci --ignore-scripts\nin ${PROJECT_SOURCE_DIR}, so that they can be drawn again.")
     endif()
     set(output "${extracted}")
-  else()
-    message(FATAL_ERROR "The icon sets are missing. Fetch them with\n  npm ci --ignore-scripts\nin ${PROJECT_SOURCE_DIR}.")
   endif()
 
   qt_add_resources(sources "${output}/symbols.qrc")

@@ -24,15 +24,17 @@ def today():
     return datetime.now(ZoneInfo(ZONE)).date()
 
 
-def noon(day):
-    local = datetime(day.year, day.month, day.day, 12, tzinfo=ZoneInfo(ZONE))
+def end_of(day):
+    """Whole days are counted from the present moment: at whatever time this runs, the day's last second is as many away
+    as the day itself."""
+    local = datetime(day.year, day.month, day.day, 23, 59, 59, tzinfo=ZoneInfo(ZONE))
     return local.astimezone(ZoneInfo("UTC")).strftime("%Y-%m-%dT%H:%M:%SZ")
 
 
 def item(number, name, due_in, active=True):
     return {"id": identifier(number), "name": name, "type": "GAV", "brand": "Marca, blu", "model": "Modello; 1",
             "serialNumber": f"SN-{number}", "purchaseDate": "2020-01-01T11:00:00Z",
-            "lastServiceDate": "2024-01-01T11:00:00Z", "nextServiceDate": noon(today() + timedelta(days=due_in)),
+            "lastServiceDate": "2024-01-01T11:00:00Z", "nextServiceDate": end_of(today() + timedelta(days=due_in)),
             "notes": "", "isActive": active, "maintenanceHistory": []}
 
 
