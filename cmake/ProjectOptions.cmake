@@ -12,6 +12,7 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 option(ABISSORA_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 option(ABISSORA_HARDENING "Stack, control flow and library calls are guarded (GCC and clang, not in Debug builds)" ON)
 set(ABISSORA_SANITIZERS "" CACHE STRING "Sanitizers for -fsanitize=, e.g. address,undefined")
+option(ABISSORA_COVERAGE "Count the lines that are run (GCC), see scripts/checks/coverage" OFF)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
@@ -55,4 +56,9 @@ if(ABISSORA_SANITIZERS)
   target_compile_options(abissora_options INTERFACE
     -fsanitize=${ABISSORA_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(abissora_options INTERFACE -fsanitize=${ABISSORA_SANITIZERS})
+endif()
+
+if(ABISSORA_COVERAGE)
+  target_compile_options(abissora_options INTERFACE --coverage -fprofile-abs-path)
+  target_link_options(abissora_options INTERFACE --coverage)
 endif()
