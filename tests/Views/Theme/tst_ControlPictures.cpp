@@ -2,7 +2,7 @@
 #include "ControlLook.h"
 #include "Literals.h"
 #include "Painting.h"
-#include "Picture.h"
+#include "StylePictures.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -29,18 +29,6 @@ constexpr QSize controlSize(120, 30);
 /// Well within a control, around its text.
 constexpr QRect middle(20, 7, 80, 17);
 
-/// An option for something that large, in the palette of the scheme.
-template <typename Option>
-Option optionFor(QSize size, QStyle::State state)
-{
-    Option option;
-    option.palette = QApplication::palette();
-    option.fontMetrics = QFontMetrics(QApplication::font());
-    option.rect = QRect(QPoint(), size);
-    option.state = state;
-    return option;
-}
-
 QStyleOptionMenuItem menuItem(const QString& text, QStyle::State state)
 {
     auto item = optionFor<QStyleOptionMenuItem>({200, 28}, state);
@@ -51,27 +39,11 @@ QStyleOptionMenuItem menuItem(const QString& text, QStyle::State state)
 
 } // namespace
 
-class tst_ControlPictures : public PictureTest
+class tst_ControlPictures : public StylePictureTest
 {
     Q_OBJECT
 
 private:
-    static Picture control(QStyle::ControlElement element, const QStyleOption& option, const QColor& ground,
-                           const QWidget* widget = nullptr)
-    {
-        return drawn(option.rect.size(), ground, [&](QPainter& painter) {
-            QApplication::style()->drawControl(element, &option, &painter, widget);
-        });
-    }
-
-    static Picture primitive(QStyle::PrimitiveElement element, const QStyleOption& option, const QColor& ground,
-                             const QWidget* widget = nullptr)
-    {
-        return drawn(option.rect.size(), ground, [&](QPainter& painter) {
-            QApplication::style()->drawPrimitive(element, &option, &painter, widget);
-        });
-    }
-
     static Picture button(std::optional<ButtonLook> look, QStyle::State state,
                           QStyleOptionButton::ButtonFeatures features = QStyleOptionButton::None)
     {

@@ -2,7 +2,7 @@
 #include "ControlLook.h"
 #include "Literals.h"
 #include "Painting.h"
-#include "Picture.h"
+#include "StylePictures.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -25,17 +25,6 @@ constexpr QStyle::State hovered = usual | QStyle::State_MouseOver;
 constexpr QStyle::State pressed = usual | QStyle::State_Sunken;
 constexpr QSize iconSize(12, 12);
 
-template <typename Option>
-Option optionFor(QSize size, QStyle::State state)
-{
-    Option option;
-    option.palette = QApplication::palette();
-    option.fontMetrics = QFontMetrics(QApplication::font());
-    option.rect = QRect(QPoint(), size);
-    option.state = state;
-    return option;
-}
-
 /// A full square of one colour, in every mode.
 QIcon iconOf(const QColor& color)
 {
@@ -50,25 +39,11 @@ QIcon iconOf(const QColor& color)
 } // namespace
 
 /// Marks, icons and arrows: what stands in a control beside its text.
-class tst_MarkPictures : public PictureTest
+class tst_MarkPictures : public StylePictureTest
 {
     Q_OBJECT
 
 private:
-    static Picture control(QStyle::ControlElement element, const QStyleOption& option, const QColor& ground,
-                           const QWidget* widget = nullptr)
-    {
-        return drawn(option.rect.size(), ground, [&](QPainter& painter) {
-            QApplication::style()->drawControl(element, &option, &painter, widget);
-        });
-    }
-
-    static Picture primitive(QStyle::PrimitiveElement element, const QStyleOption& option, const QColor& ground)
-    {
-        return drawn(option.rect.size(), ground,
-                     [&](QPainter& painter) { QApplication::style()->drawPrimitive(element, &option, &painter); });
-    }
-
     /// The middle of where a picture has that colour.
     static qreal middleOf(const Picture& picture, const QColor& color)
     {
