@@ -73,7 +73,7 @@ void RowTable::currentChanged(const QModelIndex& current, const QModelIndex& pre
     if (hasFocus())
         QTableView::currentChanged(current, previous);
     else
-        QAbstractItemView::currentChanged(current, previous);
+        QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update(); // the ring goes round whole rows
     Q_EMIT placeChanged();
 }

@@ -78,6 +78,7 @@ void ScrollPane::bringIntoSight(const QWidget& part)
 bool ScrollPane::focusNextPrevChild(bool next)
 {
     // Not the toolkit's own, which is content with the cursor of a field.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return QAbstractScrollArea::focusNextPrevChild(next);
 }
 
