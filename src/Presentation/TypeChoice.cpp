@@ -51,7 +51,7 @@ QUuid stableUUID(const QString& from)
 
 QString defaultTypeName(const QList<EquipmentTypeModel>& offered)
 {
-    const QString regulator = rawValue(EquipmentType::regulator);
+    QString regulator = rawValue(EquipmentType::regulator);
     if (offers(offered, regulator))
         return regulator;
     return offered.isEmpty() ? QString() : offered.first().name;

@@ -144,7 +144,7 @@ private:
 
     struct Fault
     {
-        std::size_t member;
+        std::size_t member = unknown;
         JsonError error;
     };
 

@@ -35,9 +35,9 @@ private:
 
     QString m_label;
     QWidget* m_file = nullptr; ///< says that there is one
-    LookButton* m_open;
-    LookButton* m_takeAway;
-    LookButton* m_takeIn;
+    LookButton* m_open = nullptr;
+    LookButton* m_takeAway = nullptr;
+    LookButton* m_takeIn = nullptr;
 };
 
 } // namespace abissora
