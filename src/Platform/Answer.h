@@ -16,7 +16,7 @@ public:
     {
         [[nodiscard]] bool await_ready() const noexcept { return answer->m_value.has_value(); }
         void await_suspend(std::coroutine_handle<> waiting) const noexcept { answer->m_waiting = waiting; }
-        [[nodiscard]] T await_resume() const { return *answer->m_value; }
+        [[nodiscard]] T await_resume() const { return answer->m_value.value(); }
 
         Answer* answer;
     };

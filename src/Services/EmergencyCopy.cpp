@@ -26,7 +26,7 @@ IoResult<QString> keepEmergencyCopy(const PreferencesStore& preferences, const A
         if (!pending.contains(file.key()))
             static_cast<void>(AtomicFile::copy(*file, target(file.key())));
     }
-    const QString state = folder + u'/' + stateName(clock.now(), Occasion::emergency);
+    QString state = folder + u'/' + stateName(clock.now(), Occasion::emergency);
     kept = kept.and_then([&] { return AtomicFile::syncFolder(temporary); }).and_then([&] {
         return AtomicFile::move(temporary, state);
     });

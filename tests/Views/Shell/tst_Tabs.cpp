@@ -23,7 +23,8 @@ private Q_SLOTS:
         QVERIFY(s.window.findChild<SettingsView*>() == nullptr);
         s.window.content().setSelectedTab(ContentView::StatisticsTab);
         auto* const statistics = s.window.findChild<StatisticsView*>();
-        QVERIFY(statistics != nullptr && statistics->isVisible());
+        QVERIFY(statistics != nullptr);
+        QVERIFY(statistics->isVisible());
         QVERIFY(s.window.findChild<MaintenanceOverviewView*>() == nullptr);
         s.window.content().setSelectedTab(ContentView::ListTab);
         QVERIFY(!statistics->isVisible());
