@@ -91,7 +91,8 @@ private:
     static void lookAgain(const SaveRetry& retry)
     {
         auto* timer = retry.findChild<QTimer*>();
-        QVERIFY(timer != nullptr && timer->isActive());
+        QVERIFY(timer != nullptr);
+        QVERIFY(timer->isActive());
         timer->setInterval(0);
         QVERIFY(QTest::qWaitFor([&] { return !timer->isActive() || timer->interval() > 0; }));
     }

@@ -48,7 +48,7 @@ public:
 private:
     struct BlockLook
     {
-        int gap; ///< to the block above, from panel to panel
+        int gap = 0; ///< to the block above, from panel to panel
         help::Backdrop backdrop = help::Backdrop::None;
         int leftMargin = 0;
         int hanging = 0; ///< so much of the left margin is taken by a mark

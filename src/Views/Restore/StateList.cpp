@@ -42,8 +42,8 @@ StateList::StateList(const RestoreContent& content, ScrollPane& area)
     area.setWidget(this);
     setAutoFillBackground(false); // setWidget() makes it fill
     QList<QUuid> ids;
-    for (qsizetype i = 0; i < content.states().size(); ++i)
-        ids.append(QUuid::createUuidV5(QUuid(), content.states().at(i).name));
+    for (const auto& state : content.states())
+        ids.append(QUuid::createUuidV5(QUuid(), state.name));
     showItems(ids);
 }
 
@@ -73,7 +73,8 @@ QWidget* StateList::chosenButton() const
 
 void StateList::paintEvent(QPaintEvent* event)
 {
-    QFrame::paintEvent(event); // no lines between the rows, clazy:exclude=skipped-base-method
+    // No lines between the rows. NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    QFrame::paintEvent(event); // clazy:exclude=skipped-base-method
 }
 
 QWidget* StateList::makeRow()

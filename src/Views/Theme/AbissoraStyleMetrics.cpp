@@ -163,18 +163,14 @@ int AbissoraStyle::styleHint(StyleHint hint, const QStyleOption* option, const Q
             return 1;
         }
         return 0;
-    case SH_ToolTip_Mask:
-    case SH_ComboBox_AllowWheelScrolling: // a form scrolls, its values stay
-        return 0;
-    case SH_ScrollBar_LeftClickAbsolutePosition:
-        return 0;
-    case SH_ScrollView_FrameOnlyAroundContents:
-        return 0;
-    case SH_EtchDisabledText:
-    case SH_DitherDisabledText:
-        return 0;
     case SH_ItemView_ShowDecorationSelected:
         return 1;
+    case SH_ToolTip_Mask:
+    case SH_ComboBox_AllowWheelScrolling: // a form scrolls, its values stay
+    case SH_ScrollBar_LeftClickAbsolutePosition:
+    case SH_ScrollView_FrameOnlyAroundContents:
+    case SH_EtchDisabledText:
+    case SH_DitherDisabledText:
     case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;
     default:

@@ -86,7 +86,8 @@ private Q_SLOTS:
         }
         settle();
         const QWidget* const start = s.window.focusWidget();
-        QVERIFY(start != nullptr && start->isVisible());
+        QVERIFY(start != nullptr);
+        QVERIFY(start->isVisible());
         const QList<QWidget*> visited = walk(s.window, Qt::Key_Tab);
         QVERIFY(visited.contains(&s.sidebar()));
         for (const QWidget* stop : visited)
