@@ -18,7 +18,7 @@ template <typename Operation>
     for (int i = 0; i < runs; ++i) {
         const auto begin = std::chrono::steady_clock::now();
         operation();
-        durations.push_back(std::chrono::steady_clock::now() - begin);
+        durations.emplace_back(std::chrono::steady_clock::now() - begin);
     }
     const auto middle = durations.begin() + runs / 2;
     std::nth_element(durations.begin(), middle, durations.end());

@@ -163,6 +163,7 @@ void measureDays(const Report& report, const QList<Equipment>& equipment, Instan
 
 } // namespace
 
+// A value that is not there ends it. NOLINTNEXTLINE(bugprone-exception-escape)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);

@@ -118,7 +118,7 @@ void tst_IconContainers::theWindowsContainerMasksWhatIsTransparent()
     image.setPixel(0, 15, 0);
     image.setPixel(9, 0, 0);
     const QByteArray bytes = ico({image});
-    QByteArray mask(16 * 4, '\0');
+    QByteArray mask(qsizetype{16} * 4, '\0');
     mask[0] = '\x80';
     mask[15 * 4 + 1] = '\x40';
     QCOMPARE(bytes.right(mask.size()), mask);

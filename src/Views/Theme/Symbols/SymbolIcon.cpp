@@ -64,7 +64,7 @@ QIcon typeIcon(const QString& name, NamedColor color)
 
 QIcon typeIconForMenu(const QString& name, int size, NamedColor color)
 {
-    const QIcon icon = typeIcon(name, color);
+    QIcon icon = typeIcon(name, color);
     if (!name.startsWith("dive."_L1))
         return icon;
     const QPixmap picture = icon.pixmap(QSize(size, size), menuPictureScale);

@@ -49,7 +49,7 @@ std::size_t qHash(const PictureKey& key, std::size_t seed = 0)
 
 using PictureCache = QCache<PictureKey, QImage>;
 
-constexpr qsizetype cacheLimitInBytes = 4 * 1024 * 1024;
+constexpr qsizetype cacheLimitInBytes = qsizetype{4} * 1024 * 1024;
 
 // One for the whole program and nobody's state: it only ever repeats what rendering again would give, and every icon
 // shares it. It holds images, not pixmaps, so it may outlive the application object.
@@ -92,7 +92,7 @@ QPointF onDeviceGrid(const QPainter& painter, const QPointF& point)
 SymbolIconEngine::SymbolIconEngine(QString name, QString path, SymbolInk ink)
     : m_name(std::move(name))
     , m_path(std::move(path))
-    , m_ink(std::move(ink))
+    , m_ink(ink)
 {}
 
 void SymbolIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State)
