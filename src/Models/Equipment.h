@@ -64,3 +64,6 @@ struct Equipment
 inline constexpr std::int64_t dueThresholdDays = 30;
 
 } // namespace abissora
+
+// A list moves its records as bytes.
+Q_DECLARE_TYPEINFO(abissora::Equipment, Q_RELOCATABLE_TYPE);

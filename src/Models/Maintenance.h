@@ -45,3 +45,6 @@ struct Maintenance
 };
 
 } // namespace abissora
+
+// A list moves its records as bytes.
+Q_DECLARE_TYPEINFO(abissora::Maintenance, Q_RELOCATABLE_TYPE);

@@ -69,7 +69,7 @@ StorageManager::StorageManager(PreferencesStore& userDefaults, Console& console,
 void StorageManager::saveEquipment(const QList<Equipment>& equipment, Occasion occasion)
 {
     const auto fail = [this](const QString& reason) { m_console.print(u"Error saving equipment: "_s + reason); };
-    const auto json = encode(equipment);
+    const auto json = m_encoder.encode(equipment);
     if (!json)
         fail(json.error().description());
     else if (const auto stored = m_userDefaults.setData(equipmentKey, *json, occasion); !stored)

@@ -4,7 +4,7 @@
 #include "Calendar.h"
 #include "Clock.h"
 #include "Console.h"
-#include "Equipment.h"
+#include "EquipmentEncoder.h"
 #include "IdGenerator.h"
 #include "Literals.h"
 #include "PreferencesStore.h"
@@ -40,6 +40,7 @@ private:
     const Clock& m_clock;
     Calendar m_calendar;
     IdGenerator& m_ids;
+    EquipmentEncoder m_encoder;
     bool m_hasLoadedStored = false;
 };
 

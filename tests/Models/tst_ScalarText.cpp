@@ -9,6 +9,16 @@
 using namespace abissora;
 using test::at;
 
+namespace {
+
+std::string written(Instant instant)
+{
+    const auto text = json::dateText(instant);
+    return text ? std::string(text->begin(), text->end()) : "(none)";
+}
+
+} // namespace
+
 class tst_ScalarText : public test::TestCase
 {
     Q_OBJECT
@@ -31,7 +41,7 @@ private Q_SLOTS:
         const auto date = json::dateFromText(text.toStdString());
         QVERIFY(date);
         QCOMPARE(*date, at(text.constData()));
-        QCOMPARE(json::dateText(*date).value(), text.toStdString());
+        QCOMPARE(written(*date), text.toStdString());
     }
 
     void wrongForms_data()
@@ -61,14 +71,14 @@ private Q_SLOTS:
 
     void partsOfASecondAreCutOff()
     {
-        QCOMPARE(json::dateText(at("2025-03-14T09:26:53.999Z")).value(), std::string("2025-03-14T09:26:53Z"));
-        QCOMPARE(json::dateText(at("1969-12-31T23:59:58.001Z")).value(), std::string("1969-12-31T23:59:58Z"));
+        QCOMPARE(written(at("2025-03-14T09:26:53.999Z")), std::string("2025-03-14T09:26:53Z"));
+        QCOMPARE(written(at("1969-12-31T23:59:58.001Z")), std::string("1969-12-31T23:59:58Z"));
     }
 
     void otherYearsHaveNoText()
     {
         const Instant end = at("9999-12-31T23:59:59.999Z");
-        QCOMPARE(json::dateText(end).value(), std::string("9999-12-31T23:59:59Z"));
+        QCOMPARE(written(end), std::string("9999-12-31T23:59:59Z"));
         QVERIFY(!json::dateText(end + std::chrono::milliseconds(1)));
         const Instant begin = at("0001-01-01T00:00:00Z");
         QVERIFY(json::dateText(begin));
@@ -83,6 +93,8 @@ private Q_SLOTS:
         QCOMPARE(json::uuidFromText("E621E1F8-C36C-495A-93FC-0C247A3E6E5F"), std::optional(id));
         QCOMPARE(json::uuidFromText("e621e1f8-c36c-495a-93fc-0c247a3e6e5f"), std::optional(id));
         QCOMPARE(json::uuidFromText("E621e1F8-C36C-495A-93fc-0C247A3E6E5F"), std::optional(id));
+        const auto upper = json::uuidText(id);
+        QCOMPARE(std::string(upper.begin(), upper.end()), std::string("E621E1F8-C36C-495A-93FC-0C247A3E6E5F"));
         // Nobody's id, but an id.
         QCOMPARE(json::uuidFromText("00000000-0000-0000-0000-000000000000"), std::optional(QUuid()));
         for (const char* text :

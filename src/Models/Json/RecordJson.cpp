@@ -15,7 +15,7 @@ tl::expected<QByteArray, JsonError> encodeValue(const Value& value)
     try {
         json::RecordWriter writer;
         writer.write(value);
-        return QByteArray::fromStdString(writer.text());
+        return writer.take();
     } catch (const json::EncodingFailure& failure) {
         return tl::unexpected(failure.error);
     }
@@ -122,7 +122,7 @@ QByteArray encode(const UpdateInfo& info)
     writer.write(UpdateManifest{info.version, info.build,
                                 QString::fromLatin1(info.downloadURL.toEncoded(QUrl::FullyEncoded)),
                                 info.releaseNotes});
-    return QByteArray::fromStdString(writer.text());
+    return writer.take();
 }
 
 tl::expected<UpdateInfo, JsonError> decodeUpdateInfo(const QByteArray& json)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Literals.h"
 #include "RecordFields.h"
 #include "RecordJson.h"
 #include "ScalarText.h"
@@ -8,12 +9,46 @@
 #include <QList>
 #include <QStringDecoder>
 #include <cmath>
+#include <functional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace abissora::json {
 
 struct Member;
+
+/// QString's own reader takes away a U+FEFF at the beginning, which is a text's own here.
+inline QString textFrom(const std::string& utf8)
+{
+    if (!utf8.starts_with("\xEF\xBB\xBF"))
+        return QString::fromStdString(utf8);
+    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom);
+    return decoder(QByteArrayView(utf8.data(), qsizetype(utf8.size())));
+}
+
+/// Gives equal texts one memory, most of them at least: the words of a register come back in record after record. Holds
+/// a bounded number, whatever is read.
+class SharedTexts
+{
+public:
+    [[nodiscard]] QString of(const std::string& utf8)
+    {
+        Entry& entry = m_entries[std::hash<std::string>()(utf8) % m_entries.size()];
+        if (entry.utf8 != utf8)
+            entry = {utf8, textFrom(utf8)};
+        return entry.text;
+    }
+
+private:
+    struct Entry
+    {
+        std::string utf8{};
+        QString text = u""_s;
+    };
+
+    std::vector<Entry> m_entries = std::vector<Entry>(256);
+};
 
 /// How a value of one C++ type takes what a parser finds: a table of plain functions on an untyped target, so that one
 /// parser serves every record. A null function means that the type does not take that kind of JSON value; a function
@@ -25,7 +60,7 @@ struct Slot
     bool (*boolean)(void*, bool) = nullptr;
     bool (*integer)(void*, std::int64_t) = nullptr;
     bool (*real)(void*, double) = nullptr;
-    bool (*string)(void*, const std::string&) = nullptr;
+    bool (*string)(void*, const std::string&, SharedTexts&) = nullptr;
     std::span<const Member> members{}; ///< of a record
     const Slot* element = nullptr;     ///< of a list
     void (*clear)(void*) = nullptr;    ///< of a list
@@ -63,23 +98,15 @@ inline std::optional<std::int64_t> wholeNumber(double value)
     return isWhole ? std::optional(static_cast<std::int64_t>(value)) : std::nullopt;
 }
 
-/// QString's own reader takes away a U+FEFF at the beginning, which is a text's own here.
-inline QString textFrom(const std::string& utf8)
-{
-    if (!utf8.starts_with("\xEF\xBB\xBF"))
-        return QString::fromStdString(utf8);
-    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom);
-    return decoder(QByteArrayView(utf8.data(), qsizetype(utf8.size())));
-}
-
 template <typename Value>
 struct SlotOf;
 
 template <>
 struct SlotOf<QString>
 {
-    static constexpr Slot slot{.expected = "a string", .string = [](void* target, const std::string& text) {
-                                   return take(target, std::optional(textFrom(text)));
+    static constexpr Slot slot{.expected = "a string",
+                               .string = [](void* target, const std::string& text, SharedTexts& texts) {
+                                   return take(target, std::optional(texts.of(text)));
                                }};
 };
 
@@ -113,13 +140,16 @@ struct SlotOf<Instant>
 {
     static constexpr Slot slot{
         .expected = "a date such as \"2025-03-14T09:26:53Z\"",
-        .string = [](void* target, const std::string& text) { return take(target, dateFromText(text)); }};
+        .string = [](void* target, const std::string& text, SharedTexts& /*texts*/) {
+            return take(target, dateFromText(text));
+        }};
 };
 
 template <>
 struct SlotOf<QUuid>
 {
-    static constexpr Slot slot{.expected = "a UUID", .string = [](void* target, const std::string& text) {
+    static constexpr Slot slot{.expected = "a UUID",
+                               .string = [](void* target, const std::string& text, SharedTexts& /*texts*/) {
                                    return take(target, uuidFromText(text));
                                }};
 };
@@ -128,8 +158,8 @@ template <HasRawValues Case>
 struct SlotOf<Case>
 {
     static constexpr Slot slot{.expected = "one of the known names",
-                               .string = [](void* target, const std::string& text) {
-                                   return take(target, fromRawValue<Case>(QString::fromStdString(text)));
+                               .string = [](void* target, const std::string& text, SharedTexts& texts) {
+                                   return take(target, fromRawValue<Case>(texts.of(text)));
                                }};
 };
 
@@ -139,11 +169,11 @@ struct SlotOf<std::optional<Value>>
 {
     static constexpr const Slot& inner = SlotOf<Value>::slot;
 
-    template <auto takeInner, typename Json>
-    static bool forward(void* target, Json value)
+    template <auto takeInner, typename... Json>
+    static bool forward(void* target, Json... value)
     {
         auto& optional = as<std::optional<Value>>(target);
-        return takeInner(&optional.emplace(), value);
+        return takeInner(&optional.emplace(), value...);
     }
 
     static constexpr Slot make()
@@ -152,7 +182,7 @@ struct SlotOf<std::optional<Value>>
         if constexpr (inner.boolean != nullptr)
             made.boolean = &forward<inner.boolean, bool>;
         if constexpr (inner.string != nullptr)
-            made.string = &forward<inner.string, const std::string&>;
+            made.string = &forward<inner.string, const std::string&, SharedTexts&>;
         return made;
     }
 

@@ -60,8 +60,8 @@ public:
 
     bool string(const std::string& value)
     {
-        return scalar("a string", value, [&value](const Place& place) {
-            return place.slot->string && place.slot->string(place.target, value);
+        return scalar("a string", value, [this, &value](const Place& place) {
+            return place.slot->string && place.slot->string(place.target, value, m_texts);
         });
     }
 
@@ -289,6 +289,7 @@ private:
     qsizetype m_elements = 0;
     QList<JsonError> m_dropped;
     ReadNotes m_notes;
+    SharedTexts m_texts;
     std::vector<Frame> m_frames;
     std::size_t m_skipped = 0; ///< depth inside a value that nothing takes
     std::optional<JsonError> m_error;

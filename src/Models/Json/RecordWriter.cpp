@@ -4,65 +4,101 @@
 #include "Literals.h"
 #include "ScalarText.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <string>
 
 namespace abissora::json {
 
 namespace {
 
-bool needsEscape(char c)
-{
-    return c == '"' || c == '\\' || static_cast<unsigned char>(c) < 0x20;
-}
+constexpr qsizetype leastRoom = 256;
 
-void appendEscaped(std::string& out, char c)
+/// By character of ASCII; beyond it the encoded form stands for itself.
+constexpr auto isPlain = [] {
+    std::array<bool, 0x80> plain{};
+    std::fill(plain.begin() + 0x20, plain.end(), true);
+    plain['"'] = false;
+    plain['\\'] = false;
+    return plain;
+}();
+
+/// The text behind the backslash.
+std::string_view escape(char c, std::array<char, 5>& numeric)
 {
-    static constexpr char hex[] = "0123456789abcdef";
+    static constexpr std::string_view digits = "0123456789abcdef";
     switch (c) {
     case '"':
+        return "\"";
     case '\\':
-        out += {'\\', c};
-        break;
+        return "\\";
     case '\n':
-        out += "\\n";
-        break;
+        return "n";
     case '\r':
-        out += "\\r";
-        break;
+        return "r";
     case '\t':
-        out += "\\t";
-        break;
+        return "t";
     default:
-        out += {'\\', 'u', '0', '0', hex[c >> 4], hex[c & 0xf]};
+        numeric = {'u', '0', '0', digits[static_cast<std::size_t>(c) >> 4], digits[static_cast<std::size_t>(c) & 0xf]};
+        return {numeric.data(), numeric.size()};
     }
 }
 
 } // namespace
 
+QByteArray RecordWriter::take()
+{
+    m_out.truncate(std::exchange(m_size, 0));
+    m_begin = nullptr;
+    return std::exchange(m_out, {});
+}
+
+void RecordWriter::grow()
+{
+    m_out.resize(std::max(m_size, m_out.size() + std::max(leastRoom, m_out.size() / 2)));
+    m_begin = m_out.data();
+}
+
 void RecordWriter::write(QStringView value)
 {
-    const QByteArray utf8 = value.toUtf8();
-    m_out += '"';
-    const auto end = utf8.cend();
-    for (auto plain = utf8.cbegin();;) {
-        const auto special = std::find_if(plain, end, needsEscape);
-        m_out.append(plain, special);
-        if (special == end)
+    append('"');
+    const auto count = static_cast<std::size_t>(value.size());
+    const qsizetype begin = m_size;
+    char* to = extend(count);
+    // Nearly every text is plain from end to end.
+    for (const QChar c : value) {
+        if (c.unicode() >= isPlain.size() || !isPlain[c.unicode()]) {
+            m_size = begin;
+            appendEncoded(value);
             break;
-        appendEscaped(m_out, *special);
-        plain = special + 1;
+        }
+        *to++ = static_cast<char>(c.unicode());
     }
-    m_out += '"';
+    append('"');
+}
+
+void RecordWriter::appendEncoded(QStringView value)
+{
+    const QByteArray utf8 = value.toUtf8();
+    std::array<char, 5> numeric{};
+    for (const char c : utf8) {
+        const auto code = static_cast<unsigned char>(c);
+        if (code >= isPlain.size() || isPlain[code]) {
+            append(c);
+        } else {
+            append('\\');
+            append(escape(c, numeric));
+        }
+    }
 }
 
 void RecordWriter::write(const QUuid& value)
 {
-    m_out += '"';
-    m_out += value.toByteArray(QUuid::WithoutBraces).toUpper().toStdString();
-    m_out += '"';
+    const auto text = uuidText(value);
+    append('"');
+    append({text.data(), text.size()});
+    append('"');
 }
 
 void RecordWriter::write(Instant value)
@@ -70,9 +106,9 @@ void RecordWriter::write(Instant value)
     const auto text = dateText(value);
     if (!text)
         fail(u"the year lies outside 1 to 9999"_s);
-    m_out += '"';
-    m_out += *text;
-    m_out += '"';
+    append('"');
+    append({text->data(), text->size()});
+    append('"');
 }
 
 void RecordWriter::write(double value)
@@ -82,25 +118,32 @@ void RecordWriter::write(double value)
     std::array<char, 32> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
     const std::string_view digits(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
-    m_out += digits;
+    append(digits);
     // Without a fraction it would be read back as the integer 0, which has no sign.
     if (digits == "-0")
-        m_out += ".0";
+        append(".0");
 }
 
 void RecordWriter::write(std::int64_t value)
 {
-    m_out += std::to_string(value);
+    append(std::to_string(value));
 }
 
 void RecordWriter::write(bool value)
 {
-    m_out += value ? "true" : "false";
+    append(value ? "true" : "false");
 }
 
 void RecordWriter::fail(const QString& message) const
 {
-    throw EncodingFailure({QString::fromStdString(m_path), message});
+    QString path;
+    for (const Step& step : m_path) {
+        if (step.member.empty())
+            path += u'[' + QString::number(step.index) + u']';
+        else
+            path += u'.' + QString::fromLatin1(step.member.data(), qsizetype(step.member.size()));
+    }
+    throw EncodingFailure({path, message});
 }
 
 } // namespace abissora::json

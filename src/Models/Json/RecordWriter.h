@@ -5,8 +5,10 @@
 #include "RecordJson.h"
 
 #include <QList>
+#include <algorithm>
 #include <exception>
-#include <string>
+#include <utility>
+#include <vector>
 
 namespace abissora::json {
 
@@ -26,26 +28,32 @@ public:
     template <Described Record>
     void write(const QList<Record>& records)
     {
-        m_out += '[';
-        const std::size_t mark = m_path.size();
+        append('[');
         for (qsizetype i = 0; i < records.size(); ++i) {
             if (i > 0)
-                m_out += ',';
-            m_path += '[' + std::to_string(i) + ']';
-            write(records.at(i));
-            m_path.resize(mark);
+                append(',');
+            writeElement(records.at(i), i);
         }
-        m_out += ']';
+        append(']');
+    }
+
+    /// Without what stands between the elements; `index` is its place in the list, which an error names.
+    template <Described Record>
+    void writeElement(const Record& record, qsizetype index)
+    {
+        m_path.push_back({{}, index});
+        write(record);
+        m_path.pop_back();
     }
 
     template <Described Record>
     void write(const Record& record)
     {
-        m_out += '{';
+        append('{');
         bool first = true;
         std::apply([&](const auto&... field) { (writeMember(field.name, record.*(field.member), first), ...); },
                    Fields<Record>::all);
-        m_out += '}';
+        append('}');
     }
 
     template <HasRawValues Case>
@@ -61,9 +69,20 @@ public:
     void write(std::int64_t value);
     void write(bool value);
 
-    [[nodiscard]] const std::string& text() const { return m_out; }
+    void append(char character) { *extend(1) = character; }
+    void append(std::string_view text) { std::ranges::copy(text, extend(text.size())); }
+
+    [[nodiscard]] qsizetype size() const { return m_size; }
+    /// What was written; nothing is left.
+    [[nodiscard]] QByteArray take();
 
 private:
+    struct Step
+    {
+        std::string_view member; ///< empty: an element of a list
+        qsizetype index = 0;
+    };
+
     template <typename Value>
     void writeMember(std::string_view name, const std::optional<Value>& value, bool& first)
     {
@@ -74,21 +93,31 @@ private:
     template <typename Value>
     void writeMember(std::string_view name, const Value& value, bool& first)
     {
-        m_out += first ? "\"" : ",\"";
+        append(first ? "\"" : ",\"");
         first = false;
-        m_out += name;
-        m_out += "\":";
-        const std::size_t mark = m_path.size();
-        m_path += '.';
-        m_path += name;
+        append(name);
+        append("\":");
+        m_path.push_back({name});
         write(value);
-        m_path.resize(mark);
+        m_path.pop_back();
     }
 
+    /// Room for so many characters, which count as written.
+    char* extend(std::size_t count)
+    {
+        const qsizetype begin = std::exchange(m_size, m_size + static_cast<qsizetype>(count));
+        if (m_size > m_out.size())
+            grow();
+        return m_begin + begin;
+    }
+    void grow();
+    void appendEncoded(QStringView value);
     [[noreturn]] void fail(const QString& message) const;
 
-    std::string m_out;
-    std::string m_path;
+    QByteArray m_out; ///< longer than what was written
+    char* m_begin = nullptr;
+    qsizetype m_size = 0;
+    std::vector<Step> m_path;
 };
 
 } // namespace abissora::json

@@ -1,39 +1,54 @@
 // SPDX-License-Identifier: MIT
 #include "ScalarText.h"
 
-#include <QString>
+#include <algorithm>
+#include <cstdint>
 
 namespace abissora::json {
 
 namespace {
 
 constexpr std::string_view datePattern = "dddd-dd-ddTdd:dd:ddZ";
-constexpr std::string_view uuidPattern = "xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx";
+static_assert(datePattern.size() == dateLength);
+constexpr bool isHyphenOfUuid(std::size_t at)
+{
+    return at == 8 || at == 13 || at == 18 || at == 23;
+}
 
 constexpr bool isDigit(char c)
 {
     return c >= '0' && c <= '9';
 }
 
-constexpr bool isHexDigit(char c)
-{
-    return isDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
-}
+constexpr std::uint8_t noHexDigit = 16;
 
-/// 'd' stands for a decimal, 'x' for a hexadecimal digit, anything else for itself.
+/// By character: the value of a hexadecimal digit.
+constexpr auto hexValues = [] {
+    std::array<std::uint8_t, 256> values{};
+    values.fill(noHexDigit);
+    for (std::uint8_t digit = 0; digit < 10; ++digit)
+        values[std::size_t('0') + digit] = digit;
+    for (std::uint8_t digit = 10; digit < 16; ++digit) {
+        values[std::size_t('a') + digit - 10] = digit;
+        values[std::size_t('A') + digit - 10] = digit;
+    }
+    return values;
+}();
+
+/// 'd' stands for a decimal digit, anything else for itself.
 bool matches(std::string_view text, std::string_view pattern)
 {
     if (text.size() != pattern.size())
         return false;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char p = pattern[i];
-        if (p == 'd' ? !isDigit(text[i]) : p == 'x' ? !isHexDigit(text[i]) : text[i] != p)
+        if (p == 'd' ? !isDigit(text[i]) : text[i] != p)
             return false;
     }
     return true;
 }
 
-void setNumber(std::string& text, std::size_t at, std::size_t digits, int value)
+void setNumber(std::array<char, dateLength>& text, std::size_t at, std::size_t digits, int value)
 {
     for (std::size_t i = at + digits; i-- > at; value /= 10)
         text[i] = static_cast<char>('0' + value % 10);
@@ -49,7 +64,7 @@ int number(std::string_view digits)
 
 } // namespace
 
-std::optional<std::string> dateText(Instant instant)
+std::optional<std::array<char, dateLength>> dateText(Instant instant)
 {
     using namespace std::chrono;
     const auto seconds = floor<std::chrono::seconds>(instant);
@@ -58,7 +73,8 @@ std::optional<std::string> dateText(Instant instant)
         return std::nullopt;
     const year_month_day date(day);
     const hh_mm_ss time(seconds - day);
-    std::string text(datePattern);
+    std::array<char, dateLength> text{};
+    std::ranges::copy(datePattern, text.begin());
     setNumber(text, 0, 4, static_cast<int>(date.year()));
     setNumber(text, 5, 2, static_cast<int>(static_cast<unsigned>(date.month())));
     setNumber(text, 8, 2, static_cast<int>(static_cast<unsigned>(date.day())));
@@ -86,9 +102,38 @@ std::optional<Instant> dateFromText(std::string_view text)
 
 std::optional<QUuid> uuidFromText(std::string_view text)
 {
-    if (!matches(text, uuidPattern))
+    if (text.size() != uuidLength)
         return std::nullopt;
-    return QUuid::fromString(QLatin1String(text.data(), static_cast<qsizetype>(text.size())));
+    std::array<std::uint8_t, 16> bytes{};
+    std::size_t digits = 0;
+    for (std::size_t i = 0; i < uuidLength; ++i) {
+        if (isHyphenOfUuid(i)) {
+            if (text[i] != '-')
+                return std::nullopt;
+            continue;
+        }
+        const std::uint8_t value = hexValues[static_cast<std::uint8_t>(text[i])];
+        if (value == noHexDigit)
+            return std::nullopt;
+        bytes[digits / 2] = static_cast<std::uint8_t>(bytes[digits / 2] << 4 | value);
+        ++digits;
+    }
+    return QUuid::fromRfc4122(QByteArrayView(bytes.data(), qsizetype(bytes.size())));
+}
+
+std::array<char, uuidLength> uuidText(const QUuid& id)
+{
+    static constexpr std::string_view digits = "0123456789ABCDEF";
+    const QByteArray bytes = id.toRfc4122();
+    std::array<char, uuidLength> text{};
+    std::size_t at = 0;
+    for (const char byte : bytes) {
+        if (isHyphenOfUuid(at))
+            text[at++] = '-';
+        text[at++] = digits[static_cast<std::uint8_t>(byte) >> 4];
+        text[at++] = digits[static_cast<std::uint8_t>(byte) & 0xf];
+    }
+    return text;
 }
 
 } // namespace abissora::json
