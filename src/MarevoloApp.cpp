@@ -26,17 +26,18 @@
 namespace abissora {
 
 MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories& directories, const Product& product,
-                         HttpClient& http, WritePermission& permission)
+                         HttpClient& http, WritePermission& permission, const RegisterAhead& ahead)
     : m_application(application)
     , m_directories(directories)
     , m_product(product)
     , m_almanac{m_clock, m_calendar, DateFormat(DateFormat::userLocale(), m_calendar)}
     , m_generations(directories, m_clock, m_calendar, m_console, permission)
-    , m_preferences(directories.preferences(), m_generations)
+    , m_preferences(directories.preferences(), m_generations, [ahead](const QString& path) { return ahead.read(path); })
     , m_archive(directories, m_clock, permission)
     , m_documents(directories.maintenanceDocuments(), m_archive, m_filePanel, m_work, m_ids, m_console)
-    , m_equipment(StorageManager(m_preferences, m_console, m_clock, m_calendar, m_ids), m_documents, m_console, m_clock,
-                  m_calendar)
+    , m_equipment(StorageManager(m_preferences, m_console, m_clock, m_calendar, m_ids,
+                                 [ahead](const QByteArray& bytes) { return ahead.decoded(bytes); }),
+                  m_documents, m_console, m_clock, m_calendar)
     , m_settings(m_preferences, m_console)
     , m_types(m_preferences, m_symbols, m_console, m_ids)
     , m_info(m_package, m_clock, m_calendar)

@@ -14,6 +14,7 @@
 #include "Generations.h"
 #include "LookedAtStates.h"
 #include "MaintenanceDocumentStore.h"
+#include "RegisterAhead.h"
 #include "SaveRetry.h"
 #include "ScreenFactory.h"
 #include "SettingsViewModel.h"
@@ -36,10 +37,10 @@ class MarevoloApp : public QObject, private ScreenFactory
     Q_OBJECT
 
 public:
-    /// Everything passed by reference must outlive it, except the directories and the product. Loads the register and
-    /// the types.
+    /// Everything passed by reference must outlive it, except the directories, the product and what was read ahead.
+    /// Loads the register and the types.
     MarevoloApp(QApplication& application, const ApplicationDirectories& directories, const Product& product,
-                HttpClient& http, WritePermission& permission);
+                HttpClient& http, WritePermission& permission, const RegisterAhead& ahead = {});
     ~MarevoloApp() override;
 
     /// Shows the main window at the first call, which begins the check for updates if the person wants one at start,

@@ -13,6 +13,7 @@
 #include "SettingsViewModel.h"
 #include "SingleInstance.h"
 #include "Snapshot.h"
+#include "StateFiles.h"
 #include "Theme.h"
 
 #include <QApplication>
@@ -148,7 +149,17 @@ bool wantsToTryAgain(QApplication& application, const ApplicationDirectories& di
     return alert.result() == QDialog::Accepted;
 }
 
-int run(QApplication& application, const CommandLine& commandLine, const Product& product, HttpClient& http)
+/// Begun before the toolkit is: both take their time, and neither waits for the other.
+RegisterAhead registerAhead(const QStringList& arguments)
+{
+    const auto commandLine = CommandLine::parse(arguments); // fails where an argument is the toolkit's
+    if (!commandLine)
+        return {};
+    return RegisterAhead(directoriesFor(*commandLine).preferences() + u'/' + registerKey + ".json"_L1);
+}
+
+int run(QApplication& application, const CommandLine& commandLine, const Product& product, HttpClient& http,
+        const RegisterAhead& ahead)
 {
     const ApplicationDirectories directories = directoriesFor(commandLine);
     const bool drawsToFile = !commandLine.snapshot.isEmpty();
@@ -168,7 +179,7 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
         return drawsToFile ? EXIT_FAILURE : EXIT_SUCCESS;
     }
 
-    Session session(application, directories, product, http, lock);
+    Session session(application, directories, product, http, lock, ahead);
     QObject::connect(&instance, &SingleInstance::activationRequested, &session, &Session::showMainWindow);
     QObject::connect(&instance, &SingleInstance::wished, &session, [&session](const QString& word) {
         if (const auto theirs = CommandLine::wishFor(word))
@@ -216,6 +227,7 @@ int runProgram(int argc, char** argv, Product product, const OpenUpdateSource& o
     QCoreApplication::setApplicationName(u"abissora"_s);
     QGuiApplication::setDesktopFileName(QStringLiteral(ABISSORA_APPLICATION_ID));
     qInstallMessageHandler(explainMissingDisplay);
+    const RegisterAhead ahead = registerAhead(arguments);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
     QTranslator translator;
@@ -231,10 +243,10 @@ int runProgram(int argc, char** argv, Product product, const OpenUpdateSource& o
     const std::optional<UpdateSource> updates = openUpdateSource();
     if (!updates) {
         NoHttpClient nobody;
-        return run(application, *commandLine, product, nobody);
+        return run(application, *commandLine, product, nobody, ahead);
     }
     product.manifestURL = updates->manifestURL;
-    const int status = run(application, *commandLine, product, *updates->http);
+    const int status = run(application, *commandLine, product, *updates->http, ahead);
     if (updates->isBusy())
         endAtOnce(status);
     return status;

@@ -11,7 +11,7 @@
 namespace abissora {
 
 Session::Session(QApplication& application, ApplicationDirectories directories, Product product, HttpClient& http,
-                 FolderLock& lock)
+                 FolderLock& lock, const RegisterAhead& ahead)
     : m_application(application)
     , m_directories(std::move(directories))
     , m_product(std::move(product))
@@ -19,7 +19,7 @@ Session::Session(QApplication& application, ApplicationDirectories directories, 
     , m_lock(lock)
 {
     clearUpAfterOthers();
-    create();
+    create(ahead);
 }
 
 Session::~Session() = default;
@@ -60,9 +60,9 @@ void Session::clearUpAfterOthers()
     clearUp(m_directories, generations);
 }
 
-void Session::create()
+void Session::create(const RegisterAhead& ahead)
 {
-    m_app = std::make_unique<MarevoloApp>(m_application, m_directories, m_product, m_http, m_lock);
+    m_app = std::make_unique<MarevoloApp>(m_application, m_directories, m_product, m_http, m_lock, ahead);
     // Later: what asked for it is still at work.
     connect(m_app.get(), &MarevoloApp::restored, this, &Session::renew, Qt::QueuedConnection);
 }

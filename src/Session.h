@@ -6,6 +6,7 @@
 #include "FolderLock.h"
 #include "HttpClient.h"
 #include "Product.h"
+#include "RegisterAhead.h"
 
 #include <QObject>
 #include <memory>
@@ -26,7 +27,7 @@ class Session : public QObject
 public:
     /// Everything passed by reference must outlive it. Clears up after a process that was killed, if it may write.
     Session(QApplication& application, ApplicationDirectories directories, Product product, HttpClient& http,
-            FolderLock& lock);
+            FolderLock& lock, const RegisterAhead& ahead = {});
     ~Session() override;
 
     /// As MarevoloApp's.
@@ -38,7 +39,7 @@ public:
 
 private:
     void clearUpAfterOthers();
-    void create();
+    void create(const RegisterAhead& ahead = {});
     void renew();
 
     QApplication& m_application;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PreferencesStore.h"
 
-#include "AtomicFile.h"
 #include "Literals.h"
 
 #include <algorithm>
@@ -44,9 +43,10 @@ QByteArray encoded(const json& value)
 
 } // namespace
 
-PreferencesStore::PreferencesStore(QString folder, StateKeeper& keeper)
+PreferencesStore::PreferencesStore(QString folder, StateKeeper& keeper, Read read)
     : m_folder(std::move(folder))
     , m_keeper(keeper)
+    , m_read(std::move(read))
 {}
 
 QString PreferencesStore::path(const QString& key) const
@@ -60,7 +60,7 @@ IoResult<std::optional<QByteArray>> PreferencesStore::data(const QString& key) c
         return failure(EINVAL);
     // Before the bytes: what changes while they are read then counts as changed.
     m_known.insert(key, FileIdentity::of(path(key)));
-    auto bytes = AtomicFile::read(path(key));
+    auto bytes = m_read(path(key));
     if (bytes)
         return std::optional(*std::move(bytes));
     if (bytes.error() == IoError::fromErrno(ENOENT))

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "AtomicFile.h"
 #include "FileIdentity.h"
 #include "StateKeeper.h"
 
@@ -17,8 +18,11 @@ namespace abissora {
 class PreferencesStore
 {
 public:
+    /// How a file is read: as AtomicFile::read() does.
+    using Read = std::function<IoResult<QByteArray>(const QString& path)>;
+
     /// The folder need not exist; the first write creates it. `keeper` must outlive the store.
-    PreferencesStore(QString folder, StateKeeper& keeper);
+    PreferencesStore(QString folder, StateKeeper& keeper, Read read = AtomicFile::read);
 
     /// The stored bytes as they are on the disk at the moment of the call; nothing when the key is absent.
     [[nodiscard]] IoResult<std::optional<QByteArray>> data(const QString& key) const;
@@ -66,6 +70,7 @@ private:
 
     QString m_folder;
     StateKeeper& m_keeper;
+    Read m_read;
     std::function<void()> m_whenPending;
     QHash<QString, Pending> m_pending;
     QHash<QString, Occasion> m_toKeep;                           ///< by key, before it is overwritten

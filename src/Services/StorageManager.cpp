@@ -58,12 +58,13 @@ QList<Equipment> sampleEquipment(Instant now, const Calendar& calendar, IdGenera
 } // namespace
 
 StorageManager::StorageManager(PreferencesStore& userDefaults, Console& console, const Clock& clock, Calendar calendar,
-                               IdGenerator& ids)
+                               IdGenerator& ids, Decode decode)
     : m_userDefaults(userDefaults)
     , m_console(console)
     , m_clock(clock)
     , m_calendar(std::move(calendar))
     , m_ids(ids)
+    , m_decode(std::move(decode))
 {}
 
 void StorageManager::saveEquipment(const QList<Equipment>& equipment, Occasion occasion)
@@ -84,7 +85,7 @@ QList<Equipment> StorageManager::loadEquipment()
         return giveUpLoading(stored.error().reason);
     if (!*stored)
         return sampleEquipment(m_clock.now(), m_calendar, m_ids);
-    auto decoded = readEquipment(**stored);
+    auto decoded = m_decode(**stored);
     if (!decoded)
         return giveUpLoading(decoded.error().description());
     if (decoded->hasUnknownMembers)

@@ -18,9 +18,12 @@ class StorageManager
 public:
     static inline const QString equipmentKey = registerKey;
 
+    /// How stored bytes are decoded: as readEquipment() does.
+    using Decode = std::function<tl::expected<Decoded<Equipment>, JsonError>(const QByteArray&)>;
+
     /// Everything passed by reference must outlive it.
     StorageManager(PreferencesStore& userDefaults, Console& console, const Clock& clock, Calendar calendar,
-                   IdGenerator& ids);
+                   IdGenerator& ids, Decode decode = readEquipment);
 
     /// Replaces the stored list. After a failure the stored list is what it was, and the new one is pending in the
     /// preferences store. `occasion` tells what the new list lacks.
@@ -40,6 +43,7 @@ private:
     const Clock& m_clock;
     Calendar m_calendar;
     IdGenerator& m_ids;
+    Decode m_decode;
     EquipmentEncoder m_encoder;
     bool m_hasLoadedStored = false;
 };

@@ -4,6 +4,13 @@
 #include "Literals.h"
 #include "RecordReader.h"
 #include "RecordWriter.h"
+#include "RegisterParts.h"
+
+#include <algorithm>
+#include <future>
+#include <system_error>
+#include <thread>
+#include <vector>
 
 namespace abissora {
 
@@ -41,6 +48,51 @@ tl::expected<Decoded<Record>, JsonError> read(const QByteArray& text)
     return decoded;
 }
 
+/// A part of a long list takes so many bytes at least: less is not worth a thread.
+constexpr qsizetype leastPart = qsizetype{128} * 1024;
+constexpr qsizetype mostParts = 4;
+
+using Part = tl::expected<Decoded<Equipment>, JsonError>;
+
+Part readPart(QByteArrayView elements)
+{
+    Decoded<Equipment> decoded;
+    json::ReadNotes notes;
+    if (auto error = json::readElementsInto(&decoded.records, json::SlotOf<QList<Equipment>>::slot, elements, &notes))
+        return tl::unexpected(std::move(*error));
+    decoded.hasUnknownMembers = notes.unknownMembers;
+    return decoded;
+}
+
+Part joined(Part first, Part second)
+{
+    if (!first || !second)
+        return first ? second : first;
+    first->records.append(std::move(second->records));
+    first->hasUnknownMembers = first->hasUnknownMembers || second->hasUnknownMembers;
+    return first;
+}
+
+/// An error when there is one part only, when one cannot be read, which then may be none, or when no thread can be had.
+Part readInParts(const QByteArray& json)
+{
+    const auto processors = static_cast<qsizetype>(std::thread::hardware_concurrency());
+    const auto parts = json::partsOf(json, std::min({mostParts, processors, json.size() / leastPart}));
+    if (parts.size() < 2)
+        return tl::unexpected(JsonError());
+    try {
+        std::vector<std::future<Part>> others;
+        for (const QByteArrayView part : parts.sliced(1))
+            others.push_back(std::async(std::launch::async, readPart, part));
+        Part whole = readPart(parts.first());
+        for (auto& other : others)
+            whole = joined(std::move(whole), other.get());
+        return whole;
+    } catch (const std::system_error&) {
+        return tl::unexpected(JsonError());
+    }
+}
+
 template <typename Record>
 Salvaged<Record> salvage(const QByteArray& text)
 {
@@ -68,7 +120,7 @@ tl::expected<QByteArray, JsonError> encode(const QList<EquipmentTypeModel>& type
 
 tl::expected<QList<Equipment>, JsonError> decodeEquipment(const QByteArray& json)
 {
-    return decode<QList<Equipment>>(json);
+    return readEquipment(json).map([](Decoded<Equipment>&& decoded) { return std::move(decoded.records); });
 }
 
 tl::expected<QList<EquipmentTypeModel>, JsonError> decodeTypes(const QByteArray& json)
@@ -78,6 +130,8 @@ tl::expected<QList<EquipmentTypeModel>, JsonError> decodeTypes(const QByteArray&
 
 tl::expected<Decoded<Equipment>, JsonError> readEquipment(const QByteArray& json)
 {
+    if (auto decoded = readInParts(json))
+        return std::move(*decoded);
     return read<Equipment>(json);
 }
 

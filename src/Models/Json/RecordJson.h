@@ -42,6 +42,7 @@ struct Decoded
     bool hasUnknownMembers = false;
 };
 
+/// A long register is read in parts at the same time.
 [[nodiscard]] tl::expected<Decoded<Equipment>, JsonError> readEquipment(const QByteArray& json);
 [[nodiscard]] tl::expected<Decoded<EquipmentTypeModel>, JsonError> readTypes(const QByteArray& json);
 

@@ -240,6 +240,10 @@ struct ReadNotes
 [[nodiscard]] std::optional<JsonError> readInto(void* target, const Slot& slot, const QByteArray& json,
                                                 ReadNotes* notes = nullptr);
 
+/// As if the elements stood between brackets.
+[[nodiscard]] std::optional<JsonError> readElementsInto(void* target, const Slot& slot, QByteArrayView elements,
+                                                        ReadNotes* notes = nullptr);
+
 /// Parses a list as far as it goes and leaves out the elements that cannot be read. Gives the number of all elements
 /// begun; `errors` takes up to a thousand of what was wrong.
 [[nodiscard]] qsizetype salvageInto(void* target, const Slot& slot, const QByteArray& json, QList<JsonError>& errors);
