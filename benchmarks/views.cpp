@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 // abissora-view-benchmark: how long the main window takes to paint and to follow, without a screen. Ratios as in
 // abissora-benchmark. Build it with the preset "release" and run it with QT_QPA_PLATFORM=offscreen.
+//
+//   abissora-view-benchmark [window|history|overview|paper]...
 #include "ContentView.h"
 #include "EquipmentTableView.h"
+#include "ListPage.h"
 #include "Literals.h"
 #include "MainWindow.h"
 #include "PagePainter.h"
@@ -58,6 +61,42 @@ void measureMainWindow(const Report& report, QApplication& application, test::Sh
         settle();
         search.clear();
         settle();
+    });
+}
+
+/// Selecting an item with a long history in the list, and going through that.
+void measureHistory(const Report& report)
+{
+    const test::FixedClock clock;
+    QList<Equipment> equipment = registerOf(300, clock.now());
+    for (int i = 0; i < 496; ++i) {
+        Maintenance record = equipment.at(i % 300).maintenanceHistory.at(i % 4);
+        record.id = QUuid::createUuidV5(QUuid(), QString::number(i));
+        if (i % 3 == 0)
+            record.description += u", sostituiti O-ring, molle e membrana del secondo stadio"_s;
+        equipment[0].maintenanceHistory.append(record);
+    }
+    test::ShellFixture fixture(equipment);
+    MainWindow window(fixture, fixture.equipment, fixture.directories.windowStateFile());
+    window.resize(1280, 800);
+    window.show();
+    settle();
+    ListPage& page = *window.findChild<ListPage*>();
+    page.setSelectedEquipment(equipment.at(1));
+    settle();
+    report.measure("item of 500 records selected, and one of 4, both painted", 21, [&] {
+        page.setSelectedEquipment(equipment.at(0));
+        settle();
+        page.setSelectedEquipment(equipment.at(1));
+        settle();
+    });
+    page.setSelectedEquipment(equipment.at(0));
+    settle();
+    auto& area = *window.findChild<EquipmentDetailView*>()->findChild<QScrollArea*>();
+    auto& bar = *area.verticalScrollBar();
+    report.measure("history of 500 records scrolled by a wheel notch, one frame", 101, [&] {
+        bar.setValue((bar.value() + 60) % bar.maximum());
+        area.viewport()->repaint();
     });
 }
 
@@ -121,18 +160,30 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     applyTheme(application, Scheme::Light);
-    test::ShellFixture fixture(registerOf(10'000, test::FixedClock().now()));
+    const QStringList groups = QCoreApplication::arguments().mid(1);
+    const auto wants = [&groups](const QString& group) { return groups.isEmpty() || groups.contains(group); };
     const Report report(medianOf(51, reference));
-    measureMainWindow(report, application, fixture);
-    measureOverview(report, fixture,
-                    {"overview opened, 10,000 items, about half of them due", "overview redrawn, 10,000 items",
-                     "overview scrolled by a page, 10,000 items, one frame",
-                     "overview scrolled from end to end, 10,000 items, one frame", "statistics opened, 10,000 items"});
-    measurePaper(report, fixture);
-    test::ShellFixture small(registerOf(300, test::FixedClock().now()));
-    measureOverview(report, small,
-                    {"overview opened, 300 items, about half of them due", "overview redrawn, 300 items",
-                     "overview scrolled by a page, 300 items, one frame",
-                     "overview scrolled from end to end, 300 items, one frame", "statistics opened, 300 items"});
+    if (wants(u"history"_s))
+        measureHistory(report);
+    if (!wants(u"window"_s) && !wants(u"overview"_s) && !wants(u"paper"_s))
+        return 0;
+
+    test::ShellFixture fixture(registerOf(10'000, test::FixedClock().now()));
+    if (wants(u"window"_s))
+        measureMainWindow(report, application, fixture);
+    if (wants(u"overview"_s)) {
+        measureOverview(report, fixture,
+                        {"overview opened, 10,000 items, about half of them due", "overview redrawn, 10,000 items",
+                         "overview scrolled by a page, 10,000 items, one frame",
+                         "overview scrolled from end to end, 10,000 items, one frame",
+                         "statistics opened, 10,000 items"});
+        test::ShellFixture small(registerOf(300, test::FixedClock().now()));
+        measureOverview(report, small,
+                        {"overview opened, 300 items, about half of them due", "overview redrawn, 300 items",
+                         "overview scrolled by a page, 300 items, one frame",
+                         "overview scrolled from end to end, 300 items, one frame", "statistics opened, 300 items"});
+    }
+    if (wants(u"paper"_s))
+        measurePaper(report, fixture);
     return 0;
 }

@@ -2,6 +2,7 @@
 #include "Labels.h"
 
 #include "Literals.h"
+#include "WordWidths.h"
 
 #include <QEvent>
 #include <QHelpEvent>
@@ -33,9 +34,14 @@ int layOut(QTextLayout& layout, const QLabel& label, int width)
     return qCeil(height);
 }
 
-QString lines(QString text)
+QString withLineSeparators(QString text)
 {
     return text.replace(u'\n', QChar::LineSeparator);
+}
+
+QString inOneLine(QString text)
+{
+    return text.replace(u'\n', u' ');
 }
 
 } // namespace
@@ -66,13 +72,49 @@ void InkLabel::dress()
     setPalette(own);
 }
 
+/// Shaping takes longer than painting, and a label is painted again and again.
+struct WrapLabel::Lines
+{
+    explicit Lines(const WrapLabel& label)
+        : text(label.text())
+        , width(label.width())
+        , alignment(label.alignment())
+        , direction(label.layoutDirection())
+        , layout(withLineSeparators(text), label.font())
+        , height(layOut(layout, label, width))
+    {}
+
+    [[nodiscard]] bool areThoseOf(const WrapLabel& label) const
+    {
+        return text == label.text() && width == label.width() && alignment == label.alignment() &&
+               direction == label.layoutDirection() && layout.font() == label.font();
+    }
+
+    QString text;
+    int width;
+    Qt::Alignment alignment;
+    Qt::LayoutDirection direction;
+    QTextLayout layout;
+    int height;
+};
+
 WrapLabel::WrapLabel(TextStyle style, Ink ink, const QString& text, QWidget* parent)
     : InkLabel(style, ink, text, parent)
 {
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+    m_words = WordWidths::of(font());
 }
+
+void WrapLabel::changeEvent(QEvent* event)
+{
+    InkLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        m_words = WordWidths::of(font());
+}
+
+WrapLabel::~WrapLabel() = default;
 
 QSize WrapLabel::sizeHint() const
 {
@@ -85,33 +127,48 @@ QSize WrapLabel::minimumSizeHint() const
     return {fontMetrics().averageCharWidth() * 4, fontMetrics().height()};
 }
 
-int WrapLabel::heightForWidth(int width) const
+std::optional<int> WrapLabel::linesOf(const QString& text, int width) const
 {
-    QTextLayout layout(lines(text()), font());
-    return std::max(layOut(layout, *this, width), fontMetrics().height());
+    return m_words->linesOf(text, width);
+}
+
+int WrapLabel::heightOf(const QString& text, int width) const
+{
+    const int least = fontMetrics().height();
+    if (const auto count = m_words->linesOf(text, width))
+        return std::max(qCeil(*count * m_words->lineHeight()), least);
+    QTextLayout layout(withLineSeparators(text), font());
+    return std::max(layOut(layout, *this, width), least);
+}
+
+const WrapLabel::Lines& WrapLabel::lines()
+{
+    if (!m_lines || !m_lines->areThoseOf(*this))
+        m_lines = std::make_unique<Lines>(*this);
+    return *m_lines;
 }
 
 void WrapLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
-    QTextLayout layout(lines(text()), font());
-    const int tall = layOut(layout, *this, width());
-    layout.draw(&painter, QPointF(0, alignment() & Qt::AlignTop ? 0 : (height() - tall) / 2.0));
+    const Lines& shown = lines();
+    const qreal top = alignment() & Qt::AlignTop ? 0 : (height() - shown.height) / 2.0;
+    shown.layout.draw(&painter, QPointF(0, top));
 }
 
 ElidedLabel::ElidedLabel(TextStyle style, Ink ink, QWidget* parent)
     : InkLabel(style, ink, {}, parent)
 {}
 
-QString ElidedLabel::line() const
+int ElidedLabel::mostWidthOf(const QString& text) const
 {
-    return text().replace(u'\n', u' ');
+    return qCeil(WordWidths::of(font())->mostWidthOf(inOneLine(text)));
 }
 
 QSize ElidedLabel::sizeHint() const
 {
-    return {fontMetrics().horizontalAdvance(line()) + 1, fontMetrics().height()};
+    return {fontMetrics().horizontalAdvance(inOneLine(text())) + 1, fontMetrics().height()};
 }
 
 QSize ElidedLabel::minimumSizeHint() const
@@ -136,7 +193,7 @@ void ElidedLabel::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
     painter.drawText(rect(), Qt::AlignLeading | Qt::AlignVCenter | Qt::TextSingleLine,
-                     fontMetrics().elidedText(line(), Qt::ElideRight, width()));
+                     fontMetrics().elidedText(inOneLine(text()), Qt::ElideRight, width()));
 }
 
 QString toolTipText(const QString& text)

@@ -5,8 +5,11 @@
 #include "TypeScale.h"
 
 #include <QLabel>
+#include <memory>
 
 namespace abissora {
+
+class WordWidths;
 
 /// A plain-text label in one step of the type scale and one colour of the tokens, following the scheme and the text
 /// size.
@@ -37,14 +40,27 @@ class WrapLabel : public InkLabel
 
 public:
     WrapLabel(TextStyle style, Ink ink, const QString& text = {}, QWidget* parent = nullptr);
+    ~WrapLabel() override;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
     [[nodiscard]] bool hasHeightForWidth() const override { return true; }
-    [[nodiscard]] int heightForWidth(int width) const override;
+    [[nodiscard]] int heightForWidth(int width) const override { return heightOf(text(), width); }
+    /// How high the label is with another text.
+    [[nodiscard]] int heightOf(const QString& text, int width) const;
+    /// In how many lines it breaks another text; nothing when only a layout can tell.
+    [[nodiscard]] std::optional<int> linesOf(const QString& text, int width) const;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    struct Lines;
+    [[nodiscard]] const Lines& lines();
+
+    std::shared_ptr<WordWidths> m_words;
+    std::unique_ptr<Lines> m_lines; ///< as they were painted last
 };
 
 /// One line that gives way: what does not fit is read in the tool tip and, in full, by screen readers.
@@ -57,13 +73,12 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
+    /// It wants to be at most as wide with another text.
+    [[nodiscard]] int mostWidthOf(const QString& text) const;
 
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    [[nodiscard]] QString line() const;
 };
 
 /// The text as a tool tip that shows it as it is: a tool tip would take "<b>" for markup.

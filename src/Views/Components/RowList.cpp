@@ -7,7 +7,6 @@
 #include "Tokens.h"
 
 #include <QAbstractButton>
-#include <QHash>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QPainter>
@@ -142,17 +141,19 @@ void RowList::measure()
         m_ruler = makeRow();
         m_ruler->hide();
         m_usualHeight = heightOf(*m_ruler);
+        m_measuredWidth = -1;
     }
-    m_measuredWidth = width();
+    if (std::exchange(m_measuredWidth, width()) != width())
+        m_heights = {{QString(), m_usualHeight}};
     m_tops.resize(m_ids.size() + 1);
     m_tops.first() = m_layout.border;
     for (qsizetype i = 0; i < m_ids.size(); ++i) {
-        int height = m_usualHeight;
-        if (!isOfUsualHeight(*m_ruler, i)) {
+        const QString shape = shapeOf(*m_ruler, i);
+        if (!m_heights.contains(shape)) {
             fillRow(*m_ruler, i);
-            height = heightOf(*m_ruler);
+            m_heights.insert(shape, heightOf(*m_ruler));
         }
-        m_tops[i + 1] = m_tops.at(i) + height + m_layout.gap;
+        m_tops[i + 1] = m_tops.at(i) + m_heights.value(shape) + m_layout.gap;
     }
     setFixedHeight(std::max(0, m_tops.last() - m_layout.gap + m_layout.border));
     arrange();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QHash>
 #include <QUuid>
 #include <map>
 #include <vector>
@@ -16,7 +17,7 @@ namespace abissora {
 /// thousands of items as if every row were there. Rows that leave come back for other items.
 ///
 /// Every height is exact from the start, so that nothing jumps when rows come in sight: a row that is never shown
-/// measures the items whose rows are not of the usual height, again whenever items, width or text size change.
+/// measures one item of each shape, again when width or text size change.
 class RowList : public QFrame
 {
     Q_OBJECT
@@ -52,8 +53,9 @@ protected:
     /// A child of this without an item. What takes the focus in it are buttons.
     virtual QWidget* makeRow() = 0;
     virtual void fillRow(QWidget& row, qsizetype index) = 0;
-    /// Whether the item's row is as high as one without an item; cheaper to answer than to measure.
-    [[nodiscard]] virtual bool isOfUsualHeight(const QWidget& /*ruler*/, qsizetype /*index*/) const { return true; }
+    /// What the height of the item's row depends on, the width apart: items of one shape have rows of one height, of
+    /// the empty shape as high as a row without an item. Cheaper to tell than to measure.
+    [[nodiscard]] virtual QString shapeOf(const QWidget& /*ruler*/, qsizetype /*index*/) const { return {}; }
     /// Other rows exist, or in another order.
     virtual void rowsChanged() {}
 
@@ -97,6 +99,7 @@ private:
     QWidget* m_lastFocused = nullptr; ///< the row, whoever has the focus now
     QWidget* m_ruler = nullptr;
     int m_usualHeight = 0;
+    QHash<QString, int> m_heights; ///< by shape, at the measured width
     int m_measuredWidth = 0;
     bool m_isFilling = false;
 };

@@ -51,7 +51,10 @@ private:
         row.setObjectName(u"maintenance%1"_s.arg(index));
         static_cast<MaintenanceRow&>(row).setRow(m_content.at(index));
     }
-    [[nodiscard]] bool isOfUsualHeight(const QWidget& /*ruler*/, qsizetype /*index*/) const override { return false; }
+    [[nodiscard]] QString shapeOf(const QWidget& ruler, qsizetype index) const override
+    {
+        return static_cast<const MaintenanceRow&>(ruler).shapeOf(m_content.at(index), width());
+    }
 
     MaintenanceHistory& m_history;
     QList<MaintenanceRowContent> m_content;

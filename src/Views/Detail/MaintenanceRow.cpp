@@ -125,6 +125,20 @@ void MaintenanceRow::setRow(const MaintenanceRowContent& row)
     m_certificate->setPresent(row.hasCertificate);
 }
 
+QString MaintenanceRow::shapeOf(const MaintenanceRowContent& row, int width) const
+{
+    const int textsWidth = width - m_tile->sizeHint().width() - metrics::spaceM;
+    const int costWidth =
+        row.cost.isEmpty() ? 0 : metrics::spaceS + std::min(m_cost->mostWidthOf(row.cost), m_cost->maximumWidth());
+    // Where the type has no room beside the cost, what each of them gets is the layout's business.
+    const bool hasRoom = m_type->linesOf(row.typeName, textsWidth - costWidth) == 1;
+    const QString head = hasRoom ? QString() : row.typeName + u'\n' + row.cost;
+    return u"%1 %2 %3%4%5 %6"_s.arg(QString::number(m_description->heightOf(row.description, textsWidth)),
+                                    QString::number(m_dateAndPerformer->heightOf(row.dateAndPerformer, textsWidth)),
+                                    QString::number(int(row.isCompleted)), QString::number(int(row.hasReceipt)),
+                                    QString::number(int(row.hasCertificate)), head);
+}
+
 void MaintenanceRow::takeFocus()
 {
     m_edit->setFocus(Qt::OtherFocusReason);

@@ -24,6 +24,8 @@ public:
     explicit MaintenanceRow(QWidget* parent = nullptr);
 
     void setRow(const MaintenanceRowContent& row);
+    /// Rows of one shape are equally high at this width, which this row need not have.
+    [[nodiscard]] QString shapeOf(const MaintenanceRowContent& row, int width) const;
     /// On the first of its buttons.
     void takeFocus();
 

@@ -102,10 +102,10 @@ void StateList::fillRow(QWidget& widget, qsizetype index)
     row.button().setChosen(index == m_chosen);
 }
 
-bool StateList::isOfUsualHeight(const QWidget& ruler, qsizetype index) const
+QString StateList::shapeOf(const QWidget& ruler, qsizetype index) const
 {
     m_measuring = &ruler;
-    return m_content.groupTitleAbove(index).isEmpty();
+    return m_content.groupTitleAbove(index);
 }
 
 qsizetype StateList::indexOf(const StateRow& row) const

@@ -39,7 +39,7 @@ private:
 
     QWidget* makeRow() override;
     void fillRow(QWidget& row, qsizetype index) override;
-    [[nodiscard]] bool isOfUsualHeight(const QWidget& ruler, qsizetype index) const override;
+    [[nodiscard]] QString shapeOf(const QWidget& ruler, qsizetype index) const override;
     [[nodiscard]] qsizetype indexOf(const StateRow& row) const;
 
     const RestoreContent& m_content;

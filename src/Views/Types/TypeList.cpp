@@ -43,9 +43,10 @@ void TypeList::fillRow(QWidget& row, qsizetype index)
     static_cast<TypeRow&>(row).setType(m_types.at(index));
 }
 
-bool TypeList::isOfUsualHeight(const QWidget& ruler, qsizetype index) const
+QString TypeList::shapeOf(const QWidget& ruler, qsizetype index) const
 {
-    return static_cast<const TypeRow&>(ruler).showsInOneLine(m_types.at(index).name, width());
+    const QString& name = m_types.at(index).name;
+    return static_cast<const TypeRow&>(ruler).showsInOneLine(name, width()) ? QString() : name;
 }
 
 void TypeList::rowsChanged()

@@ -31,7 +31,7 @@ private:
 
     QWidget* makeRow() override;
     void fillRow(QWidget& row, qsizetype index) override;
-    [[nodiscard]] bool isOfUsualHeight(const QWidget& ruler, qsizetype index) const override;
+    [[nodiscard]] QString shapeOf(const QWidget& ruler, qsizetype index) const override;
     void rowsChanged() override;
 
     QScrollArea& m_area;

@@ -60,7 +60,10 @@ struct TextList : RowList
         static_cast<TextRow&>(row).label->setText(texts.at(index));
         row.setAccessibleName(texts.at(index));
     }
-    bool isOfUsualHeight(const QWidget&, qsizetype index) const override { return !texts.at(index).contains(u' '); }
+    QString shapeOf(const QWidget&, qsizetype index) const override
+    {
+        return texts.at(index).contains(u' ') ? texts.at(index) : QString();
+    }
     void rowsChanged() override { ++changes; }
 
     TextRow& row(const QString& text) const

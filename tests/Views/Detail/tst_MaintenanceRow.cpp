@@ -9,8 +9,10 @@
 
 #include <QAccessible>
 #include <QHelpEvent>
+#include <QLayout>
 #include <QSignalSpy>
 #include <QToolTip>
+#include <random>
 
 using namespace abissora;
 using namespace abissora::test;
@@ -161,6 +163,41 @@ private Q_SLOTS:
         QVERIFY(QToolTip::text().contains(row.cost));
         QToolTip::hideText();
         QCOMPARE(QAccessible::queryAccessibleInterface(&cost)->text(QAccessible::Name), row.cost);
+    }
+
+    void rowsOfOneShapeAreEquallyHigh()
+    {
+        static const QStringList types{u"Test"_s, u"Manutenzione Annuale"_s};
+        static const QStringList costs{u""_s, u"€1.00"_s, u"€1234567890123456789.00"_s};
+        static const QStringList texts{u"Primo stadio"_s, u"Sostituiti O-ring, molle e membrana del secondo stadio"_s,
+                                       u"a/b "_s.repeated(30), u""_s, u"Prova idraulica a 300 bar, superata"_s};
+        const MaintenanceRow ruler;
+        MaintenanceRow row;
+        QHash<std::pair<int, QString>, int> heights;
+        std::mt19937 random(4);
+        const auto any = [&random](const QStringList& of) {
+            return of.at(std::uniform_int_distribution<qsizetype>(0, of.size() - 1)(random));
+        };
+        int repeated = 0;
+        for (int i = 0; i < 1500; ++i) {
+            MaintenanceRowContent shown = content();
+            shown.typeName = any(types);
+            shown.cost = any(costs);
+            shown.description = any(texts);
+            shown.dateAndPerformer = any(texts);
+            shown.isCompleted = i % 2 == 0;
+            shown.hasReceipt = i % 3 == 0;
+            shown.hasCertificate = i % 5 == 0;
+            const int width = 220 + 40 * (i % 7);
+            row.setRow(shown);
+            row.layout()->activate();
+            const int height = row.heightForWidth(width);
+            const std::pair key(width, ruler.shapeOf(shown, width));
+            repeated += heights.contains(key) ? 1 : 0;
+            QCOMPARE(heights.value(key, height), height);
+            heights.insert(key, height);
+        }
+        QVERIFY(repeated > 500);
     }
 };
 

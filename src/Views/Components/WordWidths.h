@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFontMetricsF>
+#include <QHash>
+#include <memory>
+#include <optional>
+
+namespace abissora {
+
+/// How wide words are in one font. Laying a text out takes a tenth of a millisecond, and most texts only want to know in
+/// how many lines: the words of a long list come back, and adding up their widths tells it, near the edge excepted.
+class WordWidths
+{
+public:
+    explicit WordWidths(const QFont& font);
+
+    /// The one of this font, for whoever shows texts in it.
+    [[nodiscard]] static std::shared_ptr<WordWidths> of(const QFont& font);
+
+    /// In how many lines of this width a text breaks. Nothing when only its layout can tell: for a line that is full to a
+    /// few pixels, a word longer than a line, signs whose breaks are not those of blanks and hyphens, scripts other than
+    /// Latin, letters that another font lends.
+    [[nodiscard]] std::optional<int> linesOf(QStringView text, int width);
+    /// At least as wide as the text in one line, letters fitted together or not.
+    [[nodiscard]] qreal mostWidthOf(QStringView text);
+    /// Of one line of Latin letters.
+    [[nodiscard]] qreal lineHeight() const { return m_lineHeight; }
+
+private:
+    /// Less than 0 for one with letters that the font does not have.
+    [[nodiscard]] qreal widthOf(QStringView word);
+
+    QFontMetricsF m_metrics;
+    qreal m_lineHeight;
+    qreal m_blank;
+    QHash<QString, qreal> m_widths;
+};
+
+} // namespace abissora
