@@ -9,8 +9,8 @@ namespace abissora::benchmark {
 
 struct Run
 {
-    Duration time{};     ///< from its start to its end
-    double memory = 0;   ///< the most that was resident, in MB
+    Duration time{};   ///< from its start to its end
+    double memory = 0; ///< the most that was resident, in MB
 };
 
 /// Runs a program to its end, without what it prints. Ends this one when that fails.

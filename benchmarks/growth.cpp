@@ -33,10 +33,10 @@ struct Column
 
 const QStringList& rows()
 {
-    static const QStringList titles{u"start to the first frame"_s, u"memory"_s,
-                                    u"a letter typed into the search"_s, u"one change stored"_s,
-                                    u"overview opened"_s, u"table of items exported"_s,
-                                    u"table of items imported"_s};
+    static const QStringList titles{
+        u"start to the first frame"_s, u"memory"_s,          u"a letter typed into the search"_s,
+        u"one change stored"_s,        u"overview opened"_s, u"table of items exported"_s,
+        u"table of items imported"_s};
     return titles;
 }
 

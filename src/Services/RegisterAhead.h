@@ -8,9 +8,9 @@
 
 namespace abissora {
 
-/// A stored register that is read and decoded by threads of its own while the program does something else. What comes of
-/// it is what reading and decoding at the moment of the question would give: a file that has changed since is read anew,
-/// and other bytes are decoded anew. Copies share one piece of work, which is given out once.
+/// A stored register that is read and decoded by threads of its own while the program does something else. What comes
+/// of it is what reading and decoding at the moment of the question would give: a file that has changed since is read
+/// anew, and other bytes are decoded anew. Copies share one piece of work, which is given out once.
 class RegisterAhead
 {
 public:

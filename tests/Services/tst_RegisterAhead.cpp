@@ -76,10 +76,7 @@ private Q_SLOTS:
     }
 
 private:
-    void store(const QList<Equipment>& items)
-    {
-        QVERIFY(AtomicFile::replace(m_path, encode(items).value()));
-    }
+    void store(const QList<Equipment>& items) { QVERIFY(AtomicFile::replace(m_path, encode(items).value())); }
 
     QTemporaryDir m_folder;
     QString m_path = m_folder.filePath(u"savedEquipment.json"_s);

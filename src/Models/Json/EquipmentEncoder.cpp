@@ -47,8 +47,8 @@ void EquipmentEncoder::replace(const QList<Equipment>& equipment, Span span)
     const bool hasBefore = span.first > 0;
     const auto textBegin = [this](qsizetype index) { return m_begins[static_cast<std::size_t>(index)]; };
     // Each item goes with the comma behind it; the last ones, which have none, with the one before them.
-    const qsizetype from = span.first < m_equipment.size() ? textBegin(span.first) - (isLast && hasBefore ? 1 : 0)
-                                                           : m_text.size() - 1;
+    const qsizetype from =
+        span.first < m_equipment.size() ? textBegin(span.first) - (isLast && hasBefore ? 1 : 0) : m_text.size() - 1;
     const qsizetype to = isLast ? m_text.size() - 1 : textBegin(oldEnd);
 
     json::RecordWriter writer;

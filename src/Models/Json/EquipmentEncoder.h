@@ -8,8 +8,8 @@
 namespace abissora {
 
 /// Gives what encode() gives, byte for byte, for one list after another that differs from it in few items: what lies
-/// between the first and the last difference is written anew, the rest is kept from the time before. Holds the last list
-/// and its text.
+/// between the first and the last difference is written anew, the rest is kept from the time before. Holds the last
+/// list and its text.
 class EquipmentEncoder
 {
 public:

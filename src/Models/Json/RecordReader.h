@@ -138,11 +138,10 @@ struct SlotOf<std::int64_t>
 template <>
 struct SlotOf<Instant>
 {
-    static constexpr Slot slot{
-        .expected = "a date such as \"2025-03-14T09:26:53Z\"",
-        .string = [](void* target, const std::string& text, SharedTexts& /*texts*/) {
-            return take(target, dateFromText(text));
-        }};
+    static constexpr Slot slot{.expected = "a date such as \"2025-03-14T09:26:53Z\"",
+                               .string = [](void* target, const std::string& text, SharedTexts& /*texts*/) {
+                                   return take(target, dateFromText(text));
+                               }};
 };
 
 template <>

@@ -74,7 +74,8 @@ void RowTable::currentChanged(const QModelIndex& current, const QModelIndex& pre
         QTableView::currentChanged(current, previous);
     else
         QAbstractItemView::currentChanged(current, previous); // NOLINT(bugprone-parent-virtual-call)
-    viewport()->update(); // the ring goes round whole rows
+    // The ring goes round whole rows.
+    viewport()->update();
     Q_EMIT placeChanged();
 }
 

@@ -11,7 +11,7 @@ namespace abissora {
 
 namespace {
 
-constexpr qsizetype mostWords = 4000;
+constexpr qsizetype mostTexts = 4000;
 constexpr int mostFonts = 32;
 // What letters may be fitted to a blank by, and what rounding adds up to.
 constexpr qreal doubt = 2;
@@ -94,10 +94,11 @@ std::optional<int> WordWidths::linesOf(QStringView text, int width)
         const qsizetype end = endOfWord(text, begin);
         if (end < 0)
             return {};
-        const qreal wide = widthOf(text.sliced(begin, end - begin));
-        begin = end;
-        if (wide < 0)
+        const QStringView word = text.sliced(begin, end - begin);
+        if (!isOfThisFont(word))
             return {};
+        const qreal wide = advance(word);
+        begin = end;
         margin += doubtOfAWord;
         if (used + wide + margin <= width) {
             used += wide;
@@ -115,24 +116,24 @@ std::optional<int> WordWidths::linesOf(QStringView text, int width)
 qreal WordWidths::mostWidthOf(QStringView text)
 {
     qreal wide = doubt;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const qreal own = widthOf(text.sliced(i, 1));
-        wide += (own < 0 ? m_metrics.maxWidth() : own) + doubtOfAWord;
-    }
+    for (qsizetype i = 0; i < text.size(); ++i)
+        wide += advance(text.sliced(i, 1)) + doubtOfAWord;
     return wide;
 }
 
-qreal WordWidths::widthOf(QStringView word)
+qreal WordWidths::advance(QStringView text)
 {
-    if (m_widths.size() > mostWords)
-        m_widths.clear();
-    const QString key = word.toString();
-    const auto known = m_widths.constFind(key);
-    if (known != m_widths.constEnd())
-        return *known;
-    // Letters of another font may be taller, too.
-    const bool isOfThisFont = std::ranges::all_of(word, [this](QChar c) { return m_metrics.inFont(c); });
-    return *m_widths.insert(key, isOfThisFont ? m_metrics.horizontalAdvance(key) : -1);
+    if (m_advances.size() > mostTexts)
+        m_advances.clear();
+    const QString key = text.toString();
+    const auto known = m_advances.constFind(key);
+    return known != m_advances.constEnd() ? *known : *m_advances.insert(key, m_metrics.horizontalAdvance(key));
+}
+
+bool WordWidths::isOfThisFont(QStringView word) const
+{
+    // Letters of another font may be taller, too. Every font has those of ASCII.
+    return std::ranges::all_of(word, [this](QChar c) { return c.unicode() < 0x80 || m_metrics.inFont(c); });
 }
 
 } // namespace abissora

@@ -4,6 +4,7 @@
 #include "Literals.h"
 #include "Metrics.h"
 #include "TypeScale.h"
+#include "WordWidths.h"
 
 #include <QFontMetrics>
 #include <QtMath>
@@ -32,29 +33,33 @@ int advance(const QString& text, const QFontMetrics& metrics)
     return qCeil(QFontMetricsF(metrics).horizontalAdvance(text));
 }
 
-int widest(const QStringList& texts, const QFontMetrics& metrics)
+int advance(const QString& text, WordWidths& widths)
+{
+    return qCeil(widths.advance(text));
+}
+
+int widest(const QStringList& texts, WordWidths& widths)
 {
     int width = 0;
     for (const QString& text : texts)
-        width = std::max(width, advance(text, metrics));
+        width = std::max(width, advance(text, widths));
     return width;
 }
 
 /// The least width at which the text has room in two lines.
-int inTwoLines(const QString& text, const QFontMetrics& metrics)
+int inTwoLines(const QString& text, WordWidths& widths)
 {
-    int width = advance(text, metrics);
-    for (qsizetype space = text.indexOf(u' '); space >= 0; space = text.indexOf(u' ', space + 1)) {
-        width = std::min(width, std::max(advance(text.left(space), metrics), advance(text.mid(space + 1), metrics)));
-    }
+    int width = advance(text, widths);
+    for (qsizetype space = text.indexOf(u' '); space >= 0; space = text.indexOf(u' ', space + 1))
+        width = std::min(width, std::max(advance(text.left(space), widths), advance(text.mid(space + 1), widths)));
     return width;
 }
 
-int widestInTwoLines(const QStringList& texts, const QFontMetrics& metrics)
+int widestInTwoLines(const QStringList& texts, WordWidths& widths)
 {
     int width = 0;
     for (const QString& text : texts)
-        width = std::max(width, inTwoLines(text, metrics));
+        width = std::max(width, inTwoLines(text, widths));
     return width;
 }
 
@@ -121,34 +126,36 @@ int TableColumns::leftPadding(int column)
 
 void TableColumns::measure(const ColumnTexts& texts)
 {
-    const QFontMetrics body(font(TextStyle::Body));
-    const QFontMetrics name(font(TextStyle::BodyMedium));
-    const QFontMetrics caption(font(TextStyle::Caption));
-    const QFontMetrics title(font(TextStyle::CaptionSemibold));
+    // What is measured at every redraw hardly changes.
+    const auto body = WordWidths::of(font(TextStyle::Body));
+    const auto name = WordWidths::of(font(TextStyle::BodyMedium));
+    const auto caption = WordWidths::of(font(TextStyle::Caption));
+    const auto title = WordWidths::of(font(TextStyle::CaptionSemibold));
     QFont dueFont = font(TextStyle::Caption);
     dueFont.setBold(true);
+    const QFontMetrics bodyMetrics(font(TextStyle::Body));
     constexpr int beforeName = typeIconSize + typeIconGap;
-    const int typeName = std::min(widest(texts.typeNames, caption), withText(mostForName, body) / 2);
-    const int remaining = widest(texts.remaining, QFontMetrics(dueFont));
-    const int state = dotSize + dotGap + widest({u"Attivo"_s, u"Inattivo"_s}, caption);
+    const int typeName = std::min(widest(texts.typeNames, *caption), withText(mostForName, bodyMetrics) / 2);
+    const int remaining = widest(texts.remaining, *WordWidths::of(dueFont));
+    const int state = dotSize + dotGap + widest({u"Attivo"_s, u"Inattivo"_s}, *caption);
     const int action = actionIconSize + 2 * metrics::spaceXS;
 
-    const auto bounded = [&](int width, int most) { return std::min(width, withText(most, body)); };
-    const Widths whole{beforeName + std::max(bounded(widest(texts.names, name), mostForName), typeName),
-                       bounded(widest(texts.brands, body), mostForMake),
-                       bounded(widest(texts.models, body), mostForMake),
-                       std::max(widest(texts.abbreviatedDates, body), remaining),
+    const auto bounded = [&](int width, int most) { return std::min(width, withText(most, bodyMetrics)); };
+    const Widths whole{beforeName + std::max(bounded(widest(texts.names, *name), mostForName), typeName),
+                       bounded(widest(texts.brands, *body), mostForMake),
+                       bounded(widest(texts.models, *body), mostForMake),
+                       std::max(widest(texts.abbreviatedDates, *body), remaining),
                        state,
                        action};
-    const Widths wrapped{beforeName + std::max(bounded(widestInTwoLines(texts.names, name), mostForName), typeName),
-                         bounded(widestInTwoLines(texts.brands, body), mostForMake),
-                         bounded(widestInTwoLines(texts.models, body), mostForMake),
+    const Widths wrapped{beforeName + std::max(bounded(widestInTwoLines(texts.names, *name), mostForName), typeName),
+                         bounded(widestInTwoLines(texts.brands, *body), mostForMake),
+                         bounded(widestInTwoLines(texts.models, *body), mostForMake),
                          whole.at(NextServiceColumn),
                          state,
                          action};
-    const Widths least{beforeName + withText(leastForName, body),
-                       withText(leastForMake, body),
-                       withText(leastForMake, body),
+    const Widths least{beforeName + withText(leastForName, bodyMetrics),
+                       withText(leastForMake, bodyMetrics),
+                       withText(leastForMake, bodyMetrics),
                        whole.at(NextServiceColumn),
                        state,
                        action};
@@ -156,13 +163,13 @@ void TableColumns::measure(const ColumnTexts& texts)
         const int column = static_cast<int>(i);
         const int padding = leftPadding(column) + rightPadding;
         const QString heading = EquipmentRow::title(static_cast<EquipmentRow::Column>(column));
-        const int narrowHeading = inTwoLines(heading, title);
+        const int narrowHeading = inTwoLines(heading, *title);
         m_whole.at(i) = std::max(whole.at(i), narrowHeading) + padding;
         m_wrapped.at(i) = std::max(wrapped.at(i), narrowHeading) + padding;
         m_least.at(i) = std::min(m_wrapped.at(i), std::max(least.at(i), narrowHeading) + padding);
-        m_airy.at(i) = std::max(m_whole.at(i), advance(heading, title) + padding) + air;
+        m_airy.at(i) = std::max(m_whole.at(i), advance(heading, *title) + padding) + air;
     }
-    m_wholeDate = std::max(widest(texts.dates, body), remaining) + leftPadding(NextServiceColumn) + rightPadding;
+    m_wholeDate = std::max(widest(texts.dates, *body), remaining) + leftPadding(NextServiceColumn) + rightPadding;
     m_wholeDate = std::max(m_wholeDate, m_whole.at(NextServiceColumn));
     m_airy.at(NextServiceColumn) = std::max(m_airy.at(NextServiceColumn), m_wholeDate + air);
 }

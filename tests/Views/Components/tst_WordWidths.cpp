@@ -26,10 +26,11 @@ int linesWhenLaidOut(const QString& text, const QFont& font, int width)
 
 QString anyText(std::mt19937& random)
 {
-    static const QStringList words{u"Revisione"_s, u"primo"_s,   u"e"_s,        u"stadio,"_s,   u"O-ring"_s, u"(a"_s,
-                                   u"bar)"_s,      u"AVATAR"_s,  u"l'è"_s,      u"€12.50"_s,    u"300"_s,    u"WiTo."_s,
-                                   u"·"_s,         u"perché"_s,  u"sub-acqueo"_s, u"Fl-fi-ffi"_s, u"Tè"_s,    u""_s,
-                                   u"prova/e"_s,   u"2-3"_s,     u"–"_s,        u"日本"_s,      u"-x"_s,     u"fine-"_s};
+    static const QStringList words{u"Revisione"_s, u"primo"_s, u"e"_s,      u"stadio,"_s, u"O-ring"_s,
+                                   u"(a"_s,        u"bar)"_s,  u"AVATAR"_s, u"l'è"_s,     u"€12.50"_s,
+                                   u"300"_s,       u"WiTo."_s, u"·"_s,      u"perché"_s,  u"sub-acqueo"_s,
+                                   u"Fl-fi-ffi"_s, u"Tè"_s,    u""_s,       u"prova/e"_s, u"2-3"_s,
+                                   u"–"_s,         u"日本"_s,  u"-x"_s,     u"fine-"_s};
     std::uniform_int_distribution<qsizetype> any(0, words.size() - 1);
     QStringList chosen;
     for (auto count = any(random); count >= 0; --count)
