@@ -41,10 +41,10 @@ RegisterAhead::RegisterAhead(const QString& path)
     work->path = path;
     try {
         work->end = std::async(std::launch::async, &Work::run, work.get());
-        m_work = work;
     } catch (const std::system_error&) {
-        // Without a thread nothing is ahead.
+        return; // without a thread nothing is ahead
     }
+    m_work = work;
 }
 
 IoResult<QByteArray> RegisterAhead::read(const QString& path) const
