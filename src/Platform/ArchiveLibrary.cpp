@@ -50,7 +50,6 @@ tl::expected<ArchiveLibrary, QString> ArchiveLibrary::load()
     resolve("archive_write_data", archive.writeData);
     resolve("archive_write_finish_entry", archive.finishEntry);
     resolve("archive_write_close", archive.closeWriter);
-    resolve("archive_write_fail", archive.failWriter);
     resolve("archive_write_free", archive.freeWriter);
     resolve("archive_read_new", archive.newReader);
     resolve("archive_read_support_format_zip_seekable", archive.readZip);

@@ -38,7 +38,6 @@ struct ArchiveLibrary
     decltype(&archive_write_data) writeData = nullptr;
     decltype(&archive_write_finish_entry) finishEntry = nullptr;
     decltype(&archive_write_close) closeWriter = nullptr;
-    decltype(&archive_write_fail) failWriter = nullptr;
     decltype(&archive_write_free) freeWriter = nullptr;
 
     decltype(&archive_read_new) newReader = nullptr;

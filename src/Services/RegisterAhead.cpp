@@ -31,8 +31,8 @@ struct RegisterAhead::Work
     }
 
     QString path;
-    std::shared_future<void> end;
     std::optional<Outcome> outcome;
+    std::shared_future<void> end; ///< the last member: it goes first, and waits for what uses the others
 };
 
 RegisterAhead::RegisterAhead(const QString& path)

@@ -7,8 +7,6 @@
 
 namespace abissora {
 
-namespace {} // namespace
-
 ZipWriter::ZipWriter(const ArchiveLibrary& library, SyncedFile& file)
     : m_library(library)
     , m_file(file)
@@ -23,8 +21,7 @@ ZipWriter::ZipWriter(const ArchiveLibrary& library, SyncedFile& file)
 
 ZipWriter::~ZipWriter()
 {
-    if (!m_isFinished)
-        m_library.failWriter(m_writer); // or it would write what it still holds
+    m_isAbandoned = true; // what it still holds goes nowhere
     m_library.freeWriter(m_writer);
 }
 
@@ -53,19 +50,17 @@ IoResult<void> ZipWriter::write(const QByteArray& block)
 
 IoResult<void> ZipWriter::finish()
 {
-    const int status = m_library.closeWriter(m_writer);
-    m_isFinished = status == ARCHIVE_OK;
-    return outcome(m_isFinished);
+    return outcome(m_library.closeWriter(m_writer) == ARCHIVE_OK);
 }
 
 la_ssize_t ZipWriter::take(archive* /*writer*/, void* self, const void* bytes, std::size_t size)
 {
     auto& zip = *static_cast<ZipWriter*>(self);
-    if (const auto written = zip.m_file.write(static_cast<const char*>(bytes), static_cast<qsizetype>(size));
-        !written) {
+    // The library hears of no error: what it holds when its writing fails it never gives back.
+    if (zip.m_isAbandoned || zip.m_error)
+        return static_cast<la_ssize_t>(size);
+    if (const auto written = zip.m_file.write(static_cast<const char*>(bytes), static_cast<qsizetype>(size)); !written)
         zip.m_error = written.error();
-        return -1;
-    }
     return static_cast<la_ssize_t>(size);
 }
 

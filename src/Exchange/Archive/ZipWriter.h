@@ -37,7 +37,7 @@ private:
     SyncedFile& m_file;
     archive* m_writer;
     std::optional<IoError> m_error; ///< of the file
-    bool m_isFinished = false;
+    bool m_isAbandoned = false;
 };
 
 } // namespace abissora

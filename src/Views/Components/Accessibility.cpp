@@ -127,6 +127,12 @@ public:
     }
 };
 
+/// Of a button that is being destroyed only the widget is left.
+bool isWhole(const QWidget* button)
+{
+    return qobject_cast<const QAbstractButton*>(button) != nullptr;
+}
+
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object)
 {
     auto* const widget = qobject_cast<QWidget*>(object);
@@ -161,7 +167,9 @@ void setAccessibleRole(QWidget& widget, QAccessible::Role role, AccessibleParts 
 
 void setAccessibleChoice(QAbstractButton& button, QAccessible::Role role)
 {
-    setAccessibleMaker(button, [role](QWidget* object) { return new ChoiceInterface(object, role); });
+    setAccessibleMaker(button, [role](QWidget* object) -> QAccessibleInterface* {
+        return isWhole(object) ? new ChoiceInterface(object, role) : nullptr;
+    });
 }
 
 void setAccessiblePicker(QComboBox& picker)
@@ -171,7 +179,9 @@ void setAccessiblePicker(QComboBox& picker)
 
 void setAccessibleLink(QAbstractButton& button)
 {
-    setAccessibleMaker(button, [](QWidget* object) { return new PressInterface(object, QAccessible::Link); });
+    setAccessibleMaker(button, [](QWidget* object) -> QAccessibleInterface* {
+        return isWhole(object) ? new PressInterface(object, QAccessible::Link) : nullptr;
+    });
 }
 
 void setAccessibleMaker(QWidget& widget, const Maker& make)

@@ -32,11 +32,15 @@ void setAccessibleLink(QAbstractButton& button);
 
 void setAccessibleMaker(QWidget& widget, const std::function<QAccessibleInterface*(QWidget*)>& make);
 
-/// For a widget that needs more than a role: an interface of its own, made from a pointer to the widget.
+/// For a widget that needs more than a role: an interface of its own, made from a pointer to the widget. One that is
+/// being destroyed has none of its own any more, though the toolkit asks for it.
 template <typename Interface, typename Widget>
 void setAccessibleInterface(Widget& widget)
 {
-    setAccessibleMaker(widget, [](QWidget* object) { return new Interface(static_cast<Widget*>(object)); });
+    setAccessibleMaker(widget, [](QWidget* object) -> QAccessibleInterface* {
+        auto* const whole = qobject_cast<Widget*>(object);
+        return whole != nullptr ? new Interface(whole) : nullptr;
+    });
 }
 
 /// Has the text read out at once, whatever has the focus, for what comes into sight elsewhere: the reason why a field

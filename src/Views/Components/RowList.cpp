@@ -50,11 +50,12 @@ QList<QAbstractButton*> buttonsOf(const QWidget& row)
 
 RowList::RowList(QScrollArea& area, const Layout& layout)
     : m_area(area)
+    , m_viewport(area.viewport())
     , m_layout(layout)
 {
     setAccessibleInterface<ListInterface>(*this);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    area.viewport()->installEventFilter(this);
+    m_viewport->installEventFilter(this);
     connect(area.verticalScrollBar(), &QScrollBar::valueChanged, this, &RowList::arrange);
 }
 
@@ -114,7 +115,7 @@ int RowList::indexAt(int y) const
 QList<int> RowList::wantedIndexes() const
 {
     QList<int> wanted{0, lastIndex()};
-    const QRect sight = QRect(mapFrom(m_area.viewport(), QPoint()), m_area.viewport()->size()) & rect();
+    const QRect sight = QRect(mapFrom(m_viewport, QPoint()), m_viewport->size()) & rect();
     if (!sight.isEmpty()) {
         for (int i = indexAt(sight.top()) - m_layout.reserve; i <= indexAt(sight.bottom()) + m_layout.reserve; ++i)
             wanted.append(i);
@@ -231,7 +232,7 @@ void RowList::reveal(int index)
 bool RowList::walk(QAbstractButton& from, int key)
 {
     const int index = focusedIndex();
-    const int page = std::max(1, m_area.viewport()->height() / (m_usualHeight + m_layout.gap) - 1);
+    const int page = std::max(1, m_viewport->height() / (m_usualHeight + m_layout.gap) - 1);
     const QHash<int, int> targets{
         {Qt::Key_Up, index - 1},          {Qt::Key_Down, index + 1}, {Qt::Key_PageUp, index - page},
         {Qt::Key_PageDown, index + page}, {Qt::Key_Home, 0},         {Qt::Key_End, lastIndex()}};
@@ -267,7 +268,7 @@ bool RowList::event(QEvent* event)
 
 bool RowList::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_area.viewport()) {
+    if (watched == m_viewport) {
         if (event->type() == QEvent::Resize)
             arrange();
     } else if (event->type() == QEvent::KeyPress && m_layout.keys == Keys::WalkRows) {

@@ -91,6 +91,7 @@ private:
     bool walk(QAbstractButton& from, int key);
 
     QScrollArea& m_area;
+    QWidget* m_viewport; ///< of the area, which may be half destroyed when an event comes
     Layout m_layout;
     QList<QUuid> m_ids;
     QList<int> m_tops{0}; ///< of every item's row and of one behind them

@@ -31,6 +31,13 @@ ScrollPane::ScrollPane(QWidget* parent)
     connect(&m_later, &QTimer::timeout, this, [this] { follow(QApplication::focusWidget()); });
 }
 
+ScrollPane::~ScrollPane()
+{
+    // The focus goes from here on, too, and nobody is left to follow it.
+    qApp->disconnect(this);
+    QGuiApplication::inputMethod()->disconnect(this);
+}
+
 QRect ScrollPane::placeOf(const QWidget& part) const
 {
     return {part.mapTo(widget(), QPoint()), part.size()};

@@ -17,6 +17,8 @@ class ScrollPane : public QScrollArea
 
 public:
     explicit ScrollPane(QWidget* parent = nullptr);
+    ~ScrollPane() override;
+    Q_DISABLE_COPY_MOVE(ScrollPane)
 
     /// With a distance to the edges where there is room for it.
     void bringIntoSight(const QWidget& part);

@@ -24,9 +24,9 @@ constexpr int distanceToScreen = metrics::spaceL;
 class Scrim final : public QWidget
 {
 public:
-    Scrim(QWidget* window, int radius)
+    Scrim(QWidget* window, int cornerRadius)
         : QWidget(window)
-        , m_radius(radius)
+        , m_radius(cornerRadius)
     {
         setObjectName(u"scrim"_s);
         setAttribute(Qt::WA_TransparentForMouseEvents);

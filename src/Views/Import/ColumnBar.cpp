@@ -88,7 +88,7 @@ void ColumnBar::focusPicker(qsizetype column)
 bool ColumnBar::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::FocusIn) {
-        if (const qsizetype column = m_pickers.indexOf(static_cast<QComboBox*>(watched)); column >= 0)
+        if (const qsizetype column = m_pickers.indexOf(qobject_cast<QComboBox*>(watched)); column >= 0)
             Q_EMIT reached(static_cast<int>(column) + 1);
     }
     if (watched == &m_header &&

@@ -42,6 +42,9 @@ class EditMenu final : public QMenu
 {
 public:
     explicit EditMenu(QWidget* parent);
+    // The focus goes from here on, too.
+    ~EditMenu() override { qApp->disconnect(this); }
+    Q_DISABLE_COPY_MOVE(EditMenu)
 
 private:
     void enableFor(QWidget* field);
