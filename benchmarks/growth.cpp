@@ -134,11 +134,12 @@ private:
         PreferencesStore preferences(folder.path(), keeper);
         const EquipmentTypeViewModel types(preferences, symbols, console, ids);
         const Almanac almanac{m_clock, Calendar(), DateFormat(locale, Calendar())};
-        const ExportSource source{m_equipment, types.types(), almanac, locale, u"1"_s};
+        const ExportSource source{m_equipment, types.types(), almanac.calendar, almanac.now(), locale, u"1"_s};
         m_column.ratios += ratio([&] { sink = static_cast<std::size_t>(exported(ExportForm::Items, source).size()); });
         const QByteArray text = exported(ExportForm::Items, source);
         m_column.ratios += ratio([&] {
-            const ImportPlan plan(parseImport(u"a"_s, text).value(), {{}, types, almanac, u"€"_s});
+            const ImportPlan plan(parseImport(u"a"_s, text).value(),
+                                  {{}, types.types(), almanac.calendar, almanac.now(), u"€"_s});
             sink = static_cast<std::size_t>(plan.records(ids).items.size());
         });
     }

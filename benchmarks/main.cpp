@@ -2,8 +2,10 @@
 // abissora-benchmark: how long the operations that a person waits for take. The last column is the time divided by
 // that of a fixed piece of plain work measured in the same run, so that figures of different machines and days can be
 // compared. Build it with the preset "release".
+#include "Almanac.h"
 #include "Catalogue.h"
 #include "DayWatch.h"
+#include "EquipmentTypeViewModel.h"
 #include "Export.h"
 #include "ImportPlan.h"
 #include "Literals.h"
@@ -36,7 +38,7 @@ void measureExchange(const Report& report, const QList<Equipment>& equipment, co
     const EquipmentTypeViewModel types(preferences, symbols, console, ids);
     const QLocale locale(QLocale::Italian, QLocale::Italy);
     const Almanac almanac{clock, Calendar(), DateFormat(locale, Calendar())};
-    const ExportSource source{equipment, types.types(), almanac, locale, u"1"_s};
+    const ExportSource source{equipment, types.types(), almanac.calendar, almanac.now(), locale, u"1"_s};
     const auto measureExport = [&](const char* name, ExportForm form) {
         report.measure(name, 11, [&] { sink = static_cast<std::size_t>(exported(form, source).size()); });
     };
@@ -48,7 +50,8 @@ void measureExchange(const Report& report, const QList<Equipment>& equipment, co
     const auto measureImport = [&](const char* name, ExportForm form, const QList<Equipment>& present) {
         const QByteArray text = exported(form, source);
         report.measure(name, 5, [&] {
-            const ImportPlan plan(parseImport(u"a"_s, text).value(), {present, types, almanac, u"€"_s});
+            const ImportPlan plan(parseImport(u"a"_s, text).value(),
+                                  {present, types.types(), almanac.calendar, almanac.now(), u"€"_s});
             const ImportedRecords records = plan.records(ids);
             sink = static_cast<std::size_t>(records.items.size() + records.records.size());
         });

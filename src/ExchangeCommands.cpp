@@ -154,8 +154,9 @@ int exportRegister(const CommandLine& commandLine, const ApplicationDirectories&
     const StoredRegister stored(directories);
     if (!stored.equipment())
         return fail(streams, exitStatus::noInput, stored.equipment().error());
-    const ExportSource source{*stored.equipment(), stored.types().types(), stored.almanac(), DateFormat::userLocale(),
-                              programVersion()};
+    const Almanac& almanac = stored.almanac();
+    const ExportSource source{*stored.equipment(), stored.types().types(),   almanac.calendar,
+                              almanac.now(),       DateFormat::userLocale(), programVersion()};
     if (const auto written = OutputFile::write(path, exported(*form, source)); !written)
         return fail(streams, exitStatus::cannotCreate, OutputFile::failure(path, written.error()));
     say(streams.out, exportedText(*form, source) + u'.');
@@ -185,8 +186,9 @@ int importFile(const CommandLine& commandLine, const ApplicationDirectories& dir
     const auto items = itemsOrNone(stored, directories);
     if (!items)
         return fail(streams, exitStatus::noInput, items.error());
-    const ImportPlan plan(*std::move(source),
-                          {*items, stored.types(), stored.almanac(), stored.settings().currencySymbol()});
+    const Almanac& almanac = stored.almanac();
+    const ImportPlan plan(*std::move(source), {*items, stored.types().types(), almanac.calendar, almanac.now(),
+                                               stored.settings().currencySymbol()});
     if (!plan.columnsProblem().isEmpty())
         return fail(streams, exitStatus::badData, plan.columnsProblem());
     const QStringList faults = plan.faults(mostFaults);

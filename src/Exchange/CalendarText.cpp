@@ -62,20 +62,24 @@ QString description(const Equipment& item)
 
 } // namespace
 
-QByteArray calendarText(const QList<Equipment>& equipment, const Almanac& almanac, const QString& version)
+QByteArray calendarText(const QList<Equipment>& equipment, const Calendar& calendar, Instant now,
+                        const QString& version, WorkProgress* progress)
 {
     const auto day = [](const QDate& date) { return date.toString(u"yyyyMMdd"_s); };
-    const QString stamp = Calendar(QTimeZone::utc()).local(almanac.now()).toString(u"yyyyMMdd'T'HHmmss'Z'"_s);
+    const QString stamp = Calendar(QTimeZone::utc()).local(now).toString(u"yyyyMMdd'T'HHmmss'Z'"_s);
     QByteArray text;
     const auto add = [&text](const QString& line) { text += folded(line); };
     add(u"BEGIN:VCALENDAR"_s);
     add(u"VERSION:2.0"_s);
     add(u"PRODID:-//Abissora//Abissora "_s + escaped(version) + u"//IT"_s);
     add(u"CALSCALE:GREGORIAN"_s);
+    WorkSteps steps(progress, equipment.size());
     for (const Equipment& item : equipment) {
+        if (!steps.goesOn())
+            break;
         if (!item.isActive)
             continue;
-        const QDate due = almanac.calendar.local(item.nextServiceDate).date();
+        const QDate due = calendar.local(item.nextServiceDate).date();
         add(u"BEGIN:VEVENT"_s);
         add(u"UID:tagliando-"_s + item.id.toString(QUuid::WithoutBraces).toLower() + u"@abissora.example"_s);
         add(u"DTSTAMP:"_s + stamp);

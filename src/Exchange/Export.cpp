@@ -12,14 +12,18 @@ namespace abissora {
 
 namespace {
 
-QByteArray wholeRegister(const ExportSource& source)
+QByteArray wholeRegister(const ExportSource& source, WorkProgress* progress)
 {
     RegisterDocument document;
     document.program = source.version;
-    document.exported = source.almanac.now();
+    document.exported = source.now;
     document.equipmentTypes = source.types;
-    for (const Equipment& item : source.equipment)
+    WorkSteps steps(progress, source.equipment.size());
+    for (const Equipment& item : source.equipment) {
+        if (!steps.goesOn())
+            return {};
         document.savedEquipment.append(storable(item));
+    }
     return encode(document).value(); // everything in it is storable
 }
 
@@ -44,19 +48,19 @@ std::optional<ExportForm> exportFormOf(const QString& path, ExportForm table)
     return ends(".json"_L1) ? std::optional(ExportForm::Register) : std::nullopt;
 }
 
-QByteArray exported(ExportForm form, const ExportSource& source)
+QByteArray exported(ExportForm form, const ExportSource& source, WorkProgress* progress)
 {
     switch (form) {
     case ExportForm::Items:
-        return itemsCsv(source.equipment, source.almanac.calendar, source.locale);
+        return itemsCsv(source.equipment, source.calendar, source.locale, progress);
     case ExportForm::Records:
-        return recordsCsv(source.equipment, source.almanac.calendar, source.locale);
+        return recordsCsv(source.equipment, source.calendar, source.locale, progress);
     case ExportForm::Calendar:
-        return calendarText(source.equipment, source.almanac, source.version);
+        return calendarText(source.equipment, source.calendar, source.now, source.version, progress);
     case ExportForm::Register:
         break;
     }
-    return wholeRegister(source);
+    return wholeRegister(source, progress);
 }
 
 QString exportedText(ExportForm form, const ExportSource& source)

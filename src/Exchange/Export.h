@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Almanac.h"
+#include "Calendar.h"
 #include "Equipment.h"
 #include "EquipmentTypeModel.h"
 #include "FilePanel.h"
-#include "IoError.h"
+#include "WorkProgress.h"
 
 namespace abissora {
 
@@ -17,17 +17,19 @@ enum class ExportForm { Items, Records, Calendar, Register };
 /// The form that a file's name asks for; of a table, that of `table`. Nothing for other names.
 [[nodiscard]] std::optional<ExportForm> exportFormOf(const QString& path, ExportForm table = ExportForm::Items);
 
-/// A register that goes out, as it is at this moment.
+/// A register that goes out, as it is at this moment: a value, with which any thread may work.
 struct ExportSource
 {
     QList<Equipment> equipment;
     QList<EquipmentTypeModel> types;
-    Almanac almanac;
+    Calendar calendar;
+    Instant now{};
     QLocale locale;  ///< whose separators tables have
     QString version; ///< of the program
 };
 
-[[nodiscard]] QByteArray exported(ExportForm form, const ExportSource& source);
+/// Not whole when it was cancelled meanwhile.
+[[nodiscard]] QByteArray exported(ExportForm form, const ExportSource& source, WorkProgress* progress = nullptr);
 
 /// "Esportati 12 articoli", as many as went out.
 [[nodiscard]] QString exportedText(ExportForm form, const ExportSource& source);

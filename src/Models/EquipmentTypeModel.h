@@ -4,8 +4,11 @@
 #include "AvailableColors.h"
 
 #include <QHashFunctions>
+#include <QList>
 #include <QString>
 #include <QUuid>
+#include <algorithm>
+#include <optional>
 
 namespace abissora {
 
@@ -32,6 +35,15 @@ struct EquipmentTypeModel
 [[nodiscard]] inline size_t qHash(const EquipmentTypeModel& type, size_t seed = 0)
 {
     return qHashMulti(seed, type.id, type.name, type.icon, type.color, type.serviceIntervalDays, type.isActive);
+}
+
+/// The first active one of exactly this name.
+[[nodiscard]] inline std::optional<EquipmentTypeModel> activeTypeNamed(const QString& name,
+                                                                       const QList<EquipmentTypeModel>& types)
+{
+    const auto found = std::ranges::find_if(
+        types, [&name](const EquipmentTypeModel& type) { return type.isActive && type.name == name; });
+    return found == types.end() ? std::nullopt : std::optional(*found);
 }
 
 } // namespace abissora

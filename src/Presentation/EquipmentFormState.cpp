@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "EquipmentFormState.h"
 
+#include "EquipmentTypeViewModel.h"
 #include "ServiceInterval.h"
 
 namespace abissora {
@@ -43,7 +44,7 @@ bool EquipmentFormState::isFormValid() const
 
 Instant EquipmentFormState::calculateNextServiceDate(const EquipmentTypeViewModel& types, const Almanac& almanac) const
 {
-    const std::int64_t interval = serviceInterval::ofType(selectedTypeName, types);
+    const std::int64_t interval = serviceInterval::ofType(selectedTypeName, types.types());
     return almanac.calendar.addDays(lastServiceDate, interval).value_or(almanac.now());
 }
 

@@ -57,7 +57,7 @@ MaintenanceFormState MaintenanceDraft::initial() const
 
 std::int64_t MaintenanceDraft::intervalDays() const
 {
-    return serviceInterval::ofItem(m_equipmentId, m_equipment, m_types);
+    return serviceInterval::ofItem(m_equipmentId, m_equipment.equipment(), m_types.types());
 }
 
 Instant MaintenanceDraft::nextServiceDate(Instant date) const

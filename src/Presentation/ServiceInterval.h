@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "EquipmentTypeViewModel.h"
-#include "EquipmentViewModel.h"
+#include "Equipment.h"
+#include "EquipmentTypeModel.h"
 #include "Literals.h"
 
 namespace abissora {
@@ -34,26 +34,25 @@ inline constexpr std::int64_t ofComputers = 730;
 
 /// For the form of an item, of the type that is chosen in it: the type's number as it stands, even when it is not
 /// positive; the usual one, for computers too, when the catalogue has no such type.
-[[nodiscard]] inline std::int64_t ofType(const QString& typeName, const EquipmentTypeViewModel& types)
+[[nodiscard]] inline std::int64_t ofType(const QString& typeName, const QList<EquipmentTypeModel>& types)
 {
-    const auto type = types.getTypeByName(typeName);
+    const auto type = activeTypeNamed(typeName, types);
     return type ? type->serviceIntervalDays : usual;
 }
 
 /// For a maintenance record of the item: at least one day; without such a type the one of computers or the usual one.
-[[nodiscard]] inline std::int64_t ofItem(const Equipment& item, const EquipmentTypeViewModel& types)
+[[nodiscard]] inline std::int64_t ofItem(const Equipment& item, const QList<EquipmentTypeModel>& types)
 {
-    if (const auto type = types.getTypeByName(item.typeName()))
+    if (const auto type = activeTypeNamed(item.typeName(), types))
         return std::max<std::int64_t>(type->serviceIntervalDays, 1);
     return item.type == EquipmentType::computer ? ofComputers : usual;
 }
 
 /// For the form of a maintenance record, of the item in the register: as ofItem() above; the usual one for an item that
 /// is gone.
-[[nodiscard]] inline std::int64_t ofItem(const QUuid& id, const EquipmentViewModel& equipment,
-                                         const EquipmentTypeViewModel& types)
+[[nodiscard]] inline std::int64_t ofItem(const QUuid& id, const QList<Equipment>& items,
+                                         const QList<EquipmentTypeModel>& types)
 {
-    const QList<Equipment>& items = equipment.equipment();
     const auto item = std::ranges::find(items, id, &Equipment::id);
     return item == items.end() ? usual : ofItem(*item, types);
 }

@@ -132,9 +132,7 @@ QList<EquipmentTypeModel> EquipmentTypeViewModel::filteredTypes() const
 
 std::optional<EquipmentTypeModel> EquipmentTypeViewModel::getTypeByName(const QString& name) const
 {
-    const auto found = std::ranges::find_if(
-        m_types, [&name](const EquipmentTypeModel& type) { return type.isActive && type.name == name; });
-    return found == m_types.end() ? std::nullopt : std::optional(*found);
+    return activeTypeNamed(name, m_types);
 }
 
 std::optional<EquipmentType> EquipmentTypeViewModel::getEquipmentType(const QString& from)

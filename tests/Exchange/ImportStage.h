@@ -13,7 +13,10 @@ struct ImportStage : RegisterFixture
         : RegisterFixture(stored)
     {}
 
-    [[nodiscard]] ImportContext context() const { return {equipment.equipment(), types, almanac, u"€"_s}; }
+    [[nodiscard]] ImportContext context() const
+    {
+        return {equipment.equipment(), types.types(), calendar, clock.now(), u"€"_s};
+    }
 
     /// Of a text that can be imported.
     [[nodiscard]] ImportPlan plan(const QByteArray& text) const

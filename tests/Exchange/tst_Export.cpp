@@ -87,10 +87,25 @@ private Q_SLOTS:
             QVERIFY(!exported(form, source).isEmpty());
     }
 
+    void whatIsCancelledEndsSoon()
+    {
+        const test::ImportStage stage({test::equipmentWith(1, {test::maintenance(2)})});
+        for (const ExportForm form :
+             {ExportForm::Items, ExportForm::Records, ExportForm::Calendar, ExportForm::Register}) {
+            WorkProgress progress;
+            const QByteArray whole = exported(form, sourceOf(stage), &progress);
+            QCOMPARE(progress.fraction(), 1.0);
+            QCOMPARE(whole, exported(form, sourceOf(stage)));
+            progress.cancel();
+            QVERIFY(exported(form, sourceOf(stage), &progress).size() < whole.size());
+        }
+    }
+
 private:
     static ExportSource sourceOf(const test::ImportStage& stage)
     {
-        return {stage.equipment.equipment(), stage.types.types(), stage.almanac, QLocale(u"it_IT"_s), u"1.2"_s};
+        return {stage.equipment.equipment(), stage.types.types(), stage.calendar,
+                stage.clock.now(),           QLocale(u"it_IT"_s), u"1.2"_s};
     }
 };
 

@@ -25,6 +25,22 @@ QString shown(const QList<ImportColumn>& columns)
     return texts.join(u'|');
 }
 
+void setField(ImportPlan& plan, qsizetype column, ImportField field)
+{
+    ImportReading reading = plan.reading();
+    reading.fields[column] = field;
+    plan.read(reading);
+}
+
+/// A table of so many rows.
+ImportSource tableOf(int rows)
+{
+    QByteArray text = "Nome\n";
+    for (int row = 0; row < rows; ++row)
+        text += QByteArray::number(row) + '\n';
+    return parseImport(u"a.csv"_s, text).value();
+}
+
 } // namespace
 
 class tst_ImportPlan : public test::TestCase
@@ -58,18 +74,40 @@ private Q_SLOTS:
     {
         const test::ImportStage stage;
         ImportPlan plan = stage.plan("Cosa;Marca\nMuta;Mares\n");
-        plan.setField(0, ImportField::Name);
+        setField(plan, 0, ImportField::Name);
         QCOMPARE(plan.columnsProblem(), QString());
         QCOMPARE(plan.rows().first().item.name, u"Muta"_s);
         QCOMPARE(shown(plan.columns()), u"Cosa>Nome|Marca>Marca|>Prossimo Tagliando"_s);
-        plan.setField(1, ImportField::Name);
+        setField(plan, 1, ImportField::Name);
         QCOMPARE(plan.columnsProblem(), u"Riga 1, colonna 2: «Nome» c'è già nella colonna 1."_s);
-        plan.setField(1, ImportField::None);
+        setField(plan, 1, ImportField::None);
         QCOMPARE(plan.rows().first().item.brand, QString());
-        plan.setSubject(ImportSubject::Records);
+        plan.read(plan.usualReading(ImportSubject::Records));
         QCOMPARE(plan.columnsProblem(), u"Nessuna colonna è «Articolo»."_s);
-        plan.setSubject(ImportSubject::Items);
+        plan.read(plan.usualReading(ImportSubject::Items));
         QCOMPARE(plan.columnsProblem(), u"Nessuna colonna è «Nome»."_s);
+    }
+
+    void howFarItIsIsTold()
+    {
+        const test::ImportStage stage;
+        WorkProgress progress;
+        QCOMPARE(ImportPlan(tableOf(1000), stage.context(), &progress).rows().size(), 1000);
+        QVERIFY2(progress.fraction() > 0.9 && progress.fraction() <= 1,
+                 qPrintable(QString::number(progress.fraction())));
+    }
+
+    void whatIsCancelledEndsSoon()
+    {
+        const test::ImportStage stage;
+        WorkProgress progress;
+        progress.cancel();
+        ImportPlan plan(tableOf(1000), stage.context(), &progress);
+        QCOMPARE(plan.rows().size(), 0);
+        const ImportSource registerSource = parseImport(u"r.json"_s, document({test::equipment(1)})).value();
+        QCOMPARE(ImportPlan(registerSource, stage.context(), &progress).rows().size(), 0);
+        plan.read(plan.reading()); // without anybody who could cancel
+        QCOMPARE(plan.rows().size(), 1000);
     }
 
     void formats_data()

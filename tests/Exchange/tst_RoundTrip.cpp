@@ -59,7 +59,8 @@ private Q_SLOTS:
         for (int round = 0; round < rounds / 5; ++round) {
             test::ImportStage stage;
             const QList<Equipment> items = test::randomRegister(random, stage.types, stage.almanac);
-            const QByteArray text = exported(ExportForm::Register, {items, stage.types.types(), stage.almanac, {}, {}});
+            const QByteArray text =
+                exported(ExportForm::Register, {items, stage.types.types(), stage.calendar, stage.clock.now(), {}, {}});
             if (!items.isEmpty())
                 stage.import(stage.plan(text));
             QCOMPARE(stage.equipment.equipment(), items);
@@ -87,7 +88,7 @@ private Q_SLOTS:
         const Almanac almanac{stage.clock, calendar, DateFormat(QLocale(locale), calendar)};
         for (int round = 0; round < rounds; ++round) {
             const QList<Equipment> items = test::randomRegister(random, stage.types, almanac);
-            const ExportSource source{items, {}, almanac, QLocale(locale), {}};
+            const ExportSource source{items, {}, calendar, stage.clock.now(), QLocale(locale), {}};
             QList<Equipment> imported;
             for (const ExportForm form : {ExportForm::Items, ExportForm::Records}) {
                 const auto parsed = parseImport({}, exported(form, source));
@@ -95,7 +96,7 @@ private Q_SLOTS:
                     QCOMPARE(parsed.error(), u"Nel file non ci sono righe sotto le intestazioni."_s);
                     continue;
                 }
-                ImportPlan plan(*parsed, {imported, stage.types, almanac, u"€"_s});
+                ImportPlan plan(*parsed, {imported, stage.types.types(), calendar, stage.clock.now(), u"€"_s});
                 QCOMPARE(plan.faults(5), QStringList());
                 for (qsizetype row = 0; row < plan.rows().size(); ++row)
                     plan.setChosen(row, true); // two items may be of one make

@@ -140,7 +140,7 @@ private Q_SLOTS:
         const auto draft = s.f.draft(s.item.id);
         QTEST(static_cast<int>(draft->intervalDays()), "ofItem");
         QCOMPARE(draft->initial().nextServiceDate, s.f.inDays(static_cast<int>(draft->intervalDays())));
-        QTEST(static_cast<int>(serviceInterval::ofType(rawValue(kind), s.f.types)), "ofType");
+        QTEST(static_cast<int>(serviceInterval::ofType(rawValue(kind), s.f.types.types())), "ofType");
     }
 
     void inactiveTypesAndUnknownItemsDoNotCount()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "TableProperties.h"
 
+#include "EquipmentTypeViewModel.h"
 #include "Export.h"
 #include "ImportPlan.h"
 #include "Literals.h"
@@ -46,16 +47,16 @@ class Stage
 public:
     [[nodiscard]] ImportContext context(const QList<Equipment>& items) const
     {
-        return {items, m_types, almanac(), u"€"_s};
-    }
-    [[nodiscard]] Almanac almanac() const
-    {
-        const Calendar calendar{QTimeZone::utc()};
-        return {m_clock, calendar, DateFormat(QLocale(QLocale::Italian, QLocale::Italy), calendar)};
+        return {items, m_types.types(), Calendar{QTimeZone::utc()}, m_clock.now(), u"€"_s};
     }
     [[nodiscard]] ExportSource source(const QList<Equipment>& items) const
     {
-        return {items, m_types.types(), almanac(), QLocale(QLocale::Italian, QLocale::Italy), u"1"_s};
+        return {items,
+                m_types.types(),
+                Calendar{QTimeZone::utc()},
+                m_clock.now(),
+                QLocale(QLocale::Italian, QLocale::Italy),
+                u"1"_s};
     }
     [[nodiscard]] static QList<Equipment> stored()
     {

@@ -34,9 +34,10 @@ Scene sheet(const QString& name, const QByteArray& table)
 {
     return form(name, [table](test::ShellFixture& f) {
         const QList<Equipment> items = f.equipment.equipment();
-        ImportPlan plan(parseImport(u"attrezzatura-club.csv"_s, table).value(), {items, f.types, f.almanac, u"€"_s});
+        ImportPlan plan(parseImport(u"attrezzatura-club.csv"_s, table).value(),
+                        {items, f.types.types(), f.calendar, f.clock.now(), u"€"_s});
         return std::unique_ptr<QWidget>(ImportView::makeSheet(
-            std::move(plan), f.types, [](const ImportPlan&) {}, nullptr));
+            std::move(plan), f.types, f.work, [](const ImportPlan&) {}, nullptr));
     });
 }
 

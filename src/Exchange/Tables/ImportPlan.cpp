@@ -68,37 +68,34 @@ void leaveDocuments(Equipment& item, QSet<QString>& taken)
 
 } // namespace
 
-ImportPlan::ImportPlan(ImportSource source, ImportContext context)
+ImportPlan::ImportPlan(ImportSource source, ImportContext context, WorkProgress* progress)
     : m_source(std::move(source))
     , m_context(std::move(context))
 {
-    if (const ImportedTable* found = table())
-        setSubject(subjectOf(found->headings.cells));
-    else
-        read();
+    if (const ImportedTable* const found = table())
+        m_reading = usualReading(subjectOf(found->headings.cells));
+    readRows(progress);
 }
 
-QString ImportPlan::format() const
+QString ImportPlan::formatText() const
 {
     const ImportedTable* found = table();
     if (found == nullptr)
         return u"Registro di Abissora"_s;
     return QStringList{u"Separatore %1"_s.arg(separatorText(found->separator)), found->encoding,
-                       decimalText(*found, m_fields)}
+                       decimalText(*found, m_reading.fields)}
         .join(u" · "_s);
 }
 
-void ImportPlan::setSubject(ImportSubject subject)
+ImportReading ImportPlan::usualReading(ImportSubject subject) const
 {
-    m_subject = subject;
-    m_fields = fieldsOf(table()->headings.cells, subject);
-    read();
+    return {subject, fieldsOf(table()->headings.cells, subject)};
 }
 
-void ImportPlan::setField(qsizetype column, ImportField field)
+void ImportPlan::read(const ImportReading& reading, WorkProgress* progress)
 {
-    m_fields[column] = field;
-    read();
+    m_reading = reading;
+    readRows(progress);
 }
 
 bool ImportPlan::canBeChosen(qsizetype row) const
@@ -174,7 +171,7 @@ ImportedRecords ImportPlan::records(IdGenerator& ids) const
     for (qsizetype i = 0; i < m_rows.size(); ++i) {
         if (!m_isChosen.at(i))
             continue;
-        if (m_subject == ImportSubject::Records) {
+        if (subject() == ImportSubject::Records) {
             imported.records.append({m_rows.at(i).ofItem, m_rows.at(i).record});
             imported.records.last().record.id = ids.next();
             continue;
@@ -196,7 +193,7 @@ QList<EquipmentTypeModel> ImportPlan::types(IdGenerator& ids) const
         return {};
     QSet<QString> names;
     QSet<QUuid> taken;
-    for (const EquipmentTypeModel& type : m_context.types.types()) {
+    for (const EquipmentTypeModel& type : m_context.types) {
         names.insert(type.name);
         taken.insert(type.id);
     }
@@ -213,16 +210,17 @@ QList<EquipmentTypeModel> ImportPlan::types(IdGenerator& ids) const
     return added;
 }
 
-void ImportPlan::read()
+void ImportPlan::readRows(WorkProgress* progress)
 {
     const ImportedTable* found = table();
-    m_columns = found != nullptr ? tableColumns(*found, m_subject, m_fields) : registerColumns();
+    m_format = formatText();
+    m_columns = found != nullptr ? tableColumns(*found, m_reading.subject, m_reading.fields) : registerColumns();
     m_columnsProblem = found != nullptr ? findColumnsProblem() : QString();
     if (!m_columnsProblem.isEmpty())
         m_rows.clear();
     else
-        m_rows = found != nullptr ? tableRows(*found, m_subject, m_fields, m_context)
-                                  : registerRows(std::get<RegisterDocument>(m_source.content), m_context);
+        m_rows = found != nullptr ? tableRows(*found, m_reading.subject, m_reading.fields, m_context, progress)
+                                  : registerRows(std::get<RegisterDocument>(m_source.content), m_context, progress);
     m_isChosen = QList<bool>(m_rows.size(), false);
     setNewChosen(true);
 }
@@ -230,16 +228,16 @@ void ImportPlan::read()
 QString ImportPlan::findColumnsProblem() const
 {
     const csv::Row& headings = table()->headings;
-    for (qsizetype column = 0; column < m_fields.size(); ++column) {
-        const ImportField field = m_fields.at(column);
-        if (const qsizetype first = m_fields.indexOf(field); field != ImportField::None && first != column)
+    for (qsizetype column = 0; column < m_reading.fields.size(); ++column) {
+        const ImportField field = m_reading.fields.at(column);
+        if (const qsizetype first = m_reading.fields.indexOf(field); field != ImportField::None && first != column)
             return csv::at(
                 headings.line, column + 1,
-                u"«%1» c'è già nella colonna %2."_s.arg(titleOf(field, m_subject), QString::number(first + 1)));
+                u"«%1» c'è già nella colonna %2."_s.arg(titleOf(field, subject()), QString::number(first + 1)));
     }
-    const auto isMissing = [&](ImportField field) { return !m_fields.contains(field); };
-    const auto missing = [&](ImportField field) { return u"Nessuna colonna è «%1»."_s.arg(titleOf(field, m_subject)); };
-    if (m_subject == ImportSubject::Items)
+    const auto isMissing = [&](ImportField field) { return !m_reading.fields.contains(field); };
+    const auto missing = [&](ImportField field) { return u"Nessuna colonna è «%1»."_s.arg(titleOf(field, subject())); };
+    if (subject() == ImportSubject::Items)
         return isMissing(ImportField::Name) ? missing(ImportField::Name) : QString();
     if (isMissing(ImportField::Name) && isMissing(ImportField::SerialNumber))
         return missing(ImportField::Name);

@@ -7,26 +7,39 @@
 
 namespace abissora {
 
+/// How the columns of a table are read.
+struct ImportReading
+{
+    ImportSubject subject = ImportSubject::Items;
+    QList<ImportField> fields; ///< one for each column
+
+    friend bool operator==(const ImportReading&, const ImportReading&) = default;
+};
+
 /// What would come of importing a file: each of its rows as it would be stored, and which of them are chosen. Rows that
-/// the register has already are chosen by the person only, faulty ones never.
+/// the register has already are chosen by the person only, faulty ones never. A value, with which any thread may work.
 class ImportPlan
 {
 public:
-    /// The types in the context must outlive it.
-    ImportPlan(ImportSource source, ImportContext context);
+    /// A table is read as its headings say. Once it is cancelled, a plan is of no more use; likewise in read().
+    ImportPlan(ImportSource source, ImportContext context, WorkProgress* progress = nullptr);
+
+    [[nodiscard]] const ImportContext& context() const { return m_context; }
 
     [[nodiscard]] const QString& fileName() const { return m_source.fileName; }
     /// Nothing for a register, whose columns are what they are.
     [[nodiscard]] const ImportedTable* table() const { return std::get_if<ImportedTable>(&m_source.content); }
     /// "Separatore ; · UTF-8 · Virgola decimale"
-    [[nodiscard]] QString format() const;
+    [[nodiscard]] const QString& format() const { return m_format; }
 
-    [[nodiscard]] ImportSubject subject() const { return m_subject; }
-    /// The columns are then what their headings say. Only for a table.
-    void setSubject(ImportSubject subject);
+    [[nodiscard]] ImportSubject subject() const { return m_reading.subject; }
+    /// Empty for a register.
+    [[nodiscard]] const ImportReading& reading() const { return m_reading; }
+    /// What the headings say of rows about `subject`. Only for a table, as read().
+    [[nodiscard]] ImportReading usualReading(ImportSubject subject) const;
+    /// Reads all rows anew.
+    void read(const ImportReading& reading, WorkProgress* progress = nullptr);
     [[nodiscard]] const QList<ImportColumn>& columns() const { return m_columns; }
-    /// Only for one that the table has.
-    void setField(qsizetype column, ImportField field);
     /// Why no row can be read; empty when nothing is wrong with the columns.
     [[nodiscard]] const QString& columnsProblem() const { return m_columnsProblem; }
 
@@ -55,13 +68,14 @@ public:
     [[nodiscard]] QList<EquipmentTypeModel> types(IdGenerator& ids) const;
 
 private:
-    void read();
+    void readRows(WorkProgress* progress);
+    [[nodiscard]] QString formatText() const;
     [[nodiscard]] QString findColumnsProblem() const;
 
     ImportSource m_source;
     ImportContext m_context;
-    ImportSubject m_subject = ImportSubject::Items;
-    QList<ImportField> m_fields; ///< of a table
+    ImportReading m_reading;
+    QString m_format;
     QList<ImportColumn> m_columns;
     QString m_columnsProblem;
     QList<ImportRow> m_rows;

@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Almanac.h"
-#include "EquipmentTypeViewModel.h"
+#include "Calendar.h"
+#include "EquipmentTypeModel.h"
 #include "ImportFields.h"
 #include "ImportSource.h"
+#include "WorkProgress.h"
 
 namespace abissora {
 
-/// The register into which something is imported, as it is at that moment.
+/// The register into which something is imported, as it is at that moment: a value, with which any thread may work.
 struct ImportContext
 {
     QList<Equipment> equipment;
-    const EquipmentTypeViewModel& types;
-    Almanac almanac;
+    QList<EquipmentTypeModel> types;
+    Calendar calendar;
+    Instant now{};
     QString currencySymbol; ///< may stand beside an amount
 };
 
@@ -51,14 +53,17 @@ struct ImportRow
     QUuid ofItem; ///< the record's
 };
 
-/// Reads the rows of a table as its columns say: `fields` has one for each heading, none of them twice.
+/// Reads the rows of a table as its columns say: `fields` has one for each heading, none of them twice. Once it is
+/// cancelled, not all of them; likewise below.
 [[nodiscard]] QList<ImportRow> tableRows(const ImportedTable& table, ImportSubject subject,
-                                         const QList<ImportField>& fields, const ImportContext& context);
+                                         const QList<ImportField>& fields, const ImportContext& context,
+                                         WorkProgress* progress = nullptr);
 /// The columns that the table itself has, and one for the next service where it has none: it follows from the last one.
 [[nodiscard]] QList<ImportColumn> tableColumns(const ImportedTable& table, ImportSubject subject,
                                                const QList<ImportField>& fields);
 
-[[nodiscard]] QList<ImportRow> registerRows(const RegisterDocument& document, const ImportContext& context);
+[[nodiscard]] QList<ImportRow> registerRows(const RegisterDocument& document, const ImportContext& context,
+                                            WorkProgress* progress = nullptr);
 [[nodiscard]] QList<ImportColumn> registerColumns();
 
 /// "31/12/2026"

@@ -113,18 +113,27 @@ private:
 
 } // namespace
 
-QByteArray itemsCsv(const QList<Equipment>& equipment, const Calendar& calendar, const QLocale& locale)
+QByteArray itemsCsv(const QList<Equipment>& equipment, const Calendar& calendar, const QLocale& locale,
+                    WorkProgress* progress)
 {
     TableWriter table(ImportSubject::Items, calendar, locale);
-    for (const Equipment& item : equipment)
+    WorkSteps steps(progress, equipment.size());
+    for (const Equipment& item : equipment) {
+        if (!steps.goesOn())
+            break;
         table.add(item);
+    }
     return table.bytes();
 }
 
-QByteArray recordsCsv(const QList<Equipment>& equipment, const Calendar& calendar, const QLocale& locale)
+QByteArray recordsCsv(const QList<Equipment>& equipment, const Calendar& calendar, const QLocale& locale,
+                      WorkProgress* progress)
 {
     TableWriter table(ImportSubject::Records, calendar, locale);
+    WorkSteps steps(progress, equipment.size());
     for (const Equipment& item : equipment) {
+        if (!steps.goesOn())
+            break;
         for (const Maintenance& record : item.maintenanceHistory)
             table.add(item, record);
     }

@@ -64,7 +64,7 @@ void RowCells::show(ImportField field, const QString& shown)
 
 void RowCells::showDay(ImportField field, Instant instant)
 {
-    show(field, shownDay(instant, m_context.almanac.calendar));
+    show(field, shownDay(instant, m_context.calendar));
 }
 
 void RowCells::complain(ImportField field, const QString& problem)
@@ -80,7 +80,7 @@ std::optional<Instant> RowCells::readDay(ImportField field)
     if (isEmpty(field))
         return std::nullopt;
     const auto day = importValues::day(text(field), m_dayOrders.value(field));
-    const auto instant = day ? m_context.almanac.calendar.instant(*day, timeOfDay()) : std::nullopt;
+    const auto instant = day ? m_context.calendar.instant(*day, timeOfDay()) : std::nullopt;
     if (!instant)
         complain(field, u"Data non valida: %1"_s.arg(text(field)));
     return instant;
@@ -88,14 +88,13 @@ std::optional<Instant> RowCells::readDay(ImportField field)
 
 Instant RowCells::today() const
 {
-    const Calendar& calendar = m_context.almanac.calendar;
-    const Instant now = m_context.almanac.now();
-    return calendar.instant(calendar.local(now).date(), timeOfDay()).value_or(now);
+    const Calendar& calendar = m_context.calendar;
+    return calendar.instant(calendar.local(m_context.now).date(), timeOfDay()).value_or(m_context.now);
 }
 
 Instant RowCells::after(Instant day, std::int64_t days)
 {
-    const auto next = m_context.almanac.calendar.addDays(day, days);
+    const auto next = m_context.calendar.addDays(day, days);
     if (!next)
         complain(ImportField::NextService, u"Data non valida"_s);
     return next.value_or(day);

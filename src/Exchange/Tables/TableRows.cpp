@@ -74,7 +74,7 @@ private:
     /// As the catalogue or the program writes it; one of just that name before those in other letters.
     [[nodiscard]] QString knownType(const QString& name) const
     {
-        const QList<EquipmentTypeModel>& types = m_context.types.types();
+        const QList<EquipmentTypeModel>& types = m_context.types;
         if (fromRawValue<EquipmentType>(name) ||
             std::ranges::find(types, name, &EquipmentTypeModel::name) != types.end())
             return name;
@@ -103,7 +103,7 @@ private:
     /// An interval before the next one, but never after today.
     [[nodiscard]] Instant lastBefore(Instant next, std::int64_t interval) const
     {
-        return std::min(m_cells.today(), m_context.almanac.calendar.addDays(next, -interval).value_or(next));
+        return std::min(m_cells.today(), m_context.calendar.addDays(next, -interval).value_or(next));
     }
 
     void readState(Equipment& item)
@@ -231,8 +231,8 @@ private:
     /// What two records that are the same work have in common.
     [[nodiscard]] QString gist(const Maintenance& record) const
     {
-        return QStringList{shownDay(record.date, m_context.almanac.calendar), rawValue(record.type), record.description}
-            .join(u'\n');
+        return QStringList{shownDay(record.date, m_context.calendar), rawValue(record.type), record.description}.join(
+            u'\n');
     }
 
     RowCells& m_cells;
@@ -243,11 +243,14 @@ private:
 };
 
 template <typename Reader>
-QList<ImportRow> read(const ImportedTable& table, RowCells& cells, Reader reader)
+QList<ImportRow> read(const ImportedTable& table, RowCells& cells, WorkProgress* progress, Reader reader)
 {
     QList<ImportRow> rows;
     rows.reserve(table.rows.size());
+    WorkSteps steps(progress, table.rows.size());
     for (const csv::Row& row : table.rows) {
+        if (!steps.goesOn())
+            break;
         cells.begin(row);
         reader.read();
         rows.append(cells.take());
@@ -258,12 +261,12 @@ QList<ImportRow> read(const ImportedTable& table, RowCells& cells, Reader reader
 } // namespace
 
 QList<ImportRow> tableRows(const ImportedTable& table, ImportSubject subject, const QList<ImportField>& fields,
-                           const ImportContext& context)
+                           const ImportContext& context, WorkProgress* progress)
 {
     const QList<ImportColumn> columns = tableColumns(table, subject, fields);
     RowCells cells(table, columns, context);
-    return subject == ImportSubject::Items ? read(table, cells, ItemReader(cells, context))
-                                           : read(table, cells, RecordReader(cells, context));
+    return subject == ImportSubject::Items ? read(table, cells, progress, ItemReader(cells, context))
+                                           : read(table, cells, progress, RecordReader(cells, context));
 }
 
 QList<ImportColumn> tableColumns(const ImportedTable& table, ImportSubject subject, const QList<ImportField>& fields)

@@ -31,12 +31,23 @@ ColumnBar::ColumnBar(ColumnHeader& header, QWidget* parent)
 
 void ColumnBar::showColumns(const ImportPlan& plan)
 {
+    if (m_subject != plan.subject())
+        makePickers(plan);
+    for (qsizetype column = 0; column < m_pickers.size(); ++column) {
+        QComboBox& picker = *m_pickers.at(column);
+        picker.setCurrentIndex(picker.findData(static_cast<int>(plan.columns().at(column).field)));
+    }
+    place();
+}
+
+void ColumnBar::makePickers(const ImportPlan& plan)
+{
+    m_subject = plan.subject();
     qDeleteAll(m_pickers);
     m_pickers.clear();
     const qsizetype columns = plan.table() != nullptr ? plan.table()->headings.cells.size() : 0;
     for (qsizetype column = 0; column < columns; ++column)
         m_pickers.append(makePicker(plan, column));
-    place();
 }
 
 QComboBox* ColumnBar::makePicker(const ImportPlan& plan, qsizetype column)
@@ -50,15 +61,12 @@ QComboBox* ColumnBar::makePicker(const ImportPlan& plan, qsizetype column)
     picker->installEventFilter(this);
     const auto add = [&](ImportField field) {
         picker->addItem(titleOf(field, plan.subject()), static_cast<int>(field));
-        if (field == plan.columns().at(column).field)
-            picker->setCurrentIndex(picker->count() - 1);
     };
     for (const ImportField field : fieldsOf(plan.subject()))
         add(field);
     add(ImportField::None);
-    const int section = static_cast<int>(column) + 1;
-    connect(picker, &QComboBox::activated, this, [this, picker, section](int index) {
-        Q_EMIT fieldChosen(section, static_cast<ImportField>(picker->itemData(index).toInt()));
+    connect(picker, &QComboBox::activated, this, [this, picker, column](int index) {
+        Q_EMIT fieldChosen(column, static_cast<ImportField>(picker->itemData(index).toInt()));
     });
     picker->show();
     return picker;
@@ -78,11 +86,6 @@ void ColumnBar::orderTabs(QWidget& table)
         before = picker;
     }
     setTabOrder(before, &table);
-}
-
-void ColumnBar::focusPicker(qsizetype column)
-{
-    m_pickers.at(column)->setFocus();
 }
 
 bool ColumnBar::eventFilter(QObject* watched, QEvent* event)

@@ -22,31 +22,31 @@ public:
     /// Both must outlive it; the header lies in a table that lies in the parent.
     ColumnBar(ColumnHeader& header, QWidget* parent);
 
-    /// Makes the pickers anew.
+    /// The pickers stay where they are, unless the plan is about another subject.
     void showColumns(const ImportPlan& plan);
     /// Emits nothing.
     void showAllChosen(bool areChosen, bool canBeChosen);
     /// The box, the pickers, then the table, as they stand. All of them must be in one window.
     void orderTabs(QWidget& table);
-    /// Takes the keyboard to the picker of a column of the plan.
-    void focusPicker(qsizetype column);
     /// Where the header is now, each picker above its section.
     void place();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    void fieldChosen(int section, abissora::ImportField field);
+    void fieldChosen(qsizetype column, abissora::ImportField field);
     void allChosen(bool areChosen);
     /// The keyboard came to the picker of a section.
     void reached(int section);
 
 private:
+    void makePickers(const ImportPlan& plan);
     [[nodiscard]] QComboBox* makePicker(const ImportPlan& plan, qsizetype column);
 
     ColumnHeader& m_header;
     QCheckBox* m_all;
-    QList<QComboBox*> m_pickers; ///< of the file's columns
+    QList<QComboBox*> m_pickers;            ///< of the file's columns
+    std::optional<ImportSubject> m_subject; ///< that the pickers are for
 };
 
 } // namespace abissora

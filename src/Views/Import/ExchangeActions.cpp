@@ -9,6 +9,7 @@
 #include "ViewSheet.h"
 
 #include <QPointer>
+#include <cerrno>
 #include <memory>
 
 namespace abissora {
@@ -18,21 +19,28 @@ namespace {
 const QString importTitle = u"Importa"_s;
 const QString exportTitle = u"Esporta"_s;
 
-using Read = tl::expected<ImportSource, QString>;
-
 // Functions of their own: what a coroutine waits for shall capture nothing of its frame.
 
-LongWork::Function reading(const QString& path, const std::shared_ptr<Read>& source)
+LongWork::Function reading(const QString& path, const ImportContext& context,
+                           const std::shared_ptr<std::optional<ImportPlan>>& plan)
 {
-    return [path, source](WorkProgress& /*progress*/) -> IoResult<void> {
-        *source = readImport(path);
+    return [path, context, plan](WorkProgress& progress) -> IoResult<void> {
+        auto source = readImport(path);
+        if (!source)
+            return tl::unexpected(IoError{source.error()});
+        plan->emplace(*std::move(source), context, &progress);
         return {};
     };
 }
 
-LongWork::Function writing(const QString& path, const QByteArray& bytes)
+LongWork::Function writing(const QString& path, ExportForm form, const ExportSource& source)
 {
-    return [path, bytes](WorkProgress& /*progress*/) { return OutputFile::write(path, bytes); };
+    return [path, form, source](WorkProgress& progress) -> IoResult<void> {
+        const QByteArray bytes = exported(form, source, &progress);
+        if (progress.isCancelled())
+            return tl::unexpected(IoError::fromErrno(ECANCELED));
+        return OutputFile::write(path, bytes);
+    };
 }
 
 } // namespace
@@ -67,26 +75,39 @@ void ExchangeActions::importPath(const QString& path, QWidget* over)
 QCoro::Task<> ExchangeActions::readAndShow(QString path, QPointer<QWidget> over)
 {
     const QPointer<ExchangeActions> alive(this);
-    const auto source = std::make_shared<Read>();
-    const auto progress = std::make_shared<WorkProgress>();
-    co_await m_tools.work.run(u"Lettura del file…"_s, reading(path, source), progress);
-    if (!alive || !over || progress->isCancelled())
-        co_return;
-    if (!*source) {
-        Alert::notice(over, importTitle, source->error());
-        co_return;
-    }
-    const ImportContext context{m_tools.equipment.equipment(), m_tools.types, m_tools.almanac,
-                                m_tools.settings.currencySymbol()};
+    const QString title = u"Lettura del file…"_s;
+    const auto plan = std::make_shared<std::optional<ImportPlan>>();
+    do {
+        const auto progress = std::make_shared<WorkProgress>();
+        const LongWork::Function work = reading(path, presentContext(), plan);
+        const IoResult<void> read = co_await m_tools.work.run(title, work, progress);
+        if (!alive || !over || progress->isCancelled())
+            co_return;
+        if (!read) {
+            Alert::notice(over, importTitle, read.error().reason);
+            co_return;
+        }
+    } while (isOutdated(**plan));
     ViewSheet* sheet = ImportView::makeSheet(
-        ImportPlan(**source, context), m_tools.types,
-        [alive, over](const ImportPlan& plan) {
+        std::move(**plan), m_tools.types, m_tools.work,
+        [alive, over](const ImportPlan& chosen) {
             if (alive && over)
-                alive->store(plan, over);
+                alive->store(chosen, over);
         },
         over);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
     sheet->open();
+}
+
+ImportContext ExchangeActions::presentContext() const
+{
+    return {m_tools.equipment.equipment(), m_tools.types.types(), m_tools.almanac.calendar, m_tools.almanac.now(),
+            m_tools.settings.currencySymbol()};
+}
+
+bool ExchangeActions::isOutdated(const ImportPlan& plan) const
+{
+    return plan.context().equipment != m_tools.equipment.equipment() || plan.context().types != m_tools.types.types();
 }
 
 void ExchangeActions::store(const ImportPlan& plan, QWidget* over)
@@ -118,11 +139,13 @@ void ExchangeActions::exportRegister(QWidget* over)
 QCoro::Task<> ExchangeActions::exportTo(SaveTarget target, QPointer<QWidget> over)
 {
     const auto form = static_cast<ExportForm>(target.format);
-    const ExportSource source{m_tools.equipment.equipment(), m_tools.types.types(), m_tools.almanac,
-                              DateFormat::userLocale(), m_tools.version};
-    const auto written = co_await m_tools.work.run(u"Esportazione…"_s, writing(target.path, exported(form, source)),
-                                                   std::make_shared<WorkProgress>());
-    if (over)
+    const ExportSource source{m_tools.equipment.equipment(), m_tools.types.types(),    m_tools.almanac.calendar,
+                              m_tools.almanac.now(),         DateFormat::userLocale(), m_tools.version};
+    const QString title = u"Esportazione…"_s;
+    const auto progress = std::make_shared<WorkProgress>();
+    const LongWork::Function work = writing(target.path, form, source);
+    const auto written = co_await m_tools.work.run(title, work, progress);
+    if (over && !progress->isCancelled())
         Alert::notice(over, exportTitle,
                       written ? u"%1 in «%2»."_s.arg(exportedText(form, source), target.path)
                               : OutputFile::failure(target.path, written.error()));

@@ -45,6 +45,9 @@ public:
 private:
     QCoro::Task<> readAndShow(QString path, QPointer<QWidget> over);
     QCoro::Task<> exportTo(SaveTarget target, QPointer<QWidget> over);
+    [[nodiscard]] ImportContext presentContext() const;
+    /// Whether the register has changed since the rows were compared with it.
+    [[nodiscard]] bool isOutdated(const ImportPlan& plan) const;
     void store(const ImportPlan& plan, QWidget* over);
 
     Tools m_tools;

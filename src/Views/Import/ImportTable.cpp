@@ -38,15 +38,7 @@ ImportTable::ImportTable(ImportPlan& plan, const EquipmentTypeViewModel& types, 
     setWordWrap(false);
     verticalHeader()->hide();
     connect(m_bar, &ColumnBar::allChosen, &m_model, &ImportTableModel::setNewChosen);
-    // Later: the picker that asked for it is made anew.
-    connect(
-        m_bar, &ColumnBar::fieldChosen, this,
-        [this](int section, ImportField field) {
-            m_model.setField(section, field);
-            orderTabs();
-            m_bar->focusPicker(section - 1);
-        },
-        Qt::QueuedConnection);
+    connect(m_bar, &ColumnBar::fieldChosen, this, &ImportTable::fieldChosen);
     connect(m_bar, &ColumnBar::reached, this, [this](int section) {
         if (m_model.rowCount() > 0)
             scrollTo(m_model.index(std::max(0, rowAt(0)), section));

@@ -18,8 +18,14 @@ public:
     ImportTable(ImportPlan& plan, const EquipmentTypeViewModel& types, QWidget& pane);
 
     [[nodiscard]] ImportTableModel& importModel() { return m_model; }
-    /// Once the pane is in its window.
+    /// Once the pane is in its window, and when the plan is about another subject.
     void orderTabs() { m_bar->orderTabs(*this); }
+    /// As the plan has them, whatever the person has chosen above them.
+    void showColumns();
+
+Q_SIGNALS:
+    /// The person says what a column of the file is.
+    void fieldChosen(qsizetype column, abissora::ImportField field);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -28,7 +34,6 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void showColumns();
     void showChoices();
     void measureColumns();
     /// To how many pixels wide columns are cut so that all are in sight, where that can be.

@@ -11,18 +11,10 @@ ImportTableModel::ImportTableModel(ImportPlan& plan, const EquipmentTypeViewMode
     , m_types(types)
 {}
 
-void ImportTableModel::setField(int column, ImportField field)
+void ImportTableModel::setPlan(ImportPlan plan)
 {
     beginResetModel();
-    m_plan.setField(column - 1, field);
-    endResetModel();
-    Q_EMIT choiceChanged();
-}
-
-void ImportTableModel::setSubject(ImportSubject subject)
-{
-    beginResetModel();
-    m_plan.setSubject(subject);
+    m_plan = std::move(plan);
     endResetModel();
     Q_EMIT choiceChanged();
 }

@@ -31,9 +31,8 @@ public:
     /// Both must outlive it.
     ImportTableModel(ImportPlan& plan, const EquipmentTypeViewModel& types, QObject* parent = nullptr);
 
-    /// The plan reads its rows anew.
-    void setField(int column, ImportField field);
-    void setSubject(ImportSubject subject);
+    /// Another one in the place of the plan.
+    void setPlan(ImportPlan plan);
     void setNewChosen(bool areChosen);
     void toggle(int row);
 

@@ -15,6 +15,8 @@
 #include "SymbolIcon.h"
 #include "ViewSheet.h"
 
+#include <QPointer>
+
 namespace abissora {
 
 namespace {
@@ -22,11 +24,28 @@ namespace {
 constexpr QSize preferredSize(960, 640);
 constexpr int sideMargin = 18;
 
+// Made outside the coroutine: what it waits for shall capture nothing of its frame.
+LongWork::Function readingOf(const std::shared_ptr<ImportPlan>& plan, const ImportReading& reading)
+{
+    return [plan, reading](WorkProgress& progress) -> IoResult<void> {
+        plan->read(reading, &progress);
+        return {};
+    };
+}
+
+int indexOf(ImportSubject subject)
+{
+    return subject == ImportSubject::Items ? 0 : 1;
+}
+
 } // namespace
 
-ImportView::ImportView(ImportPlan plan, const EquipmentTypeViewModel& types, Import import, QWidget* parent)
+ImportView::ImportView(ImportPlan plan, const EquipmentTypeViewModel& types, LongWork& work, Import import,
+                       QWidget* parent)
     : QWidget(parent)
     , m_plan(std::move(plan))
+    , m_reading(m_plan.reading())
+    , m_work(work)
     , m_import(std::move(import))
     , m_format(named(new ElidedLabel(TextStyle::Callout, &Tokens::secondaryText), u"format"))
     , m_pane(new QWidget)
@@ -46,12 +65,24 @@ ImportView::ImportView(ImportPlan plan, const EquipmentTypeViewModel& types, Imp
     connect(m_cancel, &QAbstractButton::clicked, this, &ImportView::closed);
     connect(m_importButton, &QAbstractButton::clicked, this, &ImportView::importChosen);
     connect(&m_table->importModel(), &ImportTableModel::choiceChanged, this, &ImportView::showCounts);
+    connect(m_table, &ImportTable::fieldChosen, this, [this](qsizetype column, ImportField field) {
+        ImportReading reading = m_reading;
+        reading.fields[column] = field;
+        read(reading);
+    });
     showCounts();
 }
 
-ViewSheet* ImportView::makeSheet(ImportPlan plan, const EquipmentTypeViewModel& types, Import import, QWidget* over)
+ImportView::~ImportView()
 {
-    auto* view = new ImportView(std::move(plan), types, std::move(import));
+    if (m_progress)
+        m_progress->cancel();
+}
+
+ViewSheet* ImportView::makeSheet(ImportPlan plan, const EquipmentTypeViewModel& types, LongWork& work, Import import,
+                                 QWidget* over)
+{
+    auto* view = new ImportView(std::move(plan), types, work, std::move(import));
     const QFontMetrics metrics = view->fontMetrics();
     auto* sheet = new ViewSheet(
         {.view = view,
@@ -72,16 +103,15 @@ QWidget* ImportView::makeFileCard()
     name->setText(m_plan.fileName());
     auto* row = inRow(metrics::spaceM, {tile, {inColumn(2, {name, m_format}), 1}});
     if (m_plan.table() != nullptr) {
-        auto* subject = named(new SegmentedControl(SegmentedControl::Purpose::Choice), u"subject");
-        subject->setAccessibleName(u"Che cosa contiene"_s);
-        subject->addSegment(u"Articoli"_s);
-        subject->addSegment(u"Manutenzioni"_s);
-        subject->setCurrentIndex(m_plan.subject() == ImportSubject::Items ? 0 : 1);
-        connect(subject, &SegmentedControl::activated, this, [this](int index) {
-            m_table->importModel().setSubject(index == 0 ? ImportSubject::Items : ImportSubject::Records);
-            m_table->orderTabs();
+        m_subject = named(new SegmentedControl(SegmentedControl::Purpose::Choice), u"subject");
+        m_subject->setAccessibleName(u"Che cosa contiene"_s);
+        m_subject->addSegment(u"Articoli"_s);
+        m_subject->addSegment(u"Manutenzioni"_s);
+        m_subject->setCurrentIndex(indexOf(m_plan.subject()));
+        connect(m_subject, &SegmentedControl::activated, this, [this](int index) {
+            read(m_plan.usualReading(index == 0 ? ImportSubject::Items : ImportSubject::Records));
         });
-        row->addWidget(subject);
+        row->addWidget(m_subject);
     }
     card->content()->addLayout(row);
     return card;
@@ -91,6 +121,32 @@ QLayout* ImportView::makeFooter()
 {
     return inRow(metrics::spaceS + 2, {m_summary, m_faults, Stretch{1}, m_cancel, m_importButton},
                  {sideMargin, metrics::spaceM + 2, sideMargin, metrics::spaceM + 2});
+}
+
+QCoro::Task<> ImportView::read(ImportReading reading)
+{
+    const QPointer<ImportView> alive(this);
+    if (m_progress)
+        m_progress->cancel();
+    m_reading = reading;
+    const auto progress = std::make_shared<WorkProgress>();
+    m_progress = progress;
+    showCounts();
+    const auto plan = std::make_shared<ImportPlan>(m_plan);
+    const QString title = u"Lettura delle righe…"_s;
+    const LongWork::Function work = readingOf(plan, reading);
+    co_await m_work.run(title, work, progress);
+    if (!alive || progress != m_progress)
+        co_return;
+    m_progress.reset();
+    if (progress->isCancelled())
+        m_table->showColumns();
+    else
+        m_table->importModel().setPlan(std::move(*plan));
+    m_reading = m_plan.reading();
+    m_subject->setCurrentIndex(indexOf(m_plan.subject()));
+    m_table->orderTabs();
+    showCounts();
 }
 
 void ImportView::showCounts()
@@ -106,7 +162,7 @@ void ImportView::showCounts()
     const bool isOfRecords = m_plan.subject() == ImportSubject::Records;
     m_importButton->setText(chosen == 0 ? u"Importa"_s
                                         : u"Importa "_s + (isOfRecords ? recordsText(chosen) : itemsText(chosen)));
-    m_importButton->setEnabled(chosen > 0);
+    m_importButton->setEnabled(chosen > 0 && !m_progress);
     announce(*m_faults, problem);
 }
 

@@ -30,7 +30,8 @@ public:
 
     [[nodiscard]] ImportPlan plan(const QByteArray& bytes)
     {
-        return {parseImport(u"club.csv"_s, bytes).value(), {equipment.equipment(), types, almanac, u"€"_s}};
+        return {parseImport(u"club.csv"_s, bytes).value(),
+                {equipment.equipment(), types.types(), calendar, clock.now(), u"€"_s}};
     }
 };
 
@@ -43,7 +44,7 @@ public:
     {
         window.resize(1280, 800);
         window.show();
-        sheet = ImportView::makeSheet(f.plan(bytes), f.types, std::move(import), &window);
+        sheet = ImportView::makeSheet(f.plan(bytes), f.types, f.work, std::move(import), &window);
         sheet->open();
         activate(*sheet);
     }

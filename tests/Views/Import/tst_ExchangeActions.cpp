@@ -152,6 +152,42 @@ private Q_SLOTS:
         QVERIFY(!isDialogOpen(a.window));
     }
 
+    void aRegisterThatChangesMeanwhileIsComparedAgain()
+    {
+        Actions a;
+        a.f.work.beSlow();
+        Equipment item = equipment(9, u"Pinne"_s);
+        item.brand = u"Mares"_s;
+        item.model = u"Avanti Q+"_s;
+        a.actions.importPath(a.write(u"club.csv"_s, clubTable), &a.window);
+        a.f.equipment.addEquipment(item);
+        a.f.work.finish();
+        QCOMPARE(a.f.work.held(), 1);
+        a.f.work.finish();
+        settle();
+        auto& sheet = openDialog<ViewSheet>(a.window);
+        QCOMPARE(textOf(sheet, u"summary"), u"5 righe: 2 nuove, 2 già presenti,"_s);
+    }
+
+    void whatGoesOutIsAsItWasAndCanBeCancelled()
+    {
+        Actions a;
+        a.f.work.beSlow();
+        for (const bool isCancelled : {false, true}) {
+            const QString name = isCancelled ? u"b.csv"_s : u"a.csv"_s;
+            a.f.panel.answer(a.f.path(name));
+            a.actions.exportRegister(&a.window);
+            a.f.equipment.addEquipment(equipment(isCancelled ? 8 : 9, u"Boa"_s));
+            if (isCancelled)
+                a.f.work.progress().cancel();
+            a.f.work.finish();
+            QCOMPARE(a.dismissNotice(),
+                     isCancelled ? u"(no notice)"_s : u"Esportato 1 articolo in «%1»."_s.arg(a.f.path(name)));
+            QCOMPARE(QFile::exists(a.f.path(name)), !isCancelled);
+        }
+        QVERIFY(!a.f.content(u"a.csv"_s).contains("Boa"));
+    }
+
     void exportFollowsTheName_data()
     {
         QTest::addColumn<QString>("name");

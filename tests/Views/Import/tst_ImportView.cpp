@@ -2,6 +2,7 @@
 #include "ClippedTexts.h"
 #include "ImportParts.h"
 #include "Picture.h"
+#include "SegmentedControl.h"
 #include "TestRunner.h"
 #include "Theme.h"
 #include "Tokens.h"
@@ -117,6 +118,62 @@ private Q_SLOTS:
         QCOMPARE(s.table().model()->columnCount(), 9);
         QCOMPARE(s.cell(0, 8), u"15/06/2027"_s);
         QVERIFY(!isShown(*s.sheet, u"faults"));
+    }
+
+    void rowsThatAreBeingReadLeaveTheOldOnesOnShow()
+    {
+        ImportRegister f;
+        const ShownImport s(f, clubTable);
+        f.work.beSlow();
+        s.choose(6, u"Note"_s);
+        QCOMPARE(s.cell(3, 6), u"Data non valida: 31/02/2024"_s);
+        QVERIFY(!part<QAbstractButton>(*s.sheet, u"import").isEnabled());
+        s.choose(5, u"Non importare"_s); // in the place of what goes on
+        QVERIFY(f.work.progress(0).isCancelled());
+        QVERIFY(!f.work.progress(1).isCancelled());
+        f.work.finish();
+        QVERIFY(!part<QAbstractButton>(*s.sheet, u"import").isEnabled());
+        f.work.finish();
+        settle();
+        QCOMPARE(s.picker(6).currentText(), u"Note"_s);
+        QCOMPARE(s.picker(5).currentText(), u"Non importare"_s);
+        QVERIFY(s.picker(5).hasFocus());
+        QCOMPARE(s.chosen(), QList<bool>({true, true, false, true, true}));
+        QVERIFY(usable<QAbstractButton>(*s.sheet, u"import").isEnabled());
+    }
+
+    void cancelledReadingLeavesEverythingAsItWas()
+    {
+        ImportRegister f;
+        const ShownImport s(f, clubTable);
+        auto& subject = part<SegmentedControl>(*s.sheet, u"subject");
+        f.work.beSlow();
+        s.choose(0, u"Note"_s);
+        f.work.progress().cancel();
+        f.work.finish();
+        press(*s.sheet, u"Manutenzioni"_s);
+        QCOMPARE(subject.currentIndex(), 1);
+        f.work.progress().cancel();
+        f.work.finish();
+        settle();
+        QCOMPARE(subject.currentIndex(), 0);
+        QCOMPARE(s.picker(0).currentText(), u"Nome"_s);
+        QCOMPARE(usable<QAbstractButton>(*s.sheet, u"import").text(), u"Importa 3 articoli"_s);
+        s.choose(6, u"Note"_s); // goes out from what is on show
+        f.work.finish();
+        settle();
+        QCOMPARE(s.cell(0, 1), u"Erogatore MK25"_s);
+    }
+
+    void aViewThatGoesEndsItsReading()
+    {
+        ImportRegister f;
+        auto s = std::make_unique<ShownImport>(f, clubTable);
+        f.work.beSlow();
+        s->choose(6, u"Note"_s);
+        s.reset();
+        QVERIFY(f.work.progress().isCancelled());
+        f.work.finish();
     }
 
     void twoColumnsOfOneFieldAreSaid()
