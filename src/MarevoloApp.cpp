@@ -209,7 +209,7 @@ ViewSheet* MarevoloApp::makePrint(const std::optional<Equipment>& item, QWidget*
 ViewSheet* MarevoloApp::makeRestore(QWidget* over)
 {
     return RestoreView::makeSheet(
-        {m_generations, m_archive, m_equipment, m_types, m_settings, m_almanac}, m_lookedAt,
+        {m_generations, m_archive, m_equipment, m_types, m_settings, m_work, m_almanac}, m_lookedAt,
         [this](const EarlierState& state) { return restore(state); }, over, &m_copies);
 }
 

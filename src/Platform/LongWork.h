@@ -22,7 +22,7 @@ public:
 
     /// Completes on the calling thread, always, with the function's own outcome. When this object goes away, what is
     /// under way is cancelled; "Operation canceled" is the answer for what does not end even then. The title tells the
-    /// person what is being done.
+    /// person what is being done; without one she is shown nothing.
     [[nodiscard]] virtual QCoro::Task<IoResult<void>> run(QString title, Function work,
                                                           std::shared_ptr<WorkProgress> progress) = 0;
 };

@@ -73,7 +73,7 @@ QCoro::Task<IoResult<void>> ThreadedWork::run(QString title, Function work, std:
 {
     // It is resumed from inside the job, which therefore goes away later.
     const std::unique_ptr<Job, QScopedPointerDeleteLater> job(new Job(std::move(work), progress, &m_jobs));
-    const auto showing = m_panel.show(title, progress);
+    const auto showing = title.isEmpty() ? nullptr : m_panel.show(title, progress);
     co_return co_await job->answer();
 }
 

@@ -88,18 +88,26 @@ QString countsText(const StateContent& content)
 
 EarlierStateRow EarlierStateRow::of(const EarlierState& state, const StateContent& content, const Almanac& almanac)
 {
-    OccasionLook look = lookOf(state.occasion);
-    const bool isWhole = content.isWhole();
-    if (!isWhole)
-        look.text = unreadableText(content);
-    if (!isWhole && state.occasion != Occasion::emergency)
-        look.symbol = warningSymbol;
+    EarlierStateRow row = ofUnread(state, almanac);
+    row.counts = countsText(content);
+    if (content.isWhole())
+        return row;
+    row.occasion = unreadableText(content);
+    if (state.occasion != Occasion::emergency)
+        row.symbol = warningSymbol;
+    row.isWarning = true;
+    return row;
+}
+
+EarlierStateRow EarlierStateRow::ofUnread(const EarlierState& state, const Almanac& almanac)
+{
+    const OccasionLook look = lookOf(state.occasion);
     return {
         .when = almanac.dates.abbreviatedDate(state.kept) + u", "_s + timeText(state.kept, almanac),
-        .counts = countsText(content),
+        .counts = u"…"_s,
         .occasion = look.text,
         .symbol = look.symbol,
-        .isWarning = !isWhole || wantsAttention(state),
+        .isWarning = wantsAttention(state),
     };
 }
 

@@ -10,13 +10,15 @@ namespace abissora {
 struct EarlierStateRow
 {
     QString when;     ///< "21 nov 2026, 18:42"
-    QString counts;   ///< "12 articoli · 31 manutenzioni"
+    QString counts;   ///< "12 articoli · 31 manutenzioni"; "…" while nobody knows
     QString occasion; ///< "Prima di eliminare un articolo"
     QString symbol;   ///< of the occasion
     bool isWarning = false;
 
     [[nodiscard]] static EarlierStateRow of(const EarlierState& state, const StateContent& content,
                                             const Almanac& almanac);
+    /// What can be said of a state whose files were not read.
+    [[nodiscard]] static EarlierStateRow ofUnread(const EarlierState& state, const Almanac& almanac);
 
     friend bool operator==(const EarlierStateRow&, const EarlierStateRow&) = default;
 };

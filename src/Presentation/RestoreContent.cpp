@@ -14,21 +14,15 @@ public:
     void print(const QString& /*text*/) override {}
 };
 
-/// A stored date has no milliseconds: unless both are as if stored, every item of this run would have changed.
-QList<Equipment> asStored(const QList<Equipment>& equipment)
-{
-    const auto json = encode(equipment);
-    const auto decoded = json ? decodeEquipment(*json) : tl::unexpected(json.error());
-    return decoded ? *decoded : equipment;
-}
-
 } // namespace
 
 RestoreContent::RestoreContent(const Sources& sources)
     : m_sources(sources)
     , m_states(sources.generations.list())
-    , m_equipment(asStored(sources.equipment.equipment()))
-{}
+    , m_reader(sources.work, sources.equipment.equipment())
+{
+    connect(&m_reader, &StateReader::read, this, &RestoreContent::take);
+}
 
 QString RestoreContent::groupTitleAbove(qsizetype index) const
 {
@@ -37,57 +31,78 @@ QString RestoreContent::groupTitleAbove(qsizetype index) const
     return begins ? title : QString();
 }
 
-EarlierStateRow RestoreContent::row(qsizetype index) const
+EarlierStateRow RestoreContent::row(qsizetype index)
 {
     const EarlierState& state = m_states.at(index);
     const auto known = m_rows.constFind(state.name);
     if (known != m_rows.cend())
         return *known;
-    return *m_rows.insert(state.name, EarlierStateRow::of(state, readContent(state), m_sources.almanac));
+    m_reader.ask(state);
+    return EarlierStateRow::ofUnread(state, m_sources.almanac);
 }
 
-RestorePreview RestoreContent::preview(qsizetype index) const
+RestorePreview RestoreContent::compare(qsizetype index)
 {
-    return preview(m_states.at(index), m_sources.archive.archived());
+    const EarlierState& state = m_states.at(index);
+    return compare({state, m_sources.archive.archived(), titleOf(state)});
 }
 
-RestorePreview RestoreContent::previewOfCopy(const EarlierState& copy, const QSet<QString>& documents) const
+RestorePreview RestoreContent::compareCopy(const EarlierState& copy, const QSet<QString>& documents)
 {
-    RestorePreview preview =
-        this->preview(copy, (m_sources.archive.archived() + documents) - m_sources.archive.present());
-    preview.title = u"Copia del "_s + preview.title;
-    return preview;
+    return compare({copy, (m_sources.archive.archived() + documents) - m_sources.archive.present(),
+                    u"Copia del "_s + titleOf(copy)});
 }
 
-RestorePreview RestoreContent::preview(const EarlierState& state, const QSet<QString>& documents) const
+RestorePreview RestoreContent::compare(const Wanted& wanted)
 {
-    const Almanac& almanac = m_sources.almanac;
-    const StateContent content = readContent(state);
+    m_wanted = wanted;
+    m_reader.ask(wanted.state);
+    return {.title = wanted.title, .subtitle = u"Lettura in corso…"_s, .groups = {}, .canBeRestored = false};
+}
+
+QString RestoreContent::titleOf(const EarlierState& state) const
+{
+    return m_sources.almanac.dates.longDate(state.kept) + u", "_s + timeText(state.kept, m_sources.almanac);
+}
+
+void RestoreContent::take(const EarlierState& state, const ReadState& result)
+{
+    const qsizetype index = m_states.indexOf(state);
+    if (index >= 0 && !m_rows.contains(state.name)) {
+        m_rows.insert(state.name, EarlierStateRow::of(state, result.content, m_sources.almanac));
+        Q_EMIT rowRead(index);
+    }
+    if (m_wanted && m_wanted->state == state)
+        Q_EMIT compared(preview(*std::exchange(m_wanted, std::nullopt), result));
+}
+
+RestorePreview RestoreContent::preview(const Wanted& wanted, const ReadState& result) const
+{
     RestorePreview preview{
-        .title = almanac.dates.longDate(state.kept) + u", "_s + timeText(state.kept, almanac),
+        .title = wanted.title,
         .subtitle = u"Niente di leggibile"_s,
         .groups = {},
-        .canBeRestored = abissora::canBeRestored(content),
+        .canBeRestored = abissora::canBeRestored(result.content),
     };
     if (preview.canBeRestored) {
-        preview.groups = differences(state, content, documents);
+        preview.groups = differences(wanted, result);
         preview.subtitle = preview.groups.isEmpty() ? u"Uguale ad adesso"_s : u"Che cosa cambia rispetto ad adesso"_s;
     }
     return preview;
 }
 
-QList<DifferenceGroup> RestoreContent::differences(const EarlierState& state, const StateContent& content,
-                                                   const QSet<QString>& documents) const
+QList<DifferenceGroup> RestoreContent::differences(const Wanted& wanted, const ReadState& result) const
 {
+    const auto& [equipment, types] = result.content;
     StateComparison comparison(m_sources.types, m_sources.almanac.dates);
-    if (content.equipment.isStored) {
-        comparison.compareEquipment(m_equipment, content.equipment.records);
-        comparison.addDocuments(content.equipment.records, documents);
+    if (equipment.isStored) {
+        comparison.compareEquipment(result.present, equipment.records);
+        comparison.addDocuments(equipment.records, wanted.documents);
     }
     // Types of which nothing can be read stay as they are.
-    if (content.types.isStored && (!content.types.error || !content.types.records.isEmpty()))
-        comparison.compareTypes(m_sources.types.types(), content.types.records);
-    comparison.addSettings(settingsDifferences(state));
+    if (types.isStored && (!types.error || !types.records.isEmpty()))
+        comparison.compareTypes(m_sources.types.types(), types.records);
+    comparison.addSettings(settingsDifferences(wanted.state));
     return comparison.groups();
 }
 

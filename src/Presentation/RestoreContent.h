@@ -6,6 +6,7 @@
 #include "EquipmentViewModel.h"
 #include "Generations.h"
 #include "StateDifferences.h"
+#include "StateReader.h"
 
 namespace abissora {
 
@@ -14,15 +15,17 @@ struct RestorePreview
 {
     QString title; ///< "21 novembre 2026, 18:42"
     /// "Che cosa cambia rispetto ad adesso", or in a word that nothing does or that nothing can be read.
-    QString subtitle;
+    QString subtitle; ///< or that the files are still being read
     QList<DifferenceGroup> groups;
     bool canBeRestored = false;
 };
 
 /// The kept states, as they were when it was made, and how each differs from what the program holds now. Their files
-/// are read when somebody asks for a state; what its row says is remembered.
-class RestoreContent
+/// are read beside the interface when somebody asks for a state; what its row says is remembered.
+class RestoreContent : public QObject
 {
+    Q_OBJECT
+
 public:
     struct Sources
     {
@@ -31,6 +34,7 @@ public:
         const EquipmentViewModel& equipment;
         const EquipmentTypeViewModel& types;
         const SettingsViewModel& settings;
+        LongWork& work;
         Almanac almanac;
     };
 
@@ -40,24 +44,41 @@ public:
     [[nodiscard]] const QList<EarlierState>& states() const { return m_states; }
     /// The title of the group that begins with the state of this place; empty for the others of a group.
     [[nodiscard]] QString groupTitleAbove(qsizetype index) const;
-    [[nodiscard]] EarlierStateRow row(qsizetype index) const;
-    [[nodiscard]] RestorePreview preview(qsizetype index) const;
-    /// Of a state that comes from elsewhere, with these documents.
-    [[nodiscard]] RestorePreview previewOfCopy(const EarlierState& copy, const QSet<QString>& documents) const;
-    /// The rows that were asked for so far.
+    /// What is known so far. Where its files were not read yet, they will be: see rowRead().
+    [[nodiscard]] EarlierStateRow row(qsizetype index);
+    /// The rows whose files were read so far.
     [[nodiscard]] qsizetype readRows() const { return m_rows.size(); }
 
+    /// What can be said at once. How it differs comes with compared(), unless another state is asked for before.
+    RestorePreview compare(qsizetype index);
+    /// The same of a state that comes from elsewhere, with these documents.
+    RestorePreview compareCopy(const EarlierState& copy, const QSet<QString>& documents);
+
+Q_SIGNALS:
+    void rowRead(qsizetype index);
+    void compared(const abissora::RestorePreview& preview);
+
 private:
-    [[nodiscard]] RestorePreview preview(const EarlierState& state, const QSet<QString>& documents) const;
-    /// `documents` are those that could come back.
-    [[nodiscard]] QList<DifferenceGroup> differences(const EarlierState& state, const StateContent& content,
-                                                     const QSet<QString>& documents) const;
+    /// One that is to be compared with now.
+    struct Wanted
+    {
+        EarlierState state;
+        QSet<QString> documents; ///< that could come back
+        QString title;
+    };
+
+    RestorePreview compare(const Wanted& wanted);
+    [[nodiscard]] QString titleOf(const EarlierState& state) const;
+    void take(const EarlierState& state, const ReadState& result);
+    [[nodiscard]] RestorePreview preview(const Wanted& wanted, const ReadState& result) const;
+    [[nodiscard]] QList<DifferenceGroup> differences(const Wanted& wanted, const ReadState& result) const;
     [[nodiscard]] QList<FieldDifference> settingsDifferences(const EarlierState& state) const;
 
     Sources m_sources;
     QList<EarlierState> m_states;
-    QList<Equipment> m_equipment; ///< of now, as exact as a stored one
-    mutable QHash<QString, EarlierStateRow> m_rows;
+    StateReader m_reader;
+    QHash<QString, EarlierStateRow> m_rows;
+    std::optional<Wanted> m_wanted;
 };
 
 } // namespace abissora

@@ -4,6 +4,7 @@
 #include "RegisterFixture.h"
 #include "TestRunner.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace abissora;
@@ -12,9 +13,31 @@ using namespace std::chrono_literals;
 
 namespace {
 
-RestoreContent contentOf(const RegisterFixture& f)
+RestoreContent contentOf(RegisterFixture& f)
 {
-    return RestoreContent({f.generations, f.archive, f.equipment, f.types, f.settings, f.almanac});
+    return RestoreContent({f.generations, f.archive, f.equipment, f.types, f.settings, f.work, f.almanac});
+}
+
+/// How a state differs, once that is known.
+RestorePreview comparison(RestoreContent& content, qsizetype index)
+{
+    std::optional<RestorePreview> last;
+    QObject receiver;
+    QObject::connect(&content, &RestoreContent::compared, &receiver,
+                     [&last](const RestorePreview& preview) { last = preview; });
+    content.compare(index);
+    QCoreApplication::processEvents();
+    if (!last)
+        qFatal("nothing was compared");
+    return *last;
+}
+
+/// What the row says once its files were read.
+EarlierStateRow readRow(RestoreContent& content, qsizetype index)
+{
+    static_cast<void>(content.row(index));
+    QCoreApplication::processEvents();
+    return content.row(index);
 }
 
 /// Loading the types has kept a state already.
@@ -33,10 +56,11 @@ void keep(RegisterFixture& f)
 }
 
 /// "Title total: line | line", of the newest state.
-QStringList texts(const RegisterFixture& f)
+QStringList texts(RegisterFixture& f)
 {
     QStringList texts;
-    for (const DifferenceGroup& group : contentOf(f).preview(0).groups) {
+    RestoreContent content = contentOf(f);
+    for (const DifferenceGroup& group : comparison(content, 0).groups) {
         QStringList lines;
         for (const DifferenceLine& line : group.lines)
             lines.append(line.text());
@@ -61,7 +85,7 @@ class tst_RestoreContent : public TestCase
 private Q_SLOTS:
     void nothingIsKept()
     {
-        const RegisterFixture f;
+        RegisterFixture f;
         QVERIFY(contentOf(f).states().isEmpty());
     }
 
@@ -69,7 +93,8 @@ private Q_SLOTS:
     {
         RegisterFixture f(QList{torch()});
         keep(f);
-        const RestorePreview preview = contentOf(f).preview(0);
+        RestoreContent content = contentOf(f);
+        const RestorePreview preview = comparison(content, 0);
         QCOMPARE(preview.title, u"15 giugno 2026, 12:00"_s);
         QCOMPARE(preview.subtitle, u"Uguale ad adesso"_s);
         QVERIFY(preview.groups.isEmpty());
@@ -96,10 +121,11 @@ private Q_SLOTS:
         changed.serialNumber = u"SN-02"_s;
         f.equipment.updateEquipment(changed);
         f.equipment.addEquipment(equipment(4, u"Muta"_s));
-        const RestoreContent content = contentOf(f);
+        RestoreContent content = contentOf(f);
         const qsizetype oldest = content.states().size() - 1;
-        QCOMPARE(content.preview(oldest).subtitle, u"Che cosa cambia rispetto ad adesso"_s);
-        const QList<DifferenceGroup> groups = content.preview(oldest).groups;
+        const auto [title, subtitle, groups, canBeRestored] = comparison(content, oldest);
+        QCOMPARE(subtitle, u"Che cosa cambia rispetto ad adesso"_s);
+        QVERIFY(canBeRestored);
         QCOMPARE(groups.size(), 3);
         QCOMPARE(groups.at(0).title, u"Tornano"_s);
         QCOMPARE(groups.at(0).lines.first().text(), u"Torcia, 2 manutenzioni"_s);
@@ -227,10 +253,11 @@ private Q_SLOTS:
         QList<Equipment> many;
         for (int i = 0; i < 130; ++i)
             many.append(equipment(i + 100, u"Articolo %1"_s.arg(i)));
-        const RegisterFixture f(QList{torch()});
+        RegisterFixture f(QList{torch()});
         forgetStates(f);
         f.write(u"backups/20260601T100000.000Z-import/savedEquipment.json"_s, encode(many).value());
-        const DifferenceGroup group = contentOf(f).preview(0).groups.first();
+        RestoreContent content = contentOf(f);
+        const DifferenceGroup group = comparison(content, 0).groups.first();
         QCOMPARE(group.total, 130);
         QCOMPARE(group.lines.size(), 100);
         QCOMPARE(group.rest(), u"e altri 30"_s);
@@ -247,13 +274,14 @@ private Q_SLOTS:
         damaged.replace("Pinne\"", "Pinne\",\"isActive\":7,\"x\":\"");
         f.write(u"backups/20260601T100000.000Z-unreadable/savedEquipment.json"_s, damaged);
         f.write(u"backups/20260501T100000.000Z-unreadable/savedEquipment.json"_s, "nonsense");
-        const RestoreContent content = contentOf(f);
+        RestoreContent content = contentOf(f);
         QCOMPARE(content.states().size(), 2);
         QVERIFY(content.row(0).isWarning);
-        QVERIFY(content.preview(0).canBeRestored);
-        QVERIFY(!content.preview(1).canBeRestored);
-        QCOMPARE(content.preview(1).subtitle, u"Niente di leggibile"_s);
-        QVERIFY(content.preview(1).groups.isEmpty());
+        QVERIFY(comparison(content, 0).canBeRestored);
+        const RestorePreview nothing = comparison(content, 1);
+        QVERIFY(!nothing.canBeRestored);
+        QCOMPARE(nothing.subtitle, u"Niente di leggibile"_s);
+        QVERIFY(nothing.groups.isEmpty());
     }
 
     void aStateWithoutARegisterTouchesOnlyWhatItHas()
@@ -278,7 +306,7 @@ private Q_SLOTS:
         f.write(QDir(f.folder.path()).relativeFilePath(f.directories.emergency()) +
                     u"/20240101T000000.000Z-emergency/savedEquipment.json"_s,
                 "[]");
-        const RestoreContent content = contentOf(f);
+        RestoreContent content = contentOf(f);
         QStringList titles;
         for (qsizetype i = 0; i < content.states().size(); ++i)
             titles.append(content.groupTitleAbove(i));
@@ -292,12 +320,73 @@ private Q_SLOTS:
         forgetStates(f);
         const QString name = u"backups/20260615T080000.000Z-import/savedEquipment.json"_s;
         f.write(name, encode(QList{torch(), equipment(2)}).value());
-        const RestoreContent content = contentOf(f);
+        RestoreContent content = contentOf(f);
+        const QSignalSpy read(&content, &RestoreContent::rowRead);
+        QCOMPARE(content.row(0).counts, u"…"_s);
+        QCOMPARE(content.row(0).occasion, u"Prima di importare"_s);
         QCOMPARE(content.readRows(), 0);
-        QCOMPARE(content.row(0).counts, u"2 articoli · 2 manutenzioni"_s);
+        QCOMPARE(readRow(content, 0).counts, u"2 articoli · 2 manutenzioni"_s);
         f.write(name, "[]");
-        QCOMPARE(content.row(0).counts, u"2 articoli · 2 manutenzioni"_s);
+        QCOMPARE(readRow(content, 0).counts, u"2 articoli · 2 manutenzioni"_s);
         QCOMPARE(content.readRows(), 1);
+        QCOMPARE(read.size(), 1);
+    }
+
+    void onlyWhatIsWantedLastIsCompared()
+    {
+        RegisterFixture f(QList{torch()});
+        keep(f);
+        f.equipment.addEquipment(equipment(2));
+        keep(f);
+        RestoreContent content = contentOf(f);
+        const QSignalSpy compared(&content, &RestoreContent::compared);
+        f.work.beSlow();
+        const RestorePreview beginning = content.compare(0);
+        QCOMPARE(beginning.title, u"15 giugno 2026, 12:01"_s);
+        QCOMPARE(beginning.subtitle, u"Lettura in corso…"_s);
+        QVERIFY(!beginning.canBeRestored);
+        QCoreApplication::processEvents();
+        QCOMPARE(f.work.held(), 1);
+        content.compare(1);
+        f.work.finish(); // nobody wants that one any more
+        QCOMPARE(compared.size(), 0);
+        f.work.finish();
+        QCOMPARE(compared.size(), 1);
+        QCOMPARE(compared.first().first().value<RestorePreview>().title, u"15 giugno 2026, 12:00"_s);
+    }
+
+    void theLastOneAskedForIsReadFirst()
+    {
+        RegisterFixture f(QList{torch()});
+        forgetStates(f);
+        for (int minute = 10; minute < 60; ++minute)
+            f.write(u"backups/20260501T08%1.000Z-import/savedEquipment.json"_s.arg(minute * 100), "[]");
+        RestoreContent content = contentOf(f);
+        QList<qsizetype> order;
+        QObject::connect(&content, &RestoreContent::rowRead, &content, [&order](qsizetype i) { order.append(i); });
+        QVERIFY(content.states().size() > 40);
+        for (qsizetype index = 0; index < 40; ++index)
+            static_cast<void>(content.row(index));
+        QCoreApplication::processEvents();
+        QCOMPARE(order.size(), 32); // what was asked for long before is forgotten
+        QCOMPARE(order.first(), 39);
+        QCOMPARE(order.last(), 8);
+        QCOMPARE(f.work.titles().first(), QString());
+    }
+
+    void nobodyReadsForAContentThatIsGone()
+    {
+        RegisterFixture f(QList{torch()});
+        keep(f);
+        std::optional<RestoreContent> content;
+        content.emplace(
+            RestoreContent::Sources{f.generations, f.archive, f.equipment, f.types, f.settings, f.work, f.almanac});
+        f.work.beSlow();
+        content->compare(0);
+        QCoreApplication::processEvents();
+        content.reset();
+        QVERIFY(f.work.progress().isCancelled());
+        f.work.finish();
     }
 };
 

@@ -59,7 +59,7 @@ public:
     ViewSheet* makeRestore(QWidget* over) override
     {
         return RestoreView::makeSheet(
-            {generations, archive, equipment, types, settings, almanac}, lookedAt,
+            {generations, archive, equipment, types, settings, work, almanac}, lookedAt,
             [this](const EarlierState& state) { return restore(state); }, over);
     }
     bool hasStateToLookAt() const override { return abissora::hasStateToLookAt(generations.list(), lookedAt); }

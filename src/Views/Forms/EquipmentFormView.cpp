@@ -62,7 +62,8 @@ void EquipmentForm::addGroups()
     setAccessKey(*m_isActive, u'V');
     GroupBox* const notes = makeGroup(u"Note"_s, {m_notes});
     notes->setAccessKey(u'E', m_notes);
-    state->setVisible(m_purpose == Purpose::Edit);
+    if (m_purpose != Purpose::Edit)
+        state->hide();
     for (GroupBox* group : {
              makeGroup(u"Informazioni Generali"_s,
                        {new FormRow(u"Nome*"_s, m_name, u'N'), new FormRow(u"Tipo*"_s, m_type, u'T'), m_intervalRow}),

@@ -77,7 +77,9 @@ ElidedLabel* rightLabel(InkLabel::Ink ink, const QString& text, QAnyStringView n
     auto* label = named(new ElidedLabel(TextStyle::Callout, ink), name);
     label->setText(text);
     label->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    label->setVisible(!text.isEmpty());
+    // Never shown here: without a parent it would be a window for a moment.
+    if (text.isEmpty())
+        label->hide();
     return label;
 }
 
@@ -128,7 +130,8 @@ DifferenceRow::DifferenceRow(const DifferenceLine& line, QWidget* parent)
     setObjectName(u"difference"_s);
     m_name->setText(line.name);
     m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_arrow->setVisible(!line.becomes.isEmpty());
+    if (line.becomes.isEmpty())
+        m_arrow->hide();
     auto* icon = new IconView(typeIcon(line.look.icon, line.look.color), lineIcon);
     setLayout(
         inRow(metrics::spaceXS + 2,

@@ -28,6 +28,7 @@ namespace {
 constexpr QSize preferredSize(860, 600);
 constexpr int listWidth = 300;
 constexpr int windowMargin = 18;
+constexpr std::chrono::milliseconds soon(200);
 
 /// A hairline from top to bottom.
 class Border final : public QFrame
@@ -74,6 +75,10 @@ RestoreView::RestoreView(const RestoreContent::Sources& sources, LookedAtStates&
         if (index >= 0)
             showState(index);
     });
+    connect(&m_content, &RestoreContent::compared, this, &RestoreView::showCompared);
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(soon);
+    connect(&m_patience, &QTimer::timeout, this, [this] { showPreview(m_beginning); });
     if (!m_content.states().isEmpty())
         showState(0);
 }
@@ -117,10 +122,14 @@ QLayout* RestoreView::makeBody()
 
     m_nothing = named(new EmptyState(u"clock.arrow.circlepath"_s, u"Nessuno stato precedente"_s), u"noStates");
     const bool any = !m_content.states().isEmpty();
-    m_nothing->setVisible(!any);
+    if (any)
+        m_nothing->hide();
     auto* border = new Border;
-    for (QWidget* part : std::initializer_list<QWidget*>{&m_states->area(), border, m_page})
-        part->setVisible(any);
+    // Shown they are by the window: without a parent each would be one for a moment.
+    for (QWidget* part : std::initializer_list<QWidget*>{&m_states->area(), border, m_page}) {
+        if (!any)
+            part->hide();
+    }
     m_withState.append(m_page);
     return inRow(0, {&m_states->area(), border, {m_page, 1}, {m_nothing, 1}});
 }
@@ -131,7 +140,8 @@ QLayout* RestoreView::makeFooter()
                                         u"Lo stato di adesso viene conservato prima di ripristinare."_s),
                           u"promise");
     promise->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    promise->setVisible(!m_content.states().isEmpty());
+    if (m_content.states().isEmpty())
+        promise->hide();
     m_withState.append(promise);
     m_fromFile->hide();
     m_restoreButton->setEnabled(false);
@@ -155,13 +165,29 @@ void RestoreView::showState(qsizetype index)
 {
     m_copy.reset();
     const EarlierState& state = m_content.states().at(index);
-    showPreview(m_content.preview(index));
+    showWhenSlow(m_content.compare(index));
     if (wantsAttention(state)) {
         QStringList names;
         for (const EarlierState& existing : m_content.states())
             names.append(existing.name);
         m_lookedAt.add(state.name, names);
     }
+}
+
+void RestoreView::showWhenSlow(const RestorePreview& beginning)
+{
+    m_isComparing = true;
+    m_beginning = beginning;
+    m_patience.start();
+}
+
+void RestoreView::showCompared(const RestorePreview& preview)
+{
+    m_isComparing = false;
+    m_patience.stop();
+    showPreview(preview);
+    if (m_copy)
+        announce(*m_title, preview.title + u": "_s + preview.subtitle);
 }
 
 void RestoreView::showPreview(const RestorePreview& preview)
@@ -180,7 +206,7 @@ void RestoreView::showPreview(const RestorePreview& preview)
 
 void RestoreView::restoreChosen()
 {
-    if (m_work)
+    if (m_work || m_isComparing)
         return;
     if (m_copy)
         restoreCopy();
@@ -217,9 +243,7 @@ QCoro::Task<> RestoreView::openCopy(QString path)
     m_nothing->hide();
     for (QWidget* part : std::as_const(m_withState))
         part->show();
-    const RestorePreview preview = m_content.previewOfCopy(m_copy->state, m_copy->documents);
-    showPreview(preview);
-    announce(*m_title, preview.title + u": "_s + preview.subtitle);
+    showWhenSlow(m_content.compareCopy(m_copy->state, m_copy->documents));
 }
 
 QCoro::Task<> RestoreView::restoreCopy()

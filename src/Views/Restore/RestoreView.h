@@ -4,6 +4,7 @@
 #include "CopyActions.h"
 #include "RestoreContent.h"
 
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 
@@ -49,6 +50,9 @@ private:
     [[nodiscard]] QLayout* makeFooter();
     [[nodiscard]] QWidget* firstFocus() const;
     void showState(qsizetype index);
+    /// In the place of what is on show, but where it comes soon only what it becomes.
+    void showWhenSlow(const RestorePreview& beginning);
+    void showCompared(const RestorePreview& preview);
     void showPreview(const RestorePreview& preview);
     void restoreChosen();
     void restoreState();
@@ -73,6 +77,9 @@ private:
     QPointer<CopyActions> m_copies;
     std::optional<OpenedCopy> m_copy;     ///< chosen instead of a state
     std::shared_ptr<WorkProgress> m_work; ///< under way
+    QTimer m_patience;                    ///< runs until what is being compared is told to be slow
+    RestorePreview m_beginning;           ///< of what is being compared
+    bool m_isComparing = false;
 };
 
 /// Whether there is a state that holds what could not be read or stored, and that nobody has looked at.

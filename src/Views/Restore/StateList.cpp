@@ -28,11 +28,11 @@ protected:
 
 } // namespace
 
-StateList::StateList(const RestoreContent& content)
+StateList::StateList(RestoreContent& content)
     : StateList(content, *new Surface)
 {}
 
-StateList::StateList(const RestoreContent& content, ScrollPane& area)
+StateList::StateList(RestoreContent& content, ScrollPane& area)
     : RowList(area, {.keys = Keys::WalkRows, .border = border, .reserve = 1})
     , m_content(content)
     , m_area(area)
@@ -45,6 +45,7 @@ StateList::StateList(const RestoreContent& content, ScrollPane& area)
     for (const auto& state : content.states())
         ids.append(QUuid::createUuidV5(QUuid(), state.name));
     showItems(ids);
+    connect(&content, &RestoreContent::rowRead, this, &StateList::showState);
 }
 
 QWidget& StateList::area() const
@@ -106,6 +107,14 @@ QString StateList::shapeOf(const QWidget& ruler, qsizetype index) const
 {
     m_measuring = &ruler;
     return m_content.groupTitleAbove(index);
+}
+
+void StateList::showState(qsizetype index)
+{
+    for (const StateRow* row : rowsAs<StateRow>()) {
+        if (indexOf(*row) == index)
+            row->button().setState(m_content.row(index));
+    }
 }
 
 qsizetype StateList::indexOf(const StateRow& row) const

@@ -17,7 +17,7 @@ class StateList final : public RowList
 
 public:
     /// `content` must outlive it.
-    explicit StateList(const RestoreContent& content);
+    explicit StateList(RestoreContent& content);
 
     /// The widget that scrolls it.
     [[nodiscard]] QWidget& area() const;
@@ -35,14 +35,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    StateList(const RestoreContent& content, ScrollPane& area);
+    StateList(RestoreContent& content, ScrollPane& area);
 
     QWidget* makeRow() override;
     void fillRow(QWidget& row, qsizetype index) override;
     [[nodiscard]] QString shapeOf(const QWidget& ruler, qsizetype index) const override;
     [[nodiscard]] qsizetype indexOf(const StateRow& row) const;
+    void showState(qsizetype index);
 
-    const RestoreContent& m_content;
+    RestoreContent& m_content;
     ScrollPane& m_area;
     QHash<const QWidget*, qsizetype> m_shown; ///< the state that each row shows
     mutable const QWidget* m_measuring = nullptr;

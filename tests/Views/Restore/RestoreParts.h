@@ -62,7 +62,7 @@ struct ShownRestore
         window.resize(size);
         activate(window);
         sheet = RestoreView::makeSheet(
-            {f.generations, f.archive, f.equipment, f.types, f.settings, f.almanac}, lookedAt,
+            {f.generations, f.archive, f.equipment, f.types, f.settings, f.work, f.almanac}, lookedAt,
             [this](const EarlierState& state) -> IoResult<void> {
                 asked.append(state.name);
                 return answer;

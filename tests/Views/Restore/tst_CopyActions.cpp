@@ -71,7 +71,7 @@ struct ShownWithCopies
     {
         copies.window.resize(size);
         sheet = RestoreView::makeSheet(
-            {f.generations, f.archive, f.equipment, f.types, f.settings, f.almanac}, lookedAt,
+            {f.generations, f.archive, f.equipment, f.types, f.settings, f.work, f.almanac}, lookedAt,
             [this](const EarlierState& state) -> IoResult<void> {
                 asked.append(state.name);
                 return {};

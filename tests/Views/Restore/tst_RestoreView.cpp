@@ -19,6 +19,7 @@ QAccessibleInterface& reader(QWidget& widget)
 void press(Qt::Key key)
 {
     QTest::keyClick(QApplication::focusWidget(), key);
+    settle();
 }
 
 } // namespace
@@ -63,13 +64,35 @@ private Q_SLOTS:
         KeptRegister f;
         ShownRestore s(f);
         QTest::mouseClick(s.states().at(1), Qt::LeftButton);
+        settle();
         QCOMPARE(s.chosen(), 1);
         QCOMPARE(textOf(*s.sheet, u"stateSubtitle"), u"Uguale ad adesso"_s);
         QVERIFY(s.differences().isEmpty());
         QTest::mouseClick(s.states().at(1), Qt::LeftButton); // again: it stays chosen
         QCOMPARE(s.chosen(), 1);
         QTest::mouseClick(s.states().at(0), Qt::LeftButton);
+        settle();
         QCOMPARE(s.differences().size(), 2);
+    }
+
+    void whatIsReadSlowlySaysSo()
+    {
+        KeptRegister f;
+        ShownRestore s(f);
+        f.work.beSlow();
+        QTest::mouseClick(s.states().at(1), Qt::LeftButton);
+        QCOMPARE(s.differences().size(), 2); // of the one before, for a moment
+        click(*s.sheet, u"restore");
+        QCOMPARE(s.asked, QStringList()); // neither the one before nor one that nobody has seen
+        QTRY_COMPARE(textOf(*s.sheet, u"stateSubtitle"), u"Lettura in corso…"_s);
+        QCOMPARE(textOf(*s.sheet, u"stateTitle"), u"1 aprile 2026, 12:00"_s);
+        QVERIFY(s.differences().isEmpty());
+        QVERIFY(!part(*s.sheet, u"restore").isEnabled());
+        f.work.finish();
+        settle();
+        QCOMPARE(textOf(*s.sheet, u"stateSubtitle"), u"Uguale ad adesso"_s);
+        click(*s.sheet, u"restore");
+        QCOMPARE(s.asked, QStringList{oldState});
     }
 
     void keysChoose()
@@ -151,6 +174,7 @@ private Q_SLOTS:
         QCOMPARE(reader(part(*s.sheet, u"restoreError")).role(), QAccessible::AlertMessage);
         QCOMPARE(reader(part(*s.sheet, u"restoreError")).text(QAccessible::Name), text);
         QTest::mouseClick(s.states().at(1), Qt::LeftButton); // another state, another try
+        settle();
         QVERIFY(!isShown(*s.sheet, u"restoreError"));
         s.answer = {};
         click(*s.sheet, u"restore");
@@ -166,8 +190,9 @@ private Q_SLOTS:
             delete std::exchange(view, nullptr);
             return tl::unexpected(IoError{u"gone"_s});
         };
-        view =
-            new RestoreView({f.generations, f.archive, f.equipment, f.types, f.settings, f.almanac}, s.lookedAt, end);
+        view = new RestoreView({f.generations, f.archive, f.equipment, f.types, f.settings, f.work, f.almanac},
+                               s.lookedAt, end);
+        settle();
         existing<QPushButton>(*view, u"restore").click();
         QCOMPARE(view, nullptr);
     }
