@@ -8,19 +8,21 @@ namespace abissora::benchmark {
 
 namespace {
 
-constexpr std::chrono::microseconds between(300);
+constexpr unsigned long between = 300; ///< microseconds
 
 } // namespace
 
 Pulse::Pulse()
-    : m_asker([this] { ask(); })
-{}
+    : m_asker(QThread::create([this] { ask(); }))
+{
+    m_asker->start();
+}
 
 Pulse::~Pulse()
 {
     m_isOver = true;
     m_answers.release();
-    m_asker.join();
+    m_asker->wait();
 }
 
 void Pulse::timerEvent(QTimerEvent* /*event*/)
@@ -37,7 +39,7 @@ void Pulse::ask()
         m_answers.acquire();
         const Duration waited = std::chrono::steady_clock::now() - begin;
         m_longest = std::max<double>(m_longest, waited.count());
-        std::this_thread::sleep_for(between);
+        QThread::usleep(between);
     }
 }
 

@@ -5,8 +5,9 @@
 
 #include <QObject>
 #include <QSemaphore>
+#include <QThread>
 #include <atomic>
-#include <thread>
+#include <memory>
 
 namespace abissora::benchmark {
 
@@ -33,7 +34,7 @@ private:
     std::atomic<double> m_longest = 0; ///< milliseconds
     std::atomic<bool> m_isOver = false;
     QSemaphore m_answers;
-    std::thread m_asker;
+    std::unique_ptr<QThread> m_asker;
 };
 
 } // namespace abissora::benchmark

@@ -7,33 +7,23 @@
 //   abissora-waits [ITEMS] >/dev/null
 //
 // The program's own log has the standard output; the table goes to the standard error.
-#include "Alert.h"
-#include "ContentView.h"
-#include "EquipmentDetailView.h"
-#include "EquipmentTableView.h"
 #include "Export.h"
 #include "FolderLock.h"
-#include "Gui.h"
-#include "MainWindow.h"
 #include "OutputFile.h"
-#include "Pulse.h"
+#include "Person.h"
 #include "RecordJson.h"
 #include "Register.h"
 #include "Report.h"
-#include "Session.h"
 #include "StorageManager.h"
 #include "UpdateSource.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <QFileDialog>
 #include <QHeaderView>
-#include <QLineEdit>
 #include <QListView>
-#include <QMenuBar>
+#include <QPointer>
 #include <QTemporaryDir>
-#include <QTimer>
 
 using namespace abissora;
 using namespace abissora::benchmark;
@@ -41,131 +31,11 @@ using namespace abissora::test;
 
 namespace {
 
-constexpr int patience = 60'000; ///< milliseconds for work that goes on elsewhere
-
-QList<QDialog*> openDialogs()
+/// What the rows to be imported are read as, in a column of the file.
+QString titleOfColumn(int column)
 {
-    QList<QDialog*> dialogs;
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (auto* dialog = qobject_cast<QDialog*>(window); dialog != nullptr && dialog->isVisible())
-            dialogs.append(dialog);
-    }
-    return dialogs;
-}
-
-QDialog& dialogInFront()
-{
-    auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr)
-        qFatal("no dialog is open");
-    return *dialog;
-}
-
-/// Uses the program and prints how long it did not answer.
-class Person
-{
-public:
-    Person(Session& session, Duration unit)
-        : m_session(session)
-        , m_unit(unit)
-    {
-        std::fprintf(stderr, "%-66s %10s %9s\n", "the longest time without an answer", "ms", "ratio");
-    }
-
-    MainWindow& window() { return m_session.mainWindow(); }
-    ContentView& content() { return window().content(); }
-    EquipmentTableView& table() { return existing<EquipmentTableView>(window(), u"equipmentTable"_s); }
-    QWidget& detail() { return part<EquipmentDetailView>(window(), u"equipmentDetail"_s); }
-
-    /// What is done, until nothing of it is left and `isDone`.
-    template <typename Verb>
-    void does(
-        const char* what, Verb verb, const std::function<bool()>& isDone = [] { return true; })
-    {
-        settle();
-        m_pulse.begin();
-        verb();
-        settle();
-        if (!QTest::qWaitFor(isDone, patience))
-            qFatal("%s: it does not end", what);
-        settle();
-        const Duration longest = m_pulse.longest();
-        print(what, longest);
-        if (longest > m_longest) {
-            m_longest = longest;
-            m_worst = what;
-        }
-    }
-
-    void tells() const
-    {
-        std::fputc('\n', stderr);
-        print(("longest of all: " + m_worst).c_str(), m_longest);
-    }
-
-    void menu(const QString& text) { command(*window().menuBar(), text)->trigger(); }
-
-    /// In the file panel that is about to open.
-    void willChoose(const QString& path, int format = 0)
-    {
-        QTimer::singleShot(0, &window(), [path, format] {
-            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr || !QTest::qWaitForWindowActive(dialog))
-                qFatal("no file dialog");
-            if (format > 0) {
-                dialog->selectNameFilter(dialog->nameFilters().at(format));
-                Q_EMIT dialog->filterSelected(dialog->nameFilters().at(format));
-            }
-            auto& field = existing<QLineEdit>(*dialog, u"fileNameEdit"_s);
-            field.setFocus();
-            field.setText(path);
-            QTest::keyClick(&field, Qt::Key_Return);
-        });
-    }
-
-    /// Closes notices and alerts by their safe button.
-    static void dismiss()
-    {
-        while (QWidget* const modal = QApplication::activeModalWidget()) {
-            modal->close();
-            settle();
-        }
-    }
-
-private:
-    static QAction* command(const QWidget& bar, const QString& text)
-    {
-        for (QAction* menu : bar.actions()) {
-            for (QAction* entry : menu->menu()->actions()) {
-                if (entry->text().remove(u'&') == text)
-                    return entry;
-            }
-        }
-        qFatal("no menu has %s", qUtf8Printable(text));
-    }
-    void print(const char* what, Duration longest) const
-    {
-        std::fprintf(stderr, "%-66s %10.1f %9.2f\n", what, longest.count(), longest / m_unit);
-    }
-
-    Session& m_session;
-    Duration m_unit;
-    Pulse m_pulse;
-    Duration m_longest{};
-    std::string m_worst;
-};
-
-bool hasDialog(const char* objectName)
-{
-    const QList<QDialog*> dialogs = openDialogs();
-    return std::ranges::any_of(dialogs, [objectName](const QDialog* dialog) {
-        return dialog->findChild<QWidget*>(QString::fromLatin1(objectName)) != nullptr;
-    });
-}
-
-bool hasNotice()
-{
-    return qobject_cast<const Alert*>(QApplication::activeModalWidget()) != nullptr;
+    const auto* const table = partOfDialog<QAbstractItemView>(u"importTable"_s);
+    return table == nullptr ? QString() : table->model()->headerData(column + 1, Qt::Horizontal).toString();
 }
 
 void useList(Person& person)
@@ -184,7 +54,7 @@ void useList(Person& person)
         person.does("a letter in the search", [&] { QTest::keyClicks(&search, QLatin1String(letter)); });
     person.does("the search deleted", [&] { search.clear(); });
     person.does("the list refreshed", [&] { person.menu(u"Aggiorna"_s); });
-    for (int row : {1, 2, 5, 0}) {
+    for (int row : {2, 5, 1}) {
         person.does("another row of the sidebar", [&] {
             auto& sidebar = part<QListView>(person.window(), u"sidebar"_s);
             sidebar.setCurrentIndex(sidebar.model()->index(row, 0));
@@ -231,8 +101,6 @@ void visitPages(Person& person)
     person.does("a type of 900 items renamed", [&] { click(dialogInFront(), u"primary"); });
     person.does("the types reset", [&] { click(dialogInFront(), u"resetTypes"); });
     Person::dismiss();
-    person.menu(u"Manutenzione"_s);
-    person.does("a due item stored with the overview open", [&] { person.menu(u"Disattiva"_s); });
     person.does("back to the list", [&] { person.menu(u"Attrezzatura"_s); });
 }
 
@@ -257,19 +125,19 @@ void useFiles(Person& person, const QDir& folder)
                 person.willChoose(folder.filePath(QLatin1String(file)));
                 person.menu(u"Importa…"_s);
             },
-            [] { return hasDialog("importView"); });
+            [] { return partOfDialog(u"importView"_s) != nullptr; });
         if (auto* column = dialogInFront().findChild<QComboBox*>(u"column2"_s); column != nullptr) {
             for (const int choice : {column->count() - 1, column->currentIndex()}) {
-                person.does("another column chosen", [&] {
-                    auto& picker = usable<QComboBox>(dialogInFront(), u"column2");
-                    picker.setCurrentIndex(choice);
-                    Q_EMIT picker.activated(choice);
-                });
+                const QString title = column->itemText(choice);
+                person.does(
+                    "another column chosen",
+                    [&] {
+                        auto& picker = usable<QComboBox>(dialogInFront(), u"column2");
+                        picker.setCurrentIndex(choice);
+                        Q_EMIT picker.activated(choice);
+                    },
+                    [&] { return titleOfColumn(2) == title; });
             }
-        }
-        if (QLatin1String(file) == "new.csv"_L1) {
-            person.does(
-                "imported", [&] { click(dialogInFront(), u"import"); }, hasNotice);
         }
         Person::dismiss();
     }
@@ -277,9 +145,9 @@ void useFiles(Person& person, const QDir& folder)
 
 void print(Person& person, const QDir& folder)
 {
-    const auto isLaidOut = [] { return part(dialogInFront(), u"savePdf").isEnabled(); };
+    const auto isLaidOut = [] { return isEnabledInDialog(u"savePdf"_s); };
     person.does(
-        "the way to paper", [&] { person.menu(u"Stampa…"_s); }, [] { return hasDialog("printView"); });
+        "the way to paper", [&] { person.menu(u"Stampa…"_s); }, [] { return partOfDialog(u"printView"_s) != nullptr; });
     for (const char* what : {"Elenco", "Scadenze", "Elenco"})
         person.does(
             what, [&] { press(dialogInFront(), QLatin1String(what)); }, isLaidOut);
@@ -290,7 +158,7 @@ void print(Person& person, const QDir& folder)
             person.willChoose(folder.filePath(u"list.pdf"_s));
             click(dialogInFront(), u"savePdf");
         },
-        [] { return !hasDialog("printView"); });
+        [] { return partOfDialog(u"printView"_s) == nullptr; });
 }
 
 void goBack(Person& person, const QDir& folder)
@@ -303,23 +171,43 @@ void goBack(Person& person, const QDir& folder)
         },
         hasNotice);
     Person::dismiss();
+    const auto isOfCopy = [] {
+        const auto* const title = partOfDialog<QLabel>(u"stateTitle"_s);
+        return title != nullptr && title->text().startsWith(u"Copia del"_s);
+    };
     person.does(
-        "the way back", [&] { person.menu(u"Ripristina…"_s); }, [] { return hasDialog("restoreView"); });
-    for (int state = 0; state < 3; ++state)
-        person.does("another state chosen", [&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down); });
+        "the way back", [&] { person.menu(u"Ripristina…"_s); }, [] { return isEnabledInDialog(u"restore"_s); });
+    for (int state = 0; state < 3; ++state) {
+        const QPointer<QWidget> differences = dialogInFront().findChild<QWidget*>(u"differences"_s);
+        person.does(
+            "another state chosen", [&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down); },
+            [&] { return differences.isNull(); });
+    }
     person.does(
         "a copy opened",
         [&] {
             person.willChoose(folder.filePath(u"copy.zip"_s));
             click(dialogInFront(), u"fromFile");
         },
-        [] { return usable(dialogInFront(), u"restore").isEnabled(); });
+        [&] { return isOfCopy() && isEnabledInDialog(u"restore"_s); });
     person.does(
         "a copy restored", [&] { click(dialogInFront(), u"restore"); }, [] { return openDialogs().isEmpty(); });
-    person.menu(u"Ripristina…"_s);
-    settle();
+    person.does(
+        "the way back, now that another register is there", [&] { person.menu(u"Ripristina…"_s); },
+        [] { return isEnabledInDialog(u"restore"_s); });
     person.does(
         "a state restored", [&] { click(dialogInFront(), u"restore"); }, [] { return openDialogs().isEmpty(); });
+}
+
+void importAsMany(Person& person, const QDir& folder)
+{
+    person.willChoose(folder.filePath(u"new.csv"_s));
+    person.menu(u"Importa…"_s);
+    if (!QTest::qWaitFor([] { return isEnabledInDialog(u"import"_s); }, patience))
+        qFatal("nothing can be imported");
+    person.does(
+        "as many new items imported and stored", [&] { click(dialogInFront(), u"import"); }, hasNotice);
+    Person::dismiss();
 }
 
 void write(const QString& path, const QByteArray& bytes)
@@ -343,7 +231,7 @@ int main(int argc, char** argv)
     const ApplicationDirectories directories(folder.filePath(u"register"_s), true);
     const SystemClock clock;
     const QList<Equipment> items = registerOf(count, clock.now());
-    write(directories.preferences() + u'/' + StorageManager::equipmentKey + u".json"_s, encode(items).value());
+    write(directories.preferences() + u'/' + StorageManager::equipmentKey + u".json"_s, *encode(items));
     QByteArray rows = "Nome;Tipo;Marca;Modello;Numero Seriale;Data Acquisto;Ultima Revisione;Prossima Revisione\r\n";
     for (int i = 0; i < count; ++i)
         rows += QByteArray::number(i) + ";Altro;Nuova;M;N-" + QByteArray::number(i) +
@@ -363,6 +251,7 @@ int main(int argc, char** argv)
     useFiles(person, files);
     print(person, files);
     goBack(person, files);
+    importAsMany(person, files);
     person.tells();
     session.mainWindow().close();
     return 0;
