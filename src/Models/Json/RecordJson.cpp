@@ -37,12 +37,13 @@ tl::expected<Value, JsonError> decode(const QByteArray& text)
     return value;
 }
 
-template <typename Record>
-tl::expected<Decoded<Record>, JsonError> read(const QByteArray& text)
+/// Reads a list with one of the reader's functions.
+template <typename Record, typename Text, typename ReadInto>
+tl::expected<Decoded<Record>, JsonError> read(const Text& text, ReadInto readInto)
 {
     Decoded<Record> decoded;
     json::ReadNotes notes;
-    if (auto error = json::readInto(&decoded.records, json::SlotOf<QList<Record>>::slot, text, &notes))
+    if (auto error = readInto(&decoded.records, json::SlotOf<QList<Record>>::slot, text, &notes))
         return tl::unexpected(std::move(*error));
     decoded.hasUnknownMembers = notes.unknownMembers;
     return decoded;
@@ -56,12 +57,7 @@ using Part = tl::expected<Decoded<Equipment>, JsonError>;
 
 Part readPart(QByteArrayView elements)
 {
-    Decoded<Equipment> decoded;
-    json::ReadNotes notes;
-    if (auto error = json::readElementsInto(&decoded.records, json::SlotOf<QList<Equipment>>::slot, elements, &notes))
-        return tl::unexpected(std::move(*error));
-    decoded.hasUnknownMembers = notes.unknownMembers;
-    return decoded;
+    return read<Equipment>(elements, json::readElementsInto);
 }
 
 Part joined(Part first, Part second)
@@ -132,12 +128,12 @@ tl::expected<Decoded<Equipment>, JsonError> readEquipment(const QByteArray& json
 {
     if (auto decoded = readInParts(json))
         return std::move(*decoded);
-    return read<Equipment>(json);
+    return read<Equipment>(json, json::readInto);
 }
 
 tl::expected<Decoded<EquipmentTypeModel>, JsonError> readTypes(const QByteArray& json)
 {
-    return read<EquipmentTypeModel>(json);
+    return read<EquipmentTypeModel>(json, json::readInto);
 }
 
 Salvaged<Equipment> salvageEquipment(const QByteArray& json)
