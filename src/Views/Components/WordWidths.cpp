@@ -113,6 +113,11 @@ std::optional<int> WordWidths::linesOf(QStringView text, int width)
     return lines;
 }
 
+QString WordWidths::elided(const QString& text, qreal width)
+{
+    return advance(text) <= width ? text : m_metrics.elidedText(text, Qt::ElideRight, width);
+}
+
 qreal WordWidths::mostWidthOf(QStringView text)
 {
     qreal wide = doubt;

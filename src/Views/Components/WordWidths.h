@@ -25,6 +25,8 @@ public:
     [[nodiscard]] std::optional<int> linesOf(QStringView text, int width);
     /// Of the text in one line, as the font's metrics give it.
     [[nodiscard]] qreal advance(QStringView text);
+    /// The text where it has room in one line, else what has room with dots at its end.
+    [[nodiscard]] QString elided(const QString& text, qreal width);
     /// At least as wide as the text in one line, letters fitted together or not.
     [[nodiscard]] qreal mostWidthOf(QStringView text);
     /// Of one line of Latin letters.

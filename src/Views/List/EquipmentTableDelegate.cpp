@@ -7,6 +7,7 @@
 #include "SymbolIcon.h"
 #include "Tokens.h"
 #include "TypeScale.h"
+#include "WordWidths.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -31,10 +32,10 @@ void drawLines(QPainter& painter, const QRect& rect, std::initializer_list<Line>
     QList<Line> lines;
     int height = 0;
     for (const Line& text : texts) {
-        const QFontMetrics metrics(text.font);
-        for (const QString& line : cellLines(text.text, metrics, rect.width(), text.most)) {
+        const auto widths = WordWidths::of(text.font); // most texts stand there again and again
+        for (const QString& line : cellLines(text.text, *widths, rect.width(), text.most)) {
             lines.append({line, text.font, text.color});
-            height += metrics.height();
+            height += QFontMetrics(text.font).height();
         }
     }
     int top = rect.top() + (rect.height() - height) / 2;

@@ -28,11 +28,6 @@ constexpr int leastForMake = 34;
 constexpr Widths shares{30, 14, 14, 20, 0, 0};
 
 /// Rounded up: a text in less than its width would end in dots.
-int advance(const QString& text, const QFontMetrics& metrics)
-{
-    return qCeil(QFontMetricsF(metrics).horizontalAdvance(text));
-}
-
 int advance(const QString& text, WordWidths& widths)
 {
     return qCeil(widths.advance(text));
@@ -103,20 +98,20 @@ void spread(Widths& columns, const Widths& among, int spare)
 
 } // namespace
 
-QStringList cellLines(const QString& text, const QFontMetrics& metrics, int width, int mostLines)
+QStringList cellLines(const QString& text, WordWidths& widths, int width, int mostLines)
 {
     const QString line = QString(text).replace(u'\n', u' ');
     qsizetype space = -1;
-    if (mostLines > 1 && advance(line, metrics) > width) {
+    if (mostLines > 1 && advance(line, widths) > width) {
         for (qsizetype next = line.indexOf(u' '); next >= 0; next = line.indexOf(u' ', next + 1)) {
-            if (advance(line.left(next), metrics) > width)
+            if (advance(line.left(next), widths) > width)
                 break;
             space = next;
         }
     }
     if (space < 0)
-        return {metrics.elidedText(line, Qt::ElideRight, width)};
-    return QStringList(line.left(space)) + cellLines(line.mid(space + 1), metrics, width, mostLines - 1);
+        return {widths.elided(line, width)};
+    return QStringList(line.left(space)) + cellLines(line.mid(space + 1), widths, width, mostLines - 1);
 }
 
 int TableColumns::leftPadding(int column)

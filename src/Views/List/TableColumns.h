@@ -6,13 +6,13 @@
 #include <array>
 #include <optional>
 
-class QFontMetrics;
-
 namespace abissora {
+
+class WordWidths;
 
 /// The lines of a text where a column is so wide, broken between words only; what finds no room in the last one ends in
 /// dots.
-[[nodiscard]] QStringList cellLines(const QString& text, const QFontMetrics& metrics, int width, int mostLines);
+[[nodiscard]] QStringList cellLines(const QString& text, WordWidths& widths, int width, int mostLines);
 
 /// How wide the columns of the register's table are. What stands in them decides, within bounds; a column that was
 /// dragged stays as wide as it was left.

@@ -8,6 +8,7 @@
 #include "SymbolIcon.h"
 #include "Tokens.h"
 #include "TypeScale.h"
+#include "WordWidths.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -42,9 +43,9 @@ QRect pillOf(const QRect& row)
 
 QSize badgeSize(const QString& text)
 {
-    const QFontMetrics metrics(font(TextStyle::CaptionSemibold));
-    const int height = metrics.height() + badgePadding;
-    return {std::max(height, metrics.horizontalAdvance(text) + 2 * (badgePadding + 2)), height};
+    const QFont number = font(TextStyle::CaptionSemibold);
+    const int height = QFontMetrics(number).height() + badgePadding;
+    return {std::max(height, qRound(WordWidths::of(number)->advance(text)) + 2 * (badgePadding + 2)), height};
 }
 
 QRect badgeRect(const QRect& row, const QString& text)
@@ -90,7 +91,7 @@ void paintEntry(QPainter& painter, const QStyleOptionViewItem& option, const QMo
     painter.setFont(font(TextStyle::Body));
     painter.setPen(selected ? tokens.onFill : tokens.text);
     painter.drawText(content, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                     painter.fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, content.width()));
+                     WordWidths::of(painter.font())->elided(index.data().toString(), content.width()));
 }
 
 void paintTitle(QPainter& painter, const QRect& rect, const QString& text, const Tokens& tokens)
@@ -139,7 +140,7 @@ QSize SidebarDelegate::sizeHint(const QStyleOptionViewItem& /*option*/, const QM
 {
     const int entryHeight = QFontMetrics(font(TextStyle::Body)).height() + metrics::spaceM + 2;
     // Room for a badge of two digits, so that one that appears moves nothing.
-    const int name = QFontMetrics(font(TextStyle::Body)).horizontalAdvance(index.data().toString());
+    const int name = qRound(WordWidths::of(font(TextStyle::Body))->advance(index.data().toString()));
     const int width = std::min(name, withText(mostNameWidth, QFontMetrics(font(TextStyle::Body)))) + metrics::iconSize +
                       2 * outerMargin + innerMargin + iconGap + badgeSize(u"00"_s).width() + metrics::spaceXS + 2;
     switch (index.data(SidebarView::KindRole).toInt()) {

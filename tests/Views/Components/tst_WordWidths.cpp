@@ -45,6 +45,23 @@ class tst_WordWidths : public test::ComponentTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void endsInDotsWhereTheMetricsWould()
+    {
+        std::mt19937 random(5);
+        const QFont font = abissora::font(TextStyle::Body);
+        const QFontMetrics metrics(font);
+        WordWidths words(font);
+        int cut = 0;
+        for (int i = 0; i < 2000; ++i) {
+            const QString text = anyText(random);
+            const int width = std::uniform_int_distribution(10, 300)(random);
+            QCOMPARE(words.elided(text, width), metrics.elidedText(text, Qt::ElideRight, width));
+            cut += words.elided(text, width) == text ? 0 : 1;
+        }
+        QVERIFY(cut > 500);
+        QVERIFY(cut < 1900);
+    }
+
     void countsTheLinesOfALayout()
     {
         std::mt19937 random(3);

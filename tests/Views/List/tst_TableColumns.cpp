@@ -5,8 +5,10 @@
 #include "ScaledText.h"
 #include "TestRunner.h"
 #include "TypeScale.h"
+#include "WordWidths.h"
 
 #include <QFontMetrics>
+#include <QtMath>
 #include <numeric>
 
 using namespace abissora;
@@ -97,12 +99,13 @@ private Q_SLOTS:
         const TableColumns::Layout layout = columns.layOut(width - 20);
         const int icon = TableColumns::typeIconSize + TableColumns::typeIconGap;
         for (const QString& name : usualTexts().names)
-            QVERIFY(!cellLines(name, metrics(TextStyle::BodyMedium), inner(layout, NameColumn) - icon, 2)
+            QVERIFY(!cellLines(name, *WordWidths::of(font(TextStyle::BodyMedium)), inner(layout, NameColumn) - icon, 2)
                          .join(u' ')
                          .contains(u'…'));
         for (const QString& brand : usualTexts().brands)
-            QVERIFY(
-                !cellLines(brand, metrics(TextStyle::Body), inner(layout, BrandColumn), 2).join(u' ').contains(u'…'));
+            QVERIFY(!cellLines(brand, *WordWidths::of(font(TextStyle::Body)), inner(layout, BrandColumn), 2)
+                         .join(u' ')
+                         .contains(u'…'));
         QVERIFY(metrics(TextStyle::CaptionSemibold).horizontalAdvance(u"Azioni"_s) <= inner(layout, ActionsColumn) + 2);
     }
 
@@ -145,8 +148,8 @@ private Q_SLOTS:
 
     void textsBreakBetweenWordsOnly()
     {
-        const QFontMetrics body = metrics(TextStyle::Body);
-        const int width = body.horizontalAdvance(u"Computer Su"_s);
+        WordWidths& body = *WordWidths::of(font(TextStyle::Body));
+        const int width = qCeil(body.advance(u"Computer Su"_s));
         QCOMPARE(cellLines(u"Computer Suunto"_s, body, width, 2), (QStringList{u"Computer"_s, u"Suunto"_s}));
         QCOMPARE(cellLines(u"Computer"_s, body, width, 2), QStringList{u"Computer"_s});
         QVERIFY(cellLines(u"Computer Suunto"_s, body, width, 1).first().endsWith(u'…'));
