@@ -190,13 +190,14 @@ void goBack(Person& person, const QDir& folder)
             click(dialogInFront(), u"fromFile");
         },
         [&] { return isOfCopy() && isEnabledInDialog(u"restore"_s); });
+    const auto isInPlace = [&] { return openDialogs().isEmpty() && person.window().isEnabled(); };
     person.does(
-        "a copy restored", [&] { click(dialogInFront(), u"restore"); }, [] { return openDialogs().isEmpty(); });
+        "a copy restored", [&] { click(dialogInFront(), u"restore"); }, isInPlace);
     person.does(
         "the way back, now that another register is there", [&] { person.menu(u"Ripristina…"_s); },
         [] { return isEnabledInDialog(u"restore"_s); });
     person.does(
-        "a state restored", [&] { click(dialogInFront(), u"restore"); }, [] { return openDialogs().isEmpty(); });
+        "a state restored", [&] { click(dialogInFront(), u"restore"); }, isInPlace);
 }
 
 void importAsMany(Person& person, const QDir& folder)

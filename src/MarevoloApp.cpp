@@ -88,24 +88,36 @@ void MarevoloApp::comeForward()
 IoResult<void> MarevoloApp::restore(const EarlierState& state)
 {
     settleSaves();
-    return Restoration(m_directories, m_generations).restore(state).map([this] {
-        m_isOver = true;
-        Q_EMIT restored();
-    });
+    return Restoration(m_directories, m_generations).restore(state).map([this] { readAnew(); });
 }
 
 IoResult<void> MarevoloApp::restoreCopy(const UnpackedArchive& copy, WritePermission& permission)
 {
     settleSaves();
     return ArchiveRestoration(m_directories, m_generations, permission, m_clock.now()).restore(copy).map([this] {
-        m_isOver = true;
-        Q_EMIT restored();
+        readAnew();
     });
+}
+
+QCoro::Task<> MarevoloApp::readAnew()
+{
+    // What this object holds and shows is of the past.
+    m_preferences.giveUp();
+    mainWindow().setEnabled(false);
+    const QPointer<MarevoloApp> alive(this);
+    const RegisterAhead ahead(m_directories);
+    const LongWork::Function reading = [ahead](WorkProgress&) {
+        ahead.wait();
+        return IoResult<void>();
+    };
+    static_cast<void>(co_await m_work.run({}, reading, std::make_shared<WorkProgress>()));
+    if (alive)
+        Q_EMIT restored(ahead);
 }
 
 void MarevoloApp::settleSaves()
 {
-    if (m_isOver || m_saveRetry.retry())
+    if (m_saveRetry.retry())
         return;
     if (const auto kept = keepEmergencyCopy(m_preferences, m_directories, m_clock); kept)
         m_console.print(u"💾 Conservato altrove ciò che non si poteva salvare: "_s + *kept);

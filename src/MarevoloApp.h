@@ -58,11 +58,12 @@ public:
 Q_SIGNALS:
     /// The check at start found a newer release.
     void updateOffered(const abissora::UpdateInfo& update);
-    /// The files are those of an earlier state: this object must be created anew before anything is stored.
-    void restored();
+    /// The files are those of an earlier state, which has been read: this object must be created anew out of it.
+    void restored(const abissora::RegisterAhead& ahead);
 
 private:
     QCoro::Task<> checkForUpdatesAtStart();
+    QCoro::Task<> readAnew();
     void comeForward();
     [[nodiscard]] IoResult<void> restoreCopy(const UnpackedArchive& copy, WritePermission& permission);
     [[nodiscard]] std::unique_ptr<EquipmentDetail> detail(const Equipment& equipment);
@@ -112,7 +113,6 @@ private:
     std::unique_ptr<MainWindow> m_mainWindow;
     std::unique_ptr<AppWindows> m_windows;
     bool m_hasStarted = false;
-    bool m_isOver = false; ///< another state was restored
 };
 
 } // namespace abissora

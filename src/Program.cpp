@@ -13,7 +13,6 @@
 #include "SettingsViewModel.h"
 #include "SingleInstance.h"
 #include "Snapshot.h"
-#include "StateFiles.h"
 #include "Theme.h"
 
 #include <QApplication>
@@ -155,7 +154,7 @@ RegisterAhead registerAhead(const QStringList& arguments)
     const auto commandLine = CommandLine::parse(arguments); // fails where an argument is the toolkit's
     if (!commandLine)
         return {};
-    return RegisterAhead(directoriesFor(*commandLine).preferences() + u'/' + registerKey + ".json"_L1);
+    return RegisterAhead(directoriesFor(*commandLine));
 }
 
 int run(QApplication& application, const CommandLine& commandLine, const Product& product, HttpClient& http,

@@ -36,7 +36,7 @@ MainWindow& Session::mainWindow()
 
 void Session::fulfil(Wish wish)
 {
-    if (QApplication::activeModalWidget() != nullptr)
+    if (QApplication::activeModalWidget() != nullptr || !mainWindow().isEnabled())
         return;
     ContentView& content = mainWindow().content();
     switch (wish) {
@@ -67,13 +67,13 @@ void Session::create(const RegisterAhead& ahead)
     connect(m_app.get(), &MarevoloApp::restored, this, &Session::renew, Qt::QueuedConnection);
 }
 
-void Session::renew()
+void Session::renew(const RegisterAhead& ahead)
 {
     // Between two windows there is none, which is no reason to end.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     m_app->mainWindow().close(); // keeps its size for the next one
     m_app.reset();
-    create();
+    create(ahead);
     // No second look for a newer release.
     mainWindow().show();
     QGuiApplication::setQuitOnLastWindowClosed(true);

@@ -33,14 +33,15 @@ public:
     /// As MarevoloApp's.
     void showMainWindow();
     [[nodiscard]] MainWindow& mainWindow();
-    /// As the person would in the main window. Nothing happens over a sheet, an alert or a file panel that is open.
+    /// As the person would in the main window. Nothing happens over a sheet, an alert or a file panel that is open,
+    /// nor while an earlier state takes the place of this one.
     void fulfil(Wish wish);
     [[nodiscard]] MarevoloApp& app() { return *m_app; }
 
 private:
     void clearUpAfterOthers();
-    void create(const RegisterAhead& ahead = {});
-    void renew();
+    void create(const RegisterAhead& ahead);
+    void renew(const RegisterAhead& ahead);
 
     QApplication& m_application;
     ApplicationDirectories m_directories;

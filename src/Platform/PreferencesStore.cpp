@@ -72,6 +72,8 @@ IoResult<void> PreferencesStore::setData(const QString& key, const QByteArray& b
 {
     if (!isPlainName(key))
         return failure(EINVAL);
+    if (m_hasGivenUp)
+        return failure(ECANCELED);
     m_scalars.remove(key);
     const auto before = m_pending.constFind(key);
     const Pending value{bytes, before == m_pending.cend() ? occasion : std::max(occasion, before->occasion)};
@@ -113,6 +115,12 @@ QHash<QString, QByteArray> PreferencesStore::pending() const
     for (auto it = m_pending.cbegin(); it != m_pending.cend(); ++it)
         bytes.insert(it.key(), it->bytes);
     return bytes;
+}
+
+void PreferencesStore::giveUp()
+{
+    m_hasGivenUp = true;
+    m_pending.clear();
 }
 
 QStringList PreferencesStore::retry()

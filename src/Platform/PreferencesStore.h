@@ -50,6 +50,9 @@ public:
     [[nodiscard]] QHash<QString, QByteArray> pending() const;
     /// Writes what is pending once more. Gives the keys that were written now.
     QStringList retry();
+    /// The files are another's from now on: what is pending is forgotten, and every write fails with ECANCELED without
+    /// becoming pending.
+    void giveUp();
     /// Called whenever a write failed.
     void whenPending(std::function<void()> listener) { m_whenPending = std::move(listener); }
 
@@ -72,6 +75,7 @@ private:
     StateKeeper& m_keeper;
     Read m_read;
     std::function<void()> m_whenPending;
+    bool m_hasGivenUp = false;
     QHash<QString, Pending> m_pending;
     QHash<QString, Occasion> m_toKeep;                           ///< by key, before it is overwritten
     mutable QHash<QString, std::optional<FileIdentity>> m_known; ///< the file as it was last seen

@@ -3,6 +3,7 @@
 
 #include "AtomicFile.h"
 #include "FileIdentity.h"
+#include "StateFiles.h"
 
 #include <future>
 #include <system_error>
@@ -47,10 +48,20 @@ RegisterAhead::RegisterAhead(const QString& path)
     m_work = work;
 }
 
+RegisterAhead::RegisterAhead(const ApplicationDirectories& directories)
+    : RegisterAhead(directories.preferences() + u'/' + registerKey + ".json"_L1)
+{}
+
+void RegisterAhead::wait() const
+{
+    if (m_work)
+        m_work->end.wait();
+}
+
 IoResult<QByteArray> RegisterAhead::read(const QString& path) const
 {
     if (m_work && path == m_work->path) {
-        m_work->end.wait();
+        wait();
         if (const auto& outcome = m_work->outcome; outcome && outcome->file == FileIdentity::of(path))
             return outcome->bytes;
     }
@@ -60,7 +71,7 @@ IoResult<QByteArray> RegisterAhead::read(const QString& path) const
 tl::expected<Decoded<Equipment>, JsonError> RegisterAhead::decoded(const QByteArray& bytes) const
 {
     if (m_work) {
-        m_work->end.wait();
+        wait();
         if (auto outcome = std::exchange(m_work->outcome, {}); outcome && outcome->bytes.isSharedWith(bytes))
             return std::move(outcome->decoded);
     }

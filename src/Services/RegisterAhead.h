@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ApplicationDirectories.h"
 #include "IoError.h"
 #include "RecordJson.h"
 
@@ -18,11 +19,14 @@ public:
     RegisterAhead() = default;
     /// Begins at once with the file of the list of items.
     explicit RegisterAhead(const QString& path);
+    explicit RegisterAhead(const ApplicationDirectories& directories);
 
     /// As AtomicFile::read().
     [[nodiscard]] IoResult<QByteArray> read(const QString& path) const;
     /// As readEquipment().
     [[nodiscard]] tl::expected<Decoded<Equipment>, JsonError> decoded(const QByteArray& bytes) const;
+    /// Until both answers are ready. On any thread.
+    void wait() const;
 
 private:
     struct Work;

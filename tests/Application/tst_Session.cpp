@@ -2,6 +2,7 @@
 #include "ContentView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentTableView.h"
+#include "FileSizeLimit.h"
 #include "Generations.h"
 #include "Gui.h"
 #include "MainWindow.h"
@@ -62,6 +63,45 @@ private Q_SLOTS:
         QVERIFY(m_session->mainWindow().isVisible());
         QVERIFY(QGuiApplication::quitOnLastWindowClosed());
         QCOMPARE(m_files->generations.list().first().occasion, Occasion::restoration);
+    }
+
+    void nothingIsDoneToWhatIsOver()
+    {
+        m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s, "[]");
+        start();
+        const QPointer<MarevoloApp> before = &m_session->app();
+        QVERIFY(before->restore(m_files->generations.list().last()));
+        QCOMPARE(&m_session->app(), before.data()); // the state is being read
+        QVERIFY(!m_session->mainWindow().isEnabled());
+        m_session->fulfil(Wish::NewItem);
+        QVERIFY(m_session->mainWindow().findChild<EquipmentFormView*>() == nullptr);
+        QTRY_VERIFY(before.isNull());
+        QVERIFY(m_session->mainWindow().isEnabled());
+        QCOMPARE(rows(), 0);
+    }
+
+    void whatCouldNotBeStoredBeforeDoesNotComeBackLater()
+    {
+        m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s, "[]");
+        start();
+        {
+            const test::FileSizeLimit limit(200);
+            deleteFirstItem();
+            QVERIFY(m_session->app().restore(m_files->generations.list().last()));
+        }
+        QCOMPARE(m_files->content(test::registerFile), QByteArray("[]"));
+        Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive); // before the new one stands
+        QCOMPARE(m_files->content(test::registerFile), QByteArray("[]"));
+    }
+
+    void theEndMayComeWhileAStateIsRead()
+    {
+        m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s,
+                       encode(QList{test::equipment(7, u"Di prima"_s)}).value());
+        start();
+        QVERIFY(m_session->app().restore(m_files->generations.list().last()));
+        m_session.reset();
+        QCOMPARE(readPresentContent(m_files->directories).equipment.records.size(), 1);
     }
 
     void aStateThatCannotBeRestoredChangesNothing()

@@ -245,6 +245,22 @@ private Q_SLOTS:
         QCOMPARE(m_store->data(key).value(), std::optional(QByteArray("third")));
     }
 
+    void whatHasGivenUpWritesNothing()
+    {
+        int told = 0;
+        m_store->whenPending([&told] { ++told; });
+        write(preferences(), "in the way");
+        VERIFY_FAILED(m_store->setData(key, "first"), EEXIST);
+        QVERIFY(QFile::remove(preferences()));
+        m_store->giveUp();
+        QCOMPARE(m_store->retry(), QStringList());
+        VERIFY_FAILED(m_store->setData(key, "second"), ECANCELED);
+        VERIFY_FAILED(m_store->setBoolean(u"darkMode"_s, true), ECANCELED);
+        QVERIFY(m_store->pending().isEmpty());
+        QCOMPARE(told, 1);
+        QVERIFY(!QFileInfo::exists(preferences()));
+    }
+
     void aPendingScalarStands()
     {
         write(preferences(), "in the way");

@@ -5,6 +5,7 @@
 #include "RegisterAhead.h"
 #include "TestRunner.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -35,6 +36,19 @@ private Q_SLOTS:
         // What was given out is held no longer.
         QVERIFY(!ahead.read(m_path).value().isSharedWith(bytes));
         QCOMPARE(ahead.decoded(bytes)->records, QList{test::equipment(1)});
+    }
+
+    void findsTheListAmongTheFilesOfARegister()
+    {
+        const ApplicationDirectories directories(m_folder.path(), true);
+        QVERIFY(QDir().mkpath(directories.preferences()));
+        const QString path = directories.preferences() + u"/savedEquipment.json"_s;
+        QVERIFY(AtomicFile::replace(path, encode(QList{test::equipment(4)}).value()));
+        const RegisterAhead ahead(directories);
+        ahead.wait();
+        const QByteArray bytes = ahead.read(path).value();
+        QVERIFY(ahead.read(path).value().isSharedWith(bytes));
+        QCOMPARE(ahead.decoded(bytes)->records, QList{test::equipment(4)});
     }
 
     void aFileThatHasChangedIsReadAnew()
