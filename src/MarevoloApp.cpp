@@ -22,6 +22,7 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <cerrno>
 
 namespace abissora {
 
@@ -49,7 +50,9 @@ MarevoloApp::MarevoloApp(QApplication& application, const ApplicationDirectories
     , m_exchange({m_equipment, m_types, m_settings, m_filePanel, m_work, m_ids, m_almanac,
                   m_package.value(u"CFBundleShortVersionString"_s).toString()})
     , m_copies({m_filePanel, m_work, directories, m_almanac, [this] { settleSaves(); },
-                [this, &permission](const UnpackedArchive& copy) { return restoreCopy(copy, permission); }})
+                [this, &permission](const UnpackedArchive& copy, const RestorableFiles& files) {
+                    return restoreCopy(copy, files, permission);
+                }})
 {
     QApplication::setWindowIcon(applicationIcon());
     applyScheme();
@@ -85,16 +88,27 @@ void MarevoloApp::comeForward()
     m_saveRetry.retry();
 }
 
-IoResult<void> MarevoloApp::restore(const EarlierState& state)
+QCoro::Task<IoResult<void>> MarevoloApp::restore(EarlierState state, std::shared_ptr<WorkProgress> progress)
 {
+    const QPointer<MarevoloApp> alive(this);
+    const auto files = std::make_shared<RestorableFiles>();
+    const LongWork::Function reading = [state, files](WorkProgress&) {
+        return Restoration::read(state).map([&](const RestorableFiles& read) { *files = read; });
+    };
+    const auto read = co_await m_work.run(u"Ripristino…"_s, reading, progress);
+    if (!read)
+        co_return tl::unexpected(read.error());
+    if (!alive || progress->isCancelled())
+        co_return tl::unexpected(IoError::fromErrno(ECANCELED));
     settleSaves();
-    return Restoration(m_directories, m_generations).restore(state).map([this] { readAnew(); });
+    co_return Restoration(m_directories, m_generations).restore(state, *files).map([this] { readAnew(); });
 }
 
-IoResult<void> MarevoloApp::restoreCopy(const UnpackedArchive& copy, WritePermission& permission)
+IoResult<void> MarevoloApp::restoreCopy(const UnpackedArchive& copy, const RestorableFiles& files,
+                                        WritePermission& permission)
 {
     settleSaves();
-    return ArchiveRestoration(m_directories, m_generations, permission, m_clock.now()).restore(copy).map([this] {
+    return ArchiveRestoration(m_directories, m_generations, permission, m_clock.now()).restore(copy, files).map([this] {
         readAnew();
     });
 }
@@ -222,7 +236,10 @@ ViewSheet* MarevoloApp::makeRestore(QWidget* over)
 {
     return RestoreView::makeSheet(
         {m_generations, m_archive, m_equipment, m_types, m_settings, m_work, m_almanac}, m_lookedAt,
-        [this](const EarlierState& state) { return restore(state); }, over, &m_copies);
+        [this](const EarlierState& state, const std::shared_ptr<WorkProgress>& progress) {
+            return restore(state, progress);
+        },
+        over, &m_copies);
 }
 
 bool MarevoloApp::hasStateToLookAt() const

@@ -49,9 +49,9 @@ public:
     /// Created at the first call.
     [[nodiscard]] MainWindow& mainWindow();
 
-    /// Puts an earlier state in the place of the present one. What this object holds is then of no more use: see
-    /// restored().
-    [[nodiscard]] IoResult<void> restore(const EarlierState& state);
+    /// Puts an earlier state in the place of the present one, unless this is cancelled while the state is read. What
+    /// this object holds is then of no more use: see restored().
+    [[nodiscard]] QCoro::Task<IoResult<void>> restore(EarlierState state, std::shared_ptr<WorkProgress> progress);
     /// Stores what could not be stored so far, or else keeps it outside the register's folder.
     void settleSaves();
 
@@ -65,7 +65,8 @@ private:
     QCoro::Task<> checkForUpdatesAtStart();
     QCoro::Task<> readAnew();
     void comeForward();
-    [[nodiscard]] IoResult<void> restoreCopy(const UnpackedArchive& copy, WritePermission& permission);
+    [[nodiscard]] IoResult<void> restoreCopy(const UnpackedArchive& copy, const RestorableFiles& files,
+                                             WritePermission& permission);
     [[nodiscard]] std::unique_ptr<EquipmentDetail> detail(const Equipment& equipment);
     void applyScheme();
 

@@ -42,16 +42,32 @@ Restoration::Restoration(ApplicationDirectories directories, Generations& genera
     , m_generations(generations)
 {}
 
+IoResult<RestorableFiles> Restoration::read(const EarlierState& state)
+{
+    // Types that cannot be read are no reason to leave the register.
+    const QString main = state.files.contains(registerKey) ? registerKey : typesKey;
+    RestorableFiles files;
+    for (auto file = state.files.cbegin(); file != state.files.cend(); ++file) {
+        auto bytes = readable(file.key(), *file);
+        if (bytes)
+            files.insert(file.key(), *std::move(bytes));
+        else if (file.key() == main)
+            return tl::unexpected(bytes.error());
+    }
+    return files;
+}
+
 IoResult<void> Restoration::restore(const EarlierState& state)
 {
-    // Known before anything changes. Types that cannot be read are no reason to leave the register.
-    const QString main = state.files.contains(registerKey) ? registerKey : typesKey;
-    if (auto read = readable(main, state.files.value(main)); !read)
-        return tl::unexpected(read.error());
+    return read(state).and_then([&](const RestorableFiles& files) { return restore(state, files); });
+}
+
+IoResult<void> Restoration::restore(const EarlierState& state, const RestorableFiles& files)
+{
     return m_generations.keep(Occasion::restoration, state.name)
         .and_then([this] { return AtomicFile::makeFolder(m_directories.backups()); })
         .and_then([&] { return AtomicFile::replace(journal(), state.name.toUtf8()); })
-        .and_then([&] { return apply(state); })
+        .and_then([&] { return apply(state, files); })
         .and_then([this] { return AtomicFile::remove(journal()); });
 }
 
@@ -64,18 +80,17 @@ void Restoration::complete()
     // One that failed, on a full disk for instance, left a program that went on and may have stored more since.
     if (state && !m_generations.keep(Occasion::restoration, state->name))
         return;
-    if (!state || apply(*state))
+    const auto files = state ? read(*state) : tl::unexpected(IoError());
+    // What cannot be read now is no better later, when still more has been stored.
+    if (!files || apply(*state, *files))
         static_cast<void>(AtomicFile::remove(journal()));
 }
 
-IoResult<void> Restoration::apply(const EarlierState& state) const
+IoResult<void> Restoration::apply(const EarlierState& state, const RestorableFiles& files) const
 {
     auto applied = AtomicFile::makeFolder(m_directories.preferences());
-    for (auto file = state.files.cbegin(); applied && file != state.files.cend(); ++file) {
-        const auto bytes = readable(file.key(), *file);
-        if (bytes)
-            applied = AtomicFile::replace(m_directories.preferences() + u'/' + file.key() + u".json", *bytes);
-    }
+    for (auto file = files.cbegin(); applied && file != files.cend(); ++file)
+        applied = AtomicFile::replace(m_directories.preferences() + u'/' + file.key() + u".json", *file);
     if (!state.files.contains(registerKey))
         return applied;
     const bool hasTypes = state.files.contains(typesKey);

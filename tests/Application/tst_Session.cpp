@@ -14,8 +14,10 @@
 #include "TestRunner.h"
 
 #include <QApplication>
+#include <QCoroTask>
 #include <QLineEdit>
 #include <QTest>
+#include <cerrno>
 
 using namespace abissora;
 
@@ -57,7 +59,7 @@ private Q_SLOTS:
         QCOMPARE(rows(), 2);
         const QPointer<MarevoloApp> before = &m_session->app();
         const EarlierState state = m_files->generations.list().last();
-        QVERIFY(before->restore(state));
+        QVERIFY(restored(state));
         QTRY_VERIFY(before.isNull());
         QCOMPARE(rows(), 1);
         QVERIFY(m_session->mainWindow().isVisible());
@@ -65,16 +67,43 @@ private Q_SLOTS:
         QCOMPARE(m_files->generations.list().first().occasion, Occasion::restoration);
     }
 
+    void aRestorationCanBeCancelledWhileTheStateIsRead()
+    {
+        m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s, "[]");
+        start();
+        const auto progress = std::make_shared<WorkProgress>();
+        auto task = m_session->app().restore(m_files->generations.list().last(), progress);
+        progress->cancel();
+        QCOMPARE(QCoro::waitFor(task).error(), IoError::fromErrno(ECANCELED));
+        QVERIFY(m_files->content(test::registerFile).contains("Uno"));
+        QVERIFY(m_session->mainWindow().isEnabled());
+    }
+
+    void theEndMayComeBeforeTheStateIsRead()
+    {
+        m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s, "[]");
+        start();
+        auto task = m_session->app().restore(m_files->generations.list().last(), std::make_shared<WorkProgress>());
+        m_session.reset();
+        QVERIFY(!QCoro::waitFor(task));
+        QVERIFY(m_files->content(test::registerFile).contains("Uno"));
+    }
+
     void nothingIsDoneToWhatIsOver()
     {
         m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s, "[]");
         start();
         const QPointer<MarevoloApp> before = &m_session->app();
-        QVERIFY(before->restore(m_files->generations.list().last()));
-        QCOMPARE(&m_session->app(), before.data()); // the state is being read
-        QVERIFY(!m_session->mainWindow().isEnabled());
-        m_session->fulfil(Wish::NewItem);
-        QVERIFY(m_session->mainWindow().findChild<EquipmentFormView*>() == nullptr);
+        bool isOver = false;
+        bool hasForm = false;
+        QCoro::waitFor(before->restore(m_files->generations.list().last(), std::make_shared<WorkProgress>())
+                           .then([&](const IoResult<void>& done) {
+                               isOver = done && &m_session->app() == before && !m_session->mainWindow().isEnabled();
+                               m_session->fulfil(Wish::NewItem);
+                               hasForm = m_session->mainWindow().findChild<EquipmentFormView*>() != nullptr;
+                           }));
+        QVERIFY(isOver);
+        QVERIFY(!hasForm);
         QTRY_VERIFY(before.isNull());
         QVERIFY(m_session->mainWindow().isEnabled());
         QCOMPARE(rows(), 0);
@@ -87,7 +116,7 @@ private Q_SLOTS:
         {
             const test::FileSizeLimit limit(200);
             deleteFirstItem();
-            QVERIFY(m_session->app().restore(m_files->generations.list().last()));
+            QVERIFY(restored(m_files->generations.list().last()));
         }
         QCOMPARE(m_files->content(test::registerFile), QByteArray("[]"));
         Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive); // before the new one stands
@@ -99,7 +128,7 @@ private Q_SLOTS:
         m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s,
                        encode(QList{test::equipment(7, u"Di prima"_s)}).value());
         start();
-        QVERIFY(m_session->app().restore(m_files->generations.list().last()));
+        QVERIFY(restored(m_files->generations.list().last()));
         m_session.reset();
         QCOMPARE(readPresentContent(m_files->directories).equipment.records.size(), 1);
     }
@@ -109,7 +138,7 @@ private Q_SLOTS:
         m_files->write(u"backups/20260101T000000.000Z-unreadable/savedEquipment.json"_s, "rubbish");
         start();
         const QPointer<MarevoloApp> before = &m_session->app();
-        QVERIFY(!before->restore(m_files->generations.list().last()));
+        QVERIFY(!restored(m_files->generations.list().last()));
         QCoreApplication::processEvents();
         QCOMPARE(&m_session->app(), before.data());
         QCOMPARE(rows(), 2);
@@ -211,6 +240,12 @@ private:
         m_session.emplace(*qApp, m_files->directories, product, m_http, *m_lock);
         m_session->showMainWindow();
         QCoreApplication::processEvents();
+    }
+
+    /// Until the files are those of the state.
+    [[nodiscard]] IoResult<void> restored(const EarlierState& state)
+    {
+        return QCoro::waitFor(m_session->app().restore(state, std::make_shared<WorkProgress>()));
     }
 
     [[nodiscard]] EquipmentTableView& table() { return *m_session->mainWindow().findChild<EquipmentTableView*>(); }

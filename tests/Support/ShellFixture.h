@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ContentView.h"
+#include "Ended.h"
 #include "EquipmentDetailView.h"
 #include "EquipmentFormView.h"
 #include "EquipmentListView.h"
@@ -60,14 +61,17 @@ public:
     {
         return RestoreView::makeSheet(
             {generations, archive, equipment, types, settings, work, almanac}, lookedAt,
-            [this](const EarlierState& state) { return restore(state); }, over);
+            [this](const EarlierState& state, const std::shared_ptr<WorkProgress>& progress) {
+                return restore(state, progress);
+            },
+            over);
     }
     bool hasStateToLookAt() const override { return abissora::hasStateToLookAt(generations.list(), lookedAt); }
 
     /// What takes the place of the system's print dialog.
     PrintView::Print print = [](const PrintedPaper&, const QPageSize&, QWidget*, const std::function<void(bool)>&) {};
     /// What takes the place of a restoration.
-    RestoreView::Restore restore = [](const EarlierState&) { return IoResult<void>(); };
+    RestoreView::Restore restore = [](const EarlierState&, const std::shared_ptr<WorkProgress>&) { return ended({}); };
     LookedAtStates lookedAt{directories.windowStateFile()};
 };
 

@@ -148,6 +148,11 @@ class Program:
 
     @staticmethod
     def press(node):
+        def is_ready():
+            states = node.get_state_set()
+            return states.contains(Atspi.StateType.SENSITIVE) or not states.contains(Atspi.StateType.VISIBLE)
+        # One that must not be pressed yet takes the action and does nothing. What is gone has no states.
+        until("what can be pressed", is_ready)
         actions = node.get_action_iface()
         assert actions, "what should be pressed is gone, or takes no action"
         names = [actions.get_action_name(i) for i in range(actions.get_n_actions())]

@@ -3,7 +3,6 @@
 
 #include "AtomicFile.h"
 #include "DocumentArchive.h"
-#include "Restoration.h"
 #include "StateFiles.h"
 
 #include <QDir>
@@ -12,6 +11,11 @@
 namespace abissora {
 
 namespace {
+
+IoError sentence(const IoError& error)
+{
+    return {u"Non è stato possibile ripristinare: "_s + error.reason};
+}
 
 IoResult<void> moveNew(const QString& source, const QString& target)
 {
@@ -30,21 +34,33 @@ ArchiveRestoration::ArchiveRestoration(ApplicationDirectories directories, Gener
     , m_now(now)
 {}
 
+IoResult<RestorableFiles> ArchiveRestoration::read(const UnpackedArchive& unpacked)
+{
+    const QString folder = unpacked.path(u"preferences"_s);
+    return Restoration::read({{}, folder, unpacked.manifest().created, Occasion::change, storedFiles(folder)})
+        .map_error(sentence);
+}
+
 IoResult<void> ArchiveRestoration::restore(const UnpackedArchive& unpacked) const
+{
+    return read(unpacked).and_then([&](const RestorableFiles& files) { return restore(unpacked, files); });
+}
+
+IoResult<void> ArchiveRestoration::restore(const UnpackedArchive& unpacked, const RestorableFiles& files) const
 {
     const auto restored = m_permission.mayWrite()
                               .and_then([&] { return bringDocuments(unpacked); })
                               .and_then([&] { return bringStates(unpacked); })
                               .and_then([&] { return bringRegister(unpacked); })
-                              .and_then([this](const EarlierState& state) {
-                                  auto done = Restoration(m_directories, m_generations).restore(state);
+                              .and_then([&](const EarlierState& state) {
+                                  auto done = Restoration(m_directories, m_generations).restore(state, files);
                                   // What stopped in the middle needs it still.
                                   if (!QFileInfo::exists(m_directories.backups() + u"/restoring"_s))
                                       drop(state);
                                   return done;
                               });
     if (!restored)
-        return tl::unexpected(IoError{u"Non è stato possibile ripristinare: "_s + restored.error().reason});
+        return tl::unexpected(sentence(restored.error()));
     makeRoomForDocuments(unpacked);
     return {};
 }

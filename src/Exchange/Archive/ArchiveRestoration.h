@@ -3,6 +3,7 @@
 
 #include "Clock.h"
 #include "Generations.h"
+#include "Restoration.h"
 #include "UnpackedArchive.h"
 
 namespace abissora {
@@ -20,6 +21,10 @@ public:
     /// are not there. Its documents lie in the archive then, from where they come to their place when the register is
     /// read. The error is a sentence for the person.
     [[nodiscard]] IoResult<void> restore(const UnpackedArchive& unpacked) const;
+    /// Likewise, with what was read of the copy.
+    [[nodiscard]] IoResult<void> restore(const UnpackedArchive& unpacked, const RestorableFiles& files) const;
+    /// On any thread. The error is a sentence, too.
+    [[nodiscard]] static IoResult<RestorableFiles> read(const UnpackedArchive& unpacked);
 
 private:
     [[nodiscard]] IoResult<void> bringDocuments(const UnpackedArchive& unpacked) const;

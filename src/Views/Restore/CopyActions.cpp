@@ -49,12 +49,15 @@ LongWork::Function looking(const QString& path, const std::shared_ptr<QTemporary
 using Unpacked = std::shared_ptr<UnpackedArchive>;
 
 LongWork::Function unpacking(const QString& path, const ApplicationDirectories& directories,
-                             const std::shared_ptr<Unpacked>& unpacked)
+                             const std::shared_ptr<Unpacked>& unpacked, const std::shared_ptr<RestorableFiles>& files)
 {
     return [=](WorkProgress& progress) -> IoResult<void> {
-        return UnpackedArchive::unpack(path, directories, telling(progress)).map([&](const Unpacked& done) {
-            *unpacked = done;
-        });
+        return UnpackedArchive::unpack(path, directories, telling(progress))
+            .and_then([&](const Unpacked& done) {
+                *unpacked = done;
+                return ArchiveRestoration::read(*done);
+            })
+            .map([&](const RestorableFiles& read) { *files = read; });
     };
 }
 
@@ -138,14 +141,15 @@ QCoro::Task<IoResult<void>> CopyActions::restore(QString path, std::shared_ptr<W
 {
     const QPointer<CopyActions> alive(this);
     const auto unpacked = std::make_shared<Unpacked>();
+    const auto files = std::make_shared<RestorableFiles>();
     const auto done = co_await m_tools.work.run(u"Ripristino della copia…"_s,
-                                                unpacking(path, m_tools.directories, unpacked), progress);
+                                                unpacking(path, m_tools.directories, unpacked, files), progress);
     if (!done)
         co_return tl::unexpected(done.error());
     if (!alive || progress->isCancelled())
         co_return tl::unexpected(IoError::fromErrno(ECANCELED));
     const auto restore = m_tools.restore; // what runs shall not go away with this
-    co_return restore(**unpacked);
+    co_return restore(**unpacked, *files);
 }
 
 } // namespace abissora

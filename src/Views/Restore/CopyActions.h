@@ -3,10 +3,9 @@
 
 #include "Almanac.h"
 #include "ApplicationDirectories.h"
-#include "EarlierState.h"
+#include "ArchiveRestoration.h"
 #include "FilePanel.h"
 #include "LongWork.h"
-#include "UnpackedArchive.h"
 
 #include <QPointer>
 #include <QTemporaryDir>
@@ -37,8 +36,9 @@ public:
         Almanac almanac;
         /// Stores what is pending.
         std::function<void()> settle;
-        /// Puts the copy in the place of the register; the error is a sentence. May end everything that is shown.
-        std::function<IoResult<void>(const UnpackedArchive&)> restore;
+        /// Puts the copy, of which this was read, in the place of the register; the error is a sentence. May end
+        /// everything that is shown.
+        std::function<IoResult<void>(const UnpackedArchive&, const RestorableFiles&)> restore;
     };
 
     /// What the tools refer to must outlive it.

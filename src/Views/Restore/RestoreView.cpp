@@ -254,27 +254,29 @@ QCoro::Task<> RestoreView::restoreCopy()
     const QPointer<CopyActions> copies = m_copies;
     const IoResult<void> restored =
         copies ? co_await copies->restore(m_copy->path, progress) : tl::unexpected(IoError::fromErrno(ECANCELED));
-    if (!alive)
-        co_return;
-    m_work.reset();
-    if (restored)
-        Q_EMIT closed();
-    else
-        showReason(*m_error, progress->isCancelled() ? QString() : restored.error().reason);
+    if (alive)
+        end(restored);
 }
 
-void RestoreView::restoreState()
+QCoro::Task<> RestoreView::restoreState()
 {
     const QPointer<RestoreView> alive(this);
+    const auto progress = std::make_shared<WorkProgress>();
+    m_work = progress;
     const EarlierState state = m_content.states().at(m_states->chosen());
     const Restore restore = m_restore; // what runs shall not go away with the view
-    const IoResult<void> restored = restore(state);
-    if (!alive)
-        return;
+    const IoResult<void> restored = co_await restore(state, progress);
+    if (alive)
+        end(restored, u"Non è stato possibile ripristinare: "_s);
+}
+
+void RestoreView::end(const IoResult<void>& restored, const QString& sentence)
+{
+    const auto work = std::exchange(m_work, {});
     if (restored)
         Q_EMIT closed();
     else
-        showReason(*m_error, u"Non è stato possibile ripristinare: "_s + restored.error().reason);
+        showReason(*m_error, work->isCancelled() ? QString() : sentence + restored.error().reason);
 }
 
 bool hasStateToLookAt(const QList<EarlierState>& states, const LookedAtStates& lookedAt)

@@ -26,8 +26,10 @@ class RestoreView : public QWidget
     Q_OBJECT
 
 public:
-    /// Puts the state in the place of the present one; a failure says why nothing came of it. May end the view.
-    using Restore = std::function<IoResult<void>(const EarlierState&)>;
+    /// Puts the state in the place of the present one, unless it is cancelled soon enough; a failure says why nothing
+    /// came of it. May end the view.
+    using Restore =
+        std::function<QCoro::Task<IoResult<void>>(const EarlierState&, const std::shared_ptr<WorkProgress>&)>;
 
     /// What the sources refer to, and `lookedAt`, must outlive it.
     RestoreView(const RestoreContent::Sources& sources, LookedAtStates& lookedAt, Restore restore,
@@ -55,10 +57,12 @@ private:
     void showCompared(const RestorePreview& preview);
     void showPreview(const RestorePreview& preview);
     void restoreChosen();
-    void restoreState();
     void chooseCopy();
     QCoro::Task<> openCopy(QString path);
     QCoro::Task<> restoreCopy();
+    QCoro::Task<> restoreState();
+    /// How what was under way has ended.
+    void end(const IoResult<void>& restored, const QString& sentence = {});
 
     RestoreContent m_content;
     LookedAtStates& m_lookedAt;

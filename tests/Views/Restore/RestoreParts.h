@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Ended.h"
 #include "Gui.h"
 #include "LookedAtStates.h"
 #include "RegisterFixture.h"
@@ -63,9 +64,9 @@ struct ShownRestore
         activate(window);
         sheet = RestoreView::makeSheet(
             {f.generations, f.archive, f.equipment, f.types, f.settings, f.work, f.almanac}, lookedAt,
-            [this](const EarlierState& state) -> IoResult<void> {
+            [this](const EarlierState& state, const std::shared_ptr<WorkProgress>&) {
                 asked.append(state.name);
-                return answer;
+                return ended(answer);
             },
             &window);
         sheet->open();

@@ -57,9 +57,9 @@ struct Copies
     int restored = 0;
     CopyActions actions{
         {f.panel, f.work, f.directories, f.almanac, [this] { ++settled; },
-         [this](const UnpackedArchive& copy) {
+         [this](const UnpackedArchive& copy, const RestorableFiles& files) {
              ++restored;
-             return ArchiveRestoration(f.directories, f.generations, f.permission, f.clock.now()).restore(copy);
+             return ArchiveRestoration(f.directories, f.generations, f.permission, f.clock.now()).restore(copy, files);
          }}};
 };
 
@@ -72,9 +72,9 @@ struct ShownWithCopies
         copies.window.resize(size);
         sheet = RestoreView::makeSheet(
             {f.generations, f.archive, f.equipment, f.types, f.settings, f.work, f.almanac}, lookedAt,
-            [this](const EarlierState& state) -> IoResult<void> {
+            [this](const EarlierState& state, const std::shared_ptr<WorkProgress>&) {
                 asked.append(state.name);
-                return {};
+                return ended({});
             },
             &copies.window, &copies.actions);
         sheet->open();

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
+#include "Answer.h"
 #include "RestoreParts.h"
 #include "TestRunner.h"
 #include "Theme.h"
 
 #include <QAccessible>
 #include <QPushButton>
+#include <QSignalSpy>
 
 using namespace abissora;
 using namespace abissora::test;
@@ -20,6 +22,11 @@ void press(Qt::Key key)
 {
     QTest::keyClick(QApplication::focusWidget(), key);
     settle();
+}
+
+QCoro::Task<IoResult<void>> given(Answer<IoResult<void>>& answer)
+{
+    co_return co_await answer.given();
 }
 
 } // namespace
@@ -181,14 +188,59 @@ private Q_SLOTS:
         QVERIFY(!s.sheet->isVisible());
     }
 
+    void aStateIsRestoredOnceAndWaitedFor()
+    {
+        KeptRegister f;
+        LookedAtStates lookedAt(f.directories.windowStateFile());
+        Answer<IoResult<void>> answer;
+        QList<std::shared_ptr<WorkProgress>> asked;
+        const auto restore = [&](const EarlierState&, const std::shared_ptr<WorkProgress>& progress) {
+            asked.append(progress);
+            return given(answer);
+        };
+        RestoreView view({f.generations, f.archive, f.equipment, f.types, f.settings, f.work, f.almanac}, lookedAt,
+                         restore);
+        const QSignalSpy closed(&view, &RestoreView::closed);
+        settle();
+        existing<QPushButton>(view, u"restore").click();
+        existing<QPushButton>(view, u"restore").click();
+        QCOMPARE(asked.size(), 1);
+        QCOMPARE(closed.size(), 0);
+        answer.give({});
+        settle();
+        QCOMPARE(closed.size(), 1);
+    }
+
+    void leavingCancelsWhatIsRead()
+    {
+        KeptRegister f;
+        LookedAtStates lookedAt(f.directories.windowStateFile());
+        Answer<IoResult<void>> answer;
+        std::shared_ptr<WorkProgress> asked;
+        const auto restore = [&](const EarlierState&, const std::shared_ptr<WorkProgress>& progress) {
+            asked = progress;
+            return given(answer);
+        };
+        auto view = std::make_unique<RestoreView>(
+            RestoreContent::Sources{f.generations, f.archive, f.equipment, f.types, f.settings, f.work, f.almanac},
+            lookedAt, restore);
+        settle();
+        existing<QPushButton>(*view, u"restore").click();
+        QVERIFY(!asked->isCancelled());
+        view.reset();
+        QVERIFY(asked->isCancelled());
+        answer.give({});
+        settle();
+    }
+
     void whatRestoresMayEndTheView()
     {
         KeptRegister f;
         ShownRestore s(f);
         RestoreView* view = nullptr;
-        const auto end = [&view](const EarlierState&) -> IoResult<void> {
+        const auto end = [&view](const EarlierState&, const std::shared_ptr<WorkProgress>&) {
             delete std::exchange(view, nullptr);
-            return tl::unexpected(IoError{u"gone"_s});
+            return ended(tl::unexpected(IoError{u"gone"_s}));
         };
         view = new RestoreView({f.generations, f.archive, f.equipment, f.types, f.settings, f.work, f.almanac},
                                s.lookedAt, end);
