@@ -69,12 +69,12 @@ void measureHistory(const Report& report)
 {
     const test::FixedClock clock;
     QList<Equipment> equipment = registerOf(300, clock.now());
-    for (int i = 0; i < 496; ++i) {
+    for (int i = 0; i < 2 * 496; ++i) {
         Maintenance record = equipment.at(i % 300).maintenanceHistory.at(i % 4);
         record.id = QUuid::createUuidV5(QUuid(), QString::number(i));
         if (i % 3 == 0)
             record.description += u", sostituiti O-ring, molle e membrana del secondo stadio"_s;
-        equipment[0].maintenanceHistory.append(record);
+        equipment[i % 2].maintenanceHistory.append(record);
     }
     test::ShellFixture fixture(equipment);
     MainWindow window(fixture, fixture.equipment, fixture.directories.windowStateFile());
@@ -82,14 +82,14 @@ void measureHistory(const Report& report)
     window.show();
     settle();
     ListPage& page = *window.findChild<ListPage*>();
-    page.setSelectedEquipment(equipment.at(1));
-    settle();
-    report.measure("item of 500 records selected, and one of 4, both painted", 21, [&] {
-        page.setSelectedEquipment(equipment.at(0));
+    qsizetype next = 0;
+    const auto selectNext = [&](qsizetype first) {
+        page.setSelectedEquipment(equipment.at(first + next));
         settle();
-        page.setSelectedEquipment(equipment.at(1));
-        settle();
-    });
+        next = 1 - next;
+    };
+    report.measure("an item of 4 records selected after another, painted", 51, [&] { selectNext(2); });
+    report.measure("an item of 500 records selected after another, painted", 51, [&] { selectNext(0); });
     page.setSelectedEquipment(equipment.at(0));
     settle();
     auto& area = *window.findChild<EquipmentDetailView*>()->findChild<QScrollArea*>();
