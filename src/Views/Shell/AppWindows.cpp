@@ -211,7 +211,9 @@ void AppWindows::openWaitingUpdate()
     if (!m_waiting || QApplication::activeModalWidget() != nullptr)
         return;
     qApp->removeEventFilter(this);
-    openUpdate(*std::exchange(m_waiting, std::nullopt));
+    const UpdateInfo update = *m_waiting;
+    m_waiting.reset();
+    openUpdate(update);
 }
 
 void AppWindows::closeUpdates()

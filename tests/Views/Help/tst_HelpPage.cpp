@@ -170,8 +170,7 @@ void tst_HelpPage::aLinkThatNothingOpensIsTold()
     const QPoint link = shown.page.cursorRect(at(shown.page, u"cita"_s)).center();
     QTest::mouseClick(shown.page.viewport(), Qt::LeftButton, {}, link);
     const auto* notice = shown.page.findChild<Alert*>();
-    QVERIFY(notice != nullptr);
-    QVERIFY(notice->isVisible());
+    QVERIFY(notice != nullptr && notice->isVisible());
     QVERIFY(notice->message().contains("https://abissora.example/a?b=c&d=e"_L1));
 }
 

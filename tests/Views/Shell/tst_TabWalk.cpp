@@ -86,8 +86,7 @@ private Q_SLOTS:
         }
         settle();
         const QWidget* const start = s.window.focusWidget();
-        QVERIFY(start != nullptr);
-        QVERIFY(start->isVisible());
+        QVERIFY(start != nullptr && start->isVisible());
         const QList<QWidget*> visited = walk(s.window, Qt::Key_Tab);
         QVERIFY(visited.contains(&s.sidebar()));
         for (const QWidget* stop : visited)

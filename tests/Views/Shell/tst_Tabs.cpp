@@ -22,15 +22,15 @@ private Q_SLOTS:
         QVERIFY(s.window.findChild<StatisticsView*>() == nullptr);
         QVERIFY(s.window.findChild<SettingsView*>() == nullptr);
         s.window.content().setSelectedTab(ContentView::StatisticsTab);
-        auto* const statistics = s.window.findChild<StatisticsView*>();
-        QVERIFY(statistics != nullptr);
-        QVERIFY(statistics->isVisible());
+        const auto statistics = s.window.findChildren<StatisticsView*>();
+        QCOMPARE(statistics.size(), 1);
+        QVERIFY(statistics.first()->isVisible());
         QVERIFY(s.window.findChild<MaintenanceOverviewView*>() == nullptr);
         s.window.content().setSelectedTab(ContentView::ListTab);
-        QVERIFY(!statistics->isVisible());
+        QVERIFY(!statistics.first()->isVisible());
         s.window.content().setSelectedTab(ContentView::StatisticsTab);
-        QCOMPARE(s.window.findChildren<StatisticsView*>(), QList<StatisticsView*>{statistics});
-        QVERIFY(statistics->isVisible());
+        QCOMPARE(s.window.findChildren<StatisticsView*>(), statistics);
+        QVERIFY(statistics.first()->isVisible());
     }
 
     void tabOrderOfTheOverview()

@@ -47,7 +47,7 @@ QImage ApplicationIconEngine::render(QSize pixels, QIcon::Mode mode) const
     const int own = ownSideOfSmallDrawing(side);
     const bool keepsItsSize = side >= own && side - own <= own / 8;
     const QString path = u":/appicon/abissora-%1.svg"_s.arg(own);
-    const QImage drawing = picture(path, {}, keepsItsSize ? QSize(own, own) : pixels);
+    QImage drawing = picture(path, {}, keepsItsSize ? QSize(own, own) : pixels);
     if (drawing.isNull() || drawing.size() == pixels)
         return drawing;
     QImage image(pixels, drawing.format());
