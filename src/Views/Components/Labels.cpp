@@ -16,29 +16,6 @@ namespace abissora {
 
 namespace {
 
-/// Lays the text out in lines of the given width and gives its height.
-int layOut(QTextLayout& layout, const QLabel& label, int width)
-{
-    QTextOption option(label.alignment() & Qt::AlignHorizontal_Mask);
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTextDirection(label.layoutDirection());
-    layout.setTextOption(option);
-    layout.beginLayout();
-    qreal height = 0;
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        line.setPosition({0, height});
-        height += line.height();
-    }
-    layout.endLayout();
-    return qCeil(height);
-}
-
-QString withLineSeparators(QString text)
-{
-    return text.replace(u'\n', QChar::LineSeparator);
-}
-
 QString inOneLine(QString text)
 {
     return text.replace(u'\n', u' ');
@@ -80,9 +57,12 @@ struct WrapLabel::Lines
         , width(label.width())
         , alignment(label.alignment())
         , direction(label.layoutDirection())
-        , layout(withLineSeparators(text), label.font())
-        , height(layOut(layout, label, width))
-    {}
+        , layout({}, label.font())
+    {
+        QTextOption option(alignment & Qt::AlignHorizontal_Mask);
+        option.setTextDirection(direction);
+        height = layOutLines(layout, text, option, width);
+    }
 
     [[nodiscard]] bool areThoseOf(const WrapLabel& label) const
     {
@@ -95,7 +75,7 @@ struct WrapLabel::Lines
     Qt::Alignment alignment;
     Qt::LayoutDirection direction;
     QTextLayout layout;
-    int height;
+    int height = 0;
 };
 
 WrapLabel::WrapLabel(TextStyle style, Ink ink, const QString& text, QWidget* parent)
@@ -134,11 +114,7 @@ std::optional<int> WrapLabel::linesOf(const QString& text, int width) const
 
 int WrapLabel::heightOf(const QString& text, int width) const
 {
-    const int least = fontMetrics().height();
-    if (const auto count = m_words->linesOf(text, width))
-        return std::max(qCeil(*count * m_words->lineHeight()), least);
-    QTextLayout layout(withLineSeparators(text), font());
-    return std::max(layOut(layout, *this, width), least);
+    return std::max(m_words->heightOf(text, width), fontMetrics().height());
 }
 
 const WrapLabel::Lines& WrapLabel::lines()

@@ -61,8 +61,25 @@ qreal heightOfALine(const QFont& font)
 
 } // namespace
 
+int layOutLines(QTextLayout& layout, QString text, QTextOption option, int width)
+{
+    layout.setText(text.replace(u'\n', QChar::LineSeparator));
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    qreal height = 0;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0, height});
+        height += line.height();
+    }
+    layout.endLayout();
+    return qCeil(height);
+}
+
 WordWidths::WordWidths(const QFont& font)
-    : m_metrics(font)
+    : m_font(font)
+    , m_metrics(font)
     , m_lineHeight(heightOfALine(font))
     , m_blank(m_metrics.horizontalAdvance(u' '))
 {}
@@ -113,6 +130,19 @@ std::optional<int> WordWidths::linesOf(QStringView text, int width)
     return lines;
 }
 
+int WordWidths::heightOf(const QString& text, int width)
+{
+    if (const auto lines = linesOf(text, width))
+        return qCeil(*lines * m_lineHeight);
+    const std::pair key(text, width);
+    if (const auto known = m_heights.constFind(key); known != m_heights.constEnd())
+        return *known;
+    if (m_heights.size() > mostTexts)
+        m_heights.clear();
+    QTextLayout layout({}, m_font);
+    return *m_heights.insert(key, layOutLines(layout, text, {}, width));
+}
+
 QString WordWidths::elided(const QString& text, qreal width)
 {
     return advance(text) <= width ? text : m_metrics.elidedText(text, Qt::ElideRight, width);
@@ -128,11 +158,12 @@ qreal WordWidths::mostWidthOf(QStringView text)
 
 qreal WordWidths::advance(QStringView text)
 {
-    if (m_advances.size() > mostTexts)
+    if (const auto known = m_advances.find(text); known != m_advances.end())
+        return known->second;
+    if (std::ssize(m_advances) > mostTexts)
         m_advances.clear();
     const QString key = text.toString();
-    const auto known = m_advances.constFind(key);
-    return known != m_advances.constEnd() ? *known : *m_advances.insert(key, m_metrics.horizontalAdvance(key));
+    return m_advances[key] = m_metrics.horizontalAdvance(key);
 }
 
 bool WordWidths::isOfThisFont(QStringView word) const

@@ -83,6 +83,24 @@ private Q_SLOTS:
         QVERIFY2(counted > 500, qPrintable(QString::number(counted)));
     }
 
+    void heightsAreThoseOfALayout()
+    {
+        std::mt19937 random(4);
+        const QFont font = abissora::font(TextStyle::Body);
+        WordWidths words(font);
+        QStringList texts;
+        for (int i = 0; i < 200; ++i)
+            texts.append(anyText(random) + (i % 2 == 0 ? u"\n日本"_s : QString()));
+        // Each comes back in several widths, each width twice.
+        for (const int width : {60, 180, 181, 60, 181, 180}) {
+            for (const QString& text : texts) {
+                QTextLayout layout({}, font);
+                const int expected = layOutLines(layout, text, {}, width);
+                QVERIFY2(std::abs(words.heightOf(text, width) - expected) <= 1, qPrintable(text));
+            }
+        }
+    }
+
     void mostTextsAreCounted()
     {
         WordWidths words(abissora::font(TextStyle::Body));
