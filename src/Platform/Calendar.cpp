@@ -48,6 +48,8 @@ public:
 
     [[nodiscard]] const QTimeZone& zone() const { return m_zone; }
     [[nodiscard]] seconds at(Instant instant) const;
+    /// Whether the table knows that no clock changes within so many days before and after.
+    [[nodiscard]] bool isSteadyAround(Instant instant, days reach) const;
 
 private:
     struct Offset
@@ -102,6 +104,14 @@ seconds ZoneOffsets::at(Instant instant) const
     if (instant < tableBegin || instant >= tableEnd)
         return seconds{m_zone.offsetFromUtc(utc(instant))};
     return std::prev(std::ranges::upper_bound(m_offsets, instant, {}, &Offset::since))->value;
+}
+
+bool ZoneOffsets::isSteadyAround(Instant instant, days reach) const
+{
+    if (instant - reach < tableBegin || instant + reach >= tableEnd)
+        return false;
+    const auto next = std::ranges::upper_bound(m_offsets, instant - reach, {}, &Offset::since);
+    return next == m_offsets.end() || instant + reach < next->since;
 }
 
 namespace {
@@ -239,12 +249,15 @@ std::optional<std::int64_t> Calendar::daysBetween(Instant from, Instant to) cons
         return std::nullopt;
 
     const std::int64_t direction = to < from ? -1 : 1;
-    const auto reached = [&](std::int64_t count) {
-        const auto moved = addDaysWithin(from, direction * count, *zone);
+    std::int64_t count = std::max<std::int64_t>(0, floor<days>(direction * (*localTo - *localFrom)).count());
+    // Far from any clock change the clocks' difference is right.
+    if (zone->isSteadyAround(to, days{4}))
+        return direction * count;
+    const auto reached = [&](std::int64_t number) {
+        const auto moved = addDaysWithin(from, direction * number, *zone);
         return moved && (direction > 0 ? *moved <= to : *moved >= to);
     };
-    // The clocks' difference is right except beside a clock change, where it is off by one or two.
-    std::int64_t count = std::max<std::int64_t>(0, floor<days>(direction * (*localTo - *localFrom)).count());
+    // Beside a clock change the clocks' difference is off by one or two.
     while (count > 0 && !reached(count))
         --count;
     while (reached(count + 1))
