@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ColumnTexts.h"
 
+#include <QSet>
 #include <algorithm>
 #include <functional>
 
@@ -8,17 +9,23 @@ namespace abissora {
 
 namespace {
 
-/// Those with the most letters; how wide they are nobody knows here.
+/// The texts with the most letters, each once; how wide they are nobody knows here. Of a long register hardly any is
+/// copied.
 template <typename Text>
 QStringList longest(const QList<Equipment>& items, Text text)
 {
-    QStringList texts;
-    texts.reserve(items.size());
-    for (const Equipment& item : items)
-        texts.append(std::invoke(text, item));
-    const qsizetype count = std::min(texts.size(), ColumnTexts::mostTexts);
-    std::ranges::partial_sort(texts, texts.begin() + count, std::ranges::greater(), &QString::size);
-    texts.resize(count);
+    QStringList texts; // the longest first
+    QSet<QString> known;
+    for (const Equipment& item : items) {
+        const QString& next = std::invoke(text, item);
+        const bool isFull = texts.size() == ColumnTexts::mostTexts;
+        if ((isFull && next.size() <= texts.last().size()) || known.contains(next))
+            continue;
+        if (isFull)
+            known.remove(texts.takeLast());
+        texts.insert(std::ranges::upper_bound(texts, next.size(), std::ranges::greater(), &QString::size), next);
+        known.insert(next);
+    }
     return texts;
 }
 

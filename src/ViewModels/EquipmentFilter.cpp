@@ -4,7 +4,10 @@
 #include "Literals.h"
 #include "TextSearch.h"
 
+#include <algorithm>
 #include <numeric>
+#include <utility>
+#include <vector>
 
 namespace abissora {
 
@@ -42,6 +45,22 @@ void keepFound(const QString& searchText, const QList<Equipment>& catalogue, Pos
     });
 }
 
+QList<Equipment> soonestDueFirst(const Positions& kept, const QList<Equipment>& catalogue)
+{
+    // Of equal dates the one that stands first in the catalogue. Beside each other dates are compared quickest.
+    std::vector<std::pair<Instant, qsizetype>> order;
+    order.reserve(kept.size());
+    for (const qsizetype at : kept)
+        order.emplace_back(catalogue.at(at).nextServiceDate, at);
+    std::ranges::sort(order);
+
+    QList<Equipment> equipment;
+    equipment.reserve(static_cast<qsizetype>(order.size()));
+    for (const auto& [date, at] : order)
+        equipment.append(catalogue.at(at));
+    return equipment;
+}
+
 } // namespace
 
 QString orNil(const std::optional<QString>& text)
@@ -66,12 +85,7 @@ FilteredEquipment apply(const EquipmentFilter& filter, const QList<Equipment>& c
         keepFound(filter.searchText, catalogue, kept, log);
     log += u"\n   📊 Risultati: "_s + QString::number(kept.size()) + u" su "_s + total;
 
-    std::ranges::stable_sort(kept, {}, [&](qsizetype at) { return catalogue.at(at).nextServiceDate; });
-    QList<Equipment> equipment;
-    equipment.reserve(static_cast<qsizetype>(kept.size()));
-    for (const qsizetype at : kept)
-        equipment.append(catalogue.at(at));
-    return {equipment, log};
+    return {soonestDueFirst(kept, catalogue), log};
 }
 
 } // namespace abissora

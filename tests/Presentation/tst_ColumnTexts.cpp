@@ -42,6 +42,22 @@ private Q_SLOTS:
         QCOMPARE(texts.dates.size(), 12);
     }
 
+    void theLongestAreKeptEachOnceWhereverTheyStand()
+    {
+        const RegisterFixture f;
+        QList<Equipment> items;
+        QStringList names;
+        for (int i = 0; i < 300; ++i) {
+            const int length = (i * 7) % 100; // each of a hundred lengths three times, two of them the same name
+            items.append(makeItem(i, QString(length, i < 200 ? u'a' : u'b'), EquipmentType::fins, f.inDays(1)));
+        }
+        for (int length = 99; length >= 84; --length)
+            names += {QString(length, u'a'), QString(length, u'b')};
+        const QStringList kept = ColumnTexts::of(items, {f.types, f.almanac}).names;
+        QCOMPARE(kept.size(), ColumnTexts::mostTexts);
+        QCOMPARE(QSet(kept.begin(), kept.end()), QSet(names.begin(), names.end()));
+    }
+
     void nothingHasNoTexts()
     {
         const RegisterFixture f;
