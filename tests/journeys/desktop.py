@@ -12,6 +12,10 @@ from gi.repository import Gio, GLib
 from patience import PATIENCE, until
 
 
+# The environment of a journey names the process of its window manager.
+WINDOW_MANAGER = "JOURNEY_WINDOW_MANAGER"
+
+
 class NoDesktop(Exception):
     """Says which part of the desktop is missing. The program under test has no part in it."""
 
@@ -100,6 +104,7 @@ class Desktop(contextlib.AbstractContextManager):
             self._start_screen()
             manager = self._start("openbox", "--sm-disable")
             _wait_for("the window manager (openbox)", manager, _manager_of_windows)
+            os.environ[WINDOW_MANAGER] = str(manager.pid)
         except BaseException:
             self.__exit__()
             raise

@@ -17,6 +17,11 @@ from patience import PATIENCE  # noqa: E402
 
 ZONE = "Europe/Rome"
 
+# What the window manager gives the keyboard to; menus take it without being active.
+KEYBOARD_ROLES = (Atspi.Role.ALERT, Atspi.Role.DIALOG, Atspi.Role.FRAME, Atspi.Role.WINDOW)
+# Windows that come without it, by their titles.
+WITHOUT_KEYBOARD = ("Aggiornamento disponibile",)
+
 # Milliseconds for an answer of the program. The library's own patience, 800 of them, ends before a busy machine gives
 # the program its turn: a name is then empty, an action fails.
 Atspi.set_timeout(int(PATIENCE * 1000), int(PATIENCE * 1000))
@@ -63,6 +68,7 @@ class Program:
         environment.pop("ABISSORA_DATA_DIR", None)
         self.path = path
         self.lines = []
+        self.with_keyboard_once = set()
         command = [path, "--data-dir", data_dir, *arguments]
         if shell:
             command = ["sh", "-c", shell, *command]
@@ -167,10 +173,20 @@ class Program:
         rows = [row.get_name() for row in children(sidebar)]
         assert sidebar.get_table_iface().add_row_selection(rows.index(name)), name
 
+    def takes_keys(self):
+        """Whether a window has the keyboard, one of the new ones if there are such. The window manager gives it later
+        than a window is seen: until then keys would go to the window before it, or be lost."""
+        windows = self.windows()
+        active = [window for window in windows if window.get_state_set().contains(Atspi.StateType.ACTIVE)]
+        new = [window for window in windows if window not in self.with_keyboard_once
+               and window.get_role() in KEYBOARD_ROLES and window.get_name() not in WITHOUT_KEYBOARD]
+        if not active or (new and not any(window in active for window in new)):
+            return False
+        self.with_keyboard_once.update(windows)
+        return True
+
     def wait_for_focus(self):
-        """Keys pressed before the window manager gave the focus to a window would be lost."""
-        until("an active window", lambda: any(window.get_state_set().contains(Atspi.StateType.ACTIVE)
-                                              for window in self.windows()))
+        until("the keyboard in the newest window", self.takes_keys)
 
     def key(self, *names):
         """Presses keys by their X names; "ctrl+f" holds one down."""
