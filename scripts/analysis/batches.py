@@ -6,6 +6,7 @@ hardly more than one.
 """
 
 import json
+import re
 import shlex
 from collections import defaultdict
 from dataclasses import dataclass
@@ -54,6 +55,13 @@ def flags_of(command, source):
     return tuple(flags)
 
 
+def sources_in(file):
+    """What a compiled file is made of: itself, or the sources that the build compiles together by including them there."""
+    if file.parent.name != "Unity":
+        return [file]
+    return [Path(source) for source in re.findall(r'^#include "(.*)"$', file.read_text(encoding="utf-8"), re.MULTILINE)]
+
+
 def is_ours(root, file):
     """Whether a file is a source of this project, neither generated nor an example of what must not compile."""
     if not file.is_relative_to(root) or file.suffix not in SOURCES:
@@ -69,9 +77,9 @@ class Sources:
         self.root = root
         self.flags_by_file = {}
         for entry in json.loads((build / "compile_commands.json").read_text(encoding="utf-8")):
-            file = Path(entry["directory"], entry["file"])
-            if is_ours(root, file):
-                self.flags_by_file.setdefault(file, flags_of(entry["command"], entry["file"]))
+            for file in sources_in(Path(entry["directory"], entry["file"])):
+                if is_ours(root, file):
+                    self.flags_by_file.setdefault(file, flags_of(entry["command"], entry["file"]))
 
     def all(self):
         """Those that this build leaves out are among them."""

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ArchiveReader.h"
 #include "Builders.h"
+#include "GoOn.h"
 #include "HandmadeZip.h"
 #include "RegisterArchive.h"
 #include "TemporaryRegister.h"
@@ -12,6 +13,7 @@
 #include <sys/stat.h>
 
 using namespace abissora;
+using test::always;
 
 namespace {
 
@@ -53,11 +55,6 @@ QString sentenceOf(const QByteArray& bytes)
 QString sentenceOf(const test::HandmadeZip& zip)
 {
     return sentenceOf(zip.bytes());
-}
-
-bool always(qint64 /*done*/, qint64 /*whole*/)
-{
-    return true;
 }
 
 } // namespace

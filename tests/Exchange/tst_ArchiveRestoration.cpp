@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ArchiveRestoration.h"
 #include "FailingCalls.h"
+#include "GoOn.h"
 #include "IoChecks.h"
 #include "RegisterArchive.h"
 #include "RegisterStart.h"
@@ -12,6 +13,7 @@
 #include <QTest>
 
 using namespace abissora;
+using test::always;
 
 namespace {
 
@@ -19,11 +21,6 @@ const QString named = u"00000000-0000-4000-9000-000000000001.pdf"_s;
 const QString other = u"00000000-0000-4000-9000-000000000002.pdf"_s;
 const QString stateOfCopy = u"20260301T100000.000Z-deleted-item"_s;
 const QString folderOfDocuments = u"MaintenanceDocuments/"_s;
-
-bool always(qint64 /*done*/, qint64 /*whole*/)
-{
-    return true;
-}
 
 QByteArray registerOf(int item)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ArchiveReader.h"
 #include "FailingCalls.h"
+#include "GoOn.h"
 #include "RegisterArchive.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
@@ -12,6 +13,7 @@
 #include <unistd.h>
 
 using namespace abissora;
+using test::always;
 
 namespace {
 
@@ -19,11 +21,6 @@ const QString document = u"MaintenanceDocuments/00000000-0000-4000-9000-00000000
 const QString oldDocument = u"backups/documents/20260301T000000.000Z-00000000-0000-4000-9000-000000000002.pdf"_s;
 const QString state = u"backups/20260301T100000.000Z-deleted-item/savedEquipment.json"_s;
 const QString oldState = u"backups/savedEquipment-20250102T030405Z.json"_s;
-
-bool always(qint64 /*done*/, qint64 /*whole*/)
-{
-    return true;
-}
 
 QStringList namesIn(const ArchiveManifest& manifest)
 {

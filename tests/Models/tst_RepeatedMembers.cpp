@@ -10,9 +10,9 @@ using namespace abissora;
 
 namespace {
 
-const QByteArray record = R"({"id":"00000000-0000-4000-8000-000000000002","date":"2025-03-14T09:26:53Z",)"
-                          R"("type":"Test","description":"","performedBy":"","cost":1,"notes":"",)"
-                          R"("nextServiceDate":"2026-03-14T09:26:53Z"})";
+const QByteArray recordText = R"({"id":"00000000-0000-4000-8000-000000000002","date":"2025-03-14T09:26:53Z",)"
+                              R"("type":"Test","description":"","performedBy":"","cost":1,"notes":"",)"
+                              R"("nextServiceDate":"2026-03-14T09:26:53Z"})";
 
 /// One item with `members` before and after those that every item has.
 tl::expected<QList<Equipment>, JsonError> decoded(const QByteArray& before, const QByteArray& after)
@@ -73,11 +73,13 @@ private Q_SLOTS:
 
     void listsAreReplacedWhole()
     {
-        QCOMPARE(itemOf(R"("maintenanceHistory":[)" + record + "," + record + "],", "").maintenanceHistory.size(), 0);
-        QCOMPARE(itemOf("", R"(,"maintenanceHistory":[)" + record + "]").maintenanceHistory.size(), 1);
         QCOMPARE(
-            itemOf("", R"(,"maintenanceHistory":[1],"maintenanceHistory":[)" + record + "]").maintenanceHistory.size(),
-            1);
+            itemOf(R"("maintenanceHistory":[)" + recordText + "," + recordText + "],", "").maintenanceHistory.size(),
+            0);
+        QCOMPARE(itemOf("", R"(,"maintenanceHistory":[)" + recordText + "]").maintenanceHistory.size(), 1);
+        QCOMPARE(itemOf("", R"(,"maintenanceHistory":[1],"maintenanceHistory":[)" + recordText + "]")
+                     .maintenanceHistory.size(),
+                 1);
     }
 
     void nullMakesAnOptionalMemberAbsent()
@@ -90,7 +92,7 @@ private Q_SLOTS:
 
     void insideRecords()
     {
-        QByteArray repeated = record;
+        QByteArray repeated = recordText;
         repeated.insert(1, R"("cost":"x","cost":[],"date":5,)");
         QCOMPARE(itemOf("", R"(,"maintenanceHistory":[)" + repeated + "]").maintenanceHistory.at(0).cost, 1.0);
     }

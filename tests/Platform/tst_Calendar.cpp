@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Calendar.h"
+#include "CalendarParts.h"
 #include "Literals.h"
 #include "TestRunner.h"
 
@@ -7,15 +7,9 @@
 #include <limits>
 
 using namespace abissora;
+using namespace abissora::test;
 
 namespace {
-
-/// "2026-03-29T01:30:00Z" or with an offset.
-Instant at(const QString& iso)
-{
-    const auto time = QDateTime::fromString(iso, Qt::ISODateWithMs);
-    return Instant{std::chrono::milliseconds{time.toMSecsSinceEpoch()}};
-}
 
 QString iso(std::optional<Instant> instant)
 {
@@ -27,11 +21,6 @@ QString iso(std::optional<Instant> instant)
 QDateTime wall(const QString& text)
 {
     return QDateTime::fromString(text, u"yyyy-MM-dd HH:mm"_s);
-}
-
-Calendar in(const QString& zone)
-{
-    return Calendar(QTimeZone(zone.toLatin1()));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "Calendar.h"
+#include "CalendarParts.h"
 #include "Literals.h"
 #include "TestRunner.h"
 
@@ -7,22 +7,11 @@
 #include <QTest>
 
 using namespace abissora;
+using namespace abissora::test;
 
 namespace {
 
 using Days = std::optional<std::int64_t>;
-
-/// "2026-03-29T01:30:00Z" or with an offset.
-Instant at(const QString& iso)
-{
-    const auto time = QDateTime::fromString(iso, Qt::ISODateWithMs);
-    return Instant{std::chrono::milliseconds{time.toMSecsSinceEpoch()}};
-}
-
-Calendar in(const QString& zone)
-{
-    return Calendar(QTimeZone(zone.toLatin1()));
-}
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AttachmentDraft.h"
 
+#include "SlotNames.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
 
@@ -10,9 +11,6 @@ using namespace abissora;
 using namespace abissora::test;
 
 namespace {
-
-const auto receipt = DocumentSlot::Receipt;
-const auto certificate = DocumentSlot::Certificate;
 
 /// A record with a receipt, and its draft.
 struct Edited

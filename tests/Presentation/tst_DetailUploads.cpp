@@ -2,6 +2,7 @@
 #include "Builders.h"
 #include "EquipmentDetail.h"
 #include "RegisterFixture.h"
+#include "SlotNames.h"
 #include "TestRunner.h"
 
 #include <QTest>
@@ -10,9 +11,6 @@ using namespace abissora;
 using namespace abissora::test;
 
 namespace {
-
-const auto receipt = DocumentSlot::Receipt;
-const auto certificate = DocumentSlot::Certificate;
 
 /// The detail of the first of two items with a record each; copies wait until they are told to end.
 struct Slow

@@ -2,6 +2,7 @@
 #include "Builders.h"
 #include "EquipmentDetail.h"
 #include "RegisterFixture.h"
+#include "SlotNames.h"
 #include "TestRunner.h"
 
 #include <QSignalSpy>
@@ -10,9 +11,6 @@ using namespace abissora;
 using namespace abissora::test;
 
 namespace {
-
-const auto receipt = DocumentSlot::Receipt;
-const auto certificate = DocumentSlot::Certificate;
 
 Maintenance onDay(int id, const char* date)
 {

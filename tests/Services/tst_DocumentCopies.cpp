@@ -12,7 +12,7 @@ using namespace abissora::test;
 
 namespace {
 
-const QString folder = u"MaintenanceDocuments"_s;
+const QString documentsFolder = u"MaintenanceDocuments"_s;
 const QByteArray pdf = QByteArray("%PDF-1.7\n").repeated(100'000);
 
 using Stored = std::optional<std::optional<QString>>;
@@ -74,7 +74,7 @@ private Q_SLOTS:
         TemporaryRegister files;
         files.work.beSlow();
         files.panel.grantAccess(true);
-        files.write(folder + u"/old.pdf"_s, "old");
+        files.write(documentsFolder + u"/old.pdf"_s, "old");
         const QString source = files.write(u"a.pdf"_s, pdf);
         files.panel.answer(source);
         const auto progress = std::make_shared<WorkProgress>();
@@ -82,11 +82,11 @@ private Q_SLOTS:
         pickInto(stored, files.documents, u"old.pdf"_s, progress);
         QVERIFY(!stored);
         QCOMPARE(files.work.titles(), QStringList{u"Copia del documento…"_s});
-        QCOMPARE(files.names(folder), QStringList{u"old.pdf"_s});
+        QCOMPARE(files.names(documentsFolder), QStringList{u"old.pdf"_s});
         QCOMPARE(files.panel.ended(), QStringList());
         files.work.finish();
-        QCOMPARE(files.names(folder), QStringList{stored.value().value()});
-        QCOMPARE(files.content(folder + u'/' + **stored), pdf);
+        QCOMPARE(files.names(documentsFolder), QStringList{stored.value().value()});
+        QCOMPARE(files.content(documentsFolder + u'/' + **stored), pdf);
         QCOMPARE(files.panel.ended(), QStringList{source});
         QCOMPARE(progress->fraction(), 1.0);
     }
@@ -95,7 +95,7 @@ private Q_SLOTS:
     {
         TemporaryRegister files;
         files.work.beSlow();
-        files.write(folder + u"/old.pdf"_s, "old");
+        files.write(documentsFolder + u"/old.pdf"_s, "old");
         files.panel.answer(files.write(u"a.pdf"_s, pdf));
         const auto progress = std::make_shared<WorkProgress>();
         Stored stored;
@@ -103,7 +103,7 @@ private Q_SLOTS:
         progress->cancel();
         files.work.finish();
         QCOMPARE(stored.value(), std::nullopt);
-        QCOMPARE(files.names(folder), QStringList{u"old.pdf"_s});
+        QCOMPARE(files.names(documentsFolder), QStringList{u"old.pdf"_s});
         QCOMPARE(files.console.calls(), QStringList());
     }
 
@@ -111,12 +111,12 @@ private Q_SLOTS:
     {
         TemporaryRegister files;
         InterruptedWork work(after, [](WorkProgress& progress) { progress.cancel(); });
-        MaintenanceDocumentStore documents(files.path(folder), files.archive, files.panel, work, files.ids,
+        MaintenanceDocumentStore documents(files.path(documentsFolder), files.archive, files.panel, work, files.ids,
                                            files.console);
         Stored stored;
         storeInto(stored, documents, files.write(u"a.pdf"_s, pdf));
         QCOMPARE(stored.value(), std::nullopt);
-        QCOMPARE(files.names(folder), QStringList());
+        QCOMPARE(files.names(documentsFolder), QStringList());
         QCOMPARE(files.console.calls(), QStringList());
     }
 
@@ -139,14 +139,14 @@ private Q_SLOTS:
         files.work.beSlow();
         files.panel.grantAccess(true);
         const QString source = files.write(u"a.pdf"_s, pdf);
-        auto documents = std::make_unique<MaintenanceDocumentStore>(files.path(folder), files.archive, files.panel,
-                                                                    files.work, files.ids, files.console);
+        auto documents = std::make_unique<MaintenanceDocumentStore>(files.path(documentsFolder), files.archive,
+                                                                    files.panel, files.work, files.ids, files.console);
         Stored stored;
         storeInto(stored, *documents, source);
         documents.reset();
         files.work.finish();
         QCOMPARE(stored.value(), std::nullopt);
-        QCOMPARE(files.names(folder), QStringList());
+        QCOMPARE(files.names(documentsFolder), QStringList());
         QCOMPARE(files.panel.ended(), QStringList{source});
         QCOMPARE(files.console.calls(), QStringList());
     }
@@ -156,13 +156,13 @@ private Q_SLOTS:
         TemporaryRegister files;
         std::unique_ptr<MaintenanceDocumentStore> documents;
         InterruptedWork work(before, [&documents](WorkProgress&) { documents.reset(); });
-        documents = std::make_unique<MaintenanceDocumentStore>(files.path(folder), files.archive, files.panel, work,
-                                                               files.ids, files.console);
+        documents = std::make_unique<MaintenanceDocumentStore>(files.path(documentsFolder), files.archive, files.panel,
+                                                               work, files.ids, files.console);
         Stored stored;
         storeInto(stored, *documents, files.write(u"a.pdf"_s, pdf));
         VERIFY_FAILED(work.outcome(), ECANCELED);
         QCOMPARE(stored.value(), std::nullopt);
-        QCOMPARE(files.names(folder), QStringList());
+        QCOMPARE(files.names(documentsFolder), QStringList());
     }
 
     void theStoreMayGoWhenTheCopyIsThere()
@@ -170,19 +170,19 @@ private Q_SLOTS:
         TemporaryRegister files;
         std::unique_ptr<MaintenanceDocumentStore> documents;
         InterruptedWork work(after, [&documents](WorkProgress&) { documents.reset(); });
-        documents = std::make_unique<MaintenanceDocumentStore>(files.path(folder), files.archive, files.panel, work,
-                                                               files.ids, files.console);
+        documents = std::make_unique<MaintenanceDocumentStore>(files.path(documentsFolder), files.archive, files.panel,
+                                                               work, files.ids, files.console);
         Stored stored;
         storeInto(stored, *documents, files.write(u"a.pdf"_s, pdf));
         QCOMPARE(stored.value(), std::nullopt);
-        QCOMPARE(files.names(folder), QStringList());
+        QCOMPARE(files.names(documentsFolder), QStringList());
     }
 
     void theStoreMayGoWhileThePanelIsOpen()
     {
         TemporaryRegister files;
-        auto documents = std::make_unique<MaintenanceDocumentStore>(files.path(folder), files.archive, files.panel,
-                                                                    files.work, files.ids, files.console);
+        auto documents = std::make_unique<MaintenanceDocumentStore>(files.path(documentsFolder), files.archive,
+                                                                    files.panel, files.work, files.ids, files.console);
         files.panel.meanwhile([&documents] { documents.reset(); });
         files.panel.answer(files.write(u"a.pdf"_s, pdf));
         Stored stored;
@@ -196,7 +196,7 @@ private Q_SLOTS:
         TemporaryRegister files;
         FakeProgressPanel panel;
         GatedWork work(panel);
-        MaintenanceDocumentStore documents(files.path(folder), files.archive, files.panel, work, files.ids,
+        MaintenanceDocumentStore documents(files.path(documentsFolder), files.archive, files.panel, work, files.ids,
                                            files.console);
         Stored stored;
         storeInto(stored, documents, files.write(u"a.pdf"_s, pdf));
@@ -208,8 +208,8 @@ private Q_SLOTS:
         QCOMPARE(panel.titles(), QStringList{u"Copia del documento…"_s});
         work.open();
         QTRY_VERIFY(stored);
-        QCOMPARE(files.names(folder), QStringList{stored->value()});
-        QCOMPARE(files.content(folder + u'/' + **stored), pdf);
+        QCOMPARE(files.names(documentsFolder), QStringList{stored->value()});
+        QCOMPARE(files.content(documentsFolder + u'/' + **stored), pdf);
     }
 
     void onAThreadTheStoreAndTheWorkMayGo()
@@ -217,14 +217,14 @@ private Q_SLOTS:
         TemporaryRegister files;
         FakeProgressPanel panel;
         auto work = std::make_unique<GatedWork>(panel);
-        auto documents = std::make_unique<MaintenanceDocumentStore>(files.path(folder), files.archive, files.panel,
-                                                                    *work, files.ids, files.console);
+        auto documents = std::make_unique<MaintenanceDocumentStore>(files.path(documentsFolder), files.archive,
+                                                                    files.panel, *work, files.ids, files.console);
         Stored stored;
         storeInto(stored, *documents, files.write(u"a.pdf"_s, pdf));
         documents.reset();
         work.reset(); // waits for its thread
         QCOMPARE(stored.value(), std::nullopt);
-        QCOMPARE(files.names(folder), QStringList());
+        QCOMPARE(files.names(documentsFolder), QStringList());
     }
 };
 

@@ -9,9 +9,9 @@ using namespace abissora;
 
 namespace {
 
-QString inFolder(const QString& name)
+QString inFolder(const QString& fileName)
 {
-    return u"MaintenanceDocuments/"_s + name;
+    return u"MaintenanceDocuments/"_s + fileName;
 }
 
 } // namespace

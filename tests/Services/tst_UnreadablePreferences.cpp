@@ -3,16 +3,17 @@
 #include "IoChecks.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
+#include "UnreadableCopy.h"
 
 #include <QTest>
 
 using namespace abissora;
+using test::backups;
+using test::copy;
 
 namespace {
 
 const QString key = registerKey;
-const QString backups = u"backups"_s;
-const QString copy = u"backups/20260615T100000.000Z-unreadable/savedEquipment.json"_s;
 
 } // namespace
 

@@ -3,15 +3,15 @@
 #include "RecordJson.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
+#include "UnreadableCopy.h"
 
 #include <QTest>
 
 using namespace abissora;
+using test::backups;
+using test::copy;
 
 namespace {
-
-const QString backups = u"backups"_s;
-const QString copy = u"backups/20260615T100000.000Z-unreadable/savedEquipment.json"_s;
 
 QStringList namesOf(const QList<Equipment>& equipment)
 {

@@ -11,6 +11,9 @@
 
 namespace abissora::test {
 
+/// What a timeline says of the notification that every view model sends last.
+inline const QString changed = u"<changed>"_s;
+
 /// Prints and notifications of one object in the order in which they happen: a print as it is, a notification as the
 /// signal's name in angle brackets.
 class Timeline final : public QObject, public Console

@@ -9,11 +9,11 @@
 #include <QTest>
 
 using namespace abissora;
+using test::changed;
 
 namespace {
 
 const QString versionFile = u"preferences/iconSetVersion.json"_s;
-const QString changed = u"<changed>"_s;
 const QString typesChanged = u"<typesChanged>"_s;
 
 QStringList namesOf(const QList<EquipmentTypeModel>& types)

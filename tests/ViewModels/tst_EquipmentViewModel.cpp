@@ -8,11 +8,11 @@
 #include <QTest>
 
 using namespace abissora;
+using test::changed;
 
 namespace {
 
 const QString equipmentChanged = u"<equipmentChanged>"_s;
-const QString changed = u"<changed>"_s;
 
 /// A catalogue whose prints and notifications form one sequence.
 struct Followed : test::TemporaryRegister

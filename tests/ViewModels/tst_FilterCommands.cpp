@@ -8,10 +8,10 @@
 #include <QTest>
 
 using namespace abissora;
+using test::changed;
 
 namespace {
 
-const QString changed = u"<changed>"_s;
 const QString searchTextChanged = u"<searchTextChanged>"_s;
 const QString selectedTypeChanged = u"<selectedTypeChanged>"_s;
 const QString filterTypeNameChanged = u"<filterTypeNameChanged>"_s;

@@ -30,7 +30,7 @@ QByteArray recordsTable()
 }
 
 /// The sheet by itself.
-Scene sheet(const QString& name, const QByteArray& table)
+Scene importSheet(const QString& name, const QByteArray& table)
 {
     return form(name, [table](test::ShellFixture& f) {
         const QList<Equipment> items = f.equipment.equipment();
@@ -46,9 +46,10 @@ Scene sheet(const QString& name, const QByteArray& table)
 QList<Scene> importScenes()
 {
     return {
-        sheet(u"import"_s, clubTable),
-        sheet(u"import-records"_s, recordsTable()),
-        sheet(u"import-columns"_s, QByteArray(clubTable).replace("nome;", "oggetti;").replace("marca", "modello")),
+        importSheet(u"import"_s, clubTable),
+        importSheet(u"import-records"_s, recordsTable()),
+        importSheet(u"import-columns"_s,
+                    QByteArray(clubTable).replace("nome;", "oggetti;").replace("marca", "modello")),
     };
 }
 

@@ -21,7 +21,7 @@ Equipment withHistory(Equipment item)
 }
 
 /// The sheet by itself, for an item or for none.
-Scene sheet(const QString& name, bool hasItem)
+Scene printSheet(const QString& name, bool hasItem)
 {
     return form(name, [hasItem](test::ShellFixture& f) {
         const auto item = hasItem ? std::optional(withHistory(f.equipment.equipment().first())) : std::nullopt;
@@ -33,7 +33,7 @@ Scene sheet(const QString& name, bool hasItem)
 
 QList<Scene> printScenes()
 {
-    return {sheet(u"print-item"_s, true), sheet(u"print-list"_s, false)};
+    return {printSheet(u"print-item"_s, true), printSheet(u"print-list"_s, false)};
 }
 
 } // namespace abissora::gallery

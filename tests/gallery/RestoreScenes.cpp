@@ -45,7 +45,7 @@ void keepStates(test::RegisterFixture& f)
 }
 
 /// The sheet by itself.
-Scene sheet(const QString& name, const std::function<void(test::RegisterFixture&)>& keep)
+Scene restoreSheet(const QString& name, const std::function<void(test::RegisterFixture&)>& keep)
 {
     return form(name, [keep](test::ShellFixture& f) {
         keep(f);
@@ -76,9 +76,9 @@ void keepLongNames(test::RegisterFixture& f)
 QList<Scene> restoreScenes()
 {
     return {
-        sheet(u"restore"_s, keepStates),
-        sheet(u"restore-nothing"_s, keepNothing),
-        sheet(u"restore-long-names"_s, keepLongNames),
+        restoreSheet(u"restore"_s, keepStates),
+        restoreSheet(u"restore-nothing"_s, keepNothing),
+        restoreSheet(u"restore-long-names"_s, keepLongNames),
     };
 }
 

@@ -30,7 +30,7 @@ QLineEdit* field(const QString& placeholder)
     return edit;
 }
 
-std::unique_ptr<QWidget> form()
+std::unique_ptr<QWidget> sheetWithForm()
 {
     auto sheet = std::make_unique<Sheet>(u"Nuova Attrezzatura"_s);
     sheet->setPrimaryText(u"Salva"_s);
@@ -90,7 +90,7 @@ std::unique_ptr<QWidget> progress()
 
 QList<Scene> sheetScenes()
 {
-    return {{u"component-sheet"_s, form},
+    return {{u"component-sheet"_s, sheetWithForm},
             {u"component-alert"_s, destructive},
             {u"component-notice"_s, notice},
             {u"no-answer"_s, [] { return std::make_unique<NoAnswerAlert>(); }},

@@ -91,6 +91,13 @@ class Batches(Folder):
         self.assertEqual([[file.name for file in batch.files] for batch in sources.batches(files, 3)],
                          [["A.cpp", "B.cpp"], ["C.cpp", "E.cpp"], ["D.cpp"]])
 
+    def test_what_is_compiled_together_has_the_flags_of_the_whole(self):
+        files = [self.write(f"tests/{name}.cpp") for name in "AB"]
+        self.write("build/Unity/unity_0_cxx.cxx",
+                   "/* made */\n" + "".join(f'/* NOLINT */\n#include "{file}"\n' for file in files) + "#undef X\n")
+        sources = self.sources(**{"build/Unity/unity_0_cxx.cxx": "x", "src/C.cpp": "y"})
+        self.assertEqual([sources.flags(file) for file in files], [("-Ix",), ("-Ix",)])
+
     def test_what_is_not_compiled_has_its_neighbours_flags(self):
         sources = self.sources(**{"src/A.cpp": "x", "src/Room/B.cpp": "y"})
         for path in ("src/A.cpp", "src/Room/B.cpp", "src/Room/Portable.cpp"):

@@ -88,9 +88,9 @@ QStringList numbered(int count)
 }
 
 /// A field, the list and another field below one another in a scroll area.
-struct Shown
+struct ShownRows
 {
-    explicit Shown(const QStringList& texts, RowList::Keys keys = RowList::Keys::Free)
+    explicit ShownRows(const QStringList& texts, RowList::Keys keys = RowList::Keys::Free)
     {
         area.setWidgetResizable(true);
         area.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -159,7 +159,7 @@ class tst_RowList : public ComponentTest
 private Q_SLOTS:
     void fewRowsExistHoweverManyItems()
     {
-        Shown s(numbered(10'000));
+        ShownRows s(numbered(10'000));
         const int pitch = s.list->row(u"1"_s).y() - s.list->row(u"0"_s).y();
         QCOMPARE(pitch, s.list->row(u"0"_s).height() + gap);
         QCOMPARE(s.list->height(), 10'000 * pitch - gap + 2 * border);
@@ -173,7 +173,7 @@ private Q_SLOTS:
 
     void whatIsInSightIsThere()
     {
-        Shown s(numbered(1000));
+        ShownRows s(numbered(1000));
         s.scrollTo(0.4);
         QRegion covered;
         for (const QWidget* row : s.list->rows())
@@ -191,7 +191,7 @@ private Q_SLOTS:
         QStringList texts = numbered(200);
         for (int i = 0; i < 200; i += 3)
             texts[i] += u" parola"_s.repeated(i);
-        Shown s(texts);
+        ShownRows s(texts);
         const int height = s.list->height();
         for (const double share : {0.0, 0.3, 0.7, 1.0}) {
             s.scrollTo(share);
@@ -207,7 +207,7 @@ private Q_SLOTS:
 
     void theTextSizeChanges()
     {
-        Shown s({u"uno"_s, u"due parole "_s.repeated(20), u"tre"_s});
+        ShownRows s({u"uno"_s, u"due parole "_s.repeated(20), u"tre"_s});
         const int before = s.list->height();
         QFont larger = s.area.font();
         larger.setPointSizeF(2 * larger.pointSizeF());
@@ -219,7 +219,7 @@ private Q_SLOTS:
 
     void tabWalksThroughEveryRow()
     {
-        Shown s(numbered(60));
+        ShownRows s(numbered(60));
         s.before->setFocus();
         for (int i = 0; i < 60; ++i) {
             for (const QString& button : {u"1"_s, u"2"_s}) {
@@ -242,7 +242,7 @@ private Q_SLOTS:
 
     void keysWalkThroughTheRows()
     {
-        Shown s(numbered(500), RowList::Keys::WalkRows);
+        ShownRows s(numbered(500), RowList::Keys::WalkRows);
         s.list->row(u"0"_s).second->setFocus(Qt::TabFocusReason);
         const auto expect = [&s](Qt::Key key, int index) {
             s.press(key);
@@ -264,7 +264,7 @@ private Q_SLOTS:
 
     void keysAreLeftAloneOtherwise()
     {
-        Shown s(numbered(500));
+        ShownRows s(numbered(500));
         s.list->row(u"3"_s).first->setFocus();
         for (const Qt::Key key : {Qt::Key_End, Qt::Key_PageDown, Qt::Key_Home})
             s.press(key);
@@ -273,7 +273,7 @@ private Q_SLOTS:
 
     void scrollingKeepsTheFocusAndThePlaceOfTheLastVisit()
     {
-        Shown s(numbered(500));
+        ShownRows s(numbered(500));
         s.list->row(u"3"_s).second->setFocus();
         s.scrollTo(1);
         s.scrollTo(0.5);
@@ -302,7 +302,7 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, texts);
         QFETCH(int, index);
-        Shown s(numbered(9));
+        ShownRows s(numbered(9));
         s.list->row(u"5"_s).second->setFocus();
         s.list->setTexts(texts);
         settle();
@@ -317,7 +317,7 @@ private Q_SLOTS:
 
     void theLastItemLeavesTheFocusToWhatFollows()
     {
-        Shown s(numbered(3));
+        ShownRows s(numbered(3));
         s.list->row(u"1"_s).first->setFocus();
         s.list->setTexts({});
         settle();
@@ -329,7 +329,7 @@ private Q_SLOTS:
 
     void heirsHearOfOtherRows()
     {
-        Shown s(numbered(500));
+        ShownRows s(numbered(500));
         s.list->changes = 0;
         s.area.verticalScrollBar()->setValue(1);
         QCOMPARE(s.list->changes, 0);
@@ -339,7 +339,7 @@ private Q_SLOTS:
 
     void screenReadersFindTheRowsInTheirOrder()
     {
-        Shown s({u"b"_s, u"c"_s, u"d"_s});
+        ShownRows s({u"b"_s, u"c"_s, u"d"_s});
         s.list->setTexts({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
         s.list->row(u"d"_s).first->setFocus();
         s.list->setTexts({u"d"_s, u"a"_s, u"b"_s, u"c"_s});
@@ -357,7 +357,7 @@ private Q_SLOTS:
 
     void aLineStandsInTheMiddleOfEveryGap()
     {
-        Shown s(numbered(3));
+        ShownRows s(numbered(3));
         const QImage image = s.list->grab().toImage();
         QList<int> lines;
         for (int y = 0; y < image.height(); ++y) {

@@ -17,9 +17,9 @@ using namespace abissora::test;
 namespace {
 
 /// A table of three columns with a field beside it, which has the focus first where the test wants it.
-struct Shown
+struct ShownTable
 {
-    explicit Shown(int rows, bool fieldFirst = false)
+    explicit ShownTable(int rows, bool fieldFirst = false)
         : model(rows, 3)
     {
         for (int row = 0; row < rows; ++row)
@@ -71,7 +71,7 @@ private Q_SLOTS:
 
     void homeAndEndGoToTheFirstAndLastRow()
     {
-        Shown s(50);
+        ShownTable s(50);
         s.table.setCurrentIndex(s.model.index(20, 1));
         QTest::keyClick(&s.table, Qt::Key_End);
         QCOMPARE(s.selectedRows(), QList{49});
@@ -85,7 +85,7 @@ private Q_SLOTS:
 
     void theFirstArrowSelectsWhereTheKeyboardStands()
     {
-        Shown s(3);
+        ShownTable s(3);
         QCOMPARE(s.selectedRows(), QList<int>());
         QTest::keyClick(&s.table, Qt::Key_Down);
         QCOMPARE(s.selectedRows(), QList{0});
@@ -95,7 +95,7 @@ private Q_SLOTS:
 
     void theFirstRowCanBeReachedFromOutside()
     {
-        Shown s(3, true);
+        ShownTable s(3, true);
         s.table.goToFirstRow();
         QVERIFY(s.table.hasFocus());
         QCOMPARE(s.selectedRows(), QList{0});
@@ -103,7 +103,7 @@ private Q_SLOTS:
 
     void aRightClickMovesTheKeyboardOnly()
     {
-        Shown s(4);
+        ShownTable s(4);
         s.table.selectRow(0);
         const QPoint place = s.table.visualRect(s.model.index(2, 1)).center();
         QTest::mouseClick(s.table.viewport(), Qt::RightButton, {}, place);
@@ -132,7 +132,7 @@ private Q_SLOTS:
 
     void theRingShowsWhereTheKeyboardStandsFromTheFirstMoment()
     {
-        Shown s(4);
+        ShownTable s(4);
         QVERIFY(s.isRinged(0));
         QVERIFY(!s.isRinged(1));
         QTest::mouseClick(s.table.viewport(), Qt::LeftButton, {}, s.table.visualRect(s.model.index(1, 0)).center());
@@ -145,7 +145,7 @@ private Q_SLOTS:
 
     void aMenuLeavesTheKeyboardWhereItIs()
     {
-        Shown s(2);
+        ShownTable s(2);
         QSignalSpy moved(&s.table, &RowTable::placeChanged);
         QFocusEvent toMenu(QEvent::FocusOut, Qt::MenuBarFocusReason);
         QCoreApplication::sendEvent(&s.table, &toMenu);

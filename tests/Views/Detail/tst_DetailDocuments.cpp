@@ -12,11 +12,11 @@ using namespace abissora::test;
 namespace {
 
 /// An item with one record on show, whose document slots hold these names.
-struct Shown
+struct ShownDocuments
 {
     using Names = std::function<void(RegisterFixture&, Maintenance&)>;
 
-    explicit Shown(const Names& attach = [](RegisterFixture&, Maintenance&) {})
+    explicit ShownDocuments(const Names& attach = [](RegisterFixture&, Maintenance&) {})
     {
         Equipment item = makeItem(1, u"Bombola"_s, EquipmentType::cylinder, f.inDays(100));
         Maintenance record = makeRecord(1, 1, u"Collaudo"_s);
@@ -50,7 +50,7 @@ class tst_DetailDocuments : public TestCase
 private Q_SLOTS:
     void withoutDocuments()
     {
-        Shown s;
+        ShownDocuments s;
         QCOMPARE(part<QAbstractButton>(*s.view, u"uploadReceipt"_s).text(), u"Carica Scontrino"_s);
         QCOMPARE(part<QAbstractButton>(*s.view, u"uploadCertificate"_s).text(), u"Carica Certificato"_s);
         QVERIFY(!isShown(*s.view, u"openReceipt"_s));
@@ -59,7 +59,7 @@ private Q_SLOTS:
 
     void uploading()
     {
-        Shown s;
+        ShownDocuments s;
         s.f.panel.answer(s.f.writePdf(u"a.pdf"_s));
         click(*s.view, u"uploadCertificate"_s);
         QCOMPARE(s.f.panel.requests().size(), 1);
@@ -72,7 +72,7 @@ private Q_SLOTS:
 
     void cancelledPanel()
     {
-        Shown s;
+        ShownDocuments s;
         s.f.takeLog();
         click(*s.view, u"uploadReceipt"_s);
         QVERIFY(!s.stored().receiptFileName);
@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void opening()
     {
-        Shown s(attachReceipt);
+        ShownDocuments s(attachReceipt);
         click(*s.view, u"openReceipt"_s);
         QCOMPARE(s.f.opener.opened(),
                  QList<QUrl>({QUrl::fromLocalFile(s.f.documents.url(*s.stored().receiptFileName).value())}));
@@ -90,7 +90,7 @@ private Q_SLOTS:
 
     void nothingOpensIt()
     {
-        Shown s(attachReceipt);
+        ShownDocuments s(attachReceipt);
         s.f.opener.succeed(false);
         click(*s.view, u"openReceipt"_s);
         Alert& notice = openDialog<Alert>(*s.view);
@@ -106,7 +106,7 @@ private Q_SLOTS:
 
     void nothingOpensItAfterTheItemHasLeft()
     {
-        Shown s(attachReceipt);
+        ShownDocuments s(attachReceipt);
         s.f.opener.beSlow();
         click(*s.view, u"openReceipt"_s);
         s.view.reset();
@@ -116,7 +116,7 @@ private Q_SLOTS:
 
     void replacingDeletesTheFileAndOffersTheUpload()
     {
-        Shown s(attachReceipt);
+        ShownDocuments s(attachReceipt);
         QCOMPARE(part(*s.view, u"replaceReceipt"_s).toolTip(), u"Sostituisci il documento allegato"_s);
         click(*s.view, u"replaceReceipt"_s);
         QVERIFY(!s.stored().receiptFileName);
@@ -127,7 +127,7 @@ private Q_SLOTS:
 
     void missingFileIsOfferedForUpload()
     {
-        Shown s([](RegisterFixture&, Maintenance& record) { record.receiptFileName = u"SPARITO.pdf"_s; });
+        ShownDocuments s([](RegisterFixture&, Maintenance& record) { record.receiptFileName = u"SPARITO.pdf"_s; });
         QVERIFY(isShown(*s.view, u"uploadReceipt"_s));
         s.f.panel.answer(s.f.writePdf(u"b.pdf"_s));
         click(*s.view, u"uploadReceipt"_s);
@@ -136,7 +136,7 @@ private Q_SLOTS:
 
     void fileThatVanishedMeanwhileIsNotOpened()
     {
-        Shown s(attachReceipt);
+        ShownDocuments s(attachReceipt);
         s.f.documents.deleteDocument(*s.stored().receiptFileName);
         click(*s.view, u"openReceipt"_s);
         QCOMPARE(s.f.opener.opened(), QList<QUrl>());

@@ -10,9 +10,9 @@ using namespace abissora::test;
 namespace {
 
 /// One item on show.
-struct Shown
+struct PaintedDetail
 {
-    Shown(int days, bool active)
+    PaintedDetail(int days, bool active)
     {
         Equipment item = makeItem(1, u"Erogatore"_s, EquipmentType::regulator, f.inDays(days));
         item.isActive = active;
@@ -54,7 +54,7 @@ private Q_SLOTS:
     void aDotTellsTheState()
     {
         QFETCH(const bool, active);
-        const Shown shown(100, active);
+        const PaintedDetail shown(100, active);
         const Picture picture = drawn(*shown.view);
         const QRect mark = shown.label(active ? u"Attivo"_s : u"Inattivo"_s);
         QVERIFY(!mark.isEmpty());
@@ -67,14 +67,14 @@ private Q_SLOTS:
 
     void whatIsDueIsMarked()
     {
-        const Shown shown(-3, true);
+        const PaintedDetail shown(-3, true);
         const Picture picture = drawn(*shown.view);
         const QRect text = shown.label(u"SCADUTO"_s);
         QVERIFY(!text.isEmpty());
         QCOMPARE(picture.inked(text, tokens().dangerTint, tokens().danger), fine);
         QCOMPARE(picture.inked(text.translated(0, -24), tokens().dangerTint, tokens().named(NamedColor::red)), fine);
         QCOMPARE(picture.filled(text.adjusted(-6, 0, 6, 6), tokens().dangerTint), fine);
-        QVERIFY(drawn(*Shown(100, true).view).amount(shown.view->rect(), tokens().dangerTint) <
+        QVERIFY(drawn(*PaintedDetail(100, true).view).amount(shown.view->rect(), tokens().dangerTint) <
                 10); // rims of icons may hit it
     }
 };

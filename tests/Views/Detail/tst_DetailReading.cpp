@@ -12,8 +12,6 @@
 using namespace abissora;
 using namespace abissora::test;
 
-using Shown = ShownDetail;
-
 /// Whether the detail screen can be reached, heard and read.
 class tst_DetailReading : public TestCase
 {
@@ -22,7 +20,7 @@ class tst_DetailReading : public TestCase
 private Q_SLOTS:
     void everythingThatTakesTheFocusHasANameAndIsReachedByTab()
     {
-        Shown s(threeRecords());
+        ShownDetail s(threeRecords());
         QStringList order;
         part(*s.view, u"closeDetail"_s).setFocus();
         for (int i = 0; i < 11; ++i) {
@@ -40,7 +38,7 @@ private Q_SLOTS:
 
     void screenReadersAreToldWhatIsWhat()
     {
-        Shown s({makeRecord(1, 1, u"Prova"_s)}, 3);
+        ShownDetail s({makeRecord(1, 1, u"Prova"_s)}, 3);
         QStringList lines;
         for (const QLabel* label : part(*s.view, u"technicalDetails"_s).findChildren<QLabel*>()) {
             QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(const_cast<QLabel*>(label));
@@ -77,7 +75,7 @@ private Q_SLOTS:
         Maintenance record = makeRecord(1, 1, u"Sostituzione degli anelli di tenuta e prova"_s);
         record.cost = 1234.5;
         record.performedBy = QString(60, u'W');
-        Shown s({record}, 3);
+        ShownDetail s({record}, 3);
         s.item.name = QString(70, u'W');
         s.item.serialNumber = QString(50, u'8');
         s.item.notes = QString(200, u'n');

@@ -18,8 +18,6 @@
 using namespace abissora;
 using namespace abissora::test;
 
-using Shown = ShownDetail;
-
 class tst_EquipmentDetailView : public TestCase
 {
     Q_OBJECT
@@ -27,18 +25,18 @@ class tst_EquipmentDetailView : public TestCase
 private Q_SLOTS:
     void header()
     {
-        Shown s({}, 30);
+        ShownDetail s({}, 30);
         QCOMPARE(textOf(*s.view, u"detailName"_s), s.item.name);
         QCOMPARE(textOf(*s.view, u"detailType"_s), u"Erogatore"_s);
         QCOMPARE(textOf(*s.view, u"detailState"_s), u"Attivo"_s);
         QVERIFY(isShown(*s.view, u"dueBadge"_s));
-        Shown later({}, 31);
+        ShownDetail later({}, 31);
         QVERIFY(!isShown(*later.view, u"dueBadge"_s));
     }
 
     void order()
     {
-        Shown s(threeRecords());
+        ShownDetail s(threeRecords());
         int bottom = -1;
         const auto below = [&](const QWidget& widget) {
             const int top = widget.mapTo(s.view.get(), QPoint()).y();
@@ -57,7 +55,7 @@ private Q_SLOTS:
 
     void notesCanBeSelected()
     {
-        Shown s;
+        ShownDetail s;
         auto& notes = part<SelectableText>(*s.view, u"notes"_s);
         QCOMPARE(notes.toPlainText(), u"Nessuna nota inserita"_s);
         s.item.notes = u"Prima riga\nseconda <b>riga</b>"_s;
@@ -71,7 +69,7 @@ private Q_SLOTS:
 
     void actionsAndTheirHelp()
     {
-        Shown s;
+        ShownDetail s;
         const auto helpOf = [&](const char* name) { return part(*s.view, QLatin1String(name)).toolTip(); };
         QCOMPARE(helpOf("editEquipment"), u"Modifica l'attrezzatura"_s);
         QCOMPARE(helpOf("addMaintenance"), u"Aggiungi una nuova manutenzione"_s);
@@ -81,7 +79,7 @@ private Q_SLOTS:
 
     void activeIsSwitchedOffAndOn()
     {
-        Shown s;
+        ShownDetail s;
         auto& toggle = part<LookButton>(*s.view, u"toggleActive"_s);
         QCOMPARE(buttonLook(&toggle, ButtonLook::Plain), ButtonLook::Caution);
         QTest::mouseClick(&toggle, Qt::LeftButton);
@@ -97,14 +95,14 @@ private Q_SLOTS:
 
     void historyNewestFirst()
     {
-        Shown s(threeRecords());
+        ShownDetail s(threeRecords());
         QCOMPARE(s.descriptions(), QStringList({u"ultima"_s, u"metà"_s, u"prima"_s}));
         QVERIFY(!isShown(*s.view, u"emptyHistory"_s));
     }
 
     void recordIsDeletedAfterItsConfirmation()
     {
-        Shown s(threeRecords());
+        ShownDetail s(threeRecords());
         click(s.row(0), u"deleteMaintenance"_s);
         auto& alert = openDialog<Alert>(*s.view);
         QCOMPARE(alert.windowTitle(), u"Elimina Manutenzione"_s);
@@ -126,7 +124,7 @@ private Q_SLOTS:
 
     void lastRecordLeavesTheEmptyHistoryAtOnce()
     {
-        Shown s({makeRecord(1, 1, u"sola"_s)});
+        ShownDetail s({makeRecord(1, 1, u"sola"_s)});
         click(s.row(0), u"deleteMaintenance"_s);
         click(openDialog<Alert>(*s.view), u"destructive"_s);
         QVERIFY(isShown(*s.view, u"emptyHistory"_s));
@@ -135,7 +133,7 @@ private Q_SLOTS:
 
     void theFocusStaysNearADeletedRecord()
     {
-        Shown s(threeRecords());
+        ShownDetail s(threeRecords());
         for (int left = 2; left >= 0; --left) {
             click(s.row(left), u"deleteMaintenance"_s);
             click(openDialog<Alert>(*s.view), u"destructive"_s);
@@ -149,7 +147,7 @@ private Q_SLOTS:
         QList<Maintenance> records;
         for (int i = 0; i < 500; ++i)
             records.append(makeRecord(i, i, u"Intervento %1"_s.arg(i) + u" e prova"_s.repeated(i % 20)));
-        Shown s(records);
+        ShownDetail s(records);
         s.view->resize(385, 700);
         settle();
         const auto check = [&s](int index) {
@@ -177,7 +175,7 @@ private Q_SLOTS:
 
     void unknownRecord()
     {
-        Shown s(threeRecords());
+        ShownDetail s(threeRecords());
         s.view->confirmDeleteMaintenance(SequentialIds::at(99'999));
         auto& alert = openDialog<Alert>(*s.view);
         QCOMPARE(alert.message(), u"Eliminare questa manutenzione?"_s);
@@ -191,7 +189,7 @@ private Q_SLOTS:
 
     void itemIsDeletedAfterItsConfirmation()
     {
-        Shown s;
+        ShownDetail s;
         QSignalSpy closed(s.view.get(), &EquipmentDetailView::closed);
         click(*s.view, u"deleteEquipment"_s);
         auto& alert = openDialog<Alert>(*s.view);
@@ -209,7 +207,7 @@ private Q_SLOTS:
 
     void deletedElsewhereItNeverComesBack()
     {
-        Shown s(threeRecords());
+        ShownDetail s(threeRecords());
         s.f.equipment.deleteEquipment(s.item);
         const auto count = s.f.equipment.equipment().size();
         s.f.takeLog();
@@ -224,7 +222,7 @@ private Q_SLOTS:
 
     void followsTheRegisterAndTheTypes()
     {
-        Shown s;
+        ShownDetail s;
         s.item.name = u"Nuovo nome"_s;
         s.f.equipment.updateEquipment(s.item);
         QCOMPARE(textOf(*s.view, u"detailName"_s), s.item.name);
@@ -236,7 +234,7 @@ private Q_SLOTS:
 
     void recordIsEditedFromItsButtonAndItsMenu()
     {
-        Shown s(threeRecords());
+        ShownDetail s(threeRecords());
         click(s.row(1), u"editMaintenance"_s);
         auto& form = openDialog<MaintenanceFormView>(*s.view);
         QCOMPARE(form.windowTitle(), u"Modifica Manutenzione"_s);
@@ -261,7 +259,7 @@ private Q_SLOTS:
 
     void itemIsEdited()
     {
-        Shown s;
+        ShownDetail s;
         click(*s.view, u"editEquipment"_s);
         auto& form = openDialog<EditEquipmentView>(*s.view);
         form.findChild<QLineEdit*>()->setText(u"Rinominato"_s);
@@ -272,7 +270,7 @@ private Q_SLOTS:
 
     void newRecordIsAdded()
     {
-        Shown s;
+        ShownDetail s;
         click(*s.view, u"addMaintenance"_s);
         auto& form = openDialog<MaintenanceFormView>(*s.view);
         settle();

@@ -10,9 +10,9 @@ using namespace abissora::test;
 
 namespace {
 
-struct Shown
+struct FormWithDocuments
 {
-    explicit Shown(bool withReceipt)
+    explicit FormWithDocuments(bool withReceipt)
     {
         Equipment item = makeItem(1, u"Articolo"_s, EquipmentType::fins, f.inDays(100));
         Maintenance record = makeRecord(1, 1, u"Collaudo"_s);
@@ -49,7 +49,7 @@ class tst_MaintenanceFormDocuments : public TestCase
 private Q_SLOTS:
     void attachedAndSaved()
     {
-        Shown s(false);
+        FormWithDocuments s(false);
         s.attach("Certificato");
         QVERIFY(part(*s.form, u"openCertificato"_s).hasFocus());
         QVERIFY(!isShown(*s.form, u"attachCertificato"_s));
@@ -61,7 +61,7 @@ private Q_SLOTS:
 
     void cancelledPanelAndFailedCopyLeaveTheSlotEmpty()
     {
-        Shown s(false);
+        FormWithDocuments s(false);
         click(*s.form, u"attachScontrino"_s);
         s.f.panel.answer(s.f.folder.filePath(u"non-esiste.pdf"_s));
         click(*s.form, u"attachScontrino"_s);
@@ -72,7 +72,7 @@ private Q_SLOTS:
 
     void opened()
     {
-        Shown s(true);
+        FormWithDocuments s(true);
         QCOMPARE(part<QAbstractButton>(*s.form, u"openScontrino"_s).text(), u"Apri"_s);
         click(*s.form, u"openScontrino"_s);
         QCOMPARE(s.f.opener.opened().size(), 1);
@@ -80,7 +80,7 @@ private Q_SLOTS:
 
     void removedOnceSaved()
     {
-        Shown s(true);
+        FormWithDocuments s(true);
         const QStringList before = s.f.documentFiles();
         QCOMPARE(part<QAbstractButton>(*s.form, u"removeScontrino"_s).text(), u"Rimuovi"_s);
         click(*s.form, u"removeScontrino"_s);
@@ -93,7 +93,7 @@ private Q_SLOTS:
 
     void removedInACancelledFormStays()
     {
-        Shown s(true);
+        FormWithDocuments s(true);
         const QStringList before = s.f.documentFiles();
         click(*s.form, u"removeScontrino"_s);
         s.attach("Scontrino");
@@ -105,7 +105,7 @@ private Q_SLOTS:
 
     void attachedInAFormThatGoesUnansweredGoesAgain()
     {
-        Shown s(false);
+        FormWithDocuments s(false);
         s.attach("Scontrino");
         QCOMPARE(s.f.documentFiles().size(), 1);
         s.form.reset();
@@ -114,7 +114,7 @@ private Q_SLOTS:
 
     void theFormMayGoWhileThePanelIsOpen()
     {
-        Shown s(false);
+        FormWithDocuments s(false);
         s.f.panel.meanwhile([&s] { s.form.reset(); });
         s.attach("Scontrino");
         QVERIFY(!s.form);
@@ -124,7 +124,7 @@ private Q_SLOTS:
     /// A file that no record names would lie there for ever.
     void attachedInACancelledFormGoesAgain()
     {
-        Shown s(true);
+        FormWithDocuments s(true);
         const QStringList before = s.f.documentFiles();
         s.attach("Certificato");
         QCOMPARE(s.f.documentFiles().size(), 2);
@@ -136,7 +136,7 @@ private Q_SLOTS:
 
     void nameOfAMissingFileIsKeptUntilAnotherTakesItsPlace()
     {
-        Shown s(true);
+        FormWithDocuments s(true);
         const QString name = s.stored().receiptFileName.value();
         s.f.documents.deleteDocument(name);
         click(*s.form, u"openScontrino"_s);

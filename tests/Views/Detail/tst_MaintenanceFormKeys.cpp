@@ -16,9 +16,9 @@ using namespace abissora::test;
 namespace {
 
 /// The form over a window of the size, with or without both documents.
-struct Shown
+struct FormForKeys
 {
-    explicit Shown(QSize size = QSize(1000, 700), bool hasDocuments = false)
+    explicit FormForKeys(QSize size = QSize(1000, 700), bool hasDocuments = false)
     {
         const Equipment item = makeItem(1, u"Articolo"_s, EquipmentType::regulator, f.inDays(100));
         f.equipment.addEquipment(item);
@@ -65,7 +65,7 @@ private Q_SLOTS:
     {
         QFETCH(QSize, size);
         QFETCH(bool, hasDocuments);
-        const Shown s(size, hasDocuments);
+        const FormForKeys s(size, hasDocuments);
         QCOMPARE(stopsOutOfSight(*s.form), QStringList());
         QCOMPARE(stopsOutOfSight(*s.form, true), QStringList());
         s.pressAlt(Qt::Key_T);
@@ -78,7 +78,7 @@ private Q_SLOTS:
 
     void altAndALetterLeadToEachControl()
     {
-        const Shown s;
+        const FormForKeys s;
         for (const auto& [key, name] : {std::pair(Qt::Key_E, "performedBy"), std::pair(Qt::Key_C, "cost"),
                                         std::pair(Qt::Key_G, "nextServiceDate"), std::pair(Qt::Key_T, "notes"),
                                         std::pair(Qt::Key_D, "description")}) {
@@ -94,7 +94,7 @@ private Q_SLOTS:
 
     void altAndALetterPressTheButtonsOfEachDocument()
     {
-        const Shown s(QSize(1000, 700), true);
+        const FormForKeys s(QSize(1000, 700), true);
         s.pressAlt(Qt::Key_V);
         QTRY_VERIFY(isShown(*s.form, "attachCertificato"));
         QVERIFY(!isShown(*s.form, "attachScontrino"));
@@ -105,7 +105,7 @@ private Q_SLOTS:
     void eachButtonSaysOfWhichDocumentItIs()
     {
         for (const bool hasDocuments : {false, true}) {
-            const Shown s(QSize(1000, 700), hasDocuments);
+            const FormForKeys s(QSize(1000, 700), hasDocuments);
             for (const auto& document : {u"Scontrino"_s, u"Certificato"_s}) {
                 for (const auto& verb : hasDocuments ? QStringList{u"open"_s, u"remove"_s} : QStringList{u"attach"_s}) {
                     QWidget& button = part(*s.form, verb + document);
@@ -118,7 +118,7 @@ private Q_SLOTS:
 
     void eachPickerHasAName()
     {
-        const Shown s;
+        const FormForKeys s;
         QAccessibleInterface* picker = QAccessible::queryAccessibleInterface(&part(*s.form, "type"));
         QCOMPARE(picker->role(), QAccessible::ComboBox);
         QCOMPARE(picker->text(QAccessible::Name), u"Tipo: Manutenzione Annuale"_s);

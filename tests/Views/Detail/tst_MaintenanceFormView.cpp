@@ -17,8 +17,6 @@
 using namespace abissora;
 using namespace abissora::test;
 
-using Shown = ShownMaintenanceForm;
-
 namespace {
 
 EquipmentTypeModel typeCalled(const QString& name, int days)
@@ -38,7 +36,7 @@ class tst_MaintenanceFormView : public TestCase
 private Q_SLOTS:
     void newForm()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         QCOMPARE(s.form->windowTitle(), u"Nuova Manutenzione"_s);
         QCOMPARE(s.form->cancelButton()->text(), u"Annulla"_s);
         QCOMPARE(s.form->primaryButton()->text(), u"Salva"_s);
@@ -66,7 +64,7 @@ private Q_SLOTS:
 
     void intervalIsExplained()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         s.f.types.setTypes({typeCalled(u"Erogatore"_s, 180)});
         s.open(std::nullopt);
         QCOMPARE(textOf(*s.form, u"intervalExplanation"_s),
@@ -76,7 +74,7 @@ private Q_SLOTS:
 
     void nextDateFollowsTheDateUntilChangedByHand()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         s.f.types.setTypes({typeCalled(u"Erogatore"_s, 10)});
         s.typeDate("date", u"01062026"_s);
         QCOMPARE(s.field<DateField>("nextServiceDate").text(), u"11/06/2026"_s);
@@ -89,7 +87,7 @@ private Q_SLOTS:
     {
         Maintenance record = makeRecord(1, 30, u"Vecchia"_s);
         record.nextServiceDate += std::chrono::days(412);
-        Shown s(record);
+        ShownMaintenanceForm s(record);
         QCOMPARE(s.form->windowTitle(), u"Modifica Manutenzione"_s);
         QCOMPARE(s.field<DateField>("nextServiceDate").instant(), record.nextServiceDate);
         s.save();
@@ -106,7 +104,7 @@ private Q_SLOTS:
         record.isCompleted = false;
         record.receiptFileName = u"SPARITO.pdf"_s;
         record.date += std::chrono::milliseconds(123);
-        Shown s(record);
+        ShownMaintenanceForm s(record);
         s.save();
         QCOMPARE(s.history(), QList({record}));
         QCOMPARE(std::bit_cast<std::uint64_t>(s.history().first().cost), std::bit_cast<std::uint64_t>(record.cost));
@@ -114,7 +112,7 @@ private Q_SLOTS:
 
     void everyFieldIsSaved()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         QVERIFY(s.field<QLineEdit>("description").hasFocus());
         QTest::keyClicks(&s.field<QLineEdit>("description"), u"Revisione"_s);
         QTest::keyClicks(&s.field<QComboBox>("type"), u"R"_s);
@@ -142,7 +140,7 @@ private Q_SLOTS:
 
     void whatAScreenReaderPutsInIsSaved()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         const auto putIn = [&s](const char* name, const QString& text) {
             QAccessible::queryAccessibleInterface(&s.field<QWidget>(name))->setText(QAccessible::Value, text);
         };
@@ -160,7 +158,7 @@ private Q_SLOTS:
 
     void dateStillBeingTypedIsSaved()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         QTest::keyClicks(&s.field<QLineEdit>("description"), u"x"_s);
         auto& date = s.field<DateField>("date");
         date.setFocus();
@@ -186,7 +184,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, zone);
         QFETCH(QTime, timeOfDay);
         const Calendar calendar{QTimeZone(zone)};
-        Shown s;
+        ShownMaintenanceForm s;
         s.f.clock.set(calendar.instant(QDate(2026, 6, 15), timeOfDay).value());
         const Almanac almanac{s.f.clock, calendar, s.f.almanac.dates};
         const auto onDisk = [&s] { return decodeEquipment(s.f.content(registerFile)).value().last(); };
@@ -224,7 +222,7 @@ private Q_SLOTS:
 
     void descriptionIsRequiredAsItStands()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         QTest::keyClick(s.form.get(), Qt::Key_Return, Qt::ControlModifier);
         QVERIFY(s.form->isVisible());
         QTest::keyClicks(&s.field<QLineEdit>("description"), u"  "_s);
@@ -235,7 +233,7 @@ private Q_SLOTS:
 
     void whatIsNoCostIsNotSaved()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         QTest::keyClicks(&s.field<QLineEdit>("description"), u"x"_s);
         QVERIFY(s.form->primaryButton()->isEnabled());
         const int height = s.form->height();
@@ -259,7 +257,7 @@ private Q_SLOTS:
 
     void unfinishedDatesAreNotSaved()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         QTest::keyClicks(&s.field<QLineEdit>("description"), u"Prova"_s);
         s.typeDate("nextServiceDate", u"12/2027"_s);
         auto& date = s.field<DateField>("date");
@@ -284,7 +282,7 @@ private Q_SLOTS:
 
     void cancellingChangesNothing()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         const QList<Equipment> before = s.f.equipment.equipment();
         QTest::keyClicks(&s.field<QLineEdit>("description"), u"x"_s);
         s.f.takeLog();
@@ -296,7 +294,7 @@ private Q_SLOTS:
 
     void unknownItemIsIgnored()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         s.f.equipment.deleteEquipment(s.f.equipment.equipment().last());
         const QList<Equipment> before = s.f.equipment.equipment();
         QTest::keyClicks(&s.field<QLineEdit>("description"), u"x"_s);
@@ -307,7 +305,7 @@ private Q_SLOTS:
 
     void tabOrderAndNames()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         s.form->activateWindow();
         s.form->cancelButton()->setFocus();
         QStringList order;
@@ -327,7 +325,7 @@ private Q_SLOTS:
     void nothingIsCutOffWithLargerText()
     {
         const ScaledText scaled(1.25);
-        Shown s;
+        ShownMaintenanceForm s;
         QCOMPARE(clippedTexts(*s.form), QStringList());
     }
 };

@@ -9,8 +9,6 @@
 using namespace abissora;
 using namespace abissora::test;
 
-using Shown = ShownMaintenanceForm;
-
 class tst_MaintenanceNextDate : public TestCase
 {
     Q_OBJECT
@@ -22,7 +20,7 @@ private Q_SLOTS:
     {
         Maintenance record = makeRecord(1, 30, u"Vecchia"_s);
         record.nextServiceDate = record.date + std::chrono::days(412);
-        Shown s(record);
+        ShownMaintenanceForm s(record);
         const QString before = s.field<DateField>("nextServiceDate").text();
         s.typeDate("date", u"01062026"_s);
         QCOMPARE(s.field<DateField>("nextServiceDate").text(), before);
@@ -31,15 +29,15 @@ private Q_SLOTS:
     void aNextDateThatFollowedGoesOnFollowing()
     {
         Maintenance record = makeRecord(1, 30, u"Vecchia"_s);
-        record.nextServiceDate = *Shown().f.calendar.addDays(record.date, 365);
-        Shown s(record);
+        record.nextServiceDate = *ShownMaintenanceForm().f.calendar.addDays(record.date, 365);
+        ShownMaintenanceForm s(record);
         s.typeDate("date", u"01062026"_s);
         QCOMPARE(s.field<DateField>("nextServiceDate").text(), u"01/06/2027"_s);
     }
 
     void theNextDateFollowsWhileTheDateIsTyped()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         auto& date = s.field<DateField>("date");
         date.setFocus();
         date.selectAll();
@@ -56,7 +54,7 @@ private Q_SLOTS:
     /// The field that has the focus tells of what it holds when it goes.
     void theFormMayGoWithADateThatIsBeingTyped()
     {
-        Shown s;
+        ShownMaintenanceForm s;
         auto& date = s.field<DateField>("date");
         date.setFocus();
         date.selectAll();

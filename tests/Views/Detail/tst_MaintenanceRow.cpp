@@ -35,9 +35,9 @@ MaintenanceRowContent content()
     };
 }
 
-struct Shown
+struct ShownRow
 {
-    Shown()
+    ShownRow()
     {
         row.setRow(content());
         row.resize(385, 300);
@@ -57,7 +57,7 @@ class tst_MaintenanceRow : public TestCase
 private Q_SLOTS:
     void texts()
     {
-        Shown s;
+        ShownRow s;
         QCOMPARE(visibleLabels(s.row),
                  QStringList({u"Riparazione"_s, u"€12.50"_s, u"Primo stadio"_s,
                               u"14 giu 2026 · Eseguito da: Blu Service"_s, u"Manutenzione avvenuta"_s}));
@@ -65,7 +65,7 @@ private Q_SLOTS:
 
     void withoutCostAndNotDone()
     {
-        Shown s;
+        ShownRow s;
         MaintenanceRowContent other = content();
         other.cost.clear();
         other.isCompleted = false;
@@ -77,7 +77,7 @@ private Q_SLOTS:
 
     void itsButtonsSayWhichRecordTheyMean()
     {
-        Shown s;
+        ShownRow s;
         for (const char* name : {"editMaintenance", "deleteMaintenance", "maintenanceMenu"})
             QCOMPARE(part(s.row, name).accessibleDescription(), u"14 giu 2026, Primo stadio"_s);
         const auto documentsSay = [&](const QString& which) {
@@ -97,7 +97,7 @@ private Q_SLOTS:
 
     void documentsAreOfferedAsTheyAreThere()
     {
-        Shown s;
+        ShownRow s;
         QVERIFY(isShown(s.row, "openReceipt") && isShown(s.row, "replaceReceipt"));
         QVERIFY(!isShown(s.row, "uploadReceipt"));
         QVERIFY(!isShown(s.row, "openCertificate") && !isShown(s.row, "replaceCertificate"));
@@ -106,7 +106,7 @@ private Q_SLOTS:
 
     void asksForWhatIsClicked()
     {
-        Shown s;
+        ShownRow s;
         QSignalSpy edit(&s.row, &MaintenanceRow::editRequested);
         QSignalSpy remove(&s.row, &MaintenanceRow::deleteRequested);
         click(s.row, "editMaintenance");
@@ -130,7 +130,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, button);
         QFETCH(QString, expected);
-        Shown s;
+        ShownRow s;
         QStringList asked;
         const auto listen = [&](auto signal, const QString& verb) {
             connect(&s.row, signal, this, [&asked, verb](QUuid id, DocumentSlot slot) {
@@ -148,7 +148,7 @@ private Q_SLOTS:
     /// The whole of it is read in the tool tip and by screen readers.
     void anEndlessCostGivesWay()
     {
-        Shown s;
+        ShownRow s;
         MaintenanceRowContent row = content();
         row.cost = u"€"_s + u"9"_s.repeated(60) + u".00"_s;
         s.row.setRow(row);

@@ -19,9 +19,9 @@ namespace {
 using namespace std::chrono_literals;
 
 /// A record with a receipt, in its item's detail screen or in the form over it.
-struct Shown
+struct SlowDetail
 {
-    Shown()
+    SlowDetail()
     {
         Equipment item = makeItem(1, u"Bombola"_s, EquipmentType::cylinder, f.inDays(100));
         Maintenance record = makeRecord(1, 1, u"Collaudo"_s);
@@ -93,21 +93,21 @@ class tst_SlowDocuments : public TestCase
 private Q_SLOTS:
     void leavingTheFormChangesNothing_data()
     {
-        QTest::addColumn<std::function<void(Shown&)>>("leave");
-        using Leave = std::function<void(Shown&)>;
-        QTest::newRow("Annulla") << Leave([](Shown& s) { click(*s.form, u"cancel"_s); });
-        QTest::newRow("Escape") << Leave([](Shown& s) { QTest::keyClick(s.form.data(), Qt::Key_Escape); });
-        QTest::newRow("closing") << Leave([](Shown& s) { s.form->close(); });
-        QTest::newRow("destruction of the form") << Leave([](Shown& s) { delete s.form; });
-        QTest::newRow("destruction of the screen") << Leave([](Shown& s) { s.view.reset(); });
+        QTest::addColumn<std::function<void(SlowDetail&)>>("leave");
+        using Leave = std::function<void(SlowDetail&)>;
+        QTest::newRow("Annulla") << Leave([](SlowDetail& s) { click(*s.form, u"cancel"_s); });
+        QTest::newRow("Escape") << Leave([](SlowDetail& s) { QTest::keyClick(s.form.data(), Qt::Key_Escape); });
+        QTest::newRow("closing") << Leave([](SlowDetail& s) { s.form->close(); });
+        QTest::newRow("destruction of the form") << Leave([](SlowDetail& s) { delete s.form; });
+        QTest::newRow("destruction of the screen") << Leave([](SlowDetail& s) { s.view.reset(); });
     }
 
     /// Whatever was removed, attached or still being copied.
     void leavingTheFormChangesNothing()
     {
-        using Leave = std::function<void(Shown&)>;
+        using Leave = std::function<void(SlowDetail&)>;
         QFETCH(Leave, leave);
-        Shown s;
+        SlowDetail s;
         const Maintenance stored = s.record();
         const QByteArray onDisk = s.f.content(registerFile);
         s.openForm();
@@ -129,7 +129,7 @@ private Q_SLOTS:
 
     void savingTheFormMakesTheChange()
     {
-        Shown s;
+        SlowDetail s;
         s.openForm();
         click(*s.form, u"removeScontrino"_s);
         s.attach(u"Certificato"_s);
@@ -140,7 +140,7 @@ private Q_SLOTS:
 
     void savingWaitsForTheDocuments()
     {
-        Shown s;
+        SlowDetail s;
         s.openForm();
         click(*s.form, u"removeScontrino"_s);
         s.f.work.beSlow();
@@ -170,7 +170,7 @@ private Q_SLOTS:
     void aDocumentThatFailsKeepsTheFormOpen()
     {
         QFETCH(bool, byThePerson);
-        Shown s;
+        SlowDetail s;
         s.openForm();
         s.f.work.beSlow();
         s.attach(u"Certificato"_s);
@@ -197,7 +197,7 @@ private Q_SLOTS:
 
     void oneDocumentDoesNotMakeUpForAnother()
     {
-        Shown s;
+        SlowDetail s;
         s.openForm();
         click(*s.form, u"removeScontrino"_s);
         s.f.work.beSlow();
@@ -215,7 +215,7 @@ private Q_SLOTS:
 
     void aSecondClickInTheFormStartsNothing()
     {
-        Shown s;
+        SlowDetail s;
         s.openForm();
         s.f.work.beSlow();
         s.attach(u"Certificato"_s);
@@ -229,7 +229,7 @@ private Q_SLOTS:
 
     void aSecondClickInTheHistoryStartsNothing()
     {
-        Shown s;
+        SlowDetail s;
         s.f.work.beSlow();
         s.upload();
         click(*s.view, u"uploadCertificate"_s);
@@ -241,7 +241,7 @@ private Q_SLOTS:
 
     void theScreenMayGo()
     {
-        Shown s;
+        SlowDetail s;
         s.f.work.beSlow();
         s.upload();
         s.view.reset();
@@ -252,7 +252,7 @@ private Q_SLOTS:
 
     void theWindowAnswersMeanwhile()
     {
-        Shown s;
+        SlowDetail s;
         s.useThreads(1h);
         s.openForm();
         s.attach(u"Certificato"_s);
@@ -270,7 +270,7 @@ private Q_SLOTS:
 
     void theSheetGoesWhenTheDocumentIsThere()
     {
-        Shown s;
+        SlowDetail s;
         s.useThreads(0ms);
         s.openForm();
         s.attach(u"Certificato"_s);
@@ -284,7 +284,7 @@ private Q_SLOTS:
 
     void theSheetCancels()
     {
-        Shown s;
+        SlowDetail s;
         s.useThreads(0ms);
         s.openForm();
         s.attach(u"Certificato"_s);
@@ -299,7 +299,7 @@ private Q_SLOTS:
 
     void theFormMayGoUnderTheSheet()
     {
-        Shown s;
+        SlowDetail s;
         s.useThreads(0ms);
         s.openForm();
         s.attach(u"Certificato"_s);
@@ -314,7 +314,7 @@ private Q_SLOTS:
     /// As at the end of the program: the screens first, then what copies.
     void everythingMayGoUnderTheSheet()
     {
-        Shown s;
+        SlowDetail s;
         s.useThreads(0ms);
         s.upload();
         QTRY_VERIFY(isDialogOpen(*s.view));

@@ -25,7 +25,7 @@ Calendar rome()
     return Calendar(QTimeZone("Europe/Rome"));
 }
 
-Instant at(const QString& iso)
+Instant instantOf(const QString& iso)
 {
     return Instant(std::chrono::milliseconds(QDateTime::fromString(iso, Qt::ISODateWithMs).toMSecsSinceEpoch()));
 }
@@ -36,9 +36,9 @@ QString iso(Instant instant)
 }
 
 /// A field in a window of its own, beside another that takes the focus.
-struct Shown
+struct ShownField
 {
-    explicit Shown(const Calendar& calendar = rome())
+    explicit ShownField(const Calendar& calendar = rome())
         : field(new DateField(calendar))
         , other(new QLineEdit)
     {
@@ -70,8 +70,8 @@ class tst_DateField : public TestCase
 private Q_SLOTS:
     void showsTheDay()
     {
-        Shown s;
-        s.field->setInstant(at(u"2026-03-04T23:30:00.123Z"_s));
+        ShownField s;
+        s.field->setInstant(instantOf(u"2026-03-04T23:30:00.123Z"_s));
         QCOMPARE(s.field->text(), u"05/03/2026"_s);
     }
 
@@ -93,9 +93,9 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, zone);
         QFETCH(QString, given);
-        Shown s{Calendar(QTimeZone(zone))};
+        ShownField s{Calendar(QTimeZone(zone))};
         QSignalSpy edited(s.field, &DateField::edited);
-        s.field->setInstant(at(given));
+        s.field->setInstant(instantOf(given));
         QCOMPARE(iso(s.field->instant()), given);
         s.field->setFocus();
         QTest::keyClick(s.field, Qt::Key_Right);
@@ -140,8 +140,8 @@ private Q_SLOTS:
         QFETCH(QString, given);
         QFETCH(QString, typed);
         QFETCH(QString, expected);
-        Shown s;
-        s.field->setInstant(at(given));
+        ShownField s;
+        s.field->setInstant(instantOf(given));
         s.typeOver(typed);
         QCOMPARE(iso(s.field->instant()), expected);
         s.typeOver(QDateTime::fromString(given, Qt::ISODateWithMs).toTimeZone(rome().zone()).toString(u"ddMMyyyy"_s));
@@ -150,9 +150,9 @@ private Q_SLOTS:
 
     void theSecondOfTwoEqualTimesIsKept()
     {
-        Shown s;
+        ShownField s;
         const QString second = u"2026-10-25T01:30:00.000Z"_s;
-        s.field->setInstant(at(second));
+        s.field->setInstant(instantOf(second));
         s.typeOver(u"26102026"_s);
         QCOMPARE(iso(s.field->instant()), u"2026-10-26T01:30:00.000Z"_s);
         s.typeOver(u"25102026"_s);
@@ -161,10 +161,10 @@ private Q_SLOTS:
 
     void settingEmitsNothing()
     {
-        Shown s;
+        ShownField s;
         QSignalSpy edited(s.field, &DateField::edited);
-        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
-        s.field->setInstant(at(u"2027-06-15T10:00:00Z"_s));
+        s.field->setInstant(instantOf(u"2026-06-15T10:00:00Z"_s));
+        s.field->setInstant(instantOf(u"2027-06-15T10:00:00Z"_s));
         QVERIFY(edited.isEmpty());
     }
 
@@ -190,8 +190,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, typed);
         QFETCH(QString, day);
-        Shown s;
-        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
+        ShownField s;
+        s.field->setInstant(instantOf(u"2026-06-15T10:00:00Z"_s));
         QStringList days;
         connect(s.field, &DateField::edited, this, [&] { days.append(iso(s.field->instant()).left(10)); });
         s.typeOver(typed);
@@ -204,8 +204,8 @@ private Q_SLOTS:
 
     void assistiveTechnologyMaySetTheText()
     {
-        Shown s;
-        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
+        ShownField s;
+        s.field->setInstant(instantOf(u"2026-06-15T10:00:00Z"_s));
         QSignalSpy edited(s.field, &DateField::edited);
         QAccessible::queryAccessibleInterface(s.field)->setText(QAccessible::Value, u"16/06/2026"_s);
         QCOMPARE(edited.size(), 1);
@@ -214,8 +214,8 @@ private Q_SLOTS:
 
     void correctingOneDigitEmitsOnce()
     {
-        Shown s;
-        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
+        ShownField s;
+        s.field->setInstant(instantOf(u"2026-06-15T10:00:00Z"_s));
         QSignalSpy edited(s.field, &DateField::edited);
         s.field->setFocus();
         s.field->setCursorPosition(2);
@@ -228,8 +228,8 @@ private Q_SLOTS:
 
     void steps()
     {
-        Shown s;
-        s.field->setInstant(at(u"2026-01-30T10:00:00Z"_s));
+        ShownField s;
+        s.field->setInstant(instantOf(u"2026-01-30T10:00:00Z"_s));
         QSignalSpy edited(s.field, &DateField::edited);
         QTest::keyClick(s.field, Qt::Key_Up);
         QCOMPARE(s.field->text(), u"31/01/2026"_s);
@@ -239,7 +239,7 @@ private Q_SLOTS:
         QTest::keyClick(s.field, Qt::Key_PageDown);
         QCOMPARE(s.field->text(), u"27/01/2026"_s);
         QCOMPARE(edited.size(), 4);
-        s.field->setInstant(at(u"9999-12-31T10:00:00Z"_s));
+        s.field->setInstant(instantOf(u"9999-12-31T10:00:00Z"_s));
         QTest::keyClick(s.field, Qt::Key_Up);
         QCOMPARE(s.field->text(), u"31/12/9999"_s);
         QCOMPARE(edited.size(), 4);
@@ -256,9 +256,9 @@ private Q_SLOTS:
     void nonsenseStaysAsItWasTyped()
     {
         QFETCH(QString, typed);
-        Shown s;
+        ShownField s;
         const QString given = u"2026-06-15T10:00:00.007Z"_s;
-        s.field->setInstant(at(given));
+        s.field->setInstant(instantOf(given));
         QSignalSpy edited(s.field, &DateField::edited);
         s.field->setFocus();
         s.field->selectAll();
@@ -286,8 +286,8 @@ private Q_SLOTS:
     void anErrorGoesWithADay()
     {
         QFETCH(QString, typed);
-        Shown s;
-        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
+        ShownField s;
+        s.field->setInstant(instantOf(u"2026-06-15T10:00:00Z"_s));
         s.typeOver(u"31/02"_s);
         s.other->setFocus();
         QSignalSpy error(s.field, &CheckedField::errorChanged);
@@ -300,18 +300,18 @@ private Q_SLOTS:
 
     void anErrorGoesWithTheNextInstant()
     {
-        Shown s;
+        ShownField s;
         s.typeOver(u"x"_s);
         s.other->setFocus();
         QVERIFY(!s.field->error().isEmpty());
-        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
+        s.field->setInstant(instantOf(u"2026-06-15T10:00:00Z"_s));
         QVERIFY(s.field->error().isEmpty());
     }
 
     void steppingStartsFromTheLastDay()
     {
-        Shown s;
-        s.field->setInstant(at(u"2026-06-15T10:00:00Z"_s));
+        ShownField s;
+        s.field->setInstant(instantOf(u"2026-06-15T10:00:00Z"_s));
         s.typeOver(u"x"_s);
         QTest::keyClick(s.field, Qt::Key_Up);
         QCOMPARE(s.field->text(), u"16/06/2026"_s);
@@ -319,9 +319,9 @@ private Q_SLOTS:
 
     void theWheelBelongsToWhatIsAround()
     {
-        Shown s;
+        ShownField s;
         const QString given = u"2026-06-15T10:00:00.000Z"_s;
-        s.field->setInstant(at(given));
+        s.field->setInstant(instantOf(given));
         const QPointF place = s.field->rect().center();
         QWheelEvent wheel(place, s.field->mapToGlobal(place), {}, QPoint(0, 120), Qt::NoButton, {}, Qt::NoScrollPhase,
                           false);
@@ -343,8 +343,8 @@ private Q_SLOTS:
     {
         QFETCH(int, key);
         QFETCH(Qt::KeyboardModifiers, modifiers);
-        Shown s;
-        s.field->setInstant(at(u"2026-06-15T10:00:00.007Z"_s));
+        ShownField s;
+        s.field->setInstant(instantOf(u"2026-06-15T10:00:00.007Z"_s));
         QSignalSpy edited(s.field, &DateField::edited);
         QVERIFY(!s.field->findChild<QCalendarWidget*>());
         if (key != 0)
@@ -367,7 +367,7 @@ private Q_SLOTS:
 
     void escapeLeavesTheCalendarOnly()
     {
-        Shown s;
+        ShownField s;
         QSignalSpy edited(s.field, &DateField::edited);
         QTest::keyClick(s.field, Qt::Key_F4);
         auto* calendar = s.field->findChild<QCalendarWidget*>();
@@ -381,7 +381,7 @@ private Q_SLOTS:
 
     void oneTabLeavesIt()
     {
-        Shown s;
+        ShownField s;
         s.other->setFocus();
         QTest::keyClick(s.other, Qt::Key_Tab);
         QVERIFY(s.field->hasFocus());

@@ -20,9 +20,9 @@ constexpr auto zones = {"Europe/Rome",        "America/New_York",  "Asia/Tokyo",
                         "Pacific/Kiritimati", "Pacific/Pago_Pago", "UTC"};
 
 /// A field in a window of its own, beside another that takes the focus.
-struct Shown
+struct LimitedField
 {
-    explicit Shown(const Calendar& calendar)
+    explicit LimitedField(const Calendar& calendar)
         : field(new DateField(calendar))
         , other(new QLineEdit)
         , edited(field, &DateField::edited)
@@ -92,7 +92,7 @@ private Q_SLOTS:
         QFETCH(QString, typed);
         QFETCH(QString, day);
         const Calendar calendar{QTimeZone(zone)};
-        Shown s(calendar);
+        LimitedField s(calendar);
         const Instant original = calendar.instant(QDate(2026, 6, 15), timeOfDay).value();
         s.field->setInstant(original);
         s.enter(typed);
@@ -138,7 +138,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, zone);
         QFETCH(Instant, given);
-        Shown s{Calendar(QTimeZone(zone))};
+        LimitedField s{Calendar(QTimeZone(zone))};
         s.field->setInstant(given);
         if (isStorable(given))
             QCOMPARE(s.field->text(), given < at("2026-06-15T10:00:00Z") ? u"01/01/0001"_s : u"31/12/9999"_s);
@@ -153,7 +153,7 @@ private Q_SLOTS:
 
     void aDayWithoutAnInstantIsAnError()
     {
-        Shown s(aDayBehind());
+        LimitedField s(aDayBehind());
         s.field->setInstant(at("2026-06-15T10:00:00Z"));
         s.enter(u"16/06/2026"_s);
         s.enter(u"31/12/9999"_s);
@@ -170,7 +170,7 @@ private Q_SLOTS:
 
     void nothingStepsToADayWithoutAnInstant()
     {
-        Shown s(aDayBehind());
+        LimitedField s(aDayBehind());
         s.field->setInstant(lastInstant);
         QTest::keyClick(s.field, Qt::Key_Up);
         QCOMPARE(s.field->text(), u"30/12/9999"_s);
@@ -180,7 +180,7 @@ private Q_SLOTS:
 
     void aPickedDayWithoutAnInstantIsAnError()
     {
-        Shown s(aDayBehind());
+        LimitedField s(aDayBehind());
         s.field->setInstant(lastInstant);
         QTest::keyClick(s.field, Qt::Key_F4);
         auto* days = s.field->findChild<QCalendarWidget*>()->findChild<QWidget*>(u"qt_calendar_calendarview"_s);
@@ -193,7 +193,7 @@ private Q_SLOTS:
 
     void stepsEndWithTheCalendar()
     {
-        Shown s{Calendar(QTimeZone("America/New_York"))};
+        LimitedField s{Calendar(QTimeZone("America/New_York"))};
         s.field->setInstant(at("9999-12-31T04:00:00Z"));
         QCOMPARE(s.field->text(), u"30/12/9999"_s);
         QTest::keyClick(s.field, Qt::Key_Up);

@@ -20,17 +20,17 @@ using namespace abissora::test;
 
 namespace {
 
-struct Open
+struct OpenEdit
 {
-    Open(RegisterFixture& f, const Almanac& almanac, const Equipment& item)
+    OpenEdit(RegisterFixture& f, const Almanac& almanac, const Equipment& item)
         : form(f.equipment, f.types, almanac, item)
         , saved(&form, &EditEquipmentView::saved)
     {
         form.open();
         activate(form);
     }
-    Open(RegisterFixture& f, const Equipment& item)
-        : Open(f, f.almanac, item)
+    OpenEdit(RegisterFixture& f, const Equipment& item)
+        : OpenEdit(f, f.almanac, item)
     {}
 
     EditEquipmentView form;
@@ -63,7 +63,7 @@ private Q_SLOTS:
     {
         RegisterFixture f;
         const Equipment item = settled(f);
-        Open o(f, item);
+        OpenEdit o(f, item);
         QCOMPARE(o.form.windowTitle(), u"Modifica Attrezzatura"_s);
         QStringList groups;
         for (const GroupBox* group : o.form.findChildren<GroupBox*>())
@@ -89,7 +89,7 @@ private Q_SLOTS:
         RegisterFixture f;
         Equipment item = settled(f);
         item.brand = u" "_s;
-        Open o(f, item);
+        OpenEdit o(f, item);
         QCOMPARE(QApplication::focusWidget(), &usable<QLineEdit>(o.form, "brand"));
         QVERIFY(isShown(o.form, "incomplete"));
     }
@@ -99,7 +99,7 @@ private Q_SLOTS:
         RegisterFixture f;
         const Equipment item = settled(f);
         f.equipment.addEquipment(item);
-        Open o(f, item);
+        OpenEdit o(f, item);
         type(o.form, "name", u"Luce"_s);
         choose(o.form, u"Torcia"_s);
         type(o.form, "brand", u"Altra"_s);
@@ -142,7 +142,7 @@ private Q_SLOTS:
         item.type = EquipmentType::other;
         item.customTypeName = u"Torcia"_s;
         f.equipment.addEquipment(item);
-        Open o(f, item);
+        OpenEdit o(f, item);
         QCOMPARE(chosenType(o.form), u"Torcia"_s);
         choose(o.form, u"Bombola"_s);
         click(o.form, "primary");
@@ -176,7 +176,7 @@ private Q_SLOTS:
         const auto before = f.equipment.equipment();
         const auto stored = f.preferences.data(StorageManager::equipmentKey).value();
         for (int times = 0; times < 3; ++times) {
-            Open o(f, almanac, f.equipment.equipment().last());
+            OpenEdit o(f, almanac, f.equipment.equipment().last());
             QCOMPARE(f.preferences.data(StorageManager::equipmentKey).value(), stored);
             // Through every field without changing any.
             for (int i = 0; i < 12; ++i)
@@ -194,7 +194,7 @@ private Q_SLOTS:
         item.name = QString(50'000, u'x');
         item.brand = u"due\nrighe"_s;
         f.equipment.addEquipment(item);
-        Open o(f, item);
+        OpenEdit o(f, item);
         click(o.form, "primary");
         QCOMPARE(f.equipment.equipment().last(), item);
     }
@@ -206,7 +206,7 @@ private Q_SLOTS:
         item.type = EquipmentType::other;
         item.customTypeName = u"Faro"_s;
         f.equipment.addEquipment(item);
-        Open o(f, item);
+        OpenEdit o(f, item);
         QCOMPARE(chosenType(o.form), u"Faro"_s);
         QCOMPARE(offeredTypes(o.form).size(), 17);
         QCOMPARE(offeredTypes(o.form).last(), u"Faro"_s);
@@ -221,7 +221,7 @@ private Q_SLOTS:
         RegisterFixture f;
         Equipment item = settled(f);
         item.customTypeName = u"Faro"_s;
-        Open o(f, item);
+        OpenEdit o(f, item);
         choose(o.form, u"Computer Subacqueo"_s);
         QVERIFY(!offeredTypes(o.form).contains(u"Faro"_s));
         QCOMPARE(textOf(o.form, "interval"), u"730 giorni"_s);
@@ -230,7 +230,7 @@ private Q_SLOTS:
     void theIntervalFollowsTheCatalogue()
     {
         RegisterFixture f;
-        Open o(f, settled(f));
+        OpenEdit o(f, settled(f));
         EquipmentTypeModel type = *f.types.getTypeByName(u"Erogatore"_s);
         type.serviceIntervalDays = 30;
         f.types.updateType(type);
@@ -246,7 +246,7 @@ private Q_SLOTS:
         RegisterFixture f;
         const Equipment item = settled(f);
         f.equipment.addEquipment(item);
-        Open o(f, item);
+        OpenEdit o(f, item);
         type(o.form, "name", u"Altro nome"_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         QVERIFY(!o.form.isVisible());
@@ -259,7 +259,7 @@ private Q_SLOTS:
         RegisterFixture f;
         const Equipment item = settled(f);
         f.equipment.addEquipment(item);
-        Open o(f, item);
+        OpenEdit o(f, item);
         type(o.form, "brand", QString());
         click(o.form, "primary");
         QVERIFY(findDialog<Alert>(o.form));
@@ -272,7 +272,7 @@ private Q_SLOTS:
     void tabFollowsTheReadingOrder()
     {
         RegisterFixture f;
-        Open o(f, settled(f));
+        OpenEdit o(f, settled(f));
         QStringList order;
         for (int i = 0; i < 11; ++i) {
             order.append(QApplication::focusWidget()->objectName());

@@ -15,8 +15,6 @@
 using namespace abissora;
 using namespace abissora::test;
 
-using Open = OpenEquipmentForm;
-
 class tst_EquipmentFormKeys : public TestCase
 {
     Q_OBJECT
@@ -30,7 +28,7 @@ private Q_SLOTS:
     {
         QFETCH(QSize, size);
         RegisterFixture f;
-        Open o(f, size);
+        OpenEquipmentForm o(f, size);
         QCOMPARE(stopsOutOfSight(o.form), QStringList());
         QCOMPARE(stopsOutOfSight(o.form, true), QStringList());
         QVERIFY(o.form.height() < size.height());
@@ -39,7 +37,7 @@ private Q_SLOTS:
     void theUsualWindowHasRoomForTheWholeForm()
     {
         RegisterFixture f;
-        const Open o(f, QSize(1280, 800));
+        const OpenEquipmentForm o(f, QSize(1280, 800));
         QCOMPARE(o.form.scrollArea()->verticalScrollBar()->maximum(), 0);
     }
 
@@ -49,7 +47,7 @@ private Q_SLOTS:
     {
         QFETCH(QSize, size);
         RegisterFixture f;
-        const Open o(f, size);
+        const OpenEquipmentForm o(f, size);
         for (const char* text : {"required", "incomplete"})
             QCOMPARE(part(o.form, text).visibleRegion().boundingRect(), part(o.form, text).rect());
         QVERIFY(part(o.form, "incomplete").y() > part(o.form, "required").y());
@@ -58,7 +56,7 @@ private Q_SLOTS:
     void altAndALetterLeadToEachControl()
     {
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         for (const auto& [key, name] :
              {std::pair(Qt::Key_T, "type"), std::pair(Qt::Key_M, "brand"), std::pair(Qt::Key_D, "model"),
               std::pair(Qt::Key_U, "serialNumber"), std::pair(Qt::Key_Q, "purchaseDate"),
@@ -79,7 +77,7 @@ private Q_SLOTS:
     void theNextServiceFollowsWhileTheDayIsTyped()
     {
         RegisterFixture f(QList<Equipment>{});
-        Open o(f);
+        OpenEquipmentForm o(f);
         type(o.form, "name", u"N"_s);
         type(o.form, "brand", u"B"_s);
         const QString before = textOf(o.form, "nextServiceDate");
@@ -97,7 +95,7 @@ private Q_SLOTS:
     void pastedNamesStayOneLine()
     {
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         QApplication::clipboard()->setText(u"due\nrighe"_s);
         for (const char* field : {"name", "brand", "model", "serialNumber"}) {
             usable<QLineEdit>(o.form, field).paste();

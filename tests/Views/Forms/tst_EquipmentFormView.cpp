@@ -15,8 +15,6 @@
 using namespace abissora;
 using namespace abissora::test;
 
-using Open = OpenEquipmentForm;
-
 namespace {
 
 QStringList visibleTexts(const QWidget& form)
@@ -41,7 +39,7 @@ private Q_SLOTS:
     void textsInOrder()
     {
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         QCOMPARE(o.form.windowTitle(), u"Nuova Attrezzatura"_s);
         QStringList groups;
         for (const GroupBox* group : o.form.findChildren<GroupBox*>()) {
@@ -66,7 +64,7 @@ private Q_SLOTS:
     void startsEmptyOnToday()
     {
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         for (const char* field : {"name", "brand", "model", "serialNumber"})
             QCOMPARE(usable<QLineEdit>(o.form, field).text(), QString());
         for (const char* field : {"purchaseDate", "lastServiceDate"})
@@ -82,7 +80,7 @@ private Q_SLOTS:
     void addsWhatWasEntered()
     {
         RegisterFixture f(QList<Equipment>{});
-        Open o(f);
+        OpenEquipmentForm o(f);
         type(o.form, "name", u"  Bombola 12 litri "_s);
         choose(o.form, u"Bombola"_s);
         type(o.form, "brand", u"Faber"_s);
@@ -122,7 +120,7 @@ private Q_SLOTS:
     void aTypeOfTheUsersOwnIsStoredByName()
     {
         RegisterFixture f(QList<Equipment>{});
-        Open o(f);
+        OpenEquipmentForm o(f);
         type(o.form, "name", u"Luce"_s);
         type(o.form, "brand", u"X"_s);
         choose(o.form, u"Torcia"_s);
@@ -147,7 +145,7 @@ private Q_SLOTS:
         QFETCH(QString, brand);
         QFETCH(QString, focused);
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         type(o.form, "name", name);
         type(o.form, "brand", brand);
         type(o.form, "model", u"Modello"_s);
@@ -177,7 +175,7 @@ private Q_SLOTS:
     void theFootnoteFollowsTheFields()
     {
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         const QSize before = o.form.size();
         type(o.form, "name", u"N"_s);
         QVERIFY(isShown(o.form, "incomplete"));
@@ -193,7 +191,7 @@ private Q_SLOTS:
     {
         RegisterFixture f;
         for (const bool byKey : {false, true}) {
-            Open o(f);
+            OpenEquipmentForm o(f);
             type(o.form, "name", u"N"_s);
             type(o.form, "brand", u"B"_s);
             f.console.clear();
@@ -211,7 +209,7 @@ private Q_SLOTS:
     void controlReturnSavesWithTheDayBeingTyped()
     {
         RegisterFixture f(QList<Equipment>{});
-        Open o(f);
+        OpenEquipmentForm o(f);
         type(o.form, "name", u"N"_s);
         type(o.form, "brand", u"B"_s);
         type(o.form, "lastServiceDate", u"1/2/25"_s);
@@ -225,7 +223,7 @@ private Q_SLOTS:
     void anUnfinishedDateIsNotSaved()
     {
         RegisterFixture f(QList<Equipment>{});
-        Open o(f);
+        OpenEquipmentForm o(f);
         type(o.form, "name", u"Pinne"_s);
         type(o.form, "brand", u"Mares"_s);
         type(o.form, "purchaseDate", u"31/02/2026"_s);
@@ -249,7 +247,7 @@ private Q_SLOTS:
     void returnInAFieldSavesNothing()
     {
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         type(o.form, "name", u"N"_s);
         type(o.form, "brand", u"B"_s);
         QTest::keyClick(&usable<QLineEdit>(o.form, "brand"), Qt::Key_Return);
@@ -260,7 +258,7 @@ private Q_SLOTS:
     void theNextServiceIsLive()
     {
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         choose(o.form, u"Computer Subacqueo"_s);
         QCOMPARE(textOf(o.form, "nextServiceDate"), u"14 giu 2028"_s);
         type(o.form, "lastServiceDate", u"01/01/2025"_s);
@@ -276,7 +274,7 @@ private Q_SLOTS:
     void theTypeIsChosenAnewWhenItIsNoLongerOffered()
     {
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         choose(o.form, u"Pinne"_s);
         f.types.deleteType(*f.types.getTypeByName(u"Muta"_s));
         QCOMPARE(chosenType(o.form), u"Pinne"_s);
@@ -298,7 +296,7 @@ private Q_SLOTS:
     void tabFollowsTheReadingOrder()
     {
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         QStringList order;
         for (int i = 0; i < 11; ++i) {
             order.append(QApplication::focusWidget()->objectName());
@@ -311,7 +309,7 @@ private Q_SLOTS:
     void fieldsAreNamedByTheirLabels()
     {
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         const QList<QPair<const char*, QString>> names{
             {"name", u"Nome*"_s},
             {"brand", u"Marca*"_s},
@@ -339,7 +337,7 @@ private Q_SLOTS:
     {
         const ScaledText scaled(1.25);
         RegisterFixture f;
-        Open o(f);
+        OpenEquipmentForm o(f);
         QCOMPARE(clippedTexts(o.form).join(u'|'), QString());
         for (const char* field : {"purchaseDate", "lastServiceDate", "name", "type"})
             QVERIFY(usable(o.form, field).height() >= usable(o.form, field).sizeHint().height());

@@ -14,9 +14,9 @@ using namespace abissora::test;
 namespace {
 
 /// A table of so many items, due one day after the other.
-struct Shown
+struct ShownTable
 {
-    explicit Shown(int count, QSize size = {900, 600})
+    explicit ShownTable(int count, QSize size = {900, 600})
     {
         for (int i = 0; i < count; ++i)
             items.append(makeItem(i, u"Pinne n. %1"_s.arg(i), EquipmentType::fins, f.inDays(i)));
@@ -66,7 +66,7 @@ private Q_SLOTS:
     void theScrollPositionSurvivesARedraw()
     {
         QFETCH(const bool, selected);
-        Shown s(300);
+        ShownTable s(300);
         if (selected)
             s.table.selectRow(3);
         else
@@ -84,7 +84,7 @@ private Q_SLOTS:
 
     void aRedrawTellsNobody()
     {
-        Shown s(3);
+        ShownTable s(3);
         s.table.selectRow(1);
         QSignalSpy selected(&s.table, &EquipmentTableView::rowSelected);
         s.items.removeFirst();
@@ -101,7 +101,7 @@ private Q_SLOTS:
 
     void theCurrentRowFollowsItsItem()
     {
-        Shown s(3);
+        ShownTable s(3);
         s.makeCurrent(1);
         s.items.removeFirst();
         s.show();
@@ -114,7 +114,7 @@ private Q_SLOTS:
 
     void theCurrentRowStaysWhereItsItemWas()
     {
-        Shown s(4);
+        ShownTable s(4);
         s.makeCurrent(1);
         s.items.removeAt(1);
         s.show();
@@ -131,7 +131,7 @@ private Q_SLOTS:
     /// From the selection nothing moves before the first key.
     void arrowsSelectWhereTheKeyboardStands()
     {
-        Shown s(3);
+        ShownTable s(3);
         QCOMPARE(s.table.currentIndex().row(), 0);
         QVERIFY(!s.table.selectionModel()->hasSelection());
         QSignalSpy selected(&s.table, &EquipmentTableView::rowSelected);
@@ -145,7 +145,7 @@ private Q_SLOTS:
 
     void returnSelectsAndOpensTheActionsOnTheLastCell()
     {
-        Shown s(3);
+        ShownTable s(3);
         QSignalSpy selected(&s.table, &EquipmentTableView::rowSelected);
         QSignalSpy actions(&s.table, &EquipmentTableView::actionsRequested);
         s.makeCurrent(2);
@@ -170,21 +170,21 @@ private Q_SLOTS:
     void columnsFillTheViewport()
     {
         QFETCH(const int, width);
-        Shown s(3, {width, 400});
+        ShownTable s(3, {width, 400});
         QCOMPARE(s.widthOfColumns(), s.table.viewport()->width());
         QCOMPARE(s.table.horizontalScrollBar()->maximum(), 0);
     }
 
     void belowTheLeastWidthsTheTableScrolls()
     {
-        Shown s(3, {300, 400});
+        ShownTable s(3, {300, 400});
         QVERIFY(s.widthOfColumns() > s.table.viewport()->width());
         QVERIFY(s.table.horizontalScrollBar()->maximum() > 0);
     }
 
     void makesAndModelsGiveWayFirst()
     {
-        Shown s(3, {640, 400});
+        ShownTable s(3, {640, 400});
         const int name = s.table.columnWidth(EquipmentTableModel::NameColumn);
         const int brand = s.table.columnWidth(EquipmentTableModel::BrandColumn);
         s.table.resize(590, 400);

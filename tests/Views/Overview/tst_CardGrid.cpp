@@ -17,9 +17,9 @@ public:
 };
 
 /// A grid of boxes that need a width of 100 each.
-struct Shown
+struct ShownGrid
 {
-    Shown(int boxes, int columns)
+    ShownGrid(int boxes, int columns)
         : layout(new CardGrid(columns))
     {
         host.setLayout(layout);
@@ -60,7 +60,7 @@ private Q_SLOTS:
         QFETCH(int, columns);
         QFETCH(int, width);
         QFETCH(int, expectedRows);
-        const Shown s(boxes, columns);
+        const ShownGrid s(boxes, columns);
         const int height = expectedRows * 50 + (expectedRows - 1) * 16;
         QCOMPARE(s.layout->heightForWidth(width), height);
         s.layout->setGeometry(QRect(0, 0, width, height));
@@ -70,7 +70,7 @@ private Q_SLOTS:
 
     void columnsDifferByAPixelAtMostAndGapsNever()
     {
-        const Shown s(4, 4);
+        const ShownGrid s(4, 4);
         s.layout->setGeometry(QRect(10, 20, 999, 50));
         QCOMPARE(s.place(0).topLeft(), QPoint(10, 20));
         QCOMPARE(s.place(3).right(), 10 + 999 - 1);
@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void nothing()
     {
-        const Shown s(0, 4);
+        const ShownGrid s(0, 4);
         QCOMPARE(s.layout->heightForWidth(500), 0);
         s.layout->setGeometry(QRect(0, 0, 500, 0));
     }

@@ -28,9 +28,9 @@ QStringList cards(qsizetype total, qsizetype active, qsizetype due, qsizetype ex
             u"In Regola: %1"_s.arg(inOrder),         u"Tipologie: %1"_s.arg(types)};
 }
 
-struct Shown : ShownScreen
+struct ShownStatistics : ShownScreen
 {
-    explicit Shown(RegisterFixture& f, QSize size = {1050, 760})
+    explicit ShownStatistics(RegisterFixture& f, QSize size = {1050, 760})
         : ShownScreen(new StatisticsView(f.equipment, f.types), size)
     {}
 
@@ -69,7 +69,7 @@ private Q_SLOTS:
     void freshSamples()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownStatistics s(f);
         QCOMPARE(cardTexts(s.window), cards(3, 3, 2, 2, 1, 16));
         const QStringList rows = s.distribution();
         QCOMPARE(rows.size(), 16);
@@ -83,7 +83,7 @@ private Q_SLOTS:
     void emptyRegister()
     {
         RegisterFixture f(QList<Equipment>{});
-        Shown s(f);
+        ShownStatistics s(f);
         QCOMPARE(cardTexts(s.window), cards(0, 0, 0, 0, 0, 16));
         QCOMPARE(s.distribution(), QStringList());
         QCOMPARE(textOf(s.window, u"noEquipment"_s), u"Nessuna attrezzatura registrata"_s);
@@ -101,7 +101,7 @@ private Q_SLOTS:
     {
         RegisterFixture f;
         f.types.setTypes({});
-        Shown s(f);
+        ShownStatistics s(f);
         QCOMPARE(cardTexts(s.window).last(), u"Tipologie: 0"_s);
         QCOMPARE(s.distribution(), QStringList());
         QVERIFY(!isShown(s.window, u"noEquipment"_s));
@@ -140,7 +140,7 @@ private Q_SLOTS:
         add(4, EquipmentType::bcd, u"Boa"_s, true);
         add(5, EquipmentType::other, u"Spenta"_s, true);
         add(6, EquipmentType::mask, std::nullopt, true);
-        Shown s(f);
+        ShownStatistics s(f);
         // By name in code-point order; types of one name count the same items; inactive items are in the total only.
         QCOMPARE(s.distribution(), QStringList({u"Boa 1/6"_s, u"Boa 1/6"_s, u"GAV 2/6"_s, u"gav 0/6"_s}));
         QCOMPARE(cardTexts(s.window), cards(6, 5, 0, 0, 6, 4));
@@ -173,7 +173,7 @@ private Q_SLOTS:
             items.append(item);
         }
         RegisterFixture f(items);
-        Shown s(f);
+        ShownStatistics s(f);
         QCOMPARE(cardTexts(s.window), cards(1000, active, due, expiring, inOrder, 16));
         QVERIFY(s.distribution().contains(u"Torcia %1/1000"_s.arg(lamps)));
         QVERIFY(s.distribution().contains(u"Maschera %1/1000"_s.arg(masks)));
@@ -186,7 +186,7 @@ private Q_SLOTS:
     void typesAreFollowed()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownStatistics s(f);
         EquipmentTypeModel bcd = *f.types.getTypeByName(u"GAV"_s);
         bcd.name = u"Gilet"_s;
         bcd.color = u"pink"_s;
@@ -214,7 +214,7 @@ private Q_SLOTS:
         f.types.setTypes({type(1, u"GAV"_s, u"pink"_s), type(2, u"Zero"_s, u"green"_s)});
         for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
             applyTheme(*qApp, scheme);
-            Shown s(f);
+            ShownStatistics s(f);
             const QImage full = s.bar(0).grab().toImage();
             const int middle = full.height() / 2;
             const Tokens& tokens = Tokens::of(scheme);
@@ -229,7 +229,7 @@ private Q_SLOTS:
     void columns()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownStatistics s(f);
         const QWidget& card = part(s.window, u"distribution"_s);
         const QLabel& name = part<QLabel>(s.window, u"typeName0"_s);
         const auto left = [&card](const QWidget& widget) { return widget.mapTo(&card, QPoint()).x(); };
@@ -248,7 +248,7 @@ private Q_SLOTS:
     void barsAreReadAsValues()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownStatistics s(f);
         const qsizetype row = s.distribution().indexOf(u"GAV 1/3"_s);
         QAccessibleInterface* const bar = QAccessible::queryAccessibleInterface(&s.bar(static_cast<int>(row)));
         QCOMPARE(bar->role(), QAccessible::ProgressBar);
@@ -262,7 +262,7 @@ private Q_SLOTS:
     void theKeyboardScrollsWhatIsBelow()
     {
         RegisterFixture f;
-        Shown s(f, {770, 660});
+        ShownStatistics s(f, {770, 660});
         QScrollBar& scrollBar = *s.page().verticalScrollBar();
         QVERIFY(scrollBar.maximum() > 0);
         part(s.window, u"neighbour"_s).setFocus();
@@ -286,7 +286,7 @@ private Q_SLOTS:
     {
         RegisterFixture f;
         f.types.setTypes({type(1, QString(80, u'x'), u"red"_s), type(2, u"y"_s, u"red"_s)});
-        Shown s(f);
+        ShownStatistics s(f);
         const QLabel& name = part<QLabel>(s.window, u"typeName0"_s);
         QVERIFY(name.height() > part(s.window, u"typeName1"_s).height() * 2);
         QCOMPARE(s.page().horizontalScrollBar()->maximum(), 0);

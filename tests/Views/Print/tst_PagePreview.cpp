@@ -29,9 +29,9 @@ PageLayout layoutOf(qsizetype rows)
     return PageLayout(paper, pageSize(PaperSize::A4).size(QPageSize::Point));
 }
 
-struct Shown
+struct ShownPages
 {
-    explicit Shown(qsizetype rows = 100)
+    explicit ShownPages(qsizetype rows = 100)
     {
         preview.setLayoutOfPages(layoutOf(rows));
         preview.resize(500, 700);
@@ -55,7 +55,7 @@ private Q_SLOTS:
 
     void keysTurnThePages()
     {
-        Shown s;
+        ShownPages s;
         const qsizetype last = layoutOf(100).pages().size() - 1;
         QVERIFY(last >= 2);
         s.canvas().setFocus(Qt::TabFocusReason);
@@ -75,7 +75,7 @@ private Q_SLOTS:
 
     void buttonsTurnThePages()
     {
-        Shown s(40);
+        ShownPages s(40);
         QVERIFY(!part(s.preview, u"pageBack").isEnabled());
         click(s.preview, u"pageOn");
         QCOMPARE(s.number(), u"Pagina 2 di 2"_s);
@@ -86,7 +86,7 @@ private Q_SLOTS:
 
     void theLastPageKeepsTheKeyboard()
     {
-        Shown s(40);
+        ShownPages s(40);
         auto& on = part<QAbstractButton>(s.preview, u"pageOn");
         on.setFocus(Qt::TabFocusReason);
         QTest::keyClick(&on, Qt::Key_Space);
@@ -95,7 +95,7 @@ private Q_SLOTS:
 
     void whatIsRead()
     {
-        Shown s(40);
+        ShownPages s(40);
         QAccessibleInterface& reader = *QAccessible::queryAccessibleInterface(&s.canvas());
         QCOMPARE(reader.role(), QAccessible::Graphic);
         QCOMPARE(reader.text(QAccessible::Name), u"Anteprima: Titolo, Pagina 1 di 2"_s);
@@ -108,7 +108,7 @@ private Q_SLOTS:
     {
         for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
             applyTheme(*qApp, scheme);
-            Shown s;
+            ShownPages s;
             const QImage picture = s.canvas().grab().toImage();
             const QRect page = s.canvas().pageRect();
             QCOMPARE(picture.pixelColor(page.topLeft() + QPoint(5, 5)), QColor(Qt::white));
@@ -125,7 +125,7 @@ private Q_SLOTS:
 
     void withoutPagesThereIsNothing()
     {
-        Shown s;
+        ShownPages s;
         s.preview.setLayoutOfPages(std::nullopt);
         QCOMPARE(s.number(), QString());
         QVERIFY(!part(s.preview, u"pageOn").isEnabled());

@@ -13,9 +13,9 @@ namespace {
 
 const QUrl address(u"https://abissora.example/"_s);
 
-struct Shown
+struct SlowOpening
 {
-    Shown()
+    SlowOpening()
     {
         opener.beSlow();
         window.show();
@@ -36,7 +36,7 @@ class tst_Opening : public TestCase
 private Q_SLOTS:
     void aLateFailureIsTold()
     {
-        Shown s;
+        SlowOpening s;
         const auto page = openPage(address, s.opener, *s.place);
         QVERIFY(!page.isReady());
         QVERIFY(!isDialogOpen(s.window));
@@ -47,7 +47,7 @@ private Q_SLOTS:
 
     void aLateSuccessNeedsNoWord()
     {
-        Shown s;
+        SlowOpening s;
         const auto document = openDocument(u"/a.pdf"_s, s.opener, *s.place);
         QCOMPARE(s.opener.opened(), QList<QUrl>{QUrl::fromLocalFile(u"/a.pdf"_s)});
         s.opener.answer(true);
@@ -57,7 +57,7 @@ private Q_SLOTS:
 
     void aPlaceThatIsGoneIsToldNothing()
     {
-        Shown s;
+        SlowOpening s;
         openDocument(u"/a.pdf"_s, s.opener, *s.place);
         delete s.place;
         s.opener.answer(false);
@@ -66,7 +66,7 @@ private Q_SLOTS:
 
     void whatIsAwaitedIsNotAskedForAgain()
     {
-        Shown s;
+        SlowOpening s;
         openPage(address, s.opener, *s.place);
         openPage(address, s.opener, *s.place);
         QCOMPARE(s.opener.opened(), QList<QUrl>{address});
@@ -80,7 +80,7 @@ private Q_SLOTS:
 
     void longAddressesAreCutInTheNotice()
     {
-        Shown s;
+        SlowOpening s;
         openPage(QUrl(u"https://abissora.example/?"_s + QString(10'000, u'a')), s.opener, *s.place);
         s.opener.answer(false);
         QVERIFY(openDialog<Alert>(s.window).message().size() < 400);

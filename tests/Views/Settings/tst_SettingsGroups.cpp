@@ -24,9 +24,9 @@ using namespace abissora::test;
 namespace {
 
 /// The groups of preferences below one another, shown and active.
-struct Shown
+struct ShownGroups
 {
-    explicit Shown(RegisterFixture& f)
+    explicit ShownGroups(RegisterFixture& f)
     {
         auto* layout = new QVBoxLayout(&page);
         layout->addWidget(makeNotificationsGroup(f.settings));
@@ -66,7 +66,7 @@ private Q_SLOTS:
     void anEmptyStoreShowsTheDefaults()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownGroups s(f);
         QVERIFY(s.toggle("notificationsEnabled").isChecked());
         QCOMPARE(s.days().text(), u"30 giorni"_s);
         QCOMPARE(s.segments(), QStringList({u"6 Mesi"_s, u"1 Anno*"_s, u"2 Anni"_s}));
@@ -78,7 +78,7 @@ private Q_SLOTS:
     void showingThemStoresNothing()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownGroups s(f);
         f.settings.setReminderDays(44);
         for (const char* key : {"notificationsEnabled", "defaultServiceInterval", "currencySymbol", "darkMode"})
             QVERIFY2(!QFile::exists(f.preferences.path(QLatin1String(key))), key);
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QFETCH(const QByteArray, first);
         QFETCH(const QByteArray, second);
         RegisterFixture f;
-        Shown s(f);
+        ShownGroups s(f);
         const QSignalSpy changed(&f.settings, &SettingsViewModel::changed);
         QTest::mouseClick(&s.toggle(name.constData()), Qt::LeftButton);
         QCOMPARE(stored(f, name.constData()), first);
@@ -115,7 +115,7 @@ private Q_SLOTS:
     void whatAScreenReaderDoesIsStoredToo()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownGroups s(f);
         QAccessibleInterface* dark = QAccessible::queryAccessibleInterface(&s.toggle("darkMode"));
         dark->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         QVERIFY(f.settings.darkMode());
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QFETCH(const qint64, to);
         RegisterFixture f;
         f.settings.setReminderDays(from);
-        Shown s(f);
+        ShownGroups s(f);
         s.days().setFocus();
         QTest::keyClick(&s.days(), static_cast<Qt::Key>(key));
         QCOMPARE(f.settings.reminderDays(), to);
@@ -157,7 +157,7 @@ private Q_SLOTS:
     void everySegmentStoresItsDays()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownGroups s(f);
         const QSignalSpy changed(&f.settings, &SettingsViewModel::changed);
         const QList<QAbstractButton*> segments = s.interval().findChildren<QAbstractButton*>();
         QTest::mouseClick(segments.at(0), Qt::LeftButton);
@@ -173,7 +173,7 @@ private Q_SLOTS:
     {
         RegisterFixture f;
         f.settings.setDefaultServiceInterval(200);
-        Shown s(f);
+        ShownGroups s(f);
         QCOMPARE(s.interval().currentIndex(), -1);
         QVERIFY(s.segments().filter(u"*"_s).isEmpty());
         QCOMPARE(f.settings.defaultServiceInterval(), 200);
@@ -182,7 +182,7 @@ private Q_SLOTS:
     void everyLetterOfTheCurrencyIsStored()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownGroups s(f);
         const QSignalSpy changed(&f.settings, &SettingsViewModel::currencySymbolChanged);
         s.currency().setFocus();
         s.currency().selectAll();
@@ -201,7 +201,7 @@ private Q_SLOTS:
     void aChangeFromElsewhereIsShown()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownGroups s(f);
         f.settings.setNotificationsEnabled(false);
         f.settings.setReminderDays(14);
         f.settings.setDefaultServiceInterval(180);
@@ -217,7 +217,7 @@ private Q_SLOTS:
     void whatCannotBeStoredStandsUntilItIs()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownGroups s(f);
         // A folder in the file's place: the write fails whoever runs the test.
         QVERIFY(QDir().mkpath(f.preferences.path(u"darkMode"_s)));
         QTest::mouseClick(&s.toggle("darkMode"), Qt::LeftButton);
@@ -231,7 +231,7 @@ private Q_SLOTS:
     void everyControlIsNamedByItsCaption()
     {
         RegisterFixture f;
-        Shown s(f);
+        ShownGroups s(f);
         const auto name = [](QWidget& widget) {
             return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name);
         };

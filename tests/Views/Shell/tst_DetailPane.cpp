@@ -21,9 +21,9 @@ using namespace abissora::test;
 
 namespace {
 
-struct Shown
+struct WindowWithPane
 {
-    explicit Shown(ShellFixture& f)
+    explicit WindowWithPane(ShellFixture& f)
         : window(f, f.equipment, f.directories.windowStateFile())
     {
         activate(window);
@@ -51,7 +51,7 @@ private Q_SLOTS:
     void showsTheSelectedItem()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithPane s(f);
         QVERIFY(!s.isPaneShown());
         s.select(0);
         QVERIFY(s.isPaneShown());
@@ -64,7 +64,7 @@ private Q_SLOTS:
     void closeMarkClearsTheSelection()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithPane s(f);
         s.select(0);
         click(s.window, u"closeDetail"_s);
         QVERIFY(!s.isPaneShown());
@@ -76,7 +76,7 @@ private Q_SLOTS:
     void deletingClearsTheSelection()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithPane s(f);
         s.select(0);
         click(s.window, u"deleteEquipment"_s);
         auto& alert = openDialog<Alert>(s.window);
@@ -94,7 +94,7 @@ private Q_SLOTS:
     void anotherItemIsShownFromItsTop()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithPane s(f);
         s.window.resize(1000, 700);
         s.select(0);
         QScrollBar& bar = *s.window.findChild<EquipmentDetailView*>()->findChild<QScrollArea*>()->verticalScrollBar();
@@ -109,7 +109,7 @@ private Q_SLOTS:
     void cardsKeepTheirHeightInATallWindow()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithPane s(f);
         s.window.resize(1280, 800);
         s.select(0);
         settle();
@@ -123,7 +123,7 @@ private Q_SLOTS:
     void smallestWindowKeepsBothUsable()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithPane s(f);
         s.window.resize(1000, 700);
         s.select(0);
         f.equipment.filterByTypeName(u"GAV"_s);
@@ -146,7 +146,7 @@ private Q_SLOTS:
         ShellFixture f;
         int width = 0;
         {
-            Shown s(f);
+            WindowWithPane s(f);
             s.select(0);
             s.splitter().setSizes({s.splitter().width() - 441, 440});
             width = s.splitter().sizes().last();
@@ -155,7 +155,7 @@ private Q_SLOTS:
                 click(s.window, u"closeDetail"_s);
             s.window.close();
         }
-        Shown s(f);
+        WindowWithPane s(f);
         QVERIFY(!s.isPaneShown());
         s.select(0);
         QCOMPARE(s.splitter().sizes().last(), width);

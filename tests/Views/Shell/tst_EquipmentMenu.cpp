@@ -13,7 +13,7 @@ using namespace abissora::test;
 
 namespace {
 
-struct Shown : ShownWindow
+struct WindowWithMenu : ShownWindow
 {
     using ShownWindow::ShownWindow;
 
@@ -42,7 +42,7 @@ private Q_SLOTS:
     void holdsEveryVerbWithItsKey()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithMenu s(f);
         QStringList entries;
         for (const QAction* action : s.menu().actions())
             entries.append(action->isSeparator() ? u"-"_s
@@ -57,7 +57,7 @@ private Q_SLOTS:
     void isDisabledWithoutAnItem()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithMenu s(f);
         s.sidebar().setFocus();
         QVERIFY(!s.command(u"Modifica attrezzatura"_s).isEnabled());
         s.table().setFocus();
@@ -76,7 +76,7 @@ private Q_SLOTS:
     void detailsOpenAtTheKeyboard()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithMenu s(f);
         s.table().setFocus();
         s.command(u"Visualizza dettagli"_s).trigger();
         QCOMPARE(textOf(s.window, "detailName"), u"Computer Suunto EON Core"_s);
@@ -85,7 +85,7 @@ private Q_SLOTS:
     void theFormOpensByKey()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithMenu s(f);
         s.select(1);
         QTest::keyClick(&s.window, Qt::Key_F2);
         QCOMPARE(part<QLineEdit>(openDialog<EditEquipmentView>(s.window), "name").text(), u"GAV Scubapro Hydros"_s);
@@ -94,7 +94,7 @@ private Q_SLOTS:
     void aRecordIsAddedByKey()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithMenu s(f);
         s.table().setFocus();
         QTest::keyClick(&s.table(), Qt::Key_M, Qt::ControlModifier);
         settle();
@@ -105,7 +105,7 @@ private Q_SLOTS:
     void activityIsTurnedRound()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithMenu s(f);
         s.select(0);
         const QUuid id = s.window.content().selectedEquipment()->id;
         const auto isActive = [&] { return std::ranges::find(f.equipment.equipment(), id, &Equipment::id)->isActive; };
@@ -119,7 +119,7 @@ private Q_SLOTS:
     void aDuplicateIsAnotherPieceOfTheSameKind()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithMenu s(f);
         s.select(0);
         const Equipment original = s.window.content().item().value();
         QVERIFY(!original.serialNumber.isEmpty());
@@ -146,7 +146,7 @@ private Q_SLOTS:
     void deletingAsks()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithMenu s(f);
         s.select(0);
         s.command(u"Elimina attrezzatura"_s).trigger();
         press(openDialog<Alert>(s.window), u"Elimina"_s);
@@ -158,7 +158,7 @@ private Q_SLOTS:
     void keysOfTheListMeanOtherThingsElsewhere()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithMenu s(f);
         s.select(0);
         auto& search = part<QLineEdit>(s.window, "search");
         search.setFocus();

@@ -18,9 +18,9 @@ using namespace abissora::test;
 
 namespace {
 
-struct Shown
+struct WindowWithForms
 {
-    explicit Shown(ShellFixture& f)
+    explicit WindowWithForms(ShellFixture& f)
         : window(f, f.equipment, f.directories.windowStateFile())
     {
         activate(window);
@@ -47,7 +47,7 @@ private Q_SLOTS:
     void addingFromTheHeader()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithForms s(f);
         auto* add = s.window.findChild<QAbstractButton*>(u"addButton"_s);
         QVERIFY(!s.window.content().showingAddSheet());
         add->setFocus();
@@ -70,7 +70,7 @@ private Q_SLOTS:
     void addingFromTheMenuOneAtATime()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithForms s(f);
         QAction* add = s.window.menuBar()->actions().first()->menu()->actions().first();
         QCOMPARE(add->text().remove(u'&'), u"Aggiungi"_s);
         QCOMPARE(add->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_N));
@@ -92,7 +92,7 @@ private Q_SLOTS:
     void addingTheFirstItem()
     {
         ShellFixture f(QList<Equipment>{});
-        Shown s(f);
+        WindowWithForms s(f);
         press(s.window, u"Aggiungi la prima attrezzatura"_s);
         auto* form = findDialog<EquipmentFormView>(s.window);
         QVERIFY(form);
@@ -106,7 +106,7 @@ private Q_SLOTS:
     void editingFromTheRowSelectsTheItem()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithForms s(f);
         const QModelIndex actions = s.table().model()->index(1, EquipmentTableModel::ActionsColumn);
         s.table().setFocus();
         s.table().scrollTo(actions);
@@ -136,7 +136,7 @@ private Q_SLOTS:
     {
         ShellFixture f;
         {
-            Shown s(f);
+            WindowWithForms s(f);
             s.window.content().addEquipment();
             QVERIFY(findDialog<EquipmentFormView>(s.window));
         }

@@ -21,7 +21,7 @@ QList<Equipment> manyItems(const TemporaryRegister& base, int count)
     return items;
 }
 
-struct Shown : ShownWindow
+struct WindowWithList : ShownWindow
 {
     using ShownWindow::ShownWindow;
 
@@ -59,7 +59,7 @@ private Q_SLOTS:
     void aSearchThatHidesTheRowHidesTheItem()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithList s(f);
         s.select(1);
         QVERIFY(s.isPaneShown());
         s.search(u"suunto"_s);
@@ -75,7 +75,7 @@ private Q_SLOTS:
     void aFilterThatHidesTheRowHidesTheItem()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithList s(f);
         s.select(1);
         f.equipment.filterByTypeName(u"Pinne"_s);
         settle();
@@ -89,7 +89,7 @@ private Q_SLOTS:
     void anotherChoiceForgetsTheHiddenItem()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithList s(f);
         s.select(1);
         s.search(u"suunto"_s);
         s.select(0);
@@ -101,7 +101,7 @@ private Q_SLOTS:
     void aNewItemIsShownThoughAFilterHidesItsRow()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithList s(f);
         f.equipment.filterByTypeName(u"GAV"_s);
         settle();
         QTest::keyClick(&s.window, Qt::Key_N, Qt::ControlModifier);
@@ -121,7 +121,7 @@ private Q_SLOTS:
     void aNewItemsRowComesIntoSight()
     {
         ShellFixture f(manyItems(TemporaryRegister(), 100));
-        Shown s(f);
+        WindowWithList s(f);
         s.window.content().addEquipment();
         auto& form = openDialog<EquipmentFormView>(s.window);
         type(form, "name", u"Coltello"_s);
@@ -135,7 +135,7 @@ private Q_SLOTS:
     void aSavedItemIsFollowedToItsNewPlace()
     {
         ShellFixture f(manyItems(TemporaryRegister(), 100));
-        Shown s(f);
+        WindowWithList s(f);
         s.select(2);
         Equipment later = s.window.content().item().value();
         later.nextServiceDate = f.inDays(90) + std::chrono::hours(1);
@@ -149,7 +149,7 @@ private Q_SLOTS:
     void aRedrawOfOtherThingsScrollsNothing()
     {
         ShellFixture f(manyItems(TemporaryRegister(), 100));
-        Shown s(f);
+        WindowWithList s(f);
         s.select(2);
         s.table().verticalScrollBar()->setValue(s.table().verticalScrollBar()->maximum());
         f.equipment.refreshDates();
@@ -168,7 +168,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, from);
         ShellFixture f;
-        Shown s(f);
+        WindowWithList s(f);
         s.select(1);
         QWidget& place = part(s.window, from);
         place.setFocus();
@@ -183,7 +183,7 @@ private Q_SLOTS:
     void escapeEmptiesTheSearchFirst()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithList s(f);
         s.select(1);
         s.search(u"hydros"_s);
         auto& search = part<QLineEdit>(s.window, "search");
@@ -197,7 +197,7 @@ private Q_SLOTS:
     void downInTheSearchGoesToTheFirstRow()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithList s(f);
         s.search(u"hydros"_s);
         QTest::keyClick(&part(s.window, "search"), Qt::Key_Down);
         QVERIFY(s.table().hasFocus());
@@ -210,7 +210,7 @@ private Q_SLOTS:
     void aRightClickOpensNoPane()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithList s(f);
         QTest::mouseClick(s.table().viewport(), Qt::RightButton, {},
                           s.table().visualRect(s.table().model()->index(1, 1)).center());
         settle();
@@ -220,7 +220,7 @@ private Q_SLOTS:
     void theKeyboardGoesOnVisiblyAfterADeletion()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithList s(f);
         s.select(1);
         QTest::keyClick(&s.table(), Qt::Key_Delete);
         auto& alert = openDialog<Alert>(s.window);

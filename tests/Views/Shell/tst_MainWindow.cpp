@@ -18,7 +18,7 @@ using namespace abissora::test;
 
 namespace {
 
-struct Shown : ShownWindow
+struct WholeWindow : ShownWindow
 {
     using ShownWindow::ShownWindow;
 
@@ -40,7 +40,7 @@ private Q_SLOTS:
     void sizeAndTitle()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         QCOMPARE(s.window.windowTitle(), u"Abissora"_s);
         QCOMPARE(s.window.minimumSize(), QSize(1000, 700));
     }
@@ -48,7 +48,7 @@ private Q_SLOTS:
     void theGuideOpensFromAFormToo()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         QSignalSpy asked(&s.window, &MainWindow::helpRequested);
         s.window.content().addEquipment();
         settle();
@@ -66,7 +66,7 @@ private Q_SLOTS:
     void theKeyboardStartsInTheTable()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         QTRY_VERIFY(s.table().hasFocus());
         QVERIFY(s.table().selectionModel()->selectedRows().isEmpty());
         QVERIFY(!s.window.content().selectedEquipment());
@@ -79,14 +79,14 @@ private Q_SLOTS:
     void theKeyboardStartsAtTheFirstItemToAdd()
     {
         ShellFixture f(QList<Equipment>{});
-        Shown s(f);
+        WholeWindow s(f);
         QTRY_VERIFY(s.window.findChild<QWidget*>(u"emptyStateButton"_s)->hasFocus());
     }
 
     void menus()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         QStringList titles;
         for (const QAction* menu : s.window.menuBar()->actions())
             titles.append(plain(menu->text()));
@@ -96,7 +96,7 @@ private Q_SLOTS:
     void sidebarAndTabsWorkTogether()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         ContentView& content = s.window.content();
         QCOMPARE(content.selectedTab(), 0);
         s.sidebar().setSelectedSidebarItem(u"maintenance"_s);
@@ -112,7 +112,7 @@ private Q_SLOTS:
     void settingsTakeTheWholeDetail()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         auto* tabs = s.window.findChild<SegmentedControl*>();
         QVERIFY(tabs->isVisible());
         s.sidebar().setSelectedSidebarItem(u"settings"_s);
@@ -125,7 +125,7 @@ private Q_SLOTS:
     void tabSwitchDoesNotMoveTheSidebar()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         QSignalSpy changed(&s.window.content(), &ContentView::selectedTabChanged);
         s.window.content().setSelectedTab(ContentView::StatisticsTab);
         QCOMPARE(changed.size(), 1);
@@ -135,7 +135,7 @@ private Q_SLOTS:
     void selectionFollowsTheTableAndForgetsDeletedItems()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         s.table().selectRow(1);
         QCOMPARE(s.window.content().selectedEquipment()->name, u"GAV Scubapro Hydros"_s);
         f.equipment.deleteEquipment(*s.window.content().selectedEquipment());
@@ -145,7 +145,7 @@ private Q_SLOTS:
     void findPutsTheCursorIntoTheSearch()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         s.window.content().setSelectedTab(ContentView::StatisticsTab);
         QTest::keyClick(&s.window, Qt::Key_F, Qt::ControlModifier);
         QCOMPARE(s.window.content().selectedTab(), 0);
@@ -155,7 +155,7 @@ private Q_SLOTS:
     void editingCommandsActOnTheFocusedField()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         const auto command = [&s](const QString& text) -> QAction* {
             for (QAction* menu : s.window.menuBar()->actions())
                 for (QAction* action : menu->menu()->actions())
@@ -180,7 +180,7 @@ private Q_SLOTS:
     void tabOrder()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         s.sidebar().setFocus();
         QStringList order;
         for (int i = 0; i < 8; ++i) {
@@ -196,7 +196,7 @@ private Q_SLOTS:
     void everythingThatTakesTheFocusHasAName()
     {
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         f.equipment.filterByTypeName(u"GAV"_s);
         settle();
         int named = 0;
@@ -215,7 +215,7 @@ private Q_SLOTS:
     {
         const ScaledText scaled(1.25);
         ShellFixture f;
-        Shown s(f);
+        WholeWindow s(f);
         s.window.resize(s.window.minimumSize());
         settle();
         for (const QWidget* widget : s.window.findChildren<QWidget*>()) {
@@ -232,11 +232,11 @@ private Q_SLOTS:
     {
         ShellFixture f;
         {
-            Shown s(f);
+            WholeWindow s(f);
             s.window.resize(1111, 777);
             s.window.close();
         }
-        Shown s(f);
+        WholeWindow s(f);
         QCOMPARE(s.window.size(), QSize(1111, 777));
     }
 };

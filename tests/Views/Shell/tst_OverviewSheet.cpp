@@ -19,9 +19,9 @@ using namespace abissora::test;
 namespace {
 
 /// The overview of the three sample items, of which the second and the third are due.
-struct Shown : ShownWindow
+struct WindowWithSheet : ShownWindow
 {
-    explicit Shown(ShellFixture& f, QSize size = {1280, 800})
+    explicit WindowWithSheet(ShellFixture& f, QSize size = {1280, 800})
         : ShownWindow(f, ContentView::MaintenanceTab, size)
     {}
 
@@ -58,7 +58,7 @@ private Q_SLOTS:
         QFETCH(int, part);
         QFETCH(bool, byKeyboard);
         ShellFixture f;
-        Shown s(f);
+        WindowWithSheet s(f);
         QVERIFY(!s.view().selectedEquipment());
         QAbstractButton& button = s.button(1, static_cast<DueRow::Part>(part));
         if (byKeyboard) {
@@ -86,7 +86,7 @@ private Q_SLOTS:
     void pressedByAScreenReaderTheFocusComesBackToo()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithSheet s(f);
         QAbstractButton& button = s.button(0, DueRow::Details);
         QAccessible::queryAccessibleInterface(&button)->actionInterface()->doAction(
             QAccessibleActionInterface::pressAction());
@@ -101,7 +101,7 @@ private Q_SLOTS:
     void theSmallestWindowShowsTheWholeSheet()
     {
         ShellFixture f;
-        Shown s(f, {1000, 700});
+        WindowWithSheet s(f, {1000, 700});
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
         settle();
         QCOMPARE(s.sheet().size(), QSize(750, 650));
@@ -112,7 +112,7 @@ private Q_SLOTS:
     void deletedFromTheSheet()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithSheet s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
         settle();
         click(s.sheet(), u"deleteEquipment"_s);
@@ -129,7 +129,7 @@ private Q_SLOTS:
     void deletedElsewhere()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithSheet s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
         settle();
         s.detail().openMaintenanceForm(); // another sheet lies over it
@@ -144,7 +144,7 @@ private Q_SLOTS:
     void theRowLeavesWhileTheSheetIsOpen()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithSheet s(f);
         QTest::mouseClick(&s.button(1, DueRow::AddMaintenance), Qt::LeftButton);
         settle();
         click(s.sheet(), u"addMaintenance"_s);
@@ -165,7 +165,7 @@ private Q_SLOTS:
     void theWholeListGoesWhileTheSheetIsOpen()
     {
         ShellFixture f(dueItems(1));
-        Shown s(f);
+        WindowWithSheet s(f);
         QTest::mouseClick(&s.button(0, DueRow::Details), Qt::LeftButton);
         settle();
         f.equipment.addMaintenance(f.equipment.equipment().first().id, makeRecord(1, 0, u"Revisione"_s));
@@ -183,7 +183,7 @@ private Q_SLOTS:
     void selectingNothingClosesAndAnotherItemReplaces()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithSheet s(f);
         const auto& items = f.equipment.equipment();
         s.view().setSelectedEquipment(items.at(0));
         settle();
@@ -201,7 +201,7 @@ private Q_SLOTS:
     void theWindowEndsWithTheSheetOpen()
     {
         ShellFixture f;
-        Shown s(f);
+        WindowWithSheet s(f);
         s.view().setSelectedEquipment(f.equipment.equipment().first());
         settle();
         QVERIFY(s.isSheetOpen());

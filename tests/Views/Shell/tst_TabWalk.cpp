@@ -8,29 +8,29 @@ using namespace abissora::test;
 namespace {
 
 /// What the window shows.
-enum class State { EmptyRegister, NothingDue, WithoutHistory, WithHistory };
+enum class Showing { EmptyRegister, NothingDue, WithoutHistory, WithHistory };
 
-QList<Equipment> itemsOf(State state, const RegisterFixture& f)
+QList<Equipment> itemsOf(Showing state, const RegisterFixture& f)
 {
-    if (state == State::EmptyRegister)
+    if (state == Showing::EmptyRegister)
         return {};
-    Equipment item = makeItem(1, u"Pinne"_s, EquipmentType::fins, f.inDays(state == State::NothingDue ? 200 : 3));
-    if (state == State::WithHistory)
+    Equipment item = makeItem(1, u"Pinne"_s, EquipmentType::fins, f.inDays(state == Showing::NothingDue ? 200 : 3));
+    if (state == Showing::WithHistory)
         item.maintenanceHistory = {makeRecord(1, 1, u"Revisione"_s), makeRecord(2, 2, u"Prova"_s)};
     return {item};
 }
 
-void show(State state, ShownWindow& s)
+void show(Showing state, ShownWindow& s)
 {
     switch (state) {
-    case State::NothingDue:
+    case Showing::NothingDue:
         s.window.content().setSelectedTab(ContentView::MaintenanceTab);
         break;
-    case State::WithoutHistory:
-    case State::WithHistory:
+    case Showing::WithoutHistory:
+    case Showing::WithHistory:
         s.table().selectRow(0);
         break;
-    case State::EmptyRegister:
+    case Showing::EmptyRegister:
         break;
     }
     settle();
@@ -58,24 +58,24 @@ private Q_SLOTS:
     /// A state that was another one before.
     void tabGoesAllTheWayRoundAfterAChange_data()
     {
-        QTest::addColumn<State>("state");
-        QTest::newRow("the last item is gone") << State::EmptyRegister;
-        QTest::newRow("nothing is due any more") << State::NothingDue;
-        QTest::newRow("the last record is gone") << State::WithoutHistory;
+        QTest::addColumn<Showing>("state");
+        QTest::newRow("the last item is gone") << Showing::EmptyRegister;
+        QTest::newRow("nothing is due any more") << Showing::NothingDue;
+        QTest::newRow("the last record is gone") << Showing::WithoutHistory;
     }
 
     void tabGoesAllTheWayRoundAfterAChange()
     {
-        QFETCH(const State, state);
-        ShellFixture f(itemsOf(State::WithHistory, RegisterFixture()));
+        QFETCH(const Showing, state);
+        ShellFixture f(itemsOf(Showing::WithHistory, RegisterFixture()));
         ShownWindow s(f, std::nullopt, {1280, 800});
-        show(State::NothingDue, s);
+        show(Showing::NothingDue, s);
         s.window.content().setSelectedTab(ContentView::ListTab);
-        show(State::WithHistory, s);
+        show(Showing::WithHistory, s);
         Equipment item = f.equipment.equipment().first();
-        if (state == State::EmptyRegister) {
+        if (state == Showing::EmptyRegister) {
             f.equipment.deleteEquipment(item);
-        } else if (state == State::NothingDue) {
+        } else if (state == Showing::NothingDue) {
             item.nextServiceDate = f.inDays(300);
             f.equipment.updateEquipment(item);
             s.window.content().setSelectedTab(ContentView::MaintenanceTab);

@@ -46,9 +46,9 @@ QImage picture(QWidget& widget)
 }
 
 /// The main window with an item of a type of one's own in its detail pane.
-struct Shown
+struct WindowWithTypes
 {
-    Shown()
+    WindowWithTypes()
         : fixture(QList<Equipment>{buoy()})
     {
         fixture.types.addType(ownType());
@@ -89,7 +89,7 @@ struct Shown
     std::unique_ptr<MainWindow> window;
 };
 
-QImage pictureOf(const Shown& s, const TypeAppearance& appearance)
+QImage pictureOf(const WindowWithTypes& s, const TypeAppearance& appearance)
 {
     const int side = s.detail().findChild<IconTile*>()->width();
     IconTile tile(side);
@@ -112,7 +112,7 @@ private Q_SLOTS:
 
     void anOwnTypeIsShownEverywhere()
     {
-        const Shown s;
+        const WindowWithTypes s;
         QVERIFY(s.sidebar().contains(u"Boa"_s));
         QVERIFY(s.filterMenu().contains(u"Boa"_s));
         QCOMPARE(s.row().appearance, ownLook);
@@ -137,7 +137,7 @@ private Q_SLOTS:
     void everyScreenFallsBackAtOnce()
     {
         QFETCH(std::function<void(EquipmentTypeViewModel&)>, change);
-        Shown s;
+        WindowWithTypes s;
         const QList<Equipment> before = s.fixture.equipment.equipment();
         const auto stored = s.fixture.preferences.data(StorageManager::equipmentKey);
         change(s.fixture.types);
@@ -159,7 +159,7 @@ private Q_SLOTS:
 
     void anOpenFormKeepsTheNameOfADeletedType()
     {
-        Shown s;
+        WindowWithTypes s;
         EditEquipmentView form(s.fixture.equipment, s.fixture.types, s.fixture.almanac,
                                s.fixture.equipment.equipment().first(), s.window.get());
         form.open();
@@ -174,7 +174,7 @@ private Q_SLOTS:
 
     void aNewLookIsShownAtOnce()
     {
-        Shown s;
+        WindowWithTypes s;
         EquipmentTypeModel changed = ownType();
         changed.icon = u"wrench.fill"_s;
         changed.color = u"pink"_s;
@@ -186,7 +186,7 @@ private Q_SLOTS:
 
     void sheetOverSheet()
     {
-        Shown s;
+        WindowWithTypes s;
         s.window->resize(1000, 700);
         QWidget* const opener = s.window->findChild<EquipmentTableView*>();
         opener->setFocus();
@@ -209,7 +209,7 @@ private Q_SLOTS:
 
     void closingTheWindowWithSheetsOpenIsSafe()
     {
-        Shown s;
+        WindowWithTypes s;
         auto* management = new EquipmentTypeManagementView(s.fixture.types, s.fixture.ids, s.window.get());
         management->open();
         click(*management, "addType");

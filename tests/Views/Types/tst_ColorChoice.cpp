@@ -17,9 +17,9 @@ using namespace abissora;
 
 namespace {
 
-struct Shown
+struct ShownColors
 {
-    Shown()
+    ShownColors()
     {
         choice.resize(372, choice.heightForWidth(372));
         test::activate(choice);
@@ -42,7 +42,7 @@ private Q_SLOTS:
 
     void thirteenColoursByTheirLabels()
     {
-        Shown s;
+        ShownColors s;
         QStringList labels;
         for (QRadioButton* swatch : s.choice.findChildren<QRadioButton*>()) {
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(swatch);
@@ -59,7 +59,7 @@ private Q_SLOTS:
 
     void settingEmitsNothing()
     {
-        Shown s;
+        ShownColors s;
         const QSignalSpy chosen(&s.choice, &ColorChoice::chosen);
         s.choice.setSelectedColor(AvailableColors::teal);
         QCOMPARE(s.choice.selectedColor(), AvailableColors::teal);
@@ -71,7 +71,7 @@ private Q_SLOTS:
 
     void aClickEmitsOnce()
     {
-        Shown s;
+        ShownColors s;
         const QSignalSpy chosen(&s.choice, &ColorChoice::chosen);
         QTest::mouseClick(&s.swatch(AvailableColors::brown), Qt::LeftButton);
         QTest::mouseClick(&s.swatch(AvailableColors::brown), Qt::LeftButton);
@@ -83,7 +83,7 @@ private Q_SLOTS:
 
     void everyPixelOfASwatchAnswers()
     {
-        Shown s;
+        ShownColors s;
         QRadioButton& swatch = s.swatch(AvailableColors::pink);
         QTest::mouseClick(&swatch, Qt::LeftButton, {}, swatch.rect().bottomRight());
         QCOMPARE(s.choice.selectedColor(), AvailableColors::pink);
@@ -91,7 +91,7 @@ private Q_SLOTS:
 
     void arrowKeysMoveTheChoice()
     {
-        Shown s;
+        ShownColors s;
         s.swatch(AvailableColors::blue).setFocus(Qt::TabFocusReason);
         const QSignalSpy chosen(&s.choice, &ColorChoice::chosen);
         for (int i = 0; i < 3; ++i)
@@ -113,7 +113,7 @@ private Q_SLOTS:
     void arrowKeysReachEveryColour()
     {
         QFETCH(int, width);
-        Shown s;
+        ShownColors s;
         s.choice.resize(width, s.choice.heightForWidth(width));
         test::settle();
         s.swatch(AvailableColors::blue).setFocus(Qt::TabFocusReason);
@@ -131,7 +131,7 @@ private Q_SLOTS:
 
     void tabStopsAtTheChosenOneOnly()
     {
-        Shown s;
+        ShownColors s;
         s.choice.setSelectedColor(AvailableColors::indigo);
         QStringList stops;
         for (const QRadioButton* swatch : s.choice.findChildren<QRadioButton*>()) {
@@ -145,7 +145,7 @@ private Q_SLOTS:
     {
         for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
             applyTheme(*qApp, scheme);
-            Shown s;
+            ShownColors s;
             for (const AvailableColors color : allCases<AvailableColors>()) {
                 s.choice.setSelectedColor(color == AvailableColors::blue ? AvailableColors::red
                                                                          : AvailableColors::blue);
@@ -162,7 +162,7 @@ private Q_SLOTS:
 
     void noColourStandsAlone()
     {
-        Shown s;
+        ShownColors s;
         for (const int width : {260, 400, 900}) {
             s.choice.resize(width, s.choice.sizeHint().height());
             test::settle();

@@ -19,9 +19,9 @@ using namespace abissora;
 
 namespace {
 
-struct Shown
+struct ShownIcons
 {
-    Shown()
+    ShownIcons()
     {
         picker.resize(556, 900);
         test::activate(picker);
@@ -78,7 +78,7 @@ private Q_SLOTS:
 
     void sectionsInOrder()
     {
-        Shown s;
+        ShownIcons s;
         QCOMPARE(s.picker.title(), u"Selezione Icona"_s);
         QCOMPARE(s.search().placeholderText(), u"Cerca icona..."_s);
         QCOMPARE(s.shown(),
@@ -93,7 +93,7 @@ private Q_SLOTS:
 
     void cellsOfAColumnStandBelowOneAnother()
     {
-        Shown s;
+        ShownIcons s;
         QCOMPARE(s.cell(DivingIcons::regulator).x(), s.cell(DivingIcons::camera).x());
         QCOMPARE(s.cell(DivingIcons::regulator).width(), s.cell(DivingIcons::camera).width());
         QCOMPARE(s.cell(DivingIcons::diveComputer).geometry().right(), s.picker.grid().width() - 1);
@@ -101,7 +101,7 @@ private Q_SLOTS:
 
     void screenReadersFindEveryIcon()
     {
-        Shown s;
+        ShownIcons s;
         s.picker.grid().setSelectedIcon(DivingIcons::compass);
         for (const DivingIcons icon : allCases<DivingIcons>()) {
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&s.cell(icon));
@@ -122,7 +122,7 @@ private Q_SLOTS:
 
     void settingEmitsNothing()
     {
-        Shown s;
+        ShownIcons s;
         const QSignalSpy chosen(&s.picker.grid(), &IconGrid::chosen);
         QVERIFY(s.cell(DivingIcons::regulator).isChecked());
         s.picker.grid().setSelectedIcon(DivingIcons::custom);
@@ -134,7 +134,7 @@ private Q_SLOTS:
 
     void aChoiceEmitsOnce()
     {
-        Shown s;
+        ShownIcons s;
         const QSignalSpy chosen(&s.picker.grid(), &IconGrid::chosen);
         QTest::mouseClick(&s.cell(DivingIcons::tank), Qt::LeftButton);
         QTest::mouseClick(&s.cell(DivingIcons::tank), Qt::LeftButton);
@@ -145,7 +145,7 @@ private Q_SLOTS:
 
     void spaceAndReturnChoose()
     {
-        Shown s;
+        ShownIcons s;
         const QSignalSpy chosen(&s.picker.grid(), &IconGrid::chosen);
         s.cell(DivingIcons::regulator).setFocus(Qt::TabFocusReason);
         s.press(Qt::Key_Right);
@@ -160,7 +160,7 @@ private Q_SLOTS:
 
     void arrowsCrossTheSections()
     {
-        Shown s;
+        ShownIcons s;
         s.cell(DivingIcons::diveKnife).setFocus(Qt::TabFocusReason); // fifth of the first section
         QStringList visited{s.focused()};
         for (int i = 0; i < 7; ++i) {
@@ -177,7 +177,7 @@ private Q_SLOTS:
 
     void oneTabStopAtTheChosenIcon()
     {
-        Shown s;
+        ShownIcons s;
         s.picker.grid().setSelectedIcon(DivingIcons::scuba);
         s.search().setFocus();
         s.press(Qt::Key_Tab);
@@ -189,7 +189,7 @@ private Q_SLOTS:
 
     void searching()
     {
-        Shown s;
+        ShownIcons s;
         const int before = s.picker.grid().height();
         s.type(u"bombola"_s);
         QCOMPARE(s.shown(), split("ATTREZZATURA PRINCIPALE,Bombola"));
@@ -212,7 +212,7 @@ private Q_SLOTS:
 
     void theChoiceOutlivesTheSearch()
     {
-        Shown s;
+        ShownIcons s;
         s.picker.grid().setSelectedIcon(DivingIcons::reel);
         s.type(u"bombola"_s);
         QCOMPARE(s.picker.grid().selectedIcon(), DivingIcons::reel);
@@ -224,7 +224,7 @@ private Q_SLOTS:
 
     void choosingWhatWasFound()
     {
-        Shown s;
+        ShownIcons s;
         s.type(u"knife"_s);
         QTest::mouseClick(&s.cell(DivingIcons::diveKnife), Qt::LeftButton);
         QCOMPARE(s.picker.grid().selectedIcon(), DivingIcons::diveKnife);
@@ -233,7 +233,7 @@ private Q_SLOTS:
 
     void nothingFound()
     {
-        Shown s;
+        ShownIcons s;
         s.type(u"xyz"_s);
         QVERIFY(s.saysNothing());
         QVERIFY(!s.picker.grid().isVisible());
@@ -247,7 +247,7 @@ private Q_SLOTS:
 
     void theSchemeIsFollowed()
     {
-        Shown s;
+        ShownIcons s;
         const QImage light = s.cell(DivingIcons::tank).grab().toImage();
         applyTheme(*qApp, Scheme::Dark);
         QVERIFY(s.cell(DivingIcons::tank).grab().toImage() != light);
