@@ -223,13 +223,14 @@ QList<Equipment> EquipmentViewModel::filteredEquipment() const
     return equipment;
 }
 
-QList<Equipment> EquipmentViewModel::overdueEquipment() const
+QList<const Equipment*> EquipmentViewModel::overdueEquipment() const
 {
     const Instant now = m_clock.now();
-    QList<Equipment> overdue;
-    std::ranges::copy_if(m_equipment, std::back_inserter(overdue), [&](const Equipment& item) {
-        return isDueSoon(item, item.daysUntilNextService(now, m_calendar));
-    });
+    QList<const Equipment*> overdue;
+    for (const Equipment& item : m_equipment) {
+        if (isDueSoon(item, item.daysUntilNextService(now, m_calendar)))
+            overdue.append(&item);
+    }
     return overdue;
 }
 

@@ -80,8 +80,9 @@ public:
 
     /// What the filters leave, soonest due first. Computed and logged at every call: read it once per redraw.
     [[nodiscard]] QList<Equipment> filteredEquipment() const;
-    /// The active items due within dueThresholdDays, past ones included, in catalogue order.
-    [[nodiscard]] QList<Equipment> overdueEquipment() const;
+    /// The active items due within dueThresholdDays, past ones included, in catalogue order. They stay the catalogue's,
+    /// and are there until it changes: most who ask only want to know how many.
+    [[nodiscard]] QList<const Equipment*> overdueEquipment() const;
     /// All figures of one moment, the due items among them. Says nothing to the log.
     [[nodiscard]] RegisterSummary summary() const;
 

@@ -62,7 +62,7 @@ private Q_SLOTS:
         m_files->console.clear();
         const auto viewModel = viewModelOf(all, m_files->calendar);
         m_files->console.clear();
-        QCOMPARE(viewModel->overdueEquipment(), all);
+        QCOMPARE(copied(viewModel->overdueEquipment()), all);
         QCOMPARE(m_files->console.calls(), QStringList());
     }
 
@@ -72,7 +72,7 @@ private Q_SLOTS:
         const auto viewModel = viewModelOf(all, m_files->calendar);
         viewModel->filterByTypeName(u"Torcia"_s);
         viewModel->setSearchText(u"zzz"_s);
-        QCOMPARE(viewModel->overdueEquipment(), all);
+        QCOMPARE(copied(viewModel->overdueEquipment()), all);
     }
 
     void theClockGoesOn()
@@ -106,8 +106,8 @@ private Q_SLOTS:
                                            m_files->clock, m_files->calendar);
         const auto due = viewModel.overdueEquipment();
         QCOMPARE(due.size(), 2);
-        QCOMPARE(due.at(0).type, EquipmentType::bcd);
-        QCOMPARE(due.at(1).type, EquipmentType::computer);
+        QCOMPARE(due.at(0)->type, EquipmentType::bcd);
+        QCOMPARE(due.at(1)->type, EquipmentType::computer);
     }
 
     void aroundClockChanges_data()
@@ -149,6 +149,14 @@ private Q_SLOTS:
     }
 
 private:
+    static QList<Equipment> copied(const QList<const Equipment*>& items)
+    {
+        QList<Equipment> copies;
+        for (const Equipment* item : items)
+            copies.append(*item);
+        return copies;
+    }
+
     static QList<Equipment> everyHalfHour(Instant begin)
     {
         QList<Instant> instants;
@@ -169,7 +177,7 @@ private:
         const auto viewModel = viewModelOf({}, calendar);
         for (const Equipment& item : all)
             viewModel->addEquipment(item); // with milliseconds, which storing would cut off
-        return viewModel->overdueEquipment();
+        return copied(viewModel->overdueEquipment());
     }
 
     std::optional<test::TemporaryRegister> m_files;
