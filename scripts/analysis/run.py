@@ -47,7 +47,7 @@ class Runner:
         made = subprocess.run([*self.tool.command, self.source(batch), "--", *batch.flags], capture_output=True, text=True,
                               errors="replace", check=False)
         found = [complaint for complaint in DIAGNOSTIC.finditer(made.stdout + made.stderr)
-                 if complaint["kind"] != "warning" or (complaint["checks"] or "").startswith(self.tool.checks)]
+                 if complaint["kind"] != "warning" or self.tool.counts(complaint["path"], complaint["checks"] or "")]
         if made.returncode and not found:
             raise ToolFailed(f"{' '.join(map(str, batch.files))}:\n{made.stdout}{made.stderr}")
         return found

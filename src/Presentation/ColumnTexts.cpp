@@ -23,7 +23,8 @@ QStringList longest(const QList<Equipment>& items, Text text)
             continue;
         if (isFull)
             known.remove(texts.takeLast());
-        texts.insert(std::ranges::upper_bound(texts, next.size(), std::ranges::greater(), &QString::size), next);
+        texts.insert(
+            std::ranges::upper_bound(std::as_const(texts), next.size(), std::ranges::greater(), &QString::size), next);
         known.insert(next);
     }
     return texts;

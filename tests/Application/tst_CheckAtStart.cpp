@@ -144,7 +144,7 @@ private Q_SLOTS:
         settle();
         QCOMPARE(offers().size(), 1);
         // Closed where it is, it comes nowhere else.
-        press(*offers().first()->window(), u"Più tardi"_s);
+        press(*offers().constFirst()->window(), u"Più tardi"_s);
         settle();
         QCOMPARE(offers().size(), 0);
         sidebar().setSelectedSidebarItem(sidebar::all);

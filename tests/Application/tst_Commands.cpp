@@ -36,7 +36,7 @@ private Q_SLOTS:
         QCOMPARE(answer.out, u"Ripristinato lo stato «%1».\n"_s.arg(name));
         QCOMPARE(decodeEquipment(files.content(test::registerFile)).value().size(), 1);
         QCOMPARE(files.names(u"MaintenanceDocuments"_s), QStringList{document});
-        QCOMPARE(files.generations.list().first().occasion, Occasion::restoration);
+        QCOMPARE(files.generations.list().constFirst().occasion, Occasion::restoration);
     }
 
     void anUnknownStateIsRefused()
@@ -94,7 +94,7 @@ private:
         files.write(u"MaintenanceDocuments/"_s + document, "%PDF-");
         StorageManager storage = files.storageManager(QList{test::equipmentWith(1, {record})});
         storage.saveEquipment({}, Occasion::deletedItem);
-        return files.generations.list().first().name;
+        return files.generations.list().constFirst().name;
     }
 };
 

@@ -49,8 +49,8 @@ private Q_SLOTS:
         QCOMPARE(answer.status, exitStatus::done);
         QCOMPARE(answer.out, u"Importato 1 articolo.\n"_s);
         QCOMPARE(stored(files).size(), 2);
-        QCOMPARE(stored(files).last().name, u"Pinne"_s);
-        QVERIFY(!stored(files).last().id.isNull());
+        QCOMPARE(stored(files).constLast().name, u"Pinne"_s);
+        QVERIFY(!stored(files).constLast().id.isNull());
         const QList<EarlierState> states = files.generations.list();
         QCOMPARE(states.size(), 1);
         QCOMPARE(states.first().occasion, Occasion::import);
@@ -75,7 +75,7 @@ private Q_SLOTS:
         const QString table = files.write(u"in/a.csv"_s, "Nome\nPinne\n");
         QCOMPARE(run(files, {u"--import"_s, table, u"--yes"_s}).status, exitStatus::done);
         QCOMPARE(files.generations.list().size(), 1);
-        QCOMPARE(files.generations.list().first().occasion, Occasion::unknownMembers);
+        QCOMPARE(files.generations.list().constFirst().occasion, Occasion::unknownMembers);
     }
 
     void recordsAreStored()
@@ -87,7 +87,7 @@ private Q_SLOTS:
         const Outcome answer = run(files, {u"--import"_s, table, u"--yes"_s});
         QCOMPARE(answer.error, QString());
         QCOMPARE(answer.out, u"Importate 2 manutenzioni.\n"_s);
-        const Equipment item = stored(files).first();
+        const Equipment item = stored(files).constFirst();
         QCOMPARE(item.maintenanceHistory.size(), 2);
         QCOMPARE(item.maintenanceHistory.first().cost, 1234.5);
         QCOMPARE(Calendar().local(item.lastServiceDate).date(), QDate(2026, 1, 2));

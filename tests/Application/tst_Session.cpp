@@ -58,13 +58,13 @@ private Q_SLOTS:
         start();
         QCOMPARE(rows(), 2);
         const QPointer<MarevoloApp> before = &m_session->app();
-        const EarlierState state = m_files->generations.list().last();
+        const EarlierState state = m_files->generations.list().constLast();
         QVERIFY(restored(state));
         QTRY_VERIFY(before.isNull());
         QCOMPARE(rows(), 1);
         QVERIFY(m_session->mainWindow().isVisible());
         QVERIFY(QGuiApplication::quitOnLastWindowClosed());
-        QCOMPARE(m_files->generations.list().first().occasion, Occasion::restoration);
+        QCOMPARE(m_files->generations.list().constFirst().occasion, Occasion::restoration);
     }
 
     void aRestorationCanBeCancelledWhileTheStateIsRead()
@@ -72,7 +72,7 @@ private Q_SLOTS:
         m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s, "[]");
         start();
         const auto progress = std::make_shared<WorkProgress>();
-        auto task = m_session->app().restore(m_files->generations.list().last(), progress);
+        auto task = m_session->app().restore(m_files->generations.list().constLast(), progress);
         progress->cancel();
         QCOMPARE(QCoro::waitFor(task).error(), IoError::fromErrno(ECANCELED));
         QVERIFY(m_files->content(test::registerFile).contains("Uno"));
@@ -83,7 +83,7 @@ private Q_SLOTS:
     {
         m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s, "[]");
         start();
-        auto task = m_session->app().restore(m_files->generations.list().last(), std::make_shared<WorkProgress>());
+        auto task = m_session->app().restore(m_files->generations.list().constLast(), std::make_shared<WorkProgress>());
         m_session.reset();
         QVERIFY(!QCoro::waitFor(task));
         QVERIFY(m_files->content(test::registerFile).contains("Uno"));
@@ -96,7 +96,7 @@ private Q_SLOTS:
         const QPointer<MarevoloApp> before = &m_session->app();
         bool isOver = false;
         bool hasForm = false;
-        QCoro::waitFor(before->restore(m_files->generations.list().last(), std::make_shared<WorkProgress>())
+        QCoro::waitFor(before->restore(m_files->generations.list().constLast(), std::make_shared<WorkProgress>())
                            .then([&](const IoResult<void>& done) {
                                isOver = done && &m_session->app() == before && !m_session->mainWindow().isEnabled();
                                m_session->fulfil(Wish::NewItem);
@@ -116,7 +116,7 @@ private Q_SLOTS:
         {
             const test::FileSizeLimit limit(200);
             deleteFirstItem();
-            QVERIFY(restored(m_files->generations.list().last()));
+            QVERIFY(restored(m_files->generations.list().constLast()));
         }
         QCOMPARE(m_files->content(test::registerFile), QByteArray("[]"));
         Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive); // before the new one stands
@@ -128,7 +128,7 @@ private Q_SLOTS:
         m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s,
                        encode(QList{test::equipment(7, u"Di prima"_s)}).value());
         start();
-        QVERIFY(restored(m_files->generations.list().last()));
+        QVERIFY(restored(m_files->generations.list().constLast()));
         m_session.reset();
         QCOMPARE(readPresentContent(m_files->directories).equipment.records.size(), 1);
     }
@@ -138,7 +138,7 @@ private Q_SLOTS:
         m_files->write(u"backups/20260101T000000.000Z-unreadable/savedEquipment.json"_s, "rubbish");
         start();
         const QPointer<MarevoloApp> before = &m_session->app();
-        QVERIFY(!restored(m_files->generations.list().last()));
+        QVERIFY(!restored(m_files->generations.list().constLast()));
         QCoreApplication::processEvents();
         QCOMPARE(&m_session->app(), before.data());
         QCOMPARE(rows(), 2);

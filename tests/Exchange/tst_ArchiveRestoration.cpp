@@ -82,7 +82,7 @@ private Q_SLOTS:
         VERIFY_OK(restore(files));
         QCOMPARE(files.content(test::registerFile), registerOf(1));
         QVERIFY(!QFileInfo::exists(files.path(u"preferences/darkMode.json"_s)));
-        const EarlierState kept = files.generations.list().first();
+        const EarlierState kept = files.generations.list().constFirst();
         QCOMPARE(kept.occasion, Occasion::restoration);
         VERIFY_OK(Restoration(files.directories, files.generations).restore(kept));
         QCOMPARE(files.content(test::registerFile), registerOf(5));

@@ -152,7 +152,7 @@ private Q_SLOTS:
         const test::ImportStage stage;
         const ImportPlan plan = stage.plan("Nome;Stato\n" + QByteArray("a;?\n").repeated(50));
         QCOMPARE(plan.faults(20).size(), 20);
-        QCOMPARE(plan.faults(20).last(), u"Riga 21, colonna 2: Stato sconosciuto: ?"_s);
+        QCOMPARE(plan.faults(20).constLast(), u"Riga 21, colonna 2: Stato sconosciuto: ?"_s);
     }
 
     void whatIsCountedHasNoColumnInTheFile()
@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(ids.size(), 3);
         QVERIFY(!ids.contains(QUuid()));
         QCOMPARE(decodeEquipment(stage.content(test::registerFile)).value(), stage.equipment.equipment());
-        QCOMPARE(stage.takeLog().first(), u"📥 Importati 2 equipaggiamenti e 0 manutenzioni"_s);
+        QCOMPARE(stage.takeLog().constFirst(), u"📥 Importati 2 equipaggiamenti e 0 manutenzioni"_s);
     }
 
     void recordsReachTheirItem()

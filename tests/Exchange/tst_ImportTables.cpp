@@ -206,7 +206,7 @@ private Q_SLOTS:
         const test::ImportStage stage;
         const QString words = u"\"a\n\x1b[31m"_s + QString(5000, u'x') + u"\""_s;
         const ImportPlan plan = stage.plan((u"Nome;Scadenza\nMuta;"_s + words + u'\n').toUtf8());
-        const QString fault = plan.faults(1).first();
+        const QString fault = plan.faults(1).constFirst();
         QVERIFY2(fault.startsWith(u"Riga 2, colonna 2: Data non valida: a [31mxx"_s), qPrintable(fault));
         QVERIFY2(fault.size() < 200 && !fault.contains(u'\x1b'), qPrintable(fault));
     }

@@ -129,7 +129,7 @@ private Q_SLOTS:
         MaintenanceFormState entered = edited->initial();
         entered.description = u"Cambiato"_s;
         edited->save(entered);
-        QCOMPARE(s.descriptions().last(), u"Cambiato"_s);
+        QCOMPARE(s.descriptions().constLast(), u"Cambiato"_s);
     }
 
     void deletingARecord()
@@ -206,7 +206,7 @@ private Q_SLOTS:
             s.f.panel.answer(answer);
             s.detail->uploadDocument(s.record().id, receipt);
             QVERIFY(!s.record().receiptFileName);
-            QCOMPARE(s.f.takeLog().last(), updated);
+            QCOMPARE(s.f.takeLog().constLast(), updated);
         }
     }
 

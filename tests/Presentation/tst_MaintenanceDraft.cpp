@@ -171,8 +171,9 @@ private Q_SLOTS:
         const auto draft = s.f.draft(s.item.id, record);
         draft->attachments().remove(DocumentSlot::Receipt);
         bool wasThere = false;
-        connect(&s.f.equipment, &EquipmentViewModel::equipmentChanged, this,
-                [&] { wasThere = !s.history().first().receiptFileName && s.f.documents.url(*record.receiptFileName); });
+        connect(&s.f.equipment, &EquipmentViewModel::equipmentChanged, this, [&] {
+            wasThere = !s.history().constFirst().receiptFileName && s.f.documents.url(*record.receiptFileName);
+        });
         draft->save(draft->initial());
         QVERIFY(wasThere);
         QVERIFY(!s.f.documents.url(*record.receiptFileName));

@@ -72,9 +72,9 @@ private Q_SLOTS:
     void factsAreThoseOfTheMoment()
     {
         RegisterFixture f;
-        QVERIFY(lines(f).last().startsWith(u"Copyright=© 2026 "_s));
+        QVERIFY(lines(f).constLast().startsWith(u"Copyright=© 2026 "_s));
         f.clock.advance(std::chrono::hours(24 * 365));
-        QVERIFY(lines(f).last().startsWith(u"Copyright=© 2027 "_s));
+        QVERIFY(lines(f).constLast().startsWith(u"Copyright=© 2027 "_s));
     }
 };
 

@@ -72,7 +72,7 @@ private Q_SLOTS:
         selection.select(u"type_GAV"_s);
         selection.followFilter();
         QCOMPARE(changed.size(), 1);
-        QCOMPARE(tab.takeFirst().first().toInt(), 0);
+        QCOMPARE(tab.takeFirst().constFirst().toInt(), 0);
         QCOMPARE(f.equipment.filterTypeName(), std::optional(u"GAV"_s));
         QCOMPARE(f.equipment.searchText(), QString());
         QVERIFY(!f.equipment.selectedType());
@@ -147,7 +147,7 @@ private Q_SLOTS:
         QSignalSpy tab(&selection, &SidebarSelection::tabRequested);
         selection.select(u"maintenance"_s);
         selection.followFilter();
-        QCOMPARE(tab.takeFirst().first().toInt(), 1);
+        QCOMPARE(tab.takeFirst().constFirst().toInt(), 1);
         QCOMPARE(f.equipment.filterTypeName(), std::optional(u"GAV"_s));
         QCOMPARE(f.takeLog(),
                  QStringList({u"🔄 Sidebar selection changed to: maintenance"_s, u"🔧 Vai a Manutenzione - Tab 1"_s}));

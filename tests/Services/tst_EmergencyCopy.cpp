@@ -55,7 +55,7 @@ private Q_SLOTS:
         for (const char* bytes : {"[]", "[ ]", "[  ]"})
             VERIFY_OK(files.preferences.setData(registerKey, bytes, Occasion::deletedItem));
         QCOMPARE(files.generations.list().size(), 3);
-        QCOMPARE(files.generations.list().first().occasion, Occasion::emergency);
+        QCOMPARE(files.generations.list().constFirst().occasion, Occasion::emergency);
     }
 
     void otherRegistersHaveTheirOwn()

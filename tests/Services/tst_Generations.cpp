@@ -51,7 +51,7 @@ private Q_SLOTS:
         for (const char* bytes : {"1", "2", "3"})
             VERIFY_OK(files.preferences.setData(key, bytes));
         QCOMPARE(occasions(files), QList{Occasion::firstOfDay});
-        QCOMPARE(bytesOf(files.generations.list().first()), QByteArray("1"));
+        QCOMPARE(bytesOf(files.generations.list().constFirst()), QByteArray("1"));
         QCOMPARE(files.names(backups), QStringList{u"20260615T100000.000Z-first-of-day"_s});
 
         files.clock.advance(11h + 59min);
@@ -60,7 +60,7 @@ private Q_SLOTS:
         files.clock.advance(1min); // midnight in Rome, not in UTC
         VERIFY_OK(files.preferences.setData(key, "5"));
         QCOMPARE(files.generations.list().size(), 2);
-        QCOMPARE(bytesOf(files.generations.list().first()), QByteArray("4"));
+        QCOMPARE(bytesOf(files.generations.list().constFirst()), QByteArray("4"));
     }
 
     void anotherProcessOfTheDayKeepsNoSecondOne()
@@ -99,7 +99,7 @@ private Q_SLOTS:
         VERIFY_OK(files.preferences.setData(key, "1"));
         VERIFY_OK(files.preferences.setBoolean(u"darkMode"_s, true));
         VERIFY_OK(files.preferences.setData(key, "2", Occasion::deletedItem));
-        QCOMPARE(bytesOf(files.generations.list().first(), u"darkMode"_s), QByteArray("true"));
+        QCOMPARE(bytesOf(files.generations.list().constFirst(), u"darkMode"_s), QByteArray("true"));
     }
 
     void whatAnotherProgramWrote()
@@ -109,7 +109,7 @@ private Q_SLOTS:
         files.write(test::registerFile, "of a sync tool");
         VERIFY_OK(files.preferences.setData(key, "2"));
         QCOMPARE(occasions(files), QList{Occasion::foreignBytes});
-        QCOMPARE(bytesOf(files.generations.list().first()), QByteArray("of a sync tool"));
+        QCOMPARE(bytesOf(files.generations.list().constFirst()), QByteArray("of a sync tool"));
     }
 
     void whatStaysIsNoSecondNameOfTheStoredFile()
@@ -184,7 +184,7 @@ private Q_SLOTS:
         QCOMPARE(files.content(test::registerFile), QByteArray("foreign"));
         QVERIFY(QFile::remove(files.path(backups)));
         QCOMPARE(files.preferences.retry(), QStringList{key});
-        QCOMPARE(bytesOf(files.generations.list().first()), QByteArray("foreign"));
+        QCOMPARE(bytesOf(files.generations.list().constFirst()), QByteArray("foreign"));
     }
 
     void withoutPermissionNothingIsWritten()
@@ -211,7 +211,7 @@ private Q_SLOTS:
         VERIFY_OK(files.preferences.setData(key, "2", Occasion::deletedItem));
         files.clock.advance(-5h);
         VERIFY_OK(files.preferences.setData(key, "3", Occasion::deletedItem));
-        QCOMPARE(bytesOf(files.generations.list().first()), QByteArray("2"));
+        QCOMPARE(bytesOf(files.generations.list().constFirst()), QByteArray("2"));
     }
 
     void oldStatesGoAfterANewOneIsThere()

@@ -41,7 +41,7 @@ private Q_SLOTS:
     {
         test::TemporaryRegister files;
         VERIFY_OK(restore(files, keptAndChanged(files)));
-        const EarlierState undone = files.generations.list().first();
+        const EarlierState undone = files.generations.list().constFirst();
         QCOMPARE(undone.occasion, Occasion::restoration);
         VERIFY_OK(restore(files, undone));
         QCOMPARE(files.content(test::registerFile), registerOf(2));
@@ -54,7 +54,7 @@ private Q_SLOTS:
         for (int i = 1; i <= 21; ++i)
             VERIFY_OK(files.preferences.setData(registerKey, registerOf(i), Occasion::deletedItem));
         QCOMPARE(files.generations.list().size(), 20);
-        const EarlierState oldest = files.generations.list().last();
+        const EarlierState oldest = files.generations.list().constLast();
         VERIFY_OK(restore(files, oldest));
         QCOMPARE(files.content(test::registerFile), registerOf(1));
         // It goes with the next one.
@@ -70,7 +70,7 @@ private Q_SLOTS:
         VERIFY_OK(files.preferences.setData(registerKey, strange));
         VERIFY_OK(files.generations.keep(Occasion::deletedItem));
         VERIFY_OK(files.preferences.setData(registerKey, "[]"));
-        VERIFY_OK(restore(files, files.generations.list().first()));
+        VERIFY_OK(restore(files, files.generations.list().constFirst()));
         QCOMPARE(files.content(test::registerFile), strange);
     }
 
@@ -84,7 +84,7 @@ private Q_SLOTS:
         damaged.replace(damaged.indexOf("\"GAV\"", damaged.size() / 2), 5, "\"Pesce\"");
         files.write(test::registerFile, damaged);
         VERIFY_OK(files.preferences.preserveUnreadable(registerKey));
-        const EarlierState state = files.generations.list().first();
+        const EarlierState state = files.generations.list().constFirst();
         QCOMPARE(readContent(state).equipment.records.size(), 299);
         QCOMPARE(readContent(state).equipment.total, 300);
         VERIFY_OK(restore(files, state));
@@ -97,7 +97,7 @@ private Q_SLOTS:
         files.write(test::registerFile, "rubbish");
         VERIFY_OK(files.preferences.preserveUnreadable(registerKey));
         VERIFY_OK(files.preferences.setData(registerKey, "[]"));
-        const auto restored = restore(files, files.generations.list().last());
+        const auto restored = restore(files, files.generations.list().constLast());
         QVERIFY(!restored);
         QCOMPARE(files.content(test::registerFile), QByteArray("[]"));
         QVERIFY(!QFileInfo::exists(files.path(journal)));
@@ -122,7 +122,7 @@ private Q_SLOTS:
         VERIFY_OK(files.preferences.setData(registerKey, registerOf(2), Occasion::deletedItem));
         VERIFY_OK(files.preferences.setData(typesKey, "[]"));
         VERIFY_OK(files.preferences.setInteger(iconVersionKey, 4));
-        VERIFY_OK(restore(files, files.generations.list().first()));
+        VERIFY_OK(restore(files, files.generations.list().constFirst()));
         QCOMPARE(files.content(test::registerFile), registerOf(1));
         QCOMPARE(files.content(u"preferences/iconSetVersion.json"_s), QByteArray("4"));
     }
@@ -146,7 +146,7 @@ private Q_SLOTS:
         VERIFY_OK(files.preferences.setData(registerKey, registerOf(5))); // the program went on
         clearUp(files.directories, files.generations);
         QCOMPARE(files.content(test::registerFile), registerOf(1));
-        const EarlierState kept = files.generations.list().first();
+        const EarlierState kept = files.generations.list().constFirst();
         QCOMPARE(kept.occasion, Occasion::restoration);
         QCOMPARE(readContent(kept).equipment.records, QList{test::equipment(5)});
     }
@@ -184,7 +184,7 @@ private:
         static_cast<void>(files.preferences.setData(registerKey, registerOf(1)));
         static_cast<void>(files.preferences.setData(registerKey, registerOf(2), Occasion::deletedItem));
         static_cast<void>(files.preferences.setBoolean(u"darkMode"_s, true));
-        return files.generations.list().first();
+        return files.generations.list().constFirst();
     }
 
     static EarlierState movedAway(test::TemporaryRegister& files, const EarlierState& state)

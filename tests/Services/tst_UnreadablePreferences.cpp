@@ -62,7 +62,7 @@ private Q_SLOTS:
         VERIFY_OK(files.preferences.preserveUnreadable(key));
         VERIFY_OK(files.preferences.preserveUnreadable(typesKey));
         QCOMPARE(files.names(backups).size(), 1);
-        QCOMPARE(files.generations.list().first().files.size(), 2);
+        QCOMPARE(files.generations.list().constFirst().files.size(), 2);
     }
 
     void aFullDiskKeepsTheBytesUnderASecondName()

@@ -326,7 +326,8 @@ QString RandomOperations::restoreAny()
                 return restore(deletion.state);
         }
     }
-    const QStringList names = m_model.states.keys() + m_model.emergency.keys();
+    QStringList names = m_model.states.keys();
+    names += m_model.emergency.keys();
     return names.isEmpty() ? restart() : restore(names.at(below(int(names.size()))));
 }
 

@@ -85,7 +85,8 @@ public:
                 return problem;
             if (!m_run->catalogue.equipment().contains(deletion.item))
                 return u"item %1 did not come back with state %2"_s.arg(deletion.item.name, deletion.state);
-            for (const QString& name : documentNames({deletion.item})) {
+            const auto attached = documentNames({deletion.item});
+            for (const QString& name : attached) {
                 const auto path = m_run->documents.url(name);
                 if (!path || AtomicFile::read(*path).value() != m_model.documents.value(name))
                     return u"document %1 did not come back"_s.arg(name);

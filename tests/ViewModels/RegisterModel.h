@@ -135,7 +135,8 @@ public:
     [[nodiscard]] QString checkNamedDocuments() const
     {
         QStringList archived;
-        for (const QString& name : documentNames(stored.items)) {
+        const QSet<QString> named = documentNames(stored.items);
+        for (const QString& name : named) {
             if (QFile::exists(m_place.directories.maintenanceDocuments() + u'/' + name))
                 continue;
             if (archived.isEmpty())
@@ -168,7 +169,8 @@ public:
             for (const State& state : *all)
                 named += state.documents;
         }
-        for (const QString& name : documents.keys()) {
+        const QStringList known = documents.keys();
+        for (const QString& name : known) {
             if (inFolder.contains(name) || inArchive.contains(name))
                 continue;
             const bool wasOld = m_archived.contains(name) && m_archived[name] + std::chrono::days(30) <= now();
@@ -176,7 +178,7 @@ public:
                 return u"document %1 is gone (named: %2)"_s.arg(name).arg(named.contains(name));
             documents.remove(name);
         }
-        for (const QString& name : named) {
+        for (const QString& name : std::as_const(named)) {
             if (!documents.contains(name))
                 return u"document %1 is named but unknown"_s.arg(name);
         }
@@ -319,7 +321,8 @@ private:
         }
         if (!newest.isEmpty() && !listed.contains(newest))
             return u"the newest state is gone"_s;
-        for (const QString& name : states.keys()) {
+        const QStringList known = states.keys();
+        for (const QString& name : known) {
             if (!listed.contains(name))
                 states.remove(name);
         }

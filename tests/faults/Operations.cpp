@@ -107,7 +107,8 @@ void run(World& world, Operation operation)
         world.types->deleteType(world.types->types().value(0));
         break;
     case Operation::restore:
-        static_cast<void>(Restoration(world.directories, world.generations).restore(world.generations.list().last()));
+        static_cast<void>(
+            Restoration(world.directories, world.generations).restore(world.generations.list().constLast()));
         break;
     case Operation::start:
         break;

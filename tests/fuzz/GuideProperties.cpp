@@ -72,7 +72,7 @@ QString faultWithGuide(const QByteArray& document)
         const HelpSection& section = sections.at(i);
         if (section.id != u"sezione-%1"_s.arg(i))
             return u"a section has the wrong number: "_s + section.id;
-        if (section.body.isEmpty() || section.title.toLower().startsWith("indice"_L1))
+        if (section.body.isEmpty() || section.title.startsWith("indice"_L1, Qt::CaseInsensitive))
             return u"a section should have been left out: "_s + section.title;
         if (const QString fault = faultWithBody(section.body); !fault.isEmpty())
             return fault;

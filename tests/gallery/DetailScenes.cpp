@@ -67,7 +67,7 @@ std::unique_ptr<QWidget> alertOf(std::unique_ptr<QWidget> screen)
 
 Equipment dueIn(int days)
 {
-    Equipment item = items().first();
+    Equipment item = items().constFirst();
     item.nextServiceDate = today + days * 24h;
     return item;
 }
@@ -161,7 +161,7 @@ QList<Scene> alertScenes()
 
 QList<Scene> detailScenes()
 {
-    Equipment inactive = items().last();
+    Equipment inactive = items().constLast();
     inactive.notes = u"In prestito."_s;
     return QList<Scene>{
                detail(u"detail-overdue"_s, items().at(3)),

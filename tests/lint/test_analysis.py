@@ -16,6 +16,7 @@ from batches import Batch, Sources, flags_of, is_ours  # noqa: E402
 from changes import NoHistory, changed_files  # noqa: E402
 from planted import missed  # noqa: E402
 from run import Runner, ToolFailed  # noqa: E402
+from tools import AT_START, Clazy  # noqa: E402
 
 COMMAND = ("/usr/bin/cmake -E env A=b,c /usr/bin/ccache /usr/bin/c++ -DQUOTED=\\\"x\\\" -I/r/src -isystem /usr/include/q -O1"
            " -Winvalid-pch -include /r/build/cmake_pch.hxx -include /r/ours.h -Xclang -fno-pch-timestamp -Werror -std=c++20"
@@ -167,9 +168,19 @@ class Changes(Folder):
             changed_files(Path(folder))
 
 
+class Counting(unittest.TestCase):
+    def test_constants_may_be_made_at_the_start_of_what_is_started_for_them(self):
+        tool = Clazy.__new__(Clazy)
+        tool.root = Path("/r")
+        for path, checks, expected in (("/r/src/A.cpp", AT_START, True), ("/r/tests/Models/A.cpp", AT_START, False),
+                                       ("/r/benchmarks/A.cpp", AT_START, False), ("/r/tests/A.h", "-Wclazy-foreach", True),
+                                       ("/r/tests/lint/planted/clazy/A.cpp", AT_START, True), ("/q/A.h", AT_START, True),
+                                       ("/r/src/A.cpp", "-Wshadow", False)):
+            self.assertEqual(tool.counts(path, checks), expected, (path, checks))
+
+
 class FakeTool:
     name = "fake"
-    checks = "check-"
     identity = "fake 1"
 
     def __init__(self, folder):
@@ -181,6 +192,9 @@ class FakeTool:
         self.compiler = folder / "compiler"
         self.compiler.write_text(COMPILER, encoding="utf-8")
         self.compiler.chmod(0o755)
+
+    def counts(self, _path, checks):
+        return checks.startswith("check-")
 
 
 class Running(Folder):

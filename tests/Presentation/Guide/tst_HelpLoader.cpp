@@ -156,7 +156,7 @@ void tst_HelpLoader::leavesOutWhatAProgramLacks()
                                                        "- **Stampa** e **Apri**\n- Stampa\n- **Stampato**\n"_s);
     QCOMPARE(HelpLoader::without({u"Stampa"_s}, whole),
              (QList<HelpSection>{{u"sezione-1"_s, u"Altro"_s, u"- **Apri**\n- Stampa\n- **Stampato**"_s}}));
-    QCOMPARE(HelpLoader::without({u"Apri"_s, u"Stampa"_s}, whole).first().body, u"- Stampa\n- **Stampato**"_s);
+    QCOMPARE(HelpLoader::without({u"Apri"_s, u"Stampa"_s}, whole).constFirst().body, u"- Stampa\n- **Stampato**"_s);
     QCOMPARE(HelpLoader::without({}, whole), whole);
 }
 

@@ -194,7 +194,7 @@ private Q_SLOTS:
     {
         SegmentedControl control;
         threeSegments(control);
-        auto& segment = *control.findChildren<QAbstractButton*>().first();
+        auto& segment = *control.findChildren<QAbstractButton*>().constFirst();
         QCOMPARE(drawnFocused(segment).framed(segment.rect(), tokens().accentInk, 2), fine);
     }
 

@@ -69,7 +69,7 @@ void tst_FormRow::aHintStandsBelowTheField()
     row.setHint(u"* Campo obbligatorio"_s);
     row.resize(520, row.sizeHint().height());
     test::activate(row);
-    const QLabel* const hint = row.findChildren<QLabel*>().last();
+    const QLabel* const hint = row.findChildren<QLabel*>().constLast();
     QVERIFY(hint->y() > line->geometry().bottom());
     QCOMPARE(hint->x(), line->x());
 }

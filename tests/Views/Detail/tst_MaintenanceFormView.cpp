@@ -107,7 +107,8 @@ private Q_SLOTS:
         ShownMaintenanceForm s(record);
         s.save();
         QCOMPARE(s.history(), QList({record}));
-        QCOMPARE(std::bit_cast<std::uint64_t>(s.history().first().cost), std::bit_cast<std::uint64_t>(record.cost));
+        QCOMPARE(std::bit_cast<std::uint64_t>(s.history().constFirst().cost),
+                 std::bit_cast<std::uint64_t>(record.cost));
     }
 
     void everyFieldIsSaved()

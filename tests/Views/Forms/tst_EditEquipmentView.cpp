@@ -209,7 +209,7 @@ private Q_SLOTS:
         OpenEdit o(f, item);
         QCOMPARE(chosenType(o.form), u"Faro"_s);
         QCOMPARE(offeredTypes(o.form).size(), 17);
-        QCOMPARE(offeredTypes(o.form).last(), u"Faro"_s);
+        QCOMPARE(offeredTypes(o.form).constLast(), u"Faro"_s);
         QVERIFY(!usable<TypePicker>(o.form, "type").itemIcon(16).isNull());
         QVERIFY(!isShown(o.form, "interval"));
         click(o.form, "primary");

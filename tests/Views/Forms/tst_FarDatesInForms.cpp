@@ -90,10 +90,10 @@ private Q_SLOTS:
             click(form, "primary");
             QVERIFY(!form.isVisible());
         }
-        const Equipment changed = onDisk(f).first();
+        const Equipment changed = onDisk(f).constFirst();
         QCOMPARE(almanac.calendar.local(changed.purchaseDate).date(), lastDay);
         QCOMPARE(almanac.calendar.local(changed.lastServiceDate).date(), firstDay);
-        QCOMPARE(onDisk(f).last(), equipment(2));
+        QCOMPARE(onDisk(f).constLast(), equipment(2));
 
         // As read back, another field is changed.
         f.equipment.loadEquipment();
@@ -105,9 +105,9 @@ private Q_SLOTS:
         type(form, "name", u"Altro nome"_s);
         click(form, "primary");
         QVERIFY(!form.isVisible());
-        QCOMPARE(onDisk(f).first().name, u"Altro nome"_s);
-        QCOMPARE(onDisk(f).first().purchaseDate, changed.purchaseDate);
-        QCOMPARE(onDisk(f).first().lastServiceDate, changed.lastServiceDate);
+        QCOMPARE(onDisk(f).constFirst().name, u"Altro nome"_s);
+        QCOMPARE(onDisk(f).constFirst().purchaseDate, changed.purchaseDate);
+        QCOMPARE(onDisk(f).constFirst().lastServiceDate, changed.lastServiceDate);
     }
 
     void storedOnesAreKeptUntouched_data() { zones(); }
@@ -130,10 +130,10 @@ private Q_SLOTS:
         type(form, "name", u"Altro nome"_s);
         click(form, "primary");
         QVERIFY(!form.isVisible());
-        QCOMPARE(onDisk(f).first().name, u"Altro nome"_s);
-        QCOMPARE(onDisk(f).first().purchaseDate, far.purchaseDate);
-        QCOMPARE(onDisk(f).first().lastServiceDate, far.lastServiceDate);
-        QCOMPARE(onDisk(f).last(), equipment(2));
+        QCOMPARE(onDisk(f).constFirst().name, u"Altro nome"_s);
+        QCOMPARE(onDisk(f).constFirst().purchaseDate, far.purchaseDate);
+        QCOMPARE(onDisk(f).constFirst().lastServiceDate, far.lastServiceDate);
+        QCOMPARE(onDisk(f).constLast(), equipment(2));
     }
 
     void aDayWithoutAnInstantIsNotSaved()
@@ -152,7 +152,7 @@ private Q_SLOTS:
         type(form, "purchaseDate", u"30/12/9999"_s);
         click(form, "primary");
         QVERIFY(!form.isVisible());
-        QCOMPARE(almanac.calendar.local(onDisk(f).first().purchaseDate).date(), QDate(9999, 12, 30));
+        QCOMPARE(almanac.calendar.local(onDisk(f).constFirst().purchaseDate).date(), QDate(9999, 12, 30));
     }
 };
 

@@ -202,7 +202,7 @@ void tst_HelpPageReading::itsTextIsReadAndSelectedFromOutside()
     int start = -1;
     int end = -1;
     text->selection(0, &start, &end);
-    QCOMPARE(QPair(start, end), QPair(0, 6));
+    QCOMPARE(std::pair(start, end), std::pair(0, 6));
     text->removeSelection(0);
     QCOMPARE(text->selectionCount(), 0);
     QCOMPARE(text->cursorPosition(), 6);
@@ -211,7 +211,7 @@ void tst_HelpPageReading::itsTextIsReadAndSelectedFromOutside()
     QVERIFY(shown.page.verticalScrollBar()->value() > 0);
     QCOMPARE(text->offsetAtPoint(text->characterRect(bold).topLeft() + QPoint(1, 3)), bold);
     QVERIFY(text->attributes(bold, &start, &end).contains(u"bold"_s));
-    QCOMPARE(QPair(start, end), QPair(bold, bold + 5));
+    QCOMPARE(std::pair(start, end), std::pair(bold, bold + 5));
     for (const int beyond : {-5, 1'000'000}) {
         text->setCursorPosition(beyond);
         text->characterRect(beyond);

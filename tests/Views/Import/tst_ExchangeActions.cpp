@@ -67,7 +67,7 @@ private Q_SLOTS:
         QCOMPARE(a.f.equipment.equipment().size(), 4);
         QCOMPARE(decodeEquipment(a.f.content(registerFile)).value(), a.f.equipment.equipment());
         QCOMPARE(a.f.generations.list().size(), kept + 1);
-        QCOMPARE(a.f.generations.list().first().occasion, Occasion::import);
+        QCOMPARE(a.f.generations.list().constFirst().occasion, Occasion::import);
         QCOMPARE(a.f.takeLog(),
                  QStringList({u"📥 Importati 3 equipaggiamenti e 0 manutenzioni"_s,
                               u"➕ Aggiunto equipaggiamento: Erogatore MK25"_s,

@@ -52,7 +52,7 @@ private Q_SLOTS:
         QTest::keyClick(&search, Qt::Key_S);
         settle();
         QCOMPARE(f.console.calls().size(), 1);
-        QCOMPARE(f.takeLog().first(), u"🔍 FILTRO ATTIVO:"_s);
+        QCOMPARE(f.takeLog().constFirst(), u"🔍 FILTRO ATTIVO:"_s);
         QTest::keyClicks(&search, u"cuba"_s);
         settle();
         QCOMPARE(f.equipment.searchText(), u"scuba"_s);
@@ -132,7 +132,7 @@ private Q_SLOTS:
         f.console.clear();
         action(menu, u"GAV"_s)->trigger();
         QVERIFY(view.refreshID() != before);
-        QCOMPARE(f.takeLog().first(), u"🖱️ Menu filtro cliccato: GAV"_s);
+        QCOMPARE(f.takeLog().constFirst(), u"🖱️ Menu filtro cliccato: GAV"_s);
         settle();
         QCOMPARE(names(view), QStringList(u"GAV Scubapro Hydros"_s));
 
@@ -168,9 +168,9 @@ private Q_SLOTS:
         auto& table = existing<EquipmentTableView>(view, "equipmentTable");
         QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, table.visualRect(table.model()->index(1, 1)).center());
         QCOMPARE(selected.size(), 1);
-        QCOMPARE(selected.takeFirst().first().value<std::optional<Equipment>>()->name, u"GAV Scubapro Hydros"_s);
+        QCOMPARE(selected.takeFirst().constFirst().value<std::optional<Equipment>>()->name, u"GAV Scubapro Hydros"_s);
         QTest::keyClick(&table, Qt::Key_Down);
-        QCOMPARE(selected.takeFirst().first().value<std::optional<Equipment>>()->name, u"Erogatore Apeks XTX50"_s);
+        QCOMPARE(selected.takeFirst().constFirst().value<std::optional<Equipment>>()->name, u"Erogatore Apeks XTX50"_s);
         // A redraw keeps the row selected and tells nobody.
         view.refresh();
         settle();

@@ -136,11 +136,11 @@ private Q_SLOTS:
         QVERIFY(!s.table.selectionModel()->hasSelection());
         QSignalSpy selected(&s.table, &EquipmentTableView::rowSelected);
         QTest::keyClick(&s.table, Qt::Key_Down);
-        QCOMPARE(selected.takeFirst().first().toInt(), 0);
+        QCOMPARE(selected.takeFirst().constFirst().toInt(), 0);
         QTest::keyClick(&s.table, Qt::Key_Down);
-        QCOMPARE(selected.takeFirst().first().toInt(), 1);
+        QCOMPARE(selected.takeFirst().constFirst().toInt(), 1);
         QTest::keyClick(&s.table, Qt::Key_Up);
-        QCOMPARE(selected.takeFirst().first().toInt(), 0);
+        QCOMPARE(selected.takeFirst().constFirst().toInt(), 0);
     }
 
     void returnSelectsAndOpensTheActionsOnTheLastCell()
@@ -150,13 +150,13 @@ private Q_SLOTS:
         QSignalSpy actions(&s.table, &EquipmentTableView::actionsRequested);
         s.makeCurrent(2);
         QTest::keyClick(&s.table, Qt::Key_Return);
-        QCOMPARE(selected.takeFirst().first().toInt(), 2);
+        QCOMPARE(selected.takeFirst().constFirst().toInt(), 2);
         QVERIFY(actions.isEmpty());
         s.table.setCurrentIndex(s.table.model()->index(2, EquipmentTableModel::ActionsColumn));
         QTest::keyClick(&s.table, Qt::Key_Space);
-        QCOMPARE(actions.takeFirst().first().toInt(), 2);
+        QCOMPARE(actions.takeFirst().constFirst().toInt(), 2);
         QTest::keyClick(&s.table, Qt::Key_F10, Qt::ShiftModifier);
-        QCOMPARE(actions.takeFirst().first().toInt(), 2);
+        QCOMPARE(actions.takeFirst().constFirst().toInt(), 2);
     }
 
     void columnsFillTheViewport_data()

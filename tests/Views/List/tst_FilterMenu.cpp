@@ -59,11 +59,11 @@ private Q_SLOTS:
         QFETCH(const QString, name);
         FilterMenu menu;
         menu.setEntries({type(name)}, std::nullopt, false);
-        QCOMPARE(entries(menu).last(), name);
-        QVERIFY(QKeySequence::mnemonic(menu.actions().last()->text()).isEmpty());
+        QCOMPARE(entries(menu).constLast(), name);
+        QVERIFY(QKeySequence::mnemonic(menu.actions().constLast()->text()).isEmpty());
         QSignalSpy chosen(&menu, &FilterMenu::typeChosen);
-        menu.actions().last()->trigger();
-        QCOMPARE(chosen.takeFirst().first().toString(), name);
+        menu.actions().constLast()->trigger();
+        QCOMPARE(chosen.takeFirst().constFirst().toString(), name);
     }
 
     void theActiveTypeIsMarked()
@@ -93,12 +93,12 @@ private Q_SLOTS:
         menu.setEntries({type(u"GAV"_s)}, std::nullopt, false);
         menu.setEntries({type(name)}, std::nullopt, false);
         QVERIFY(menu.sizeHint().width() < 450);
-        const QAction& entry = *menu.actions().last();
+        const QAction& entry = *menu.actions().constLast();
         QVERIFY(entry.text().endsWith(u'…'));
         QCOMPARE(entry.toolTip(), name);
         QSignalSpy chosen(&menu, &FilterMenu::typeChosen);
-        menu.actions().last()->trigger();
-        QCOMPARE(chosen.takeFirst().first().toString(), name);
+        menu.actions().constLast()->trigger();
+        QCOMPARE(chosen.takeFirst().constFirst().toString(), name);
     }
 
     void theButtonSaysThatAFilterIsOn()

@@ -152,8 +152,8 @@ private Q_SLOTS:
         const int width = qCeil(body.advance(u"Computer Su"_s));
         QCOMPARE(cellLines(u"Computer Suunto"_s, body, width, 2), (QStringList{u"Computer"_s, u"Suunto"_s}));
         QCOMPARE(cellLines(u"Computer"_s, body, width, 2), QStringList{u"Computer"_s});
-        QVERIFY(cellLines(u"Computer Suunto"_s, body, width, 1).first().endsWith(u'…'));
-        QVERIFY(cellLines(u"Computer Suunto di riserva"_s, body, width, 2).last().endsWith(u'…'));
+        QVERIFY(cellLines(u"Computer Suunto"_s, body, width, 1).constFirst().endsWith(u'…'));
+        QVERIFY(cellLines(u"Computer Suunto di riserva"_s, body, width, 2).constLast().endsWith(u'…'));
         const QStringList oneWord = cellLines(QString(40, u'm'), body, width, 2);
         QCOMPARE(oneWord.size(), 1);
         QVERIFY(oneWord.first().endsWith(u'…'));

@@ -97,7 +97,7 @@ private Q_SLOTS:
         const QRect sight = QRect(list.mapFrom(area.viewport(), QPoint()), area.viewport()->size()) & list.rect();
         QRegion covered;
         for (const DueRow* row : list.rows()) {
-            const int index = row->equipment().name.mid(9).toInt();
+            const int index = QStringView(row->equipment().name).mid(9).toInt();
             QCOMPARE(row->accessibleName(), u"Articolo %1, Scaduto da %1 giorni"_s.arg(index));
             QCOMPARE(row->y(), index * (dueRowHeight() + 1) + 1);
             QCOMPARE(row->width(), list.width());
@@ -172,7 +172,7 @@ private Q_SLOTS:
         expect(Qt::Key_Up, many - 2);
         expect(Qt::Key_Home, 0);
         press(Qt::Key_PageDown);
-        const int page = rowWithFocus()->equipment().name.mid(9).toInt();
+        const int page = QStringView(rowWithFocus()->equipment().name).mid(9).toInt();
         QVERIFY(page > 3);
         expect(Qt::Key_PageDown, 2 * page);
         expect(Qt::Key_PageUp, page);

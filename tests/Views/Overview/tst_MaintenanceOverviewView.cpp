@@ -190,7 +190,7 @@ private Q_SLOTS:
     {
         RegisterFixture f;
         MaintenanceOverviewView view(f.equipment, f.types, ShownOverview::makeSheet);
-        const StatCard& total = *view.findChildren<StatCard*>().first();
+        const StatCard& total = *view.findChildren<StatCard*>().constFirst();
         QCOMPARE(total.value(), QString());
         view.show();
         QCOMPARE(total.value(), u"3"_s); // before anything was painted

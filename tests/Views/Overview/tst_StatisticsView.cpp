@@ -102,7 +102,7 @@ private Q_SLOTS:
         RegisterFixture f;
         f.types.setTypes({});
         ShownStatistics s(f);
-        QCOMPARE(cardTexts(s.window).last(), u"Tipologie: 0"_s);
+        QCOMPARE(cardTexts(s.window).constLast(), u"Tipologie: 0"_s);
         QCOMPARE(s.distribution(), QStringList());
         QVERIFY(!isShown(s.window, u"noEquipment"_s));
         QCOMPARE(textOf(s.window, u"noTypes"_s), u"Nessuna tipologia trovata"_s);
@@ -200,12 +200,12 @@ private Q_SLOTS:
         settle();
         rows = s.distribution();
         QCOMPARE(rows.size(), 15);
-        QCOMPARE(cardTexts(s.window).last(), u"Tipologie: 15"_s);
+        QCOMPARE(cardTexts(s.window).constLast(), u"Tipologie: 15"_s);
         f.types.setSearchText(u"tor"_s);
         settle();
         QCOMPARE(s.distribution(), QStringList({u"Computer Subacqueo 1/3"_s, u"Erogatore 1/3"_s, u"Torcia 0/3"_s})
                                        .filter(u"tor"_s, Qt::CaseInsensitive));
-        QCOMPARE(cardTexts(s.window).last(), u"Tipologie: %1"_s.arg(s.distribution().size()));
+        QCOMPARE(cardTexts(s.window).constLast(), u"Tipologie: %1"_s.arg(s.distribution().size()));
     }
 
     void barsAreDrawnInTheColourOfTheType()
@@ -296,7 +296,7 @@ private Q_SLOTS:
     {
         RegisterFixture f;
         StatisticsView view(f.equipment, f.types);
-        const StatCard& total = *view.findChildren<StatCard*>().first();
+        const StatCard& total = *view.findChildren<StatCard*>().constFirst();
         view.show();
         QCOMPARE(total.value(), u"3"_s);
         view.hide();

@@ -169,7 +169,7 @@ private Q_SLOTS:
         QCOMPARE(s.asked, QStringList());
         QCOMPARE(decodeEquipment(f.content(registerFile)).value().size(), 2);
         QVERIFY(!s.sheet || !s.sheet->isVisible());
-        QCOMPARE(f.generations.list().first().occasion, Occasion::restoration);
+        QCOMPARE(f.generations.list().constFirst().occasion, Occasion::restoration);
     }
 
     void aStateThatIsChosenAfterwardsCounts()

@@ -45,8 +45,8 @@ private Q_SLOTS:
         QCOMPARE(s.sheet->windowTitle(), u"Ripristina"_s);
         QCOMPARE(s.states().size(), 4);
         QCOMPARE(s.chosen(), 0);
-        QVERIFY(s.states().first()->hasFocus());
-        QCOMPARE(s.states().first()->text(), u"14 giu 2026, 12:00"_s);
+        QVERIFY(s.states().constFirst()->hasFocus());
+        QCOMPARE(s.states().constFirst()->text(), u"14 giu 2026, 12:00"_s);
         QCOMPARE(textOf(*s.sheet, u"stateTitle"), u"14 giugno 2026, 12:00"_s);
         QCOMPARE(textOf(*s.sheet, u"stateSubtitle"), u"Che cosa cambia rispetto ad adesso"_s);
         QCOMPARE(s.differences(),
@@ -137,7 +137,7 @@ private Q_SLOTS:
         QCOMPARE(reader(state).text(QAccessible::Name),
                  u"1 apr 2026, 12:00, 2 articoli · 1 manutenzione, Prima di importare"_s);
         QVERIFY(!reader(state).state().checked);
-        QVERIFY(reader(*s.states().first()).state().checked);
+        QVERIFY(reader(*s.states().constFirst()).state().checked);
         QCOMPARE(reader(part(*s.sheet, u"states"_s)).role(), QAccessible::List);
         QCOMPARE(part(*s.sheet, u"differenceGroup").accessibleName(), u"Tornano: 1"_s);
         reader(state).actionInterface()->doAction(QAccessibleActionInterface::pressAction());

@@ -217,7 +217,7 @@ private Q_SLOTS:
         for (const QString& text : s.texts())
             QVERIFY2(!text.contains("aggiornament"_L1, Qt::CaseInsensitive), qPrintable(text));
         QCOMPARE(s.view->findChildren<SettingsGroupBox*>().size(), 7);
-        QVERIFY(s.information().first().startsWith("Versione: "_L1));
+        QVERIFY(s.information().constFirst().startsWith("Versione: "_L1));
         s.view->hide();
         s.view->show();
         s.click("openHelp");

@@ -101,7 +101,7 @@ private Q_SLOTS:
         f.types.deleteType(f.types.types().first());
         settle();
         QVERIFY(s.texts().contains(u"15 tipologie attive"_s));
-        QCOMPARE(s.information().last(), u"Tipologie disponibili: 15"_s);
+        QCOMPARE(s.information().constLast(), u"Tipologie disponibili: 15"_s);
     }
 
     void theWebsiteOpensOutside()

@@ -53,7 +53,7 @@ private Q_SLOTS:
         AppWindows windows({f.info, f.product}, f.opener);
         windows.openAbout();
         QCOMPARE(windowsOf<AboutView>().size(), 1);
-        QWidget* about = windowsOf<AboutView>().first();
+        QWidget* about = windowsOf<AboutView>().constFirst();
         QCOMPARE(about->windowTitle(), u"Informazioni su Abissora"_s);
         QVERIFY(about->windowFlags() & Qt::FramelessWindowHint);
         QCOMPARE(about->size(), about->sizeHint());
@@ -71,7 +71,7 @@ private Q_SLOTS:
                 f.product.manifestURL.clear();
             AppWindows windows({f.info, f.product}, f.opener);
             windows.openHelp();
-            const auto* sections = windowsOf<HelpView>().first()->findChild<QListView*>(u"helpSections"_s);
+            const auto* sections = windowsOf<HelpView>().constFirst()->findChild<QListView*>(u"helpSections"_s);
             QCOMPARE(sections->model()->rowCount(), int(HelpLoader::load().size()) - (looksForUpdates ? 0 : 1));
         }
     }
@@ -83,7 +83,7 @@ private Q_SLOTS:
         windows.openHelp();
         windows.openHelp();
         QCOMPARE(windowsOf<HelpView>().size(), 1);
-        const QWidget* help = windowsOf<HelpView>().first();
+        const QWidget* help = windowsOf<HelpView>().constFirst();
         QCOMPARE(help->windowTitle(), u"Aiuto"_s);
         QCOMPARE(help->minimumSize(), QSize(880, 640));
         QVERIFY(!(help->windowFlags() & Qt::FramelessWindowHint));
@@ -102,7 +102,7 @@ private Q_SLOTS:
         RegisterFixture f;
         AppWindows windows({f.info, f.product}, f.opener);
         windows.openHelp();
-        QWidget& help = *windowsOf<HelpView>().first();
+        QWidget& help = *windowsOf<HelpView>().constFirst();
         activate(help);
         auto& focused = part(help, place);
         focused.setFocus();
@@ -124,7 +124,7 @@ private Q_SLOTS:
         windows.openUpdate(release(u"1.3.0"_s));
         windows.openUpdate(release(u"1.3.0"_s));
         QCOMPARE(windowsOf<UpdateView>().size(), 1);
-        QCOMPARE(windowsOf<UpdateView>().first()->windowTitle(), u"Aggiornamento disponibile"_s);
+        QCOMPARE(windowsOf<UpdateView>().constFirst()->windowTitle(), u"Aggiornamento disponibile"_s);
         windows.openUpdate(release(u"1.4.0"_s));
         QCOMPARE(windowsOf<UpdateView>().size(), 2);
         UpdateInfo withNotes = release(u"1.4.0"_s);
@@ -138,7 +138,7 @@ private Q_SLOTS:
         RegisterFixture f;
         AppWindows windows({f.info, f.product}, f.opener);
         windows.openUpdate(release(u"1.3.0"_s));
-        QWidget* const offer = windowsOf<UpdateView>().first();
+        QWidget* const offer = windowsOf<UpdateView>().constFirst();
         QVERIFY(offer->testAttribute(Qt::WA_ShowWithoutActivating));
         // Where a new window has the keyboard whatever it wants.
         activate(*offer);
@@ -187,7 +187,7 @@ private Q_SLOTS:
         AppWindows windows({f.info, f.product}, f.opener);
         windows.openUpdate(release(u"1.3.0"_s));
         QSignalSpy dismissed(&windows, &AppWindows::updateDismissed);
-        press(*windowsOf<UpdateView>().first(), u"Più tardi"_s);
+        press(*windowsOf<UpdateView>().constFirst(), u"Più tardi"_s);
         QVERIFY(windowsOf<UpdateView>().isEmpty());
         QCOMPARE(dismissed.size(), 1);
         settle();
@@ -211,12 +211,12 @@ private Q_SLOTS:
         AppWindows windows({f.info, f.product}, f.opener);
         windows.openAbout();
         settle();
-        QTest::keyClick(windowsOf<AboutView>().first(), static_cast<Qt::Key>(key), modifiers);
+        QTest::keyClick(windowsOf<AboutView>().constFirst(), static_cast<Qt::Key>(key), modifiers);
         QVERIFY(windowsOf<AboutView>().isEmpty());
         settle();
         windows.openAbout();
         QCOMPARE(windowsOf<AboutView>().size(), 1);
-        QTest::mouseClick(windowsOf<AboutView>().first()->findChild<QAbstractButton*>(u"closeWindow"_s),
+        QTest::mouseClick(windowsOf<AboutView>().constFirst()->findChild<QAbstractButton*>(u"closeWindow"_s),
                           Qt::LeftButton);
         QVERIFY(windowsOf<AboutView>().isEmpty());
     }
@@ -230,7 +230,7 @@ private Q_SLOTS:
         AppWindows windows({f.info, f.product}, f.opener);
         windows.setMainWindow(&main);
         windows.openHelp();
-        const QPoint distance = windowsOf<HelpView>().first()->geometry().center() - main.geometry().center();
+        const QPoint distance = windowsOf<HelpView>().constFirst()->geometry().center() - main.geometry().center();
         QVERIFY2(distance.manhattanLength() <= 8, qPrintable(u"%1 %2"_s.arg(distance.x()).arg(distance.y())));
     }
 

@@ -45,7 +45,7 @@ QStringList cutTexts(const EquipmentTableView& table)
         return table.columnWidth(column) - TableColumns::leftPadding(column) - TableColumns::rightPadding;
     };
     const auto check = [&](const QString& text, TextStyle style, int width, int lines) {
-        if (cellLines(text, *WordWidths::of(font(style)), width, lines).last().endsWith(u'…'))
+        if (cellLines(text, *WordWidths::of(font(style)), width, lines).constLast().endsWith(u'…'))
             cut.append(text);
     };
     const auto& model = static_cast<const EquipmentTableModel&>(*table.model());

@@ -108,7 +108,7 @@ private Q_SLOTS:
         QSignalSpy tab(&view, &SidebarView::tabRequested);
         QSignalSpy changed(&view, &SidebarView::selectedSidebarItemChanged);
         clickRow(view, u"GAV"_s);
-        QCOMPARE(tab.takeFirst().first().toInt(), 0);
+        QCOMPARE(tab.takeFirst().constFirst().toInt(), 0);
         QCOMPARE(changed.size(), 1);
         QCOMPARE(view.selectedSidebarItem(), std::optional(u"type_GAV"_s));
         QCOMPARE(f.equipment.filterTypeName(), std::optional(u"GAV"_s));

@@ -161,7 +161,7 @@ private Q_SLOTS:
                    std::abs(seen.blue() - token.blue()) < 40;
         };
         QVERIFY(isNear(inkOf(*entry, usual), tokens().danger));
-        QVERIFY(isNear(inkOf(*menu.actions().first(), usual), tokens().text));
+        QVERIFY(isNear(inkOf(*menu.actions().constFirst(), usual), tokens().text));
         QVERIFY(isNear(inkOf(*entry, usual | QStyle::State_Selected), tokens().onFill));
         QVERIFY(isNear(inkOf(*entry, QStyle::State_None), tokens().disabled));
     }

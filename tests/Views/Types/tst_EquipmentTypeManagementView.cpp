@@ -191,9 +191,9 @@ private Q_SLOTS:
     {
         RegisterFixture f;
         OpenManagement o(f);
-        o.rows().first()->buttons().last()->setFocus(Qt::TabFocusReason);
+        o.rows().constFirst()->buttons().constLast()->setFocus(Qt::TabFocusReason);
         for (const TypeRow* row : o.rows()) {
-            QCOMPARE(o.sheet.focusWidget(), row->buttons().last());
+            QCOMPARE(o.sheet.focusWidget(), row->buttons().constLast());
             QCOMPARE(row->visibleRegion().boundingRect(), row->rect());
             QTest::keyClick(o.sheet.focusWidget(), Qt::Key_Down);
         }
@@ -211,7 +211,7 @@ private Q_SLOTS:
         type.serviceIntervalDays = std::numeric_limits<std::int64_t>::min();
         f.types.setTypes({type});
         OpenManagement o(f);
-        QVERIFY(visibleLabels(*o.rows().first()).contains(u"Intervallo: -9223372036854775808 giorni"_s));
+        QVERIFY(visibleLabels(*o.rows().constFirst()).contains(u"Intervallo: -9223372036854775808 giorni"_s));
     }
 
     void hundredsOfTypes()
@@ -223,7 +223,7 @@ private Q_SLOTS:
         f.types.setTypes(types);
         OpenManagement o(f);
         QVERIFY2(o.rows().size() < 40, "rows are made when they come into sight");
-        o.rows().first()->buttons().first()->setFocus(Qt::TabFocusReason);
+        o.rows().constFirst()->buttons().constFirst()->setFocus(Qt::TabFocusReason);
         const auto shows = [&o](const QString& name) {
             const TypeRow& row = o.row(name);
             return row.visibleRegion().boundingRect() == row.rect() && row.isAncestorOf(o.sheet.focusWidget());
@@ -239,13 +239,13 @@ private Q_SLOTS:
         QTest::keyClick(o.sheet.focusWidget(), Qt::Key_Home);
         QVERIFY(shows(u"Tipo 000"_s));
         o.search(u"59"_s);
-        QCOMPARE(o.names().first(), u"Tipo 059"_s);
-        QCOMPARE(o.row(u"Tipo 159"_s).y(), o.rows().first()->height());
+        QCOMPARE(o.names().constFirst(), u"Tipo 059"_s);
+        QCOMPARE(o.row(u"Tipo 159"_s).y(), o.rows().constFirst()->height());
         o.search({});
         f.types.addType(own(999, u"Zaino"_s));
         EquipmentTypeModel moved = types.first();
         moved.name = u"Verricello"_s;
-        o.rows().first()->buttons().last()->setFocus();
+        o.rows().constFirst()->buttons().constLast()->setFocus();
         f.types.updateType(moved);
         settle();
         QVERIFY(shows(u"Verricello"_s));

@@ -61,10 +61,10 @@ private Q_SLOTS:
         type(*form, "name", u"Zaino"_s);
         click(*form, "primary");
         settle();
-        QCOMPARE(o.names().last(), u"Zaino"_s);
+        QCOMPARE(o.names().constLast(), u"Zaino"_s);
         QVERIFY(!o.names().contains(u"Bussola"_s));
         const TypeRow& row = o.row(u"Zaino"_s);
-        QCOMPARE(o.sheet.focusWidget(), row.buttons().first());
+        QCOMPARE(o.sheet.focusWidget(), row.buttons().constFirst());
         QCOMPARE(row.visibleRegion().boundingRect(), row.rect()); // it was scrolled to
     }
 
@@ -115,7 +115,7 @@ private Q_SLOTS:
         RegisterFixture f;
         f.types.setTypes({own(1, u"Boa"_s), own(2, u"Boa"_s)});
         OpenManagement o(f);
-        QTest::mouseClick(o.rows().last()->buttons().last(), Qt::LeftButton);
+        QTest::mouseClick(o.rows().constLast()->buttons().constLast(), Qt::LeftButton);
         QTest::mouseClick(findDialog<Alert>(o.sheet)->destructiveButton(), Qt::LeftButton);
         QCOMPARE(f.types.types(), QList<EquipmentTypeModel>({own(1, u"Boa"_s)}));
     }
@@ -154,12 +154,12 @@ private Q_SLOTS:
         RegisterFixture f;
         f.types.setTypes({own(1, name)});
         OpenManagement o(f);
-        const auto* label = o.rows().first()->findChild<QLabel*>(u"typeName"_s);
+        const auto* label = o.rows().constFirst()->findChild<QLabel*>(u"typeName"_s);
         QCOMPARE(label->text(), name);
         QCOMPARE(label->textFormat(), Qt::PlainText);
-        for (const QAbstractButton* button : o.rows().first()->buttons())
+        for (const QAbstractButton* button : o.rows().constFirst()->buttons())
             QCOMPARE(button->size(), button->sizeHint());
-        QTest::mouseClick(o.rows().first()->buttons().last(), Qt::LeftButton);
+        QTest::mouseClick(o.rows().constFirst()->buttons().constLast(), Qt::LeftButton);
         Alert* alert = findDialog<Alert>(o.sheet);
         QCOMPARE(alert->message(), "Sei sicuro di voler eliminare la tipologia '"_L1 + name + "'?"_L1);
         QVERIFY(o.window.geometry().contains(alert->geometry()));

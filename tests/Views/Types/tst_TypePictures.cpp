@@ -77,7 +77,7 @@ private Q_SLOTS:
                      fine);
         }
         QCOMPARE(chosen, 1);
-        auto& any = *form.sheet.findChildren<DivingIconButton*>().first();
+        auto& any = *form.sheet.findChildren<DivingIconButton*>().constFirst();
         QCOMPARE(drawnFocused(any).framed(any.rect(), tokens().accentInk, 2), fine);
     }
 };
