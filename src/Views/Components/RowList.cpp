@@ -126,7 +126,7 @@ QList<int> RowList::wantedIndexes() const
     }
     wanted.removeIf([this](int index) { return index < 0 || index > lastIndex(); });
     std::ranges::sort(wanted);
-    wanted.resize(std::ranges::unique(wanted).begin() - wanted.begin());
+    wanted.resize(std::unique(wanted.begin(), wanted.end()) - wanted.begin());
     return wanted;
 }
 
