@@ -1,16 +1,10 @@
 # SPDX-License-Identifier: MIT
-# abissora_test_program(Models CLASSES tst_Equipment tst_Maintenance LINK Abissora::Models)
-# builds tests_models from one source per class and gives ctest one test per class. Windows stand on a screen of
-# 1920 x 1200.
-
-# Most of the time of compiling a test class goes into reading headers, so several share one translation unit: names in
-# their anonymous namespaces must differ, as the compiler says where they do not.
-set(ABISSORA_TEST_BATCH 4 CACHE STRING "Test classes compiled together; 1 compiles each by itself")
-
-# abissora_compile_together(TARGET) does so with the sources of a target.
+# abissora_compile_together(TARGET) compiles four sources of a target at a time where CMAKE_UNITY_BUILD asks for it: most
+# of the time of compiling a test class goes into reading headers. Names in anonymous namespaces must differ among them,
+# as the compiler says where they do not.
 function(abissora_compile_together target)
-  if(ABISSORA_TEST_BATCH GREATER 1)
-    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE ${ABISSORA_TEST_BATCH})
+  if(abissora_tests_together)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 4)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
       # A type with a member from an anonymous namespace is taken for one of a header that many include.
       target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
@@ -18,6 +12,9 @@ function(abissora_compile_together target)
   endif()
 endfunction()
 
+# abissora_test_program(Models CLASSES tst_Equipment tst_Maintenance LINK Abissora::Models)
+# builds tests_models from one source per class and gives ctest one test per class. Windows stand on a screen of
+# 1920 x 1200.
 function(abissora_test_program name)
   cmake_parse_arguments(TESTS "GUI" "" "CLASSES;SOURCES;LINK" ${ARGN})
   string(TOLOWER "tests_${name}" target)
