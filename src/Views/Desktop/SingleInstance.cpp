@@ -151,12 +151,18 @@ bool SingleInstance::anotherComesForward(const QDeadlineTimer& deadline, const Q
     socket.connectToServer(serverName());
     if (!socket.waitForConnected(left()))
         return false;
+    // The answer first: whoever has heard the wish hangs up, and an answer that came while the wish was written would
+    // be waited for in vain.
+    if (socket.bytesAvailable() == 0)
+        socket.waitForReadyRead(left());
+    char answered = 0;
+    if (!socket.getChar(&answered) || answered != answer)
+        return false;
     if (!wish.isEmpty()) {
         socket.write(QByteArray(lineForm) + ' ' + wish.toUtf8() + '\n');
         socket.waitForBytesWritten(left());
     }
-    char answered = 0;
-    return socket.waitForReadyRead(left()) && socket.getChar(&answered) && answered == answer;
+    return true;
 }
 
 QString SingleInstance::serverName() const

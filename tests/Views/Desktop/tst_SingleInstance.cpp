@@ -143,6 +143,46 @@ private Q_SLOTS:
         QTRY_COMPARE(heard, QStringList({u"come"_s, u"novità"_s, u"come"_s}));
     }
 
+    void aFirstThatAnswersAndHangsUpAtOnceIsAskedOnce()
+    {
+        QCOMPARE(m_lock->acquire(), FolderLock::Outcome::Held);
+        QString name;
+        {
+            SingleInstance first(*m_lock);
+            QCOMPARE(first.acquire(), Outcome::Ours);
+            name = first.findChild<QLocalServer*>()->fullServerName();
+        }
+        constexpr int starts = 2000;
+        std::atomic<int> asked = 0;
+        std::atomic<bool> isListening = false;
+        std::atomic<bool> isOver = false;
+        const std::unique_ptr<QThread> quickFirst(QThread::create([&] {
+            QLocalServer server;
+            server.setSocketOptions(QLocalServer::AbstractNamespaceOption);
+            isListening = server.listen(name);
+            while (!isOver) {
+                if (!server.waitForNewConnection(0))
+                    continue;
+                const std::unique_ptr<QLocalSocket> caller(server.nextPendingConnection());
+                ++asked;
+                caller->putChar('\1');
+                caller->flush();
+                caller->waitForReadyRead();
+            }
+        }));
+        quickFirst->start();
+        const auto stop = qScopeGuard([&] {
+            isOver = true;
+            quickFirst->wait();
+        });
+        QTRY_VERIFY(isListening);
+        FolderLock lock(m_folder->path());
+        SingleInstance second(lock, longPatience);
+        for (int start = 0; start < starts; ++start)
+            QCOMPARE(second.acquire(u"show-due"_s), Outcome::CameForward);
+        QCOMPARE(asked, starts);
+    }
+
     void whatIsNotUnderstoodIsNoWish_data()
     {
         QTest::addColumn<QByteArrayList>("pieces");
