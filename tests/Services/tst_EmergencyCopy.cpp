@@ -58,6 +58,31 @@ private Q_SLOTS:
         QCOMPARE(files.generations.list().constFirst().occasion, Occasion::emergency);
     }
 
+    void theSameIsKeptOnce()
+    {
+        test::TemporaryRegister files;
+        VERIFY_OK(files.preferences.setData(typesKey, "[]"));
+        files.write(u"backups"_s, "in the way");
+        files.write(test::registerFile, "of another program");
+        const auto keepWith = [&files](const char* bytes) {
+            static_cast<void>(files.preferences.setData(registerKey, bytes));
+            files.clock.advance(std::chrono::hours(24));
+            return keepEmergencyCopy(files.preferences, files.directories, files.clock).value_or(QString());
+        };
+        const QString first = keepWith("[]");
+        QVERIFY(!first.isEmpty());
+        QCOMPARE(keepWith("[]"), first);
+        const QString second = keepWith("[ ]");
+        QVERIFY(second != first);
+        QVERIFY(keepWith("[]") != first); // the latest one counts
+        files.write(u"preferences/equipmentTypes.json"_s, "[ ]");
+        const QString third = keepWith("[]");
+        QCOMPARE(statesIn(files.directories.emergency()).size(), 4);
+        QCOMPARE(keepWith("[]"), third);
+        const QDir folder(files.directories.emergency());
+        QCOMPARE(folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 4);
+    }
+
     void otherRegistersHaveTheirOwn()
     {
         const ApplicationDirectories one(u"/one"_s);
