@@ -41,7 +41,8 @@ template <HasRawValues Case>
 template <HasRawValues Case>
 [[nodiscard]] QString rawValue(Case value)
 {
-    return rawValueView(value).toString();
+    const QStringView text = rawValueView(value); // stands in the program: nothing is allocated for it
+    return QString::fromRawData(text.data(), text.size());
 }
 
 /// Exact, case- and accent-sensitive; nothing for any other text.

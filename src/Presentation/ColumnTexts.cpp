@@ -3,32 +3,39 @@
 
 #include <QSet>
 #include <algorithm>
-#include <functional>
 
 namespace abissora {
 
 namespace {
 
 /// The texts with the most letters, each once; how wide they are nobody knows here. Of a long register hardly any is
-/// copied.
-template <typename Text>
-QStringList longest(const QList<Equipment>& items, Text text)
+/// looked at: its items share their texts, or have names that are shorter than others.
+class LongestTexts
 {
-    QStringList texts; // the longest first
-    QSet<QString> known;
-    for (const Equipment& item : items) {
-        const QString& next = std::invoke(text, item);
-        const bool isFull = texts.size() == ColumnTexts::mostTexts;
-        if ((isFull && next.size() <= texts.last().size()) || known.contains(next))
-            continue;
+public:
+    void add(const QString& text)
+    {
+        const bool isFull = m_texts.size() == ColumnTexts::mostTexts;
+        if ((isFull && text.size() <= m_texts.last().size()) || m_places.contains(text.constData()))
+            return;
+        if (m_known.contains(text))
+            return;
+        m_places.insert(text.constData());
+        m_known.insert(text);
         if (isFull)
-            known.remove(texts.takeLast());
-        texts.insert(
-            std::ranges::upper_bound(std::as_const(texts), next.size(), std::ranges::greater(), &QString::size), next);
-        known.insert(next);
+            m_texts.removeLast();
+        const auto longer =
+            std::ranges::upper_bound(std::as_const(m_texts), text.size(), std::ranges::greater(), &QString::size);
+        m_texts.insert(longer, text);
     }
-    return texts;
-}
+
+    [[nodiscard]] const QStringList& texts() const { return m_texts; }
+
+private:
+    QStringList m_texts; ///< the longest first
+    QSet<QString> m_known;
+    QSet<const QChar*> m_places; ///< of the known ones in memory, found without reading them
+};
 
 /// One item for each month, on a day of two digits.
 QList<Equipment> yearOf(Equipment item)
@@ -44,17 +51,27 @@ QList<Equipment> yearOf(Equipment item)
 
 } // namespace
 
-ColumnTexts ColumnTexts::of(const QList<Equipment>& items, const EquipmentRowMaker& rows)
+ColumnTexts ColumnTexts::of(const EquipmentExcerpt& items, const EquipmentRowMaker& rows)
 {
-    ColumnTexts texts{.names = longest(items, &Equipment::name),
-                      .typeNames = longest(items, &Equipment::displayTypeName),
-                      .brands = longest(items, &Equipment::brand),
-                      .models = longest(items, &Equipment::model),
+    LongestTexts names;
+    LongestTexts typeNames;
+    LongestTexts brands;
+    LongestTexts models;
+    for (const Equipment& item : items) {
+        names.add(item.name);
+        typeNames.add(item.displayTypeName());
+        brands.add(item.brand);
+        models.add(item.model);
+    }
+    ColumnTexts texts{.names = names.texts(),
+                      .typeNames = typeNames.texts(),
+                      .brands = brands.texts(),
+                      .models = models.texts(),
                       .dates = {},
                       .abbreviatedDates = {},
                       .remaining = {}};
     const bool isShort = items.size() <= shortRegister;
-    for (const Equipment& item : isShort ? items : yearOf(items.first())) {
+    for (const Equipment& item : isShort ? items : EquipmentExcerpt(yearOf(items.first()))) {
         const EquipmentRow row = rows.row(item);
         texts.dates.append(row.nextServiceDate);
         texts.abbreviatedDates.append(row.nextServiceDateAbbreviated);

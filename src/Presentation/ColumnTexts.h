@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "EquipmentExcerpt.h"
 #include "EquipmentRow.h"
 
 #include <QStringList>
@@ -23,7 +24,7 @@ struct ColumnTexts
     QStringList abbreviatedDates;
     QStringList remaining;
 
-    [[nodiscard]] static ColumnTexts of(const QList<Equipment>& items, const EquipmentRowMaker& rows);
+    [[nodiscard]] static ColumnTexts of(const EquipmentExcerpt& items, const EquipmentRowMaker& rows);
 };
 
 } // namespace abissora

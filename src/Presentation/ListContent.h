@@ -29,7 +29,7 @@ struct ListContent
         friend bool operator==(const Narrowing&, const Narrowing&) = default;
     };
 
-    QList<Equipment> items;
+    EquipmentExcerpt items;
     std::optional<Filter> filter;
     QString offer; ///< of the button in the place of the rows
     QString shownCount;

@@ -13,7 +13,7 @@ namespace abissora {
 
 namespace {
 
-/// Positions in the catalogue, so that records are copied only once they are chosen.
+/// In the catalogue.
 using Positions = std::vector<qsizetype>;
 
 void keepTypeName(const QString& name, const QList<Equipment>& catalogue, Positions& kept, QString& log)
@@ -45,7 +45,7 @@ void keepFound(const QString& searchText, const QList<Equipment>& catalogue, Pos
     });
 }
 
-QList<Equipment> soonestDueFirst(const Positions& kept, const QList<Equipment>& catalogue)
+EquipmentExcerpt soonestDueFirst(Positions kept, const QList<Equipment>& catalogue)
 {
     // Of equal dates the one that stands first in the catalogue. Beside each other dates are compared quickest.
     std::vector<std::pair<Instant, qsizetype>> order;
@@ -54,11 +54,8 @@ QList<Equipment> soonestDueFirst(const Positions& kept, const QList<Equipment>& 
         order.emplace_back(catalogue.at(at).nextServiceDate, at);
     std::ranges::sort(order);
 
-    QList<Equipment> equipment;
-    equipment.reserve(static_cast<qsizetype>(order.size()));
-    for (const auto& [date, at] : order)
-        equipment.append(catalogue.at(at));
-    return equipment;
+    std::ranges::transform(order, kept.begin(), &std::pair<Instant, qsizetype>::second);
+    return {catalogue, kept};
 }
 
 } // namespace
@@ -85,7 +82,7 @@ FilteredEquipment apply(const EquipmentFilter& filter, const QList<Equipment>& c
         keepFound(filter.searchText, catalogue, kept, log);
     log += u"\n   📊 Risultati: "_s + QString::number(kept.size()) + u" su "_s + total;
 
-    return {soonestDueFirst(kept, catalogue), log};
+    return {soonestDueFirst(std::move(kept), catalogue), log};
 }
 
 } // namespace abissora

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Equipment.h"
-
-#include <QList>
+#include "EquipmentExcerpt.h"
 
 namespace abissora {
 
@@ -19,7 +17,7 @@ struct EquipmentFilter
 
 struct FilteredEquipment
 {
-    QList<Equipment> equipment; ///< soonest due first; catalogue order among equal dates
+    EquipmentExcerpt equipment; ///< soonest due first; catalogue order among equal dates
     QString log;                ///< the running commentary of the filtering, lines joined by line feeds
 };
 

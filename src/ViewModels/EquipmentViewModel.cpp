@@ -216,7 +216,7 @@ void EquipmentViewModel::filterByTypeName(const QString& name)
     m_console.print(u"   ✅ filterTypeName impostato a: '"_s + orNil(filterTypeName()) + u'\'');
 }
 
-QList<Equipment> EquipmentViewModel::filteredEquipment() const
+EquipmentExcerpt EquipmentViewModel::filteredEquipment() const
 {
     const auto [equipment, log] = apply(m_filter, m_equipment);
     m_console.print(log);
@@ -228,7 +228,7 @@ QList<const Equipment*> EquipmentViewModel::overdueEquipment() const
     const Instant now = m_clock.now();
     QList<const Equipment*> overdue;
     for (const Equipment& item : m_equipment) {
-        if (isDueSoon(item, item.daysUntilNextService(now, m_calendar)))
+        if (isDueSoon(item, now, m_calendar))
             overdue.append(&item);
     }
     return overdue;

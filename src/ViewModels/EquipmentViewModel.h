@@ -79,7 +79,7 @@ public:
     void filterByTypeName(const QString& name);
 
     /// What the filters leave, soonest due first. Computed and logged at every call: read it once per redraw.
-    [[nodiscard]] QList<Equipment> filteredEquipment() const;
+    [[nodiscard]] EquipmentExcerpt filteredEquipment() const;
     /// The active items due within dueThresholdDays, past ones included, in catalogue order. They stay the catalogue's,
     /// and are there until it changes: most who ask only want to know how many.
     [[nodiscard]] QList<const Equipment*> overdueEquipment() const;

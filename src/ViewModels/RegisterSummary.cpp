@@ -3,6 +3,19 @@
 
 namespace abissora {
 
+bool isDueSoon(const Equipment& item, Instant now, const Calendar& calendar)
+{
+    constexpr std::chrono::days threshold{dueThresholdDays};
+    constexpr std::chrono::days aDay{1};
+    constexpr std::chrono::days clocks{2}; // more than two local times of one instant can differ by
+    const Instant next = item.nextServiceDate;
+    if (!item.isActive || next <= now + threshold - clocks)
+        return item.isActive;
+    const bool canBeCounted = now >= firstInstant && next <= lastInstant;
+    return !(canBeCounted && next >= now + threshold + aDay + clocks) &&
+           isDueSoon(item, item.daysUntilNextService(now, calendar));
+}
+
 RegisterSummary RegisterSummary::of(const QList<Equipment>& equipment, Instant now, const Calendar& calendar)
 {
     RegisterSummary summary;

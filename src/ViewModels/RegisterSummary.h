@@ -14,6 +14,9 @@ namespace abissora {
     return item.isActive && daysUntilNextService <= dueThresholdDays;
 }
 
+/// The same of the item's own count, which is made only near the threshold.
+[[nodiscard]] bool isDueSoon(const Equipment& item, Instant now, const Calendar& calendar);
+
 /// The register in figures as it stands at one moment. They overlap: an active item with 12 days left is both due and
 /// expiring; expiring and inOrder count inactive items too; an item with 0 days left is in neither of the two.
 struct RegisterSummary

@@ -26,7 +26,7 @@ private Q_SLOTS:
         // What is due is counted in the whole register, the rest among the rows.
         f.equipment.setSearchText(u"pinne"_s);
         const ListContent one = ListContent::of(f.equipment, f.types);
-        QCOMPARE(one.items, QList<Equipment>{fins});
+        QCOMPARE(one.items, EquipmentExcerpt({fins}));
         QCOMPARE(one.shownCount, u"1 articoli"_s);
         QCOMPARE(one.dueCount, u"⚠️ 2 manutenzioni scadute"_s);
         QCOMPARE(one.activeCount, u"0 attivi"_s);

@@ -34,7 +34,7 @@ QList<Equipment> sixItems()
     };
 }
 
-QStringList namesOf(const QList<Equipment>& equipment)
+QStringList namesOf(const EquipmentExcerpt& equipment)
 {
     QStringList names;
     for (const Equipment& one : equipment)
@@ -161,13 +161,13 @@ private Q_SLOTS:
         QList<Equipment> expected = many;
         std::stable_partition(expected.begin(), expected.end(),
                               [](const Equipment& one) { return one.name.toInt() % 3 != 0; });
-        QCOMPARE(test::Catalogue(many).viewModel.filteredEquipment(), expected);
+        QCOMPARE(test::Catalogue(many).viewModel.filteredEquipment(), EquipmentExcerpt(expected));
     }
 
     void everyReadComputesAndPrintsOnce()
     {
         test::Catalogue catalogue(sixItems());
-        const QList<Equipment> first = catalogue.viewModel.filteredEquipment();
+        const EquipmentExcerpt first = catalogue.viewModel.filteredEquipment();
         QCOMPARE(catalogue.viewModel.filteredEquipment(), first);
         QCOMPARE(catalogue.console.calls().size(), 2);
         QCOMPARE(catalogue.console.calls().at(0), catalogue.console.calls().at(1));
@@ -180,7 +180,7 @@ private Q_SLOTS:
         test::Catalogue catalogue({});
         catalogue.viewModel.setFilterTypeName(u"GAV"_s);
         catalogue.console.clear();
-        QCOMPARE(catalogue.viewModel.filteredEquipment(), QList<Equipment>());
+        QVERIFY(catalogue.viewModel.filteredEquipment().isEmpty());
         QCOMPARE(catalogue.console.lines().mid(4),
                  QStringList({u"   Totale equipment: 0"_s, u"   ✅ Applico filtro per nome: 'GAV'"_s,
                               u"   📊 Risultati: 0 su 0"_s}));

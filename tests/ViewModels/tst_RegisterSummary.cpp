@@ -107,6 +107,35 @@ private Q_SLOTS:
         QCOMPARE(figures({item}), (Figures{1, 1, 1, 0, 0}));
     }
 
+    void whatIsDueIsToldAsByCounting_data()
+    {
+        QTest::addColumn<QByteArray>("zone");
+        QTest::addColumn<QString>("moment");
+        QTest::newRow("clocks change in spring") << QByteArray("Europe/Rome") << u"2026-03-01T22:30:00Z"_s;
+        QTest::newRow("clocks change in autumn") << QByteArray("Europe/Rome") << u"2026-09-26T00:30:00Z"_s;
+        QTest::newRow("a day is skipped") << QByteArray("Pacific/Apia") << u"2011-12-01T09:00:00Z"_s;
+        QTest::newRow("a day comes twice") << QByteArray("America/Juneau") << u"1867-09-18T12:00:00Z"_s;
+        QTest::newRow("the calendar begins") << QByteArray("America/New_York") << u"0001-01-01T00:00:00Z"_s;
+        QTest::newRow("the calendar ends") << QByteArray("Europe/Rome") << u"9999-11-28T12:00:00Z"_s;
+        QTest::newRow("the calendar has ended") << QByteArray("Europe/Rome") << u"9999-12-31T23:59:59Z"_s;
+    }
+
+    void whatIsDueIsToldAsByCounting()
+    {
+        QFETCH(const QByteArray, zone);
+        QFETCH(const QString, moment);
+        const Calendar calendar{QTimeZone(zone)};
+        const Instant then = at(moment.toLatin1().constData());
+        Equipment item = equipment(1);
+        for (minutes left = days(-2); left <= days(40); left += minutes(30)) {
+            for (const bool isActive : {true, false}) {
+                item.isActive = isActive;
+                item.nextServiceDate = then + left;
+                QCOMPARE(isDueSoon(item, then, calendar), isDueSoon(item, item.daysUntilNextService(then, calendar)));
+            }
+        }
+    }
+
     void dueItemsInCatalogueOrderWithTheirDays()
     {
         const QList<Equipment> all{dueIn(1, days(12)), dueIn(2, days(40)), dueIn(3, -days(5)), dueIn(4, days(3), false),

@@ -43,7 +43,7 @@ PrintedRow rowOf(const EquipmentRow& row)
 
 } // namespace
 
-PrintedPaper listOf(const QList<Equipment>& items, const ListContent::Narrowing& narrowing,
+PrintedPaper listOf(const EquipmentExcerpt& items, const ListContent::Narrowing& narrowing,
                     const EquipmentTypeViewModel& types, const Almanac& almanac)
 {
     PrintedPaper paper{

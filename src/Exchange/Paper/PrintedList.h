@@ -11,7 +11,7 @@ namespace abissora {
 namespace PrintedList {
 
 /// Items in their order, with what hides others named under the title.
-[[nodiscard]] PrintedPaper listOf(const QList<Equipment>& items, const ListContent::Narrowing& narrowing,
+[[nodiscard]] PrintedPaper listOf(const EquipmentExcerpt& items, const ListContent::Narrowing& narrowing,
                                   const EquipmentTypeViewModel& types, const Almanac& almanac);
 /// The active items that are due, as the overview lists them.
 [[nodiscard]] PrintedPaper dueOf(const RegisterSummary& summary, const EquipmentTypeViewModel& types,

@@ -6,7 +6,7 @@
 
 namespace abissora {
 
-void EquipmentTableModel::setEquipment(const QList<Equipment>& equipment, EquipmentRowMaker rows)
+void EquipmentTableModel::setEquipment(const EquipmentExcerpt& equipment, EquipmentRowMaker rows)
 {
     beginResetModel();
     m_equipment = equipment;
@@ -22,7 +22,7 @@ EquipmentRow EquipmentTableModel::row(int row) const
 int EquipmentTableModel::rowOf(const QUuid& id) const
 {
     const auto found = std::ranges::find(m_equipment, id, &Equipment::id);
-    return found == m_equipment.end() ? -1 : static_cast<int>(found - m_equipment.begin());
+    return found == m_equipment.end() ? -1 : static_cast<int>(std::distance(m_equipment.begin(), found));
 }
 
 std::optional<Equipment> EquipmentTableModel::itemOf(const QUuid& id) const

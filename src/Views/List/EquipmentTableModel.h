@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "EquipmentExcerpt.h"
 #include "EquipmentRow.h"
 
 #include <QAbstractTableModel>
 
 namespace abissora {
 
-/// The list that the catalogue gave, in its order. Rows are made when they are asked for.
+/// What the catalogue gave, in its order. Rows are made when they are asked for.
 class EquipmentTableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -18,9 +19,9 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     /// Replaces the whole content in one reset.
-    void setEquipment(const QList<Equipment>& equipment, EquipmentRowMaker rows);
+    void setEquipment(const EquipmentExcerpt& equipment, EquipmentRowMaker rows);
 
-    [[nodiscard]] const QList<Equipment>& equipment() const { return m_equipment; }
+    [[nodiscard]] const EquipmentExcerpt& equipment() const { return m_equipment; }
     [[nodiscard]] EquipmentRow row(int row) const;
     /// -1 when no row shows the item.
     [[nodiscard]] int rowOf(const QUuid& id) const;
@@ -34,7 +35,7 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    QList<Equipment> m_equipment;
+    EquipmentExcerpt m_equipment;
     std::optional<EquipmentRowMaker> m_rows;
 };
 

@@ -44,7 +44,7 @@ EquipmentTableView::EquipmentTableView(QWidget* parent)
     adjustToText();
 }
 
-void EquipmentTableView::showEquipment(const QList<Equipment>& equipment, const EquipmentRowMaker& rows,
+void EquipmentTableView::showEquipment(const EquipmentExcerpt& equipment, const EquipmentRowMaker& rows,
                                        const std::optional<QUuid>& selected)
 {
     const int scrolled = verticalScrollBar()->value();

@@ -22,7 +22,7 @@ public:
 
     /// Replaces the rows, keeping the scroll position and the current row. The row of `selected` stays selected, and in
     /// sight where it was; one that is new or holds something else comes into sight. Emits nothing about it.
-    void showEquipment(const QList<Equipment>& equipment, const EquipmentRowMaker& rows,
+    void showEquipment(const EquipmentExcerpt& equipment, const EquipmentRowMaker& rows,
                        const std::optional<QUuid>& selected);
     /// Selects the item's row, or none; emits nothing.
     void showSelected(const std::optional<QUuid>& id);
