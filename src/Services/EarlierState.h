@@ -24,6 +24,13 @@ struct EarlierState
     friend bool operator==(const EarlierState&, const EarlierState&) = default;
 };
 
+/// Whether a clock must have been wrong, the one by which the state was kept or the present one. Less than a day may
+/// be a time zone, or a clock that was set a little.
+[[nodiscard]] inline bool isAhead(Instant kept, Instant now)
+{
+    return kept > now + std::chrono::days(1);
+}
+
 /// The name of a state: the UTC time to the millisecond, so that names sort by time, and the occasion.
 [[nodiscard]] QString stateName(Instant kept, Occasion occasion);
 

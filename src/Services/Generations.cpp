@@ -78,20 +78,29 @@ IoResult<void> Generations::keepFiles(const QHash<QString, QString>& files, Occa
     for (auto file = files.cbegin(); kept && file != files.cend(); ++file)
         kept = keepFile(file.key(), *file, temporary);
 
-    // Names never go back in time, whatever the clock does.
-    Instant now = m_clock.now();
-    if (newest())
-        now = std::max(now, newest()->kept + std::chrono::milliseconds(1));
-    const QString name = stateName(now, occasion);
-    const QString target = m_directories.backups() + u'/' + name;
+    const Instant now = m_clock.now();
+    const QString target = m_directories.backups() + u'/' + freeName(now, occasion);
     kept = kept.and_then([&] { return AtomicFile::syncFolder(temporary); }).and_then([&] {
         return AtomicFile::move(temporary, target);
     });
-    if (kept)
+    if (kept) {
         m_newest = readState(target);
-    else
+        m_keptAt = now;
+    } else {
         QDir(temporary).removeRecursively();
+    }
     return kept;
+}
+
+QString Generations::freeName(Instant now, Occasion occasion) const
+{
+    // Names do not go back in time when the clock is set back a little.
+    Instant kept = now;
+    if (const auto& last = newest())
+        kept = std::max(kept, last->kept + std::chrono::milliseconds(1));
+    while (QFileInfo::exists(m_directories.backups() + u'/' + stateName(kept, occasion)))
+        kept += std::chrono::milliseconds(1);
+    return stateName(kept, occasion);
 }
 
 IoResult<void> Generations::keepFile(const QString& key, const QString& source, const QString& folder) const
@@ -130,23 +139,30 @@ bool Generations::isUnreadableKept(const QString& key) const
 
 bool Generations::isFirstOfDay() const
 {
-    return !newest() || m_calendar.local(newest()->kept).date() != m_calendar.local(m_clock.now()).date();
+    const auto& last = newest();
+    return !last || m_calendar.local(m_keptAt.value_or(last->kept)).date() != m_calendar.local(m_clock.now()).date();
 }
 
 const std::optional<EarlierState>& Generations::newest() const
 {
-    if (!std::exchange(m_hasLooked, true)) {
-        for (EarlierState& state : statesIn(m_directories.backups())) {
-            if (!m_newest || state.kept > m_newest->kept)
-                m_newest = std::move(state);
-        }
+    const Instant now = m_clock.now();
+    const bool isOutdated = (m_newest && isAhead(m_newest->kept, now)) || !isAhead(m_firstAhead, now);
+    if (!isOutdated)
+        return m_newest;
+    m_newest.reset();
+    m_firstAhead = Instant::max();
+    for (EarlierState& state : statesIn(m_directories.backups())) {
+        if (isAhead(state.kept, now))
+            m_firstAhead = std::min(m_firstAhead, state.kept);
+        else if (!m_newest || state.kept > m_newest->kept)
+            m_newest = std::move(state);
     }
     return m_newest;
 }
 
 void Generations::prune(const QString& spared)
 {
-    QStringList expired = expiredStates(sized(list()), m_calendar);
+    QStringList expired = expiredStates(sized(list()), m_calendar, m_clock.now());
     expired.removeAll(spared);
     for (const QString& name : expired) {
         // It goes at once under a name that the next start would clear away, then piece by piece.

@@ -39,9 +39,11 @@ public:
 private:
     IoResult<void> keepFiles(const QHash<QString, QString>& files, Occasion occasion);
     IoResult<void> keepFile(const QString& key, const QString& source, const QString& folder) const;
+    [[nodiscard]] QString freeName(Instant now, Occasion occasion) const;
     [[nodiscard]] bool isKept(const QHash<QString, QString>& files) const;
     [[nodiscard]] bool isUnreadableKept(const QString& key) const;
     [[nodiscard]] bool isFirstOfDay() const;
+    /// Of those that are not ahead of the clock: one of these would be the newest for years.
     [[nodiscard]] const std::optional<EarlierState>& newest() const;
     void prune(const QString& spared);
     void report(const IoResult<void>& kept);
@@ -51,8 +53,9 @@ private:
     Calendar m_calendar;
     Console& m_console;
     WritePermission& m_permission;
-    mutable bool m_hasLooked = false;
-    mutable std::optional<EarlierState> m_newest; ///< once looked for
+    mutable std::optional<EarlierState> m_newest;  ///< once looked for
+    mutable Instant m_firstAhead = Instant::min(); ///< of the states that were ahead at that look, the earliest
+    std::optional<Instant> m_keptAt;               ///< when the last one was kept here; its name may be later
     bool m_hasFailed = false;
 };
 

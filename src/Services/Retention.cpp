@@ -5,7 +5,9 @@
 
 namespace abissora {
 
-QStringList expiredStates(const QList<SizedState>& states, const Calendar& calendar, const RetentionRules& rules)
+namespace {
+
+QStringList expiredOfHistory(const QList<SizedState>& states, const Calendar& calendar, const RetentionRules& rules)
 {
     QStringList expired;
     QSet<QDate> days;
@@ -32,6 +34,18 @@ QStringList expiredStates(const QList<SizedState>& states, const Calendar& calen
         bytes += size;
     }
     return expired;
+}
+
+} // namespace
+
+QStringList expiredStates(const QList<SizedState>& states, const Calendar& calendar, Instant now,
+                          const RetentionRules& rules)
+{
+    QList<SizedState> history;
+    QList<SizedState> ahead;
+    std::ranges::partition_copy(states, std::back_inserter(ahead), std::back_inserter(history),
+                                [now](const SizedState& sized) { return isAhead(sized.state.kept, now); });
+    return expiredOfHistory(history, calendar, rules) + expiredOfHistory(ahead, calendar, rules);
 }
 
 } // namespace abissora

@@ -25,8 +25,10 @@ struct RetentionRules
 
 /// The names of the states that go: those which are not among the newest, not the last of one of the latest days with
 /// changes and not the last of a month; then the oldest until the rest keeps to the bound. Days and months are local.
-/// Copies of unreadable data and of what could not be stored never go, and do not count. `states` newest first.
-[[nodiscard]] QStringList expiredStates(const QList<SizedState>& states, const Calendar& calendar,
+/// Copies of unreadable data and of what could not be stored never go, and do not count. States that are ahead of `now`
+/// are judged by themselves, by the same rules: they take no place of the others, and after a clock was set back they
+/// are the history. `states` newest first.
+[[nodiscard]] QStringList expiredStates(const QList<SizedState>& states, const Calendar& calendar, Instant now,
                                         const RetentionRules& rules = {});
 
 } // namespace abissora

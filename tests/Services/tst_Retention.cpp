@@ -9,11 +9,12 @@ using namespace abissora;
 
 namespace {
 
+const Instant now = test::at("2026-11-21T18:00:00Z");
+
 /// One state every so many hours, newest first.
-QList<SizedState> history(int count, std::chrono::hours apart, qint64 bytes = 1)
+QList<SizedState> history(int count, std::chrono::hours apart, qint64 bytes = 1, Instant kept = now)
 {
     QList<SizedState> states;
-    Instant kept = test::at("2026-11-21T18:00:00Z");
     for (int i = 0; i < count; ++i, kept -= apart) {
         EarlierState state;
         state.kept = kept;
@@ -28,7 +29,7 @@ const Calendar rome{QTimeZone("Europe/Rome")};
 
 QStringList keptNames(const QList<SizedState>& states, const RetentionRules& rules = {})
 {
-    const QStringList expired = expiredStates(states, rome, rules);
+    const QStringList expired = expiredStates(states, rome, now, rules);
     QStringList kept;
     for (const SizedState& sized : states) {
         if (!expired.contains(sized.state.name))
@@ -47,7 +48,7 @@ private Q_SLOTS:
     void theNewestTwentyStay()
     {
         const auto minutes = history(20, std::chrono::hours(0));
-        QCOMPARE(expiredStates(minutes, rome), QStringList());
+        QCOMPARE(expiredStates(minutes, rome, now), QStringList());
     }
 
     void ofOlderOnesTheLastOfEachDay()
@@ -96,6 +97,33 @@ private Q_SLOTS:
     void threeStayHoweverLarge()
     {
         QCOMPARE(keptNames(history(20, std::chrono::hours(1), 1000), {.bytes = 75}).size(), 3);
+    }
+
+    void whatIsAheadTakesNoPlace()
+    {
+        const QList<SizedState> ahead = history(40, std::chrono::hours(1), 10, test::at("2099-01-31T20:00:00Z"));
+        // Years of saves, three a day, each followed by a look at what expires.
+        QList<SizedState> with = ahead;
+        QList<SizedState> without;
+        for (int day = 0; day < 400; ++day) {
+            for (const int hour : {8, 12, 16}) {
+                EarlierState state;
+                state.kept = now + std::chrono::hours(24 * day + hour);
+                state.name = stateName(state.kept, state.occasion);
+                for (QList<SizedState>* all : {&with, &without}) {
+                    all->append({state, 10});
+                    std::ranges::sort(*all, std::greater(), [](const SizedState& s) { return s.state.kept; });
+                    const QStringList expired = expiredStates(*all, rome, state.kept, {.bytes = 800});
+                    all->removeIf([&](const SizedState& s) { return expired.contains(s.state.name); });
+                }
+            }
+        }
+        QVERIFY(without.size() > 20 + 20);
+        QStringList names;
+        for (const SizedState& sized : with)
+            names.append(sized.state.name);
+        QCOMPARE(names.first(21).last(), ahead.at(22).state.name); // among themselves by the same rules
+        QCOMPARE(names.sliced(21), keptNames(without));
     }
 
     void whatCouldNotBeReadOrStoredStays()
