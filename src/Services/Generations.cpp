@@ -5,6 +5,7 @@
 #include "FileIdentity.h"
 #include "Literals.h"
 #include "Retention.h"
+#include "StateContent.h"
 #include "StateFiles.h"
 
 #include <QDir>
@@ -65,7 +66,11 @@ IoResult<void> Generations::keep(Occasion occasion, const QString& spared)
     const QHash<QString, QString> files = storedFiles(m_directories.preferences());
     // Before the register is first stored there is nothing that one would go back to.
     const bool isWorth = files.contains(registerKey) || occasion >= Occasion::unknownMembers;
-    if (files.isEmpty() || !isWorth || isKept(files))
+    // What another program may have written nobody has tried to read yet.
+    const bool isUnknown = occasion == Occasion::foreignBytes || occasion == Occasion::restoration;
+    if (isUnknown && holdsUnreadable(files))
+        occasion = Occasion::unreadable;
+    if (files.isEmpty() || !isWorth || isKept(files, occasion))
         return {};
     return keepFiles(files, occasion).map([&] { prune(spared); });
 }
@@ -119,13 +124,22 @@ IoResult<void> Generations::keepFile(const QString& key, const QString& source, 
     return copied;
 }
 
-bool Generations::isKept(const QHash<QString, QString>& files) const
+bool Generations::holdsUnreadable(const QHash<QString, QString>& files) const
 {
-    if (!newest() || newest()->files.size() != files.size())
-        return false;
-    return std::ranges::all_of(files.keys(), [&](const QString& key) {
-        return newest()->files.contains(key) && haveSameBytes(newest()->files.value(key), files.value(key));
+    return std::ranges::any_of(files.keys(), [&](const QString& key) {
+        return !canBeDecoded(key, files.value(key)) && !isUnreadableKept(key);
     });
+}
+
+bool Generations::isKept(const QHash<QString, QString>& files, Occasion occasion) const
+{
+    const auto& last = newest();
+    // A state of another occasion goes some day.
+    if (!last || (occasion == Occasion::unreadable && last->occasion != Occasion::unreadable))
+        return false;
+    return last->files.size() == files.size() && std::ranges::all_of(files.keys(), [&](const QString& key) {
+               return last->files.contains(key) && haveSameBytes(last->files.value(key), files.value(key));
+           });
 }
 
 bool Generations::isUnreadableKept(const QString& key) const

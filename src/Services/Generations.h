@@ -26,8 +26,9 @@ public:
     /// until one could be kept again.
     [[nodiscard]] IoResult<void> beforeWriting(const QString& key, Occasion occasion) override;
 
-    /// Keeps the present files. Nothing happens when nothing is stored, or when the newest state is just this one. The
-    /// state called `spared` is not dropped this time.
+    /// Keeps the present files. Nothing happens when nothing is stored, or when the newest state is just this one. What
+    /// another program left unreadable becomes a state of Occasion::unreadable. The state called `spared` is not
+    /// dropped this time.
     IoResult<void> keep(Occasion occasion, const QString& spared = {});
     /// Not twice the same bytes.
     [[nodiscard]] IoResult<void> keepUnreadable(const QString& key) override;
@@ -40,7 +41,9 @@ private:
     IoResult<void> keepFiles(const QHash<QString, QString>& files, Occasion occasion);
     IoResult<void> keepFile(const QString& key, const QString& source, const QString& folder) const;
     [[nodiscard]] QString freeName(Instant now, Occasion occasion) const;
-    [[nodiscard]] bool isKept(const QHash<QString, QString>& files) const;
+    /// Of which there is no copy yet that stays.
+    [[nodiscard]] bool holdsUnreadable(const QHash<QString, QString>& files) const;
+    [[nodiscard]] bool isKept(const QHash<QString, QString>& files, Occasion occasion) const;
     [[nodiscard]] bool isUnreadableKept(const QString& key) const;
     [[nodiscard]] bool isFirstOfDay() const;
     /// Of those that are not ahead of the clock: one of these would be the newest for years.

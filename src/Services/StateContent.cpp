@@ -49,6 +49,14 @@ qsizetype StateContent::maintenanceCount() const
     return count;
 }
 
+bool canBeDecoded(const QString& key, const QString& path)
+{
+    if (key != registerKey && key != typesKey)
+        return true;
+    const auto bytes = AtomicFile::read(path);
+    return bytes && (key == registerKey ? decodeEquipment(*bytes).has_value() : decodeTypes(*bytes).has_value());
+}
+
 StateContent readContent(const EarlierState& state)
 {
     return readFiles(state.files);

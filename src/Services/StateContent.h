@@ -28,6 +28,9 @@ struct StateContent
     [[nodiscard]] bool isWhole() const { return !equipment.error && !types.error; }
 };
 
+/// Whether the owner of the key's data could read the file. True of every setting: one that means nothing is absent.
+[[nodiscard]] bool canBeDecoded(const QString& key, const QString& path);
+
 [[nodiscard]] StateContent readContent(const EarlierState& state);
 /// Of the register itself, as it is stored at this moment.
 [[nodiscard]] StateContent readPresentContent(const ApplicationDirectories& directories);

@@ -106,10 +106,10 @@ private Q_SLOTS:
     {
         test::TemporaryRegister files;
         VERIFY_OK(files.preferences.setData(key, "1"));
-        files.write(test::registerFile, "of a sync tool");
+        files.write(test::registerFile, "[ ]"); // of a sync tool
         VERIFY_OK(files.preferences.setData(key, "2"));
         QCOMPARE(occasions(files), QList{Occasion::foreignBytes});
-        QCOMPARE(bytesOf(files.generations.list().constFirst()), QByteArray("of a sync tool"));
+        QCOMPARE(bytesOf(files.generations.list().constFirst()), QByteArray("[ ]"));
     }
 
     void whatStaysIsNoSecondNameOfTheStoredFile()
@@ -140,11 +140,11 @@ private Q_SLOTS:
             const test::FileSizeLimit limit(100);
             static_cast<void>(files.preferences.setData(key, QByteArray(1000, 'x'), Occasion::deletedRecord));
         }
-        files.write(test::registerFile, "foreign"); // in place
+        files.write(test::registerFile, "[ ]"); // in place
         QCOMPARE(bytesOf(files.generations.list().at(0)), QByteArray(100, '1'));
         QCOMPARE(files.preferences.retry(), QStringList{key});
         QCOMPARE(occasions(files), (QList{Occasion::foreignBytes, Occasion::deletedRecord}));
-        QCOMPARE(bytesOf(files.generations.list().at(0)), QByteArray("foreign"));
+        QCOMPARE(bytesOf(files.generations.list().at(0)), QByteArray("[ ]"));
         QCOMPARE(bytesOf(files.generations.list().at(1)), QByteArray(100, '1'));
     }
 

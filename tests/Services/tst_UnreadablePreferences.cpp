@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "FailingCalls.h"
 #include "FileSizeLimit.h"
 #include "IoChecks.h"
+#include "Restoration.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
 #include "UnreadableCopy.h"
@@ -81,6 +83,90 @@ private Q_SLOTS:
         QVERIFY(files.content(copy) == broken);
     }
 
+    void whatAnotherProgramLeftUnreadableIsKeptForEver_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::newRow("register") << registerKey;
+        QTest::newRow("types") << typesKey;
+    }
+
+    void whatAnotherProgramLeftUnreadableIsKeptForEver()
+    {
+        QFETCH(QString, key);
+        test::TemporaryRegister files;
+        for (const QString& stored : {registerKey, typesKey})
+            VERIFY_OK(files.preferences.setData(stored, "[]"));
+        const QString file = u"preferences/%1.json"_s.arg(key);
+        files.write(file, "of a sync tool");
+        VERIFY_OK(files.preferences.setData(key, "[ ]"));
+        const QString kept = u"backups/%1/%2.json"_s.arg(unreadableStates(files).value(0), key);
+        QCOMPARE(files.content(kept), QByteArray("of a sync tool"));
+        for (int i = 0; i < 25; ++i)
+            VERIFY_OK(files.preferences.setData(registerKey, "[" + QByteArray(i, ' ') + "]", Occasion::deletedItem));
+        QCOMPARE(unreadableStates(files).size(), 1);
+        QCOMPARE(files.content(kept), QByteArray("of a sync tool"));
+    }
+
+    void whatIsKeptForEverIsForeignOnly()
+    {
+        test::TemporaryRegister files;
+        files.write(test::registerFile, "{broken");
+        VERIFY_OK(files.preferences.preserveUnreadable(key));
+        VERIFY_OK(files.preferences.setData(typesKey, "[]"));
+        files.write(test::typesFile, "[ ]");
+        VERIFY_OK(files.preferences.setData(typesKey, "[]"));
+        QCOMPARE(files.names(backups),
+                 QStringList({u"20260615T100000.000Z-unreadable"_s, u"20260615T100000.001Z-foreign"_s}));
+    }
+
+    /// The register was saved meanwhile, and a state of that holds them too.
+    void aStateThatGoesIsNoCopy()
+    {
+        test::TemporaryRegister files;
+        VERIFY_OK(files.preferences.setData(key, "[]"));
+        VERIFY_OK(files.preferences.setData(typesKey, "[]"));
+        files.write(test::typesFile, "of a sync tool");
+        VERIFY_OK(files.generations.keep(Occasion::deletedItem));
+        VERIFY_OK(files.preferences.setData(typesKey, "[]"));
+        QCOMPARE(unreadableStates(files).size(), 1);
+    }
+
+    void aRestorationKeepsItForEverToo()
+    {
+        test::TemporaryRegister files;
+        VERIFY_OK(files.preferences.setData(key, "[]"));
+        VERIFY_OK(files.generations.keep(Occasion::deletedItem));
+        const EarlierState state = files.generations.list().constFirst();
+        files.write(test::registerFile, "of a sync tool");
+        VERIFY_OK(Restoration(files.directories, files.generations).restore(state));
+        QCOMPARE(files.content(test::registerFile), QByteArray("[]"));
+        QCOMPARE(unreadableStates(files).size(), 1);
+    }
+
+    void aProcessThatEndedBeforeItsSaveLeavesTheCopy()
+    {
+        test::TemporaryRegister files;
+        VERIFY_OK(files.preferences.setData(key, "[]"));
+        files.write(test::registerFile, "of a sync tool");
+        {
+            const test::FailingCalls calls("rename@1+=EIO", files.directories.preferences());
+            VERIFY_FAILED(files.preferences.setData(key, "[ ]"), EIO);
+        }
+        const QStringList left = unreadableStates(files);
+        QCOMPARE(left.size(), 1);
+        VERIFY_OK(PreferencesStore(files.directories.preferences(), files.generations).preserveUnreadable(key));
+        QCOMPARE(unreadableStates(files), left);
+    }
+
+    void ofAForeignStateOfAnEarlierVersionTheStartMakesACopy()
+    {
+        test::TemporaryRegister files;
+        files.write(test::registerFile, "of a sync tool");
+        files.write(u"backups/20260614T100000.000Z-foreign/savedEquipment.json"_s, "of a sync tool");
+        VERIFY_OK(files.preferences.preserveUnreadable(key));
+        QCOMPARE(files.content(copy), QByteArray("of a sync tool"));
+    }
+
     void withoutACopyNothingIsOverwritten()
     {
         test::TemporaryRegister files;
@@ -94,6 +180,12 @@ private Q_SLOTS:
         VERIFY_OK(files.preferences.setData(key, "[]")); // kept first, then written
         QCOMPARE(files.content(copy), QByteArray("{broken"));
         QCOMPARE(files.content(test::registerFile), QByteArray("[]"));
+    }
+
+private:
+    static QStringList unreadableStates(const test::TemporaryRegister& files)
+    {
+        return files.names(backups).filter(u"-unreadable"_s);
     }
 };
 
