@@ -64,8 +64,9 @@ std::optional<EarlierState> Generations::find(const QString& name) const
 IoResult<void> Generations::keep(Occasion occasion, const QString& spared)
 {
     const QHash<QString, QString> files = storedFiles(m_directories.preferences());
-    // Before the register is first stored there is nothing that one would go back to.
-    const bool isWorth = files.contains(registerKey) || occasion >= Occasion::unknownMembers;
+    // Before the register is first stored there is nothing that one would go back to, but the types that a person made.
+    const bool isOfTypes = occasion >= Occasion::deletedType && files.contains(typesKey);
+    const bool isWorth = files.contains(registerKey) || isOfTypes || occasion >= Occasion::unknownMembers;
     // What another program may have written nobody has tried to read yet.
     const bool isUnknown = occasion == Occasion::foreignBytes || occasion == Occasion::restoration;
     if (isUnknown && holdsUnreadable(files))

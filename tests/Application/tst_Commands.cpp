@@ -39,6 +39,24 @@ private Q_SLOTS:
         QCOMPARE(files.generations.list().constFirst().occasion, Occasion::restoration);
     }
 
+    void aStateOfTypesAloneIsListedAndRestored()
+    {
+        test::TemporaryRegister files;
+        const QByteArray types = encode(QList{test::equipmentType(1, u"Faro"_s)}).value();
+        static_cast<void>(files.preferences.setData(typesKey, types));
+        static_cast<void>(files.preferences.setData(typesKey, "[]", Occasion::typesReset));
+        const QString name = files.generations.list().value(0).name;
+        const Outcome listed = run(files, {u"--list-states"_s});
+        QVERIFY(listed.out.startsWith(name + u'\t'));
+        QVERIFY(listed.out.endsWith(u"tipologie: 1 su 1\n"_s));
+        const Outcome answer = run(files, {u"--restore"_s, name});
+        QCOMPARE(answer.status, exitStatus::done);
+        QCOMPARE(files.content(test::typesFile), types);
+        QCOMPARE(files.names(u"preferences"_s), QStringList{u"equipmentTypes.json"_s});
+        // What was there before can come back too.
+        QCOMPARE(files.generations.list().size(), 2);
+    }
+
     void anUnknownStateIsRefused()
     {
         test::TemporaryRegister files;

@@ -294,6 +294,9 @@ private Q_SLOTS:
         f.write(u"backups/20260601T100000.000Z-foreign/darkMode.json"_s, "false");
         QCOMPARE(texts(f), (QStringList{u"Tipologie che spariscono 1: "_s + f.types.types().first().name,
                                         u"Impostazioni 1: Cambiano, Modalità Scura: sì → no"_s}));
+        RestoreContent content = contentOf(f);
+        QCOMPARE(readRow(content, 0).counts, u"15 tipologie"_s);
+        QVERIFY(comparison(content, 0).canBeRestored);
     }
 
     void groupsBeginOnce()

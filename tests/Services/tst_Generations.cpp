@@ -39,10 +39,33 @@ private Q_SLOTS:
     void nothingStoredIsNotKept()
     {
         test::TemporaryRegister files;
-        VERIFY_OK(files.preferences.setData(typesKey, "[]", Occasion::typesReset));
         VERIFY_OK(files.preferences.setBoolean(u"darkMode"_s, true));
+        VERIFY_OK(files.preferences.setData(typesKey, "[]", Occasion::typesReset));
+        VERIFY_OK(files.preferences.setData(typesKey, "[ ]"));
         VERIFY_OK(files.preferences.setData(key, "1", Occasion::deletedItem));
         QCOMPARE(files.generations.list(), QList<EarlierState>());
+    }
+
+    void typesAreKeptBeforeARegisterIsStored_data()
+    {
+        QTest::addColumn<Occasion>("occasion");
+        QTest::newRow("deleted") << Occasion::deletedType;
+        QTest::newRow("reset") << Occasion::typesReset;
+        QTest::newRow("migrated") << Occasion::iconsMigrated;
+        QTest::newRow("import") << Occasion::import;
+        QTest::newRow("restoration") << Occasion::restoration;
+    }
+
+    void typesAreKeptBeforeARegisterIsStored()
+    {
+        QFETCH(Occasion, occasion);
+        test::TemporaryRegister files;
+        VERIFY_OK(files.preferences.setData(typesKey, "[]"));
+        VERIFY_OK(files.preferences.setData(typesKey, "[ ]", occasion));
+        QCOMPARE(occasions(files), QList{occasion});
+        const EarlierState state = files.generations.list().constFirst();
+        QCOMPARE(state.files.keys(), QStringList{typesKey});
+        QCOMPARE(bytesOf(state, typesKey), QByteArray("[]"));
     }
 
     void theFirstChangeOfADay()

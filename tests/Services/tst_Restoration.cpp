@@ -127,6 +127,23 @@ private Q_SLOTS:
         QCOMPARE(files.content(u"preferences/iconSetVersion.json"_s), QByteArray("4"));
     }
 
+    void aStateOfTypesLeavesTheRegisterAndTheSettings()
+    {
+        test::TemporaryRegister files;
+        const QByteArray types = encode(QList{test::equipmentType(1, u"Faro"_s)}).value();
+        VERIFY_OK(files.preferences.setData(typesKey, types));
+        VERIFY_OK(files.preferences.setData(typesKey, "[]", Occasion::typesReset));
+        VERIFY_OK(files.preferences.setData(registerKey, registerOf(1)));
+        VERIFY_OK(files.preferences.setBoolean(u"darkMode"_s, true));
+        const EarlierState state = files.generations.list().constLast();
+        QCOMPARE(readContent(state).types.records.size(), 1);
+        QVERIFY(readContent(state).isWhole());
+        VERIFY_OK(restore(files, state));
+        QCOMPARE(files.content(test::typesFile), types);
+        QCOMPARE(files.content(test::registerFile), registerOf(1));
+        QCOMPARE(files.content(darkMode), QByteArray("true"));
+    }
+
     void whatWasInterruptedIsCompletedAtTheNextStart()
     {
         test::TemporaryRegister files;

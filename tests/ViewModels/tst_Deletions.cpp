@@ -132,6 +132,18 @@ private Q_SLOTS:
         QCOMPARE(readContent(newest()).types.records.size(), 15);
     }
 
+    void typesOfANewRegister()
+    {
+        m_files.emplace();
+        FakeTypes types(*m_files);
+        QCOMPARE(m_files->generations.list(), QList<EarlierState>());
+        const EquipmentTypeModel added = test::equipmentType(77, u"Scooter"_s);
+        types.model.addType(added);
+        types.model.resetToDefaults();
+        QCOMPARE(newest().occasion, Occasion::typesReset);
+        QVERIFY(readContent(newest()).types.records.contains(added));
+    }
+
     void whatThisVersionDoesNotKnow()
     {
         const QByteArray strange =
