@@ -19,6 +19,8 @@ namespace {
 QString counts(const StateContent& content)
 {
     const auto& [isStored, records, total, error] = content.equipment;
+    if (content.isEmpty())
+        return u"niente di leggibile"_s;
     if (error)
         return u"leggibili %1 articoli su %2"_s.arg(QString::number(records.size()), QString::number(total));
     if (isStored)

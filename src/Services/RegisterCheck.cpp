@@ -82,6 +82,8 @@ QString problemOf(const EarlierState& state)
     const StateContent content = readContent(state);
     if (content.isWhole())
         return {};
+    if (content.isEmpty())
+        return u"stato %1: senza articoli né tipologie"_s.arg(state.name);
     const bool ofTypes = !content.equipment.error.has_value();
     return u"stato %1: leggibili %2 %3 su %4"_s.arg(
         state.name, QString::number(ofTypes ? content.types.records.size() : content.equipment.records.size()),

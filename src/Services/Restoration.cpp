@@ -44,6 +44,8 @@ Restoration::Restoration(ApplicationDirectories directories, Generations& genera
 
 IoResult<RestorableFiles> Restoration::read(const EarlierState& state)
 {
+    if (!state.files.contains(registerKey) && !state.files.contains(typesKey))
+        return tl::unexpected(IoError{u"It holds neither a register nor types"_s});
     // Types that cannot be read are no reason to leave the register.
     const QString main = state.files.contains(registerKey) ? registerKey : typesKey;
     RestorableFiles files;

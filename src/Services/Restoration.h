@@ -22,7 +22,7 @@ public:
     [[nodiscard]] IoResult<void> restore(const EarlierState& state);
     /// Likewise, with what was read of the state or of one with the same files.
     [[nodiscard]] IoResult<void> restore(const EarlierState& state, const RestorableFiles& files);
-    /// On any thread. Fails where nothing can be read of the list that matters.
+    /// On any thread. Fails where nothing can be read of the list that matters, or where there is neither.
     [[nodiscard]] static IoResult<RestorableFiles> read(const EarlierState& state);
 
     /// Completes what a process that ended in the middle has begun. Before anything is read.

@@ -25,7 +25,9 @@ struct StateContent
 
     /// Of all items that can be read.
     [[nodiscard]] qsizetype maintenanceCount() const;
-    [[nodiscard]] bool isWhole() const { return !equipment.error && !types.error; }
+    /// Nothing comes of restoring such a state.
+    [[nodiscard]] bool isEmpty() const { return !equipment.isStored && !types.isStored; }
+    [[nodiscard]] bool isWhole() const { return !isEmpty() && !equipment.error && !types.error; }
 };
 
 /// Whether the owner of the key's data could read the file. True of every setting: one that means nothing is absent.

@@ -57,6 +57,21 @@ private Q_SLOTS:
         QCOMPARE(files.generations.list().size(), 2);
     }
 
+    void anEmptyStateIsRefused()
+    {
+        test::TemporaryRegister files;
+        keepOne(files);
+        const QString name = u"20250102T030405.000Z-deleted-item"_s;
+        QVERIFY(QDir().mkpath(files.path(u"backups/"_s + name)));
+        const QMap<QString, QByteArray> before = everything(files);
+        const Outcome answer = run(files, {u"--restore"_s, name});
+        QCOMPARE(answer.status, exitStatus::badData);
+        QVERIFY(answer.error.startsWith(u"Non è stato possibile ripristinare «%1»: "_s.arg(name)));
+        QCOMPARE(answer.out, QString());
+        QCOMPARE(everything(files), before);
+        QVERIFY(run(files, {u"--list-states"_s}).out.endsWith(u"\tniente di leggibile\n"_s));
+    }
+
     void anUnknownStateIsRefused()
     {
         test::TemporaryRegister files;

@@ -150,6 +150,7 @@ private Q_SLOTS:
         QCOMPARE(row.counts, u"Niente di leggibile"_s);
         QCOMPARE(row.symbol, u"exclamationmark.triangle.fill"_s);
         QVERIFY(row.isWarning);
+        QCOMPARE(EarlierStateRow::of(state("2026-11-14T16:50:00Z"), StateContent(), rome.almanac()), row);
     }
 
     void whatCanBeRestored()

@@ -83,9 +83,11 @@ private Q_SLOTS:
         const QByteArray damaged = encode(QList{test::equipment(1), test::equipment(2)}).value().chopped(20);
         files.write(u"backups/20260101T000000.000Z-unreadable/savedEquipment.json"_s, damaged);
         files.write(u"backups/20260102T000000.000Z-deleted-item/savedEquipment.json"_s, "[]");
+        QVERIFY(QDir().mkpath(files.path(u"backups/20260103T000000.000Z-import"_s)));
         const CheckReport report = checkRegister(files.directories);
-        QCOMPARE(report.problems, QStringList{u"stato 20260101T000000.000Z-unreadable: leggibili 1 articoli su 2"_s});
-        QVERIFY(report.summary.endsWith(u"2 stati precedenti"_s));
+        QCOMPARE(report.problems, QStringList({u"stato 20260101T000000.000Z-unreadable: leggibili 1 articoli su 2"_s,
+                                               u"stato 20260103T000000.000Z-import: senza articoli né tipologie"_s}));
+        QVERIFY(report.summary.endsWith(u"3 stati precedenti"_s));
     }
 };
 

@@ -103,6 +103,20 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo::exists(files.path(journal)));
     }
 
+    void aStateOfNeitherListChangesNothing()
+    {
+        test::TemporaryRegister files;
+        VERIFY_OK(files.preferences.setData(registerKey, registerOf(1)));
+        QVERIFY(QDir().mkpath(files.path(u"backups/20250102T030405.000Z-deleted-item"_s)));
+        files.write(u"backups/20250102T030405.001Z-foreign/darkMode.json"_s, "true");
+        for (const EarlierState& state : files.generations.list()) {
+            QVERIFY(!readContent(state).isWhole());
+            QVERIFY(!restore(files, state));
+        }
+        QCOMPARE(files.generations.list().size(), 2);
+        QCOMPARE(files.names(u"preferences"_s), QStringList{u"savedEquipment.json"_s});
+    }
+
     void aCopyOfAnEarlierVersionTouchesItsListOnly()
     {
         test::TemporaryRegister files;
