@@ -72,8 +72,7 @@ void MarevoloApp::showMainWindow()
         // After the first paint: connecting takes its time.
         if (!std::exchange(m_hasStarted, true))
             QMetaObject::invokeMethod(this, &MarevoloApp::checkForUpdatesAtStart, Qt::QueuedConnection);
-        QMetaObject::invokeMethod(
-            this, [this] { m_archive.purge(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &MarevoloApp::purgeArchive, Qt::QueuedConnection);
         return;
     }
     bringForward(window);
@@ -127,6 +126,20 @@ QCoro::Task<> MarevoloApp::readAnew()
     static_cast<void>(co_await m_work.run({}, reading, std::make_shared<WorkProgress>()));
     if (alive)
         Q_EMIT restored(ahead);
+}
+
+QCoro::Task<> MarevoloApp::purgeArchive()
+{
+    const auto old = std::make_shared<OldDocuments>(m_archive.oldDocuments());
+    if (old->paths.isEmpty())
+        co_return;
+    const QPointer<MarevoloApp> alive(this);
+    const auto progress = std::make_shared<WorkProgress>();
+    const LongWork::Function reading = [old](WorkProgress& of) { return DocumentArchive::strikeOffNamed(*old, of); };
+    const QString nothingToShow;
+    const IoResult<void> read = co_await m_work.run(nothingToShow, reading, progress);
+    if (alive && read && !progress->isCancelled())
+        m_archive.remove(*old);
 }
 
 void MarevoloApp::settleSaves()

@@ -64,6 +64,7 @@ Q_SIGNALS:
 private:
     QCoro::Task<> checkForUpdatesAtStart();
     QCoro::Task<> readAnew();
+    QCoro::Task<> purgeArchive();
     void comeForward();
     [[nodiscard]] IoResult<void> restoreCopy(const UnpackedArchive& copy, const RestorableFiles& files,
                                              WritePermission& permission);

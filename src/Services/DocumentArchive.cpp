@@ -9,6 +9,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QRegularExpression>
+#include <cerrno>
 
 namespace abissora {
 
@@ -29,14 +30,6 @@ QString stamp(Instant instant)
 QStringList filesIn(const QString& folder)
 {
     return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);
-}
-
-/// Whether any state still names the document. Names are plain ASCII, so the bytes tell; a text that only happens to
-/// hold the name keeps the document longer than needed.
-bool isNamed(const QString& name, const QList<QByteArray>& registers)
-{
-    const QByteArray uuid = name.left(uuidLength).toLatin1();
-    return std::ranges::any_of(registers, [&uuid](const QByteArray& json) { return json.contains(uuid); });
 }
 
 } // namespace
@@ -95,27 +88,63 @@ void DocumentArchive::settle(const QSet<QString>& named) const
     }
 }
 
-void DocumentArchive::purge() const
+OldDocuments DocumentArchive::oldDocuments() const
 {
+    OldDocuments old;
+    if (!m_permission.mayWrite())
+        return old;
     const QHash<QString, Entry> inArchive = entries();
-    const auto isOld = [this](const Entry& entry) { return entry.archived + leastStay <= m_clock.now(); };
-    if (!m_permission.mayWrite() || std::ranges::none_of(inArchive, isOld))
-        return;
-    QList<QByteArray> registers;
-    QStringList files{storedFiles(m_directories.preferences()).value(registerKey)};
-    for (const EarlierState& state : statesIn(m_directories.backups()) + statesIn(m_directories.emergency()))
-        files.append(state.files.value(registerKey));
-    files.removeAll(QString());
-    for (const QString& file : std::as_const(files)) {
-        const auto bytes = AtomicFile::read(file);
-        if (!bytes)
-            return; // nobody knows what it names
-        registers.append(*bytes);
-    }
     for (auto entry = inArchive.cbegin(); entry != inArchive.cend(); ++entry) {
-        if (isOld(*entry) && isDocumentName(entry.key()) && !isNamed(entry.key(), registers))
-            static_cast<void>(AtomicFile::remove(entry->path));
+        if (entry->archived + leastStay <= m_clock.now() && isDocumentName(entry.key()))
+            old.paths.insert(entry.key().left(uuidLength).toLatin1(), entry->path);
     }
+    if (!old.paths.isEmpty())
+        old.registers = registers();
+    return old;
+}
+
+IoResult<void> DocumentArchive::strikeOffNamed(OldDocuments& old, const WorkProgress& progress)
+{
+    using Paths = QMultiHash<QByteArray, QString>;
+    QSet<std::pair<quint64, quint64>> read;
+    for (const auto& [path, file] : std::as_const(old.registers)) {
+        if (old.paths.isEmpty())
+            break;
+        // States share the file of a register that was the same.
+        const bool isKnown = file && file->inode != 0;
+        if (isKnown && read.contains({file->device, file->inode}))
+            continue;
+        if (progress.isCancelled())
+            return tl::unexpected(IoError::fromErrno(ECANCELED));
+        const auto json = AtomicFile::read(path);
+        if (!json)
+            return tl::unexpected(json.error()); // nobody knows what it names
+        // Names are plain ASCII, so the bytes tell; a text that only happens to hold one keeps the document for longer.
+        old.paths.removeIf([&json](Paths::iterator entry) { return json->contains(entry.key()); });
+        if (isKnown)
+            read.insert({file->device, file->inode});
+    }
+    return {};
+}
+
+void DocumentArchive::remove(const OldDocuments& unnamed) const
+{
+    if (unnamed.paths.isEmpty() || !m_permission.mayWrite() || registers() != unnamed.registers)
+        return;
+    for (const QString& path : unnamed.paths)
+        static_cast<void>(AtomicFile::remove(path));
+}
+
+QList<OldDocuments::Register> DocumentArchive::registers() const
+{
+    QStringList paths{storedFiles(m_directories.preferences()).value(registerKey)};
+    for (const EarlierState& state : statesIn(m_directories.backups()) + statesIn(m_directories.emergency()))
+        paths.append(state.files.value(registerKey));
+    paths.removeAll(QString());
+    QList<OldDocuments::Register> found;
+    for (const QString& path : std::as_const(paths))
+        found.append({path, FileIdentity::of(path)});
+    return found;
 }
 
 QSet<QString> DocumentArchive::archived() const

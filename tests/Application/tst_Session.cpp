@@ -233,6 +233,16 @@ private Q_SLOTS:
         test::press(test::openDialog(m_session->mainWindow()), u"Annulla"_s);
     }
 
+    void oldDocumentsLeaveTheArchiveOnceTheWindowIsThere()
+    {
+        const QString named = u"10000000-0000-4000-8000-000000000001.pdf"_s;
+        for (const QString& document : {named, u"10000000-0000-4000-8000-000000000002.pdf"_s})
+            m_files->write(u"backups/documents/20200101T000000.000Z-"_s + document, "%PDF-");
+        m_files->write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s, named.toUtf8());
+        start();
+        QTRY_COMPARE(m_files->archive.archived(), QSet{named});
+    }
+
 private:
     void start()
     {

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "AtomicFile.h"
 #include "FailingCalls.h"
+#include "IoChecks.h"
+#include "Purge.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
 
@@ -90,10 +93,10 @@ private Q_SLOTS:
         files.write(u"backups/20260615T100000.000Z-deleted-record/savedEquipment.json"_s,
                     "[\"" + other.toUtf8() + "\"]");
         files.clock.advance(24h * 30 - 1ms);
-        files.archive.purge();
+        test::purge(files.archive);
         QCOMPARE(files.archive.archived(), QSet({name, other}));
         files.clock.advance(1ms);
-        files.archive.purge();
+        test::purge(files.archive);
         QCOMPARE(files.archive.archived(), QSet{other});
     }
 
@@ -107,11 +110,80 @@ private Q_SLOTS:
         files.clock.advance(24h * 100);
         {
             const test::FailingCalls calls("read@1+=EIO", files.path(u"backups"_s));
-            files.archive.purge();
+            test::purge(files.archive);
         }
         QCOMPARE(files.archive.archived(), QSet{name});
-        files.archive.purge();
+        test::purge(files.archive);
         QCOMPARE(files.archive.archived(), QSet<QString>());
+    }
+
+    void aFileOfSeveralStatesIsReadOnce()
+    {
+        test::TemporaryRegister files;
+        putOld(files, name);
+        files.write(u"backups/20260615T100000.000Z-deleted-record/savedEquipment.json"_s, "[]");
+        QVERIFY(QDir().mkpath(files.path(u"backups/20260615T100000.001Z-types-reset"_s)));
+        VERIFY_OK(AtomicFile::link(files.path(u"backups/20260615T100000.000Z-deleted-record/savedEquipment.json"_s),
+                                   files.path(u"backups/20260615T100000.001Z-types-reset/savedEquipment.json"_s)));
+        OldDocuments old = files.archive.oldDocuments();
+        QCOMPARE(old.registers.size(), 2);
+        const test::FailingCalls calls("open@2+=EIO", files.path(u"backups"_s));
+        VERIFY_OK(DocumentArchive::strikeOffNamed(old, {}));
+        QCOMPARE(old.paths.size(), 1);
+    }
+
+    void whereNothingIsLeftNothingIsRead()
+    {
+        test::TemporaryRegister files;
+        putOld(files, name);
+        for (const char* state : {"20260615T100000.000Z-import", "20260615T100000.001Z-import"})
+            files.write(u"backups/%1/savedEquipment.json"_s.arg(QLatin1String(state)), name.toUtf8());
+        OldDocuments old = files.archive.oldDocuments();
+        QCOMPARE(old.registers.size(), 2);
+        const test::FailingCalls calls("open@2+=EIO", files.path(u"backups"_s));
+        VERIFY_OK(DocumentArchive::strikeOffNamed(old, {}));
+        QVERIFY(old.paths.isEmpty());
+    }
+
+    void whileNothingIsOldNobodyLooks()
+    {
+        test::TemporaryRegister files;
+        files.write(in(folder, name), "one");
+        files.archive.archive(name);
+        files.write(test::registerFile, "[]");
+        QVERIFY(files.archive.oldDocuments().registers.isEmpty());
+    }
+
+    void whatIsNamedMeanwhileStays_data()
+    {
+        QTest::addColumn<QString>("named");
+        QTest::newRow("by the register") << test::registerFile;
+        QTest::newRow("by a new state") << u"backups/20260615T100000.000Z-import/savedEquipment.json"_s;
+    }
+
+    void whatIsNamedMeanwhileStays()
+    {
+        QFETCH(QString, named);
+        test::TemporaryRegister files;
+        putOld(files, name);
+        files.write(test::registerFile, "[]");
+        OldDocuments old = files.archive.oldDocuments();
+        VERIFY_OK(DocumentArchive::strikeOffNamed(old, {}));
+        QCOMPARE(old.paths.size(), 1);
+        files.write(named, name.toUtf8());
+        files.archive.remove(old);
+        QCOMPARE(files.archive.archived(), QSet{name});
+    }
+
+    void whatIsCancelledDeletesNothing()
+    {
+        test::TemporaryRegister files;
+        putOld(files, name);
+        files.write(test::registerFile, "[]");
+        OldDocuments old = files.archive.oldDocuments();
+        WorkProgress progress;
+        progress.cancel();
+        VERIFY_FAILED(DocumentArchive::strikeOffNamed(old, progress), ECANCELED);
     }
 
     void theRegisterItselfKeepsItsDocuments()
@@ -121,7 +193,7 @@ private Q_SLOTS:
         files.archive.archive(name);
         files.write(test::registerFile, "\"" + name.toUtf8().toLower() + "\" \"" + name.toUtf8() + "\"");
         files.clock.advance(24h * 100);
-        files.archive.purge();
+        test::purge(files.archive);
         QCOMPARE(files.archive.archived(), QSet{name});
     }
 
@@ -148,6 +220,13 @@ private Q_SLOTS:
              {"", "a.pdf", "00000000-0000-4000-8000-000000000001", "00000000-0000-4000-8000-000000000001.",
               "x00000000-0000-4000-8000-000000000001.pdf", "00000000-0000-4000-8000-000000000001.a/b"})
             QVERIFY2(!isDocumentName(QLatin1String(no)), no);
+    }
+
+private:
+    /// One that went to the archive long ago.
+    static void putOld(const test::TemporaryRegister& files, const QString& document)
+    {
+        files.write(archive + u"/20260101T100000.000Z-"_s + document, "old");
     }
 };
 

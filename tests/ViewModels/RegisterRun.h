@@ -4,6 +4,7 @@
 #include "EquipmentTypeViewModel.h"
 #include "EquipmentViewModel.h"
 #include "Fakes.h"
+#include "Purge.h"
 #include "RegisterStart.h"
 #include "SaveRetry.h"
 #include "SettingsViewModel.h"
@@ -64,7 +65,7 @@ struct RegisterRun
         follow(types, &EquipmentTypeViewModel::changed, u"<changed>"_s);
         follow(settings, &SettingsViewModel::reminderDaysChanged, u"<reminderDaysChanged>"_s);
         follow(settings, &SettingsViewModel::changed, u"<changed>"_s);
-        archive.purge();
+        purge(archive);
     }
 
     Generations generations;
