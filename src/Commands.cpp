@@ -5,12 +5,14 @@
 #include "CommandLine.h"
 #include "ExchangeCommands.h"
 #include "ExitStatus.h"
+#include "FolderAccess.h"
 #include "FolderLock.h"
 #include "Literals.h"
 #include "PrintCommand.h"
 #include "RegisterCheck.h"
 #include "RegisterStart.h"
 #include "StateContent.h"
+#include "StoredRegister.h"
 
 namespace abissora {
 
@@ -43,6 +45,11 @@ public:
 
     int listStates() const
     {
+        for (const QString& folder : {m_directories.root(), m_directories.backups()}) {
+            if (const auto looked = checkFolder(folder); !looked)
+                return fail(exitStatus::noInput,
+                            u"Gli stati non si possono elencare: «%1»: %2"_s.arg(folder, looked.error().reason));
+        }
         for (const EarlierState& state : m_generations.list()) {
             const QString time = m_calendar.local(state.kept).toString(u"yyyy-MM-dd HH:mm"_s);
             say(m_streams.out, state.name + u'\t' + time + u'\t' + counts(readContent(state)));
@@ -83,6 +90,8 @@ public:
         const CheckReport report = checkRegister(m_directories);
         for (const QString& problem : report.problems)
             say(m_streams.out, problem);
+        if (!report.hasRegister)
+            return fail(exitStatus::noInput, noRegister(m_directories));
         say(m_streams.out, (report.problems.isEmpty() ? u"Tutto in ordine: "_s : u"Letti: "_s) + report.summary);
         return report.problems.isEmpty() ? exitStatus::done : exitStatus::found;
     }

@@ -2,6 +2,7 @@
 #include "StoredRegister.h"
 
 #include "ApplicationDirectories.h"
+#include "FolderAccess.h"
 #include "StateContent.h"
 
 namespace abissora {
@@ -11,8 +12,12 @@ namespace {
 tl::expected<QList<Equipment>, QString> readItems(const ApplicationDirectories& directories)
 {
     auto stored = readPresentContent(directories).equipment;
-    if (!stored.isStored)
-        return tl::unexpected(u"In «%1» non c'è un registro."_s.arg(directories.root()));
+    for (const QString& folder : {directories.root(), directories.preferences()}) {
+        if (const auto looked = checkFolder(folder); !looked)
+            stored.error = looked.error().reason;
+    }
+    if (!stored.isStored && !stored.error)
+        return tl::unexpected(noRegister(directories));
     if (stored.error)
         return tl::unexpected(
             u"Il registro non si può leggere: %1. Con «--check» si vede che cosa è danneggiato."_s.arg(*stored.error));
@@ -20,6 +25,11 @@ tl::expected<QList<Equipment>, QString> readItems(const ApplicationDirectories& 
 }
 
 } // namespace
+
+QString noRegister(const ApplicationDirectories& directories)
+{
+    return u"In «%1» non c'è un registro."_s.arg(directories.root());
+}
 
 StoredRegister::StoredRegister(const ApplicationDirectories& directories)
     : m_almanac{m_clock, Calendar(), DateFormat(DateFormat::userLocale(), Calendar())}

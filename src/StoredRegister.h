@@ -11,6 +11,9 @@ namespace abissora {
 
 class ApplicationDirectories;
 
+/// For the person, where nothing was stored yet.
+[[nodiscard]] QString noRegister(const ApplicationDirectories& directories);
+
 /// A register as it lies on the disk, for what is done without a window. Nothing of it is ever written, also while
 /// another process works on it: defaults and migrated icons stand in memory only.
 class StoredRegister

@@ -3,10 +3,13 @@
 
 #include "AtomicFile.h"
 #include "DocumentArchive.h"
+#include "FolderAccess.h"
 #include "StateContent.h"
 #include "StateFiles.h"
 
 #include <QDir>
+#include <array>
+#include <cerrno>
 #include <nlohmann/json.hpp>
 
 namespace abissora {
@@ -18,6 +21,45 @@ QString number(qsizetype count, const QString& one, const QString& many)
     return count == 1 ? u"1 "_s + one : u"%1 %2"_s.arg(QString::number(count), many);
 }
 
+QString unreadable(const QString& what, const IoError& error)
+{
+    return u"%1: non si legge: %2"_s.arg(what, error.reason);
+}
+
+/// What of a register cannot be looked into, each path with its line.
+QMap<QString, QString> unreadableFolders(const ApplicationDirectories& directories)
+{
+    const std::array folders{
+        std::pair{directories.root(), directories.root()},
+        std::pair{directories.preferences(), u"preferences"_s},
+        std::pair{directories.maintenanceDocuments(), u"MaintenanceDocuments"_s},
+        std::pair{directories.backups(), u"backups"_s},
+        std::pair{directories.archivedDocuments(), u"backups/documents"_s},
+        std::pair{directories.emergency(), directories.emergency()},
+    };
+    QMap<QString, QString> lines;
+    const auto isBeneath = [&lines](const QString& path) {
+        return std::ranges::any_of(lines.keys(),
+                                   [&path](const QString& outer) { return path.startsWith(outer + u'/'); });
+    };
+    for (const auto& [path, name] : folders) {
+        // In whose home it would be may be closed to this user: then it was not made by this one.
+        const bool isElsewhere = path == directories.emergency() && !QFileInfo::exists(path);
+        if (const auto looked = checkFolder(path); !looked && !isBeneath(path) && !isElsewhere)
+            lines.insert(path, unreadable(u"cartella "_s + name, looked.error()));
+    }
+    return lines;
+}
+
+/// Where files belong.
+QStringList foldersAmongFiles(const QString& folder)
+{
+    QStringList lines;
+    for (const QString& name : QDir(folder).entryList({u"*.json"_s}, QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
+        lines.append(unreadable(name, IoError::fromErrno(EISDIR)));
+    return lines;
+}
+
 /// Of one stored list every value that cannot be read.
 template <typename Decode, typename Salvage>
 QStringList damagedValues(const QString& file, Decode decode, Salvage salvage)
@@ -25,7 +67,7 @@ QStringList damagedValues(const QString& file, Decode decode, Salvage salvage)
     const QString name = QFileInfo(file).fileName();
     const auto bytes = AtomicFile::read(file);
     if (!bytes)
-        return {u"%1: non si legge: %2"_s.arg(name, bytes.error().reason)};
+        return {unreadable(name, bytes.error())};
     const auto decoded = decode(*bytes);
     if (decoded)
         return {};
@@ -101,15 +143,23 @@ CheckReport checkRegister(const ApplicationDirectories& directories)
     const QSet<QString> named = documentNames(equipment);
     const QList<EarlierState> states = statesIn(directories.backups()) + statesIn(directories.emergency());
 
+    const QMap<QString, QString> closed = unreadableFolders(directories);
+    const bool isClosed = closed.contains(directories.root()) || closed.contains(directories.preferences());
+
     CheckReport report;
+    report.hasRegister = content.equipment.isStored || isClosed ||
+                         QFileInfo::exists(directories.preferences() + u'/' + registerKey + ".json"_L1);
+    report.problems += closed.values();
+    report.problems += foldersAmongFiles(directories.preferences());
     if (content.equipment.error)
         report.problems += damagedValues(files.value(registerKey), decodeEquipment, salvageEquipment);
     if (content.types.error)
         report.problems += damagedValues(files.value(typesKey), decodeTypes, salvageTypes);
     report.problems += damagedSettings(files);
-    report.problems += missingDocuments(equipment, directories);
-    // What a damaged register names is not known.
-    if (!content.equipment.error)
+    if (!closed.contains(directories.maintenanceDocuments()))
+        report.problems += missingDocuments(equipment, directories);
+    // What a register names that is damaged or not to be seen is not known.
+    if (content.equipment.isStored && !content.equipment.error)
         report.problems += surplusDocuments(named, directories);
     for (const EarlierState& state : states) {
         if (const QString problem = problemOf(state); !problem.isEmpty())

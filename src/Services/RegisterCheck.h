@@ -10,8 +10,11 @@ namespace abissora {
 /// What reading everything of a register found, as sentences for the person.
 struct CheckReport
 {
-    QStringList problems; ///< damaged values, missing and surplus documents, states that cannot be read
-    QString summary;      ///< how much there is
+    /// Folders and values that cannot be read, missing and surplus documents, states that cannot be read.
+    QStringList problems;
+    QString summary; ///< how much there is
+    /// False where none was stored yet; what cannot be looked into counts as one.
+    bool hasRegister = false;
 };
 
 /// Reads the register, the types, the settings, the documents and every earlier state. Changes nothing.

@@ -26,6 +26,16 @@ private Q_SLOTS:
         QCOMPARE(run(test::TemporaryRegister(), {u"--list-states"_s}).out, QString());
     }
 
+    void statesThatCannotBeListedAreNotTakenForNone()
+    {
+        const test::TemporaryRegister files;
+        const QString place = files.write(u"backups"_s, "a file");
+        const Outcome answer = run(files, {u"--list-states"_s});
+        QCOMPARE(answer.status, exitStatus::noInput);
+        QCOMPARE(answer.out, QString());
+        QCOMPARE(answer.error, u"Gli stati non si possono elencare: «%1»: Not a directory\n"_s.arg(place));
+    }
+
     void aStateIsRestoredWithItsDocuments()
     {
         test::TemporaryRegister files;
@@ -106,6 +116,26 @@ private Q_SLOTS:
         const Outcome ill = run(files, {u"--check"_s});
         QCOMPARE(ill.status, exitStatus::found);
         QVERIFY(ill.out.startsWith(u"savedEquipment.json: valore danneggiato: [0]: expected an object"_s));
+    }
+
+    void aCheckOfNothingIsNoCheck()
+    {
+        const test::TemporaryRegister files;
+        const Outcome empty = run(files, {u"--check"_s});
+        QCOMPARE(empty.status, exitStatus::noInput);
+        QCOMPARE(empty.out, QString());
+        QCOMPARE(empty.error, u"In «%1» non c'è un registro.\n"_s.arg(files.directories.root()));
+        QCOMPARE(files.names(u"."_s), QStringList());
+    }
+
+    void whatACheckCannotSeeIsNotInOrder()
+    {
+        const test::TemporaryRegister files;
+        files.write(u"preferences"_s, "a file");
+        const Outcome closed = run(files, {u"--check"_s});
+        QCOMPARE(closed.status, exitStatus::found);
+        QVERIFY(closed.out.startsWith(u"cartella preferences: non si legge: Not a directory\nLetti: 0 articoli"_s));
+        QCOMPARE(closed.error, QString());
     }
 
     void twoCommandsAtOnceAreRefused()

@@ -51,6 +51,14 @@ private Q_SLOTS:
         QVERIFY(filesBelow(files.directories.root()).isEmpty());
     }
 
+    void whatCannotBeLookedIntoIsNotTakenForNone()
+    {
+        const test::TemporaryRegister files;
+        files.write(u"preferences"_s, "a file");
+        const StoredRegister stored(files.directories);
+        QVERIFY(stored.equipment().error().startsWith(u"Il registro non si può leggere: Not a directory."_s));
+    }
+
     void whatCannotBeReadIsNotTakenForEmpty()
     {
         const test::TemporaryRegister files;

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "EnvironmentValue.h"
+#include "FailingCalls.h"
 #include "RegisterCheck.h"
 #include "TemporaryRegister.h"
 #include "TestRunner.h"
 
 #include <QTest>
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace abissora;
 
@@ -40,8 +44,90 @@ private Q_SLOTS:
     void nothingIsStored()
     {
         test::TemporaryRegister files;
-        QCOMPARE(checkRegister(files.directories).problems, QStringList());
+        const CheckReport report = checkRegister(files.directories);
+        QVERIFY(!report.hasRegister);
+        QCOMPARE(report.problems, QStringList());
         QCOMPARE(files.names(u"."_s), QStringList());
+        QVERIFY(!checkRegister(ApplicationDirectories(files.path(u"nowhere"_s))).hasRegister);
+        files.write(test::typesFile, "[]");
+        QVERIFY(!checkRegister(files.directories).hasRegister);
+        files.write(test::registerFile, "[]");
+        QVERIFY(checkRegister(files.directories).hasRegister);
+    }
+
+    void whatIsNoFolderIsNamed_data()
+    {
+        QTest::addColumn<QString>("folder");
+        for (const QString& folder : {u"preferences"_s, u"MaintenanceDocuments"_s, u"backups"_s})
+            QTest::addRow("%s", qPrintable(folder)) << folder;
+        QTest::newRow("deleted documents") << u"backups/documents"_s;
+    }
+
+    void whatIsNoFolderIsNamed()
+    {
+        QFETCH(const QString, folder);
+        test::TemporaryRegister files;
+        if (folder != "preferences"_L1)
+            files.write(test::registerFile, encode(QList{test::equipment(1)}).value());
+        files.write(folder, "a file");
+        const CheckReport report = checkRegister(files.directories);
+        QVERIFY(report.hasRegister);
+        QCOMPARE(report.problems, QStringList{u"cartella %1: non si legge: Not a directory"_s.arg(folder)});
+    }
+
+    void aPlainFileIsNoRegister()
+    {
+        test::TemporaryRegister files;
+        const QString path = files.write(u"file"_s, "a file");
+        const CheckReport report = checkRegister(ApplicationDirectories(path));
+        QVERIFY(report.hasRegister);
+        QCOMPARE(report.problems, QStringList{u"cartella %1: non si legge: Not a directory"_s.arg(path)});
+    }
+
+    void aFolderThatMayNotBeListedIsNamed()
+    {
+        test::TemporaryRegister files;
+        files.write(test::registerFile, encode(oneItem()).value());
+        files.write(document, "%PDF-");
+        const QString closed = files.directories.maintenanceDocuments();
+        {
+            const test::FailingCalls failing("open@1=EACCES", closed);
+            QCOMPARE(checkRegister(files.directories).problems,
+                     QStringList{u"cartella MaintenanceDocuments: non si legge: Permission denied"_s});
+        }
+        QCOMPARE(::chmod(QFile::encodeName(closed).constData(), 0), 0);
+        // Nothing is closed to root.
+        QCOMPARE(checkRegister(files.directories).problems.size(), ::geteuid() == 0 ? 0 : 1);
+        QCOMPARE(::chmod(QFile::encodeName(closed).constData(), 0700), 0);
+    }
+
+    void whatIsKeptElsewhereIsLookedInto()
+    {
+        test::TemporaryRegister files;
+        const test::EnvironmentValue state("XDG_STATE_HOME", files.path(u"state"_s).toUtf8());
+        files.write(test::registerFile, "[]");
+        QVERIFY(QDir().mkpath(files.path(u"state/abissora"_s)));
+        const QString elsewhere = files.directories.emergency();
+        QCOMPARE(checkRegister(files.directories).problems, QStringList());
+        QVERIFY(QDir().mkpath(elsewhere));
+        {
+            const test::FailingCalls failing("open@1=EACCES", elsewhere);
+            QCOMPARE(checkRegister(files.directories).problems,
+                     QStringList{u"cartella %1: non si legge: Permission denied"_s.arg(elsewhere)});
+        }
+        QVERIFY(QDir().rmdir(elsewhere));
+        // As in the home of another user.
+        const test::FailingCalls failing("open@1=EACCES", elsewhere);
+        QCOMPARE(checkRegister(files.directories).problems, QStringList());
+    }
+
+    void aFolderInAFilesPlaceIsNamed()
+    {
+        test::TemporaryRegister files;
+        files.write(test::registerFile + u"/stray"_s, "");
+        const CheckReport report = checkRegister(files.directories);
+        QVERIFY(report.hasRegister);
+        QCOMPARE(report.problems, QStringList{u"savedEquipment.json: non si legge: Is a directory"_s});
     }
 
     void everyDamagedValueIsNamed()
