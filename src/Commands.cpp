@@ -90,6 +90,8 @@ public:
         const CheckReport report = checkRegister(m_directories);
         for (const QString& problem : report.problems)
             say(m_streams.out, problem);
+        for (const QString& note : report.notes)
+            say(m_streams.out, u"conservato perché illeggibile: "_s + note);
         if (!report.hasRegister)
             return fail(exitStatus::noInput, noRegister(m_directories));
         say(m_streams.out, (report.problems.isEmpty() ? u"Tutto in ordine: "_s : u"Letti: "_s) + report.summary);

@@ -186,6 +186,11 @@ std::optional<QString> PreferencesStore::text(const QString& key) const
                              : std::nullopt;
 }
 
+bool PreferencesStore::hasValue(const QString& key) const
+{
+    return !parsed(scalar(key)).is_discarded();
+}
+
 IoResult<void> PreferencesStore::setBoolean(const QString& key, bool value)
 {
     return setScalar(key, encoded(value));

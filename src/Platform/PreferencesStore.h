@@ -36,6 +36,8 @@ public:
     [[nodiscard]] std::optional<bool> boolean(const QString& key) const;
     [[nodiscard]] std::optional<std::int64_t> integer(const QString& key) const;
     [[nodiscard]] std::optional<QString> text(const QString& key) const;
+    /// Whether the key has a value of whatever type.
+    [[nodiscard]] bool hasValue(const QString& key) const;
     IoResult<void> setBoolean(const QString& key, bool value);
     IoResult<void> setInteger(const QString& key, std::int64_t value);
     IoResult<void> setText(const QString& key, const QString& value);

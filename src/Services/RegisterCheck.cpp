@@ -4,13 +4,14 @@
 #include "AtomicFile.h"
 #include "DocumentArchive.h"
 #include "FolderAccess.h"
+#include "PdfDocument.h"
 #include "StateContent.h"
 #include "StateFiles.h"
+#include "StoredSettings.h"
 
 #include <QDir>
 #include <array>
 #include <cerrno>
-#include <nlohmann/json.hpp>
 
 namespace abissora {
 
@@ -79,28 +80,26 @@ QStringList damagedValues(const QString& file, Decode decode, Salvage salvage)
     return lines;
 }
 
-QStringList damagedSettings(const QHash<QString, QString>& files)
+QString damagedSetting(const QString& key)
 {
-    QStringList lines;
-    for (auto file = files.cbegin(); file != files.cend(); ++file) {
-        if (file.key() == registerKey || file.key() == typesKey)
-            continue;
-        const auto bytes = AtomicFile::read(*file);
-        if (!bytes || !nlohmann::json::accept(bytes->begin(), bytes->end()))
-            lines.append(u"%1.json: impostazione danneggiata"_s.arg(file.key()));
-    }
-    lines.sort();
-    return lines;
+    return u"%1.json: impostazione danneggiata"_s.arg(key);
 }
 
-QStringList missingDocuments(const QList<Equipment>& equipment, const ApplicationDirectories& directories)
+/// Those that are not there, and those that are no documents.
+QStringList wrongDocuments(const QList<Equipment>& equipment, const ApplicationDirectories& directories)
 {
     QStringList lines;
     for (const Equipment& item : equipment) {
         for (const Maintenance& record : item.maintenanceHistory) {
             for (const auto& name : {record.receiptFileName, record.certificateFileName}) {
-                if (name && !QFileInfo(directories.maintenanceDocuments() + u'/' + *name).isFile())
-                    lines.append(u"documento mancante: %1 («%2», «%3»)"_s.arg(*name, item.name, record.description));
+                if (!name)
+                    continue;
+                const QString path = directories.maintenanceDocuments() + u'/' + *name;
+                const QString whose = u"%1 («%2», «%3»)"_s.arg(*name, item.name, record.description);
+                if (!QFileInfo(path).isFile())
+                    lines.append(u"documento mancante: "_s + whose);
+                else if (const auto checked = checkPdf(path); !checked)
+                    lines.append(u"documento danneggiato: %1: %2"_s.arg(whose, checked.error().reason));
             }
         }
     }
@@ -119,18 +118,43 @@ QStringList surplusDocuments(const QSet<QString>& named, const ApplicationDirect
     return lines;
 }
 
-QString problemOf(const EarlierState& state)
+struct Damage
 {
+    QString key; ///< of the file; empty where it is the whole state's
+    QString line;
+};
+
+template <typename Record>
+QString readable(const StoredList<Record>& list, const QString& what)
+{
+    return u"leggibili %1 %2 su %3"_s.arg(QString::number(list.records.size()), what, QString::number(list.total));
+}
+
+QList<Damage> damageOf(const EarlierState& state)
+{
+    if (const auto looked = QFileInfo(state.path).isDir() ? checkFolder(state.path) : IoResult<void>(); !looked)
+        return {{{}, unreadable(u"stato "_s + state.name, looked.error())}};
+    const QString name = u"stato %1: "_s.arg(state.name);
     const StateContent content = readContent(state);
-    if (content.isWhole())
-        return {};
     if (content.isEmpty())
-        return u"stato %1: senza articoli né tipologie"_s.arg(state.name);
-    const bool ofTypes = !content.equipment.error.has_value();
-    return u"stato %1: leggibili %2 %3 su %4"_s.arg(
-        state.name, QString::number(ofTypes ? content.types.records.size() : content.equipment.records.size()),
-        ofTypes ? u"tipologie"_s : u"articoli"_s,
-        QString::number(ofTypes ? content.types.total : content.equipment.total));
+        return {{{}, name + u"senza articoli né tipologie"_s}};
+    QList<Damage> damage;
+    if (content.equipment.error)
+        damage.append({registerKey, name + readable(content.equipment, u"articoli"_s)});
+    if (content.types.error)
+        damage.append({typesKey, name + readable(content.types, u"tipologie"_s)});
+    for (const QString& key : damagedSettings(state.files))
+        damage.append({key, name + damagedSetting(key)});
+    return damage;
+}
+
+/// Whether the program knows of the damage: it has kept those bytes because of it, in this state or in another.
+bool isKnown(const Damage& damage, const EarlierState& state, const QList<EarlierState>& states)
+{
+    return std::ranges::any_of(states, [&](const EarlierState& kept) {
+        return kept.occasion == Occasion::unreadable && kept.files.contains(damage.key) &&
+               haveSameBytes(kept.files.value(damage.key), state.files.value(damage.key));
+    });
 }
 
 } // namespace
@@ -155,15 +179,16 @@ CheckReport checkRegister(const ApplicationDirectories& directories)
         report.problems += damagedValues(files.value(registerKey), decodeEquipment, salvageEquipment);
     if (content.types.error)
         report.problems += damagedValues(files.value(typesKey), decodeTypes, salvageTypes);
-    report.problems += damagedSettings(files);
+    for (const QString& key : damagedSettings(files))
+        report.problems.append(damagedSetting(key));
     if (!closed.contains(directories.maintenanceDocuments()))
-        report.problems += missingDocuments(equipment, directories);
+        report.problems += wrongDocuments(equipment, directories);
     // What a register names that is damaged or not to be seen is not known.
     if (content.equipment.isStored && !content.equipment.error)
         report.problems += surplusDocuments(named, directories);
     for (const EarlierState& state : states) {
-        if (const QString problem = problemOf(state); !problem.isEmpty())
-            report.problems.append(problem);
+        for (const Damage& damage : damageOf(state))
+            (isKnown(damage, state, states) ? report.notes : report.problems).append(damage.line);
     }
     report.summary = QStringList{number(equipment.size(), u"articolo"_s, u"articoli"_s),
                                  number(content.maintenanceCount(), u"manutenzione"_s, u"manutenzioni"_s),

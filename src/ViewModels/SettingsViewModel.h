@@ -5,6 +5,7 @@
 #include "Literals.h"
 #include "PreferencesStore.h"
 #include "StateObject.h"
+#include "StoredSettings.h"
 
 namespace abissora {
 
@@ -15,16 +16,7 @@ class SettingsViewModel : public StateObject
     Q_OBJECT
 
 public:
-    /// What each is stored under.
-    struct Key
-    {
-        static inline const QString notificationsEnabled = u"notificationsEnabled"_s;
-        static inline const QString reminderDays = u"reminderDays"_s;
-        static inline const QString defaultServiceInterval = u"defaultServiceInterval"_s;
-        static inline const QString currencySymbol = u"currencySymbol"_s;
-        static inline const QString darkMode = u"darkMode"_s;
-        static inline const QString checkForUpdatesOnLaunch = u"checkForUpdatesOnLaunch"_s;
-    };
+    using Key = SettingKey;
 
     /// Everything passed by reference must outlive it.
     SettingsViewModel(PreferencesStore& preferences, Console& console, QObject* parent = nullptr);

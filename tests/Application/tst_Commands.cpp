@@ -118,6 +118,20 @@ private Q_SLOTS:
         QVERIFY(ill.out.startsWith(u"savedEquipment.json: valore danneggiato: [0]: expected an object"_s));
     }
 
+    void whatIsKeptForGoodIsToldAndInOrder()
+    {
+        const test::TemporaryRegister files;
+        files.write(test::registerFile, "[]");
+        files.write(u"backups/20260101T000000.000Z-unreadable/savedEquipment.json"_s, "[5]");
+        const Outcome kept = run(files, {u"--check"_s});
+        QCOMPARE(kept.status, exitStatus::done);
+        QVERIFY(
+            kept.out.startsWith(u"conservato perché illeggibile: stato 20260101T000000.000Z-unreadable: leggibili 0 "
+                                "articoli su 1\nTutto in ordine: 0 articoli"_s));
+        files.write(test::registerFile, "[5]");
+        QCOMPARE(run(files, {u"--check"_s}).status, exitStatus::found);
+    }
+
     void aCheckOfNothingIsNoCheck()
     {
         const test::TemporaryRegister files;

@@ -162,18 +162,96 @@ private Q_SLOTS:
                               u"documento in più, di nessuna manutenzione: libretto.pdf"_s}));
     }
 
+    void settingsThatDoNotCountAreDamaged_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QByteArray>("stored");
+        QTest::addColumn<bool>("counts");
+        QTest::newRow("a switch") << u"darkMode"_s << QByteArray("true") << true;
+        QTest::newRow("a text for a switch") << u"darkMode"_s << QByteArray("\"ciao\"") << false;
+        QTest::newRow("a number for a switch") << u"notificationsEnabled"_s << QByteArray("1") << false;
+        QTest::newRow("nothing for a switch") << u"checkForUpdatesOnLaunch"_s << QByteArray("null") << false;
+        QTest::newRow("a number") << u"reminderDays"_s << QByteArray("30.0") << true;
+        QTest::newRow("half a number") << u"reminderDays"_s << QByteArray("1.5") << false;
+        QTest::newRow("a number too large") << u"defaultServiceInterval"_s << QByteArray("1e300") << false;
+        QTest::newRow("a text for a number") << u"iconSetVersion"_s << QByteArray("\"4\"") << false;
+        QTest::newRow("a text") << u"currencySymbol"_s << QByteArray("\"€\"") << true;
+        QTest::newRow("a number for a text") << u"currencySymbol"_s << QByteArray("5") << false;
+        QTest::newRow("a byte order mark") << u"darkMode"_s << QByteArray("\xEF\xBB\xBFtrue") << false;
+        QTest::newRow("a zero at the end") << u"darkMode"_s << QByteArray("true\0", 5) << false;
+        QTest::newRow("no bytes") << u"darkMode"_s << QByteArray() << false;
+        QTest::newRow("an unknown one") << u"ofTomorrow"_s << QByteArray("[1]") << true;
+        QTest::newRow("an unknown one with a mark") << u"ofTomorrow"_s << QByteArray("\xEF\xBB\xBF[1]") << false;
+    }
+
+    void settingsThatDoNotCountAreDamaged()
+    {
+        QFETCH(const QString, key);
+        QFETCH(const QByteArray, stored);
+        QFETCH(const bool, counts);
+        test::TemporaryRegister files;
+        files.write(test::registerFile, "[]");
+        files.write(u"preferences/%1.json"_s.arg(key), stored);
+        const QStringList damaged{u"%1.json: impostazione danneggiata"_s.arg(key)};
+        QCOMPARE(checkRegister(files.directories).problems, counts ? QStringList() : damaged);
+    }
+
+    void aDocumentThatIsNoneIsDamaged()
+    {
+        test::TemporaryRegister files;
+        files.write(test::registerFile, encode(oneItem()).value());
+        for (const QByteArray& content : {QByteArray(), QByteArray("<html>")}) {
+            files.write(document, content);
+            QCOMPARE(checkRegister(files.directories).problems,
+                     QStringList{u"documento danneggiato: 00000000-0000-4000-8000-000000000001.pdf («Erogatore di "
+                                 "prova», «Revisione primo stadio»): Not a PDF document"_s});
+        }
+    }
+
     void statesThatCannotBeRead()
     {
         test::TemporaryRegister files;
         files.write(test::registerFile, "[]");
         const QByteArray damaged = encode(QList{test::equipment(1), test::equipment(2)}).value().chopped(20);
-        files.write(u"backups/20260101T000000.000Z-unreadable/savedEquipment.json"_s, damaged);
+        files.write(u"backups/20260101T000000.000Z-deleted-item/savedEquipment.json"_s, damaged);
+        files.write(u"backups/20260101T000000.000Z-deleted-item/equipmentTypes.json"_s, "[5]");
+        files.write(u"backups/20260101T000000.000Z-deleted-item/darkMode.json"_s, "5");
         files.write(u"backups/20260102T000000.000Z-deleted-item/savedEquipment.json"_s, "[]");
-        QVERIFY(QDir().mkpath(files.path(u"backups/20260103T000000.000Z-import"_s)));
+        QVERIFY(QDir(files.directories.backups()).mkdir(u"20260103T000000.000Z-change"_s));
         const CheckReport report = checkRegister(files.directories);
-        QCOMPARE(report.problems, QStringList({u"stato 20260101T000000.000Z-unreadable: leggibili 1 articoli su 2"_s,
-                                               u"stato 20260103T000000.000Z-import: senza articoli né tipologie"_s}));
+        QCOMPARE(report.problems,
+                 QStringList({u"stato 20260101T000000.000Z-deleted-item: leggibili 1 articoli su 2"_s,
+                              u"stato 20260101T000000.000Z-deleted-item: leggibili 0 tipologie su 1"_s,
+                              u"stato 20260101T000000.000Z-deleted-item: darkMode.json: impostazione danneggiata"_s,
+                              u"stato 20260103T000000.000Z-change: senza articoli né tipologie"_s}));
         QVERIFY(report.summary.endsWith(u"3 stati precedenti"_s));
+    }
+
+    void damageThatWasKeptIsNoProblemOfToday()
+    {
+        test::TemporaryRegister files;
+        files.write(test::registerFile, "[]");
+        const QByteArray damaged = encode(QList{test::equipment(1), test::equipment(2)}).value().chopped(20);
+        files.write(u"backups/20260101T000000.000Z-unreadable/savedEquipment.json"_s, damaged);
+        files.write(u"backups/20260101T000000.000Z-unreadable/darkMode.json"_s, "5");
+        files.write(u"backups/20260102T000000.000Z-restoration/savedEquipment.json"_s, damaged);
+        QVERIFY(QDir(files.directories.backups()).mkdir(u"20260103T000000.000Z-unreadable"_s));
+        const CheckReport report = checkRegister(files.directories);
+        QCOMPARE(report.problems, QStringList{u"stato 20260103T000000.000Z-unreadable: senza articoli né tipologie"_s});
+        QCOMPARE(report.notes,
+                 QStringList({u"stato 20260101T000000.000Z-unreadable: leggibili 1 articoli su 2"_s,
+                              u"stato 20260101T000000.000Z-unreadable: darkMode.json: impostazione danneggiata"_s,
+                              u"stato 20260102T000000.000Z-restoration: leggibili 1 articoli su 2"_s}));
+    }
+
+    void aStateThatMayNotBeListedIsNamed()
+    {
+        test::TemporaryRegister files;
+        files.write(test::registerFile, "[]");
+        files.write(u"backups/20260101T000000.000Z-unreadable/savedEquipment.json"_s, "[]");
+        const test::FailingCalls failing("open@1=EACCES", files.path(u"backups/20260101T000000.000Z-unreadable"_s));
+        QCOMPARE(checkRegister(files.directories).problems,
+                 QStringList{u"stato 20260101T000000.000Z-unreadable: non si legge: Permission denied"_s});
     }
 };
 
