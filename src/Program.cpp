@@ -9,6 +9,7 @@
 #include "MainWindow.h"
 #include "NoAnswerAlert.h"
 #include "ProcessSetup.h"
+#include "QuitSignals.h"
 #include "Session.h"
 #include "SettingsViewModel.h"
 #include "SingleInstance.h"
@@ -20,6 +21,7 @@
 #include <QTranslator>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 namespace abissora {
 
@@ -105,6 +107,13 @@ bool answered(const QStringList& arguments)
     std::_Exit(status);
 }
 
+/// As from the menu; but what still wants to be asked about keeps nobody who ends the session or the machine.
+void endAsUsual()
+{
+    QCoreApplication::quit();
+    QCoreApplication::exit(exitStatus::done);
+}
+
 ApplicationDirectories directoriesFor(const CommandLine& commandLine)
 {
     const QString chosen =
@@ -178,6 +187,10 @@ int run(QApplication& application, const CommandLine& commandLine, const Product
         return drawsToFile ? EXIT_FAILURE : EXIT_SUCCESS;
     }
 
+    // What is drawn is finished or not there; a window has the person's work in it.
+    std::optional<QuitSignals> signals;
+    if (!drawsToFile)
+        signals.emplace(endAsUsual);
     Session session(application, directories, product, http, lock, ahead);
     QObject::connect(&instance, &SingleInstance::activationRequested, &session, &Session::showMainWindow);
     QObject::connect(&instance, &SingleInstance::wished, &session, [&session](const QString& word) {

@@ -168,6 +168,21 @@ private Q_SLOTS:
         QVERIFY(m_files->generations.list().value(0).occasion != Occasion::emergency);
     }
 
+    void theEndStoresWhatIsPending()
+    {
+        startWithSomethingPending();
+        QVERIFY(QMetaObject::invokeMethod(qApp, "aboutToQuit", Qt::DirectConnection));
+        QCOMPARE(readPresentContent(m_files->directories).equipment.records.size(), 1);
+        QVERIFY(m_files->generations.list().value(0).occasion != Occasion::emergency);
+    }
+
+    void comingForwardStoresWhatIsPending()
+    {
+        startWithSomethingPending();
+        Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive);
+        QCOMPARE(readPresentContent(m_files->directories).equipment.records.size(), 1);
+    }
+
     void aKilledProcessIsClearedUpAfter()
     {
         m_files->write(u"preferences/.abissora-0123456789abcdef.tmp"_s, "half");
@@ -273,6 +288,16 @@ private:
         QTest::keyClick(&table(), Qt::Key_Delete);
         test::press(test::openDialog(m_session->mainWindow()), u"Elimina"_s);
         test::settle();
+    }
+
+    /// One of two items is deleted, and the disk, which refused that, is well again.
+    void startWithSomethingPending()
+    {
+        start();
+        blockStoring();
+        deleteFirstItem();
+        unblockStoring();
+        QCOMPARE(readPresentContent(m_files->directories).equipment.records.size(), 2);
     }
 
     void blockStoring()

@@ -46,7 +46,7 @@ def main():
         os.environ["HOME"] = folder
         os.environ["XDG_RUNTIME_DIR"] = os.path.join(folder, "runtime")
         os.mkdir(os.environ["XDG_RUNTIME_DIR"], 0o700)
-        for variable in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "DBUS_SESSION_BUS_ADDRESS",
+        for variable in ("XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME", "DBUS_SESSION_BUS_ADDRESS",
                          "AT_SPI_BUS_ADDRESS"):
             os.environ.pop(variable, None)
         with Desktop():
