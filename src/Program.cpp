@@ -15,6 +15,7 @@
 #include "SingleInstance.h"
 #include "Snapshot.h"
 #include "Theme.h"
+#include "ToolkitMessages.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -26,6 +27,8 @@
 namespace abissora {
 
 namespace {
+
+constexpr int standardError = 2;
 
 void write(std::FILE* stream, const QString& text)
 {
@@ -41,7 +44,7 @@ int fail(const QString& sentence)
 QString noDisplayText()
 {
     return u"Abissora non trova uno schermo su cui aprire la finestra; con «--snapshot FILE» la disegna "
-           "in un file PNG.\n"_s;
+           "in un file PNG."_s;
 }
 
 /// False when a window cannot be opened for want of a screen, as on a server. True where that cannot be told.
@@ -58,16 +61,16 @@ bool hasDisplay(const QStringList& arguments)
 
 /// Until the toolkit has found its screen. One that finds none after all ends the program with a sentence instead of
 /// aborting it.
-void explainMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message)
+void explainMissingDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (type == QtFatalMsg) {
-        std::fputs(qUtf8Printable(noDisplayText()), stderr);
+        ToolkitMessages::writeLast(noDisplayText());
         std::_Exit(exitStatus::unavailable);
     }
     // What the toolkit says on its way there is no help to the person.
     if (!message.contains("qt.qpa"_L1) && !message.contains("platform plugin"_L1) &&
         !message.contains("could not connect to display"_L1))
-        std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+        ToolkitMessages::write(type, context, message);
 }
 
 QStringList rawArguments(int argc, char** argv)
@@ -230,7 +233,7 @@ int runProgram(int argc, char** argv, Product product, const OpenUpdateSource& o
         const bool drawsToFile = std::ranges::any_of(
             arguments, [](const QString& argument) { return argument.startsWith("--snapshot"_L1); });
         if (!drawsToFile) {
-            write(stderr, noDisplayText());
+            write(stderr, noDisplayText() + u'\n');
             return exitStatus::unavailable;
         }
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -238,10 +241,11 @@ int runProgram(int argc, char** argv, Product product, const OpenUpdateSource& o
 
     QCoreApplication::setApplicationName(u"abissora"_s);
     QGuiApplication::setDesktopFileName(QStringLiteral(ABISSORA_APPLICATION_ID));
+    const ToolkitMessages messages(standardError);
     qInstallMessageHandler(explainMissingDisplay);
     const RegisterAhead ahead = registerAhead(arguments);
     QApplication application(argc, argv);
-    qInstallMessageHandler(nullptr);
+    qInstallMessageHandler(ToolkitMessages::handler());
     QTranslator translator;
     if (translator.load(u"qtbase_it"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&translator);

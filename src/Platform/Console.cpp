@@ -31,6 +31,11 @@ StandardOutput::StandardOutput(int descriptor, ReaderAllowance allowance)
 
 StandardOutput::~StandardOutput()
 {
+    settle();
+}
+
+void StandardOutput::settle()
+{
     const QDeadlineTimer deadline(m_allowance.patience);
     writeKept();
     while (!m_kept.isEmpty() && m_output.waitForRoom(deadline))
@@ -99,7 +104,7 @@ void StandardOutput::forget()
 
 void StandardOutput::watchForRoom(bool watch)
 {
-    if (watch && !m_room && QThread::currentThread()->eventDispatcher() != nullptr) {
+    if (watch && m_allowance.watched && !m_room && QThread::currentThread()->eventDispatcher() != nullptr) {
         m_room = std::make_unique<QSocketNotifier>(m_output.descriptor(), QSocketNotifier::Write);
         QObject::connect(m_room.get(), &QSocketNotifier::activated, m_room.get(), [this] { writeKept(); });
     }

@@ -28,6 +28,8 @@ struct ReaderAllowance
     qsizetype kept = qsizetype{1024} * 1024;
     /// How long the end of the output waits for what is kept.
     std::chrono::milliseconds patience{1000};
+    /// Whether what is kept follows from the event loop, where the thread that writes has one.
+    bool watched = true;
 };
 
 /// Standard output as UTF-8, past the buffers of stdio and iostreams. Never waits for its reader: what is not taken at
@@ -44,6 +46,8 @@ public:
     Q_DISABLE_COPY_MOVE(StandardOutput)
 
     void print(const QString& text) override;
+    /// Waits for what is kept as the end would.
+    void settle();
 
 private:
     void take(QByteArrayView lines);
