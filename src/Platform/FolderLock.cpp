@@ -3,6 +3,7 @@
 
 #include "AtomicFile.h"
 #include "Literals.h"
+#include "OwnersFile.h"
 
 #include <QFile>
 #include <QLockFile>
@@ -32,7 +33,13 @@ public:
         m_file.setStaleLockTime(0);
     }
 
-    [[nodiscard]] bool take() { return m_file.tryLock(0); }
+    [[nodiscard]] bool take()
+    {
+        const bool isOurs = m_file.tryLock(0);
+        if (isOurs)
+            makeOwnersFile(m_file.fileName());
+        return isOurs;
+    }
     [[nodiscard]] QLockFile::LockError error() const { return m_file.error(); }
     [[nodiscard]] bool isOn(const QString& /*folder*/) const override { return m_file.isLocked(); }
 

@@ -3,7 +3,9 @@
 #include "FailingCalls.h"
 #include "IoChecks.h"
 #include "Literals.h"
+#include "OwnersFile.h"
 #include "TestRunner.h"
+#include "Umask.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,24 +18,6 @@
 #include <unistd.h>
 
 using namespace abissora;
-
-namespace {
-
-/// While it lives new files and folders lack these permissions.
-class Umask
-{
-public:
-    explicit Umask(mode_t mask)
-        : m_before(::umask(mask))
-    {}
-    ~Umask() { ::umask(m_before); }
-    Q_DISABLE_COPY_MOVE(Umask)
-
-private:
-    mode_t m_before;
-};
-
-} // namespace
 
 /// What AtomicFile makes of calls of the system that fail.
 class tst_AtomicFileFailures : public test::TestCase
@@ -182,7 +166,7 @@ private Q_SLOTS:
     void modesAreTheSameWhateverTheUmask()
     {
         for (const mode_t mask : {0U, 0022U, 0277U, 0377U, 0777U}) {
-            const Umask umask(mask);
+            const test::Umask umask(mask);
             VERIFY_OK(AtomicFile::replace(at("a"), "x"));
             VERIFY_OK(AtomicFile::copy(at("a"), at("b")));
             VERIFY_OK(AtomicFile::makeFolder(at("c/d")));
@@ -194,9 +178,29 @@ private Q_SLOTS:
         }
     }
 
+    void whatTheToolkitWritesHasTheSameModes()
+    {
+        for (const mode_t mask : {0U, 0022U, 0277U, 0777U}) {
+            const test::Umask umask(mask);
+            makeOwnersFile(at("c/d/new"));
+            QCOMPARE(mode("c"), mode_t{0700});
+            QCOMPARE(mode("c/d"), mode_t{0700});
+            QCOMPARE(mode("c/d/new"), mode_t{0600});
+            // One that an earlier version left.
+            QCOMPARE(::chmod(at("c/d/new").toLocal8Bit().constData(), 0666), 0);
+            makeOwnersFile(at("c/d/new"));
+            QCOMPARE(mode("c/d/new"), mode_t{0600});
+            QVERIFY(QDir(at("c")).removeRecursively());
+        }
+        VERIFY_OK(AtomicFile::replace(at("a"), "x"));
+        makeOwnersFile(at("a"));
+        QCOMPARE(AtomicFile::read(at("a")).value(), QByteArray("x"));
+        makeOwnersFile(at("a/below a file")); // the toolkit says why not
+    }
+
     void aFileSystemWithoutModesIsNoError()
     {
-        const Umask umask(0777);
+        const test::Umask umask(0777);
         VERIFY_OK(failing("chmod@1+=EPERM", [this] { return AtomicFile::replace(at("a"), "x"); }));
         VERIFY_OK(failing("chmod@1+=EPERM", [this] { return AtomicFile::makeFolder(at("b")); }));
     }
@@ -262,13 +266,7 @@ private:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
     }
 
-    [[nodiscard]] mode_t mode(const char* name) const
-    {
-        struct stat status
-        {};
-        ::stat(QFile::encodeName(at(name)).constData(), &status);
-        return status.st_mode & 07777;
-    }
+    [[nodiscard]] mode_t mode(const char* name) const { return test::modeOf(at(name)); }
 
     [[nodiscard]] QStringList names() const
     {

@@ -5,6 +5,7 @@
 #include "IoChecks.h"
 #include "Literals.h"
 #include "TestRunner.h"
+#include "Umask.h"
 
 #include <QDir>
 #include <QFile>
@@ -117,6 +118,15 @@ private Q_SLOTS:
         QCOMPARE(ours.acquire(), Outcome::HeldByAnother);
         holder.kill();
         QCOMPARE(ours.acquire(), Outcome::Held);
+    }
+
+    void theFileIsItsOwnersAlone()
+    {
+        const test::Umask umask(0);
+        FolderLock lock(path(), refuse);
+        QCOMPARE(lock.acquire(), Outcome::Held);
+        QCOMPARE(test::modeOf(path() + "/abissora.lock"_L1), mode_t{0600});
+        QCOMPARE(FolderLock(path(), refuse).acquire(), Outcome::HeldByAnother);
     }
 
     void whatIsStartedDoesNotKeepIt()

@@ -2,6 +2,7 @@
 #include "LookedAtStates.h"
 
 #include "Literals.h"
+#include "OwnersFile.h"
 
 namespace abissora {
 
@@ -27,6 +28,7 @@ void LookedAtStates::add(const QString& name, const QStringList& existing)
         return;
     names.append(name);
     names.removeIf([&existing](const QString& known) { return !existing.contains(known); });
+    makeOwnersFile(m_settings.fileName());
     m_settings.setValue(namesKey, names);
 }
 

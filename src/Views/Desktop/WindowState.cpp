@@ -2,6 +2,7 @@
 #include "WindowState.h"
 
 #include "Literals.h"
+#include "OwnersFile.h"
 
 #include <QSplitter>
 #include <QWidget>
@@ -61,11 +62,13 @@ void WindowState::saveColumnWidths(const QList<int>& widths)
     QStringList texts;
     for (const int width : widths)
         texts.append(QString::number(width));
+    makeOwnersFile(m_settings.fileName());
     m_settings.setValue(columnsKey, texts);
 }
 
 void WindowState::save(const QWidget& window, const QList<QSplitter*>& splitters)
 {
+    makeOwnersFile(m_settings.fileName());
     m_settings.setValue(sizeKey, window.isMaximized() ? window.normalGeometry().size() : window.size());
     m_settings.setValue(maximizedKey, window.isMaximized());
     for (const QSplitter* splitter : splitters)

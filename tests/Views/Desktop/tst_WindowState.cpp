@@ -2,10 +2,14 @@
 #include "WindowState.h"
 
 #include "Literals.h"
+#include "LookedAtStates.h"
 #include "TestRunner.h"
+#include "Umask.h"
 
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QWidget>
+#include <functional>
 
 using namespace abissora;
 using namespace abissora::test;
@@ -56,6 +60,30 @@ private Q_SLOTS:
         WindowState(file).saveColumnWidths({0, 120, 0, 90, 0, 0});
         QCOMPARE(WindowState(file).columnWidths(), (QList<int>{0, 120, 0, 90, 0, 0}));
         QVERIFY(WindowState(folder.filePath(u"none.ini"_s)).columnWidths().isEmpty());
+    }
+
+    void theFileIsItsOwnersAlone_data()
+    {
+        QTest::addColumn<std::function<void(const QString&)>>("write");
+        QTest::newRow("sizes") << std::function([](const QString& file) { WindowState(file).save(QWidget(), {}); });
+        QTest::newRow("columns") << std::function(
+            [](const QString& file) { WindowState(file).saveColumnWidths({120}); });
+        QTest::newRow("states that were looked at")
+            << std::function([](const QString& file) { LookedAtStates(file).add(u"x"_s, {u"x"_s}); });
+    }
+
+    void theFileIsItsOwnersAlone()
+    {
+        QFETCH(const std::function<void(const QString&)>, write);
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(u"of the program/state.ini"_s);
+        const Umask umask(0);
+        write(file);
+        QVERIFY(QFileInfo(file).size() > 0);
+        QCOMPARE(modeOf(file), mode_t{0600});
+        QCOMPARE(modeOf(QFileInfo(file).path()), mode_t{0700});
+        write(file);
+        QCOMPARE(modeOf(file), mode_t{0600});
     }
 
     void aDamagedFileGivesNoWidths()
