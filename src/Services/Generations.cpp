@@ -46,11 +46,13 @@ IoResult<void> Generations::keepUnreadable(const QString& key)
 QList<EarlierState> Generations::list() const
 {
     QList<EarlierState> states = statesIn(m_directories.backups()) + statesIn(m_directories.emergency());
-    std::ranges::sort(states, [](const EarlierState& a, const EarlierState& b) {
-        const bool emergencyFirst = (a.occasion == Occasion::emergency) > (b.occasion == Occasion::emergency);
-        const bool same = (a.occasion == Occasion::emergency) == (b.occasion == Occasion::emergency);
-        return same ? std::tie(a.kept, a.name) > std::tie(b.kept, b.name) : emergencyFirst;
-    });
+    Instant restored = Instant::min(); // whoever restores has seen what stands first
+    for (const EarlierState& state : std::as_const(states))
+        restored = state.occasion == Occasion::restoration ? std::max(restored, state.kept) : restored;
+    const auto rank = [restored](const EarlierState& state) {
+        return std::tuple(state.occasion == Occasion::emergency && state.kept > restored, state.kept, state.name);
+    };
+    std::ranges::sort(states, std::ranges::greater(), rank);
     return states;
 }
 

@@ -33,7 +33,7 @@ public:
     /// Not twice the same bytes.
     [[nodiscard]] IoResult<void> keepUnreadable(const QString& key) override;
 
-    /// Newest first, those of Occasion::emergency before all others.
+    /// Newest first; before all others those of Occasion::emergency after which nothing was restored.
     [[nodiscard]] QList<EarlierState> list() const;
     [[nodiscard]] std::optional<EarlierState> find(const QString& name) const;
 

@@ -137,7 +137,7 @@ private Q_SLOTS:
     void anyThreadMayWrite()
     {
         const Pipe pipe;
-        constexpr int count = 5000;
+        constexpr qsizetype count = 5000;
         QByteArray received;
         {
             const Installed installed(pipe.writer(), {.patience = 60s});
@@ -146,7 +146,7 @@ private Q_SLOTS:
             for (std::thread& thread : threads)
                 thread = std::thread([&together] {
                     together.arrive_and_wait();
-                    for (int i = 0; i < count; ++i)
+                    for (qsizetype i = 0; i < count; ++i)
                         qInfo("da un altro");
                 });
             for (std::thread& thread : threads)

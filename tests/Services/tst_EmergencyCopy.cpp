@@ -58,6 +58,28 @@ private Q_SLOTS:
         QCOMPARE(files.generations.list().constFirst().occasion, Occasion::emergency);
     }
 
+    void onceSomethingWasRestoredItStandsByItsTime()
+    {
+        test::TemporaryRegister files;
+        VERIFY_OK(files.preferences.setData(registerKey, "[]"));
+        VERIFY_OK(keepEmergencyCopy(files.preferences, files.directories, files.clock));
+        files.clock.advance(std::chrono::hours(24));
+        VERIFY_OK(files.preferences.setData(registerKey, "[ ]", Occasion::restoration));
+        VERIFY_OK(files.preferences.setData(registerKey, "[  ]", Occasion::deletedItem));
+        const auto occasions = [&files] {
+            QList<Occasion> found;
+            for (const EarlierState& state : files.generations.list())
+                found.append(state.occasion);
+            return found;
+        };
+        QCOMPARE(occasions(), QList({Occasion::deletedItem, Occasion::restoration, Occasion::emergency}));
+        files.clock.advance(std::chrono::hours(1));
+        VERIFY_OK(files.preferences.setData(typesKey, "[]"));
+        VERIFY_OK(keepEmergencyCopy(files.preferences, files.directories, files.clock));
+        QCOMPARE(occasions(),
+                 QList({Occasion::emergency, Occasion::deletedItem, Occasion::restoration, Occasion::emergency}));
+    }
+
     void theSameIsKeptOnce()
     {
         test::TemporaryRegister files;
