@@ -40,6 +40,8 @@ private Q_SLOTS:
         const QString problem = operations.bringBack(10);
         QVERIFY2(problem.isEmpty(), failed(count, problem).constData());
         QCOMPARE(operations.checkWhole(), QString());
+        qInfo("%d operations compared, %d states restored, %d deleted things brought back", count, operations.restored,
+              operations.broughtBack);
         // None of it was idle.
         QVERIFY(operations.broughtBack > 0);
         QVERIFY(operations.restored > count / 200);
